@@ -1,0 +1,61 @@
+// The fonts an RTF document declares, by the numbers it gives them, and the code page that the
+// bytes of each are read in.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "richtext/document.h"
+
+namespace verlume::richtext {
+
+class FontTable {
+ public:
+  // The index of a document's default font. Before the document declares that font, and when it
+  // never does, it is a font without a name.
+  static constexpr std::uint16_t kDefaultFont = 0;
+
+  FontTable();
+
+  // Declaring a font: Begin, then what is known of it, then End. Text behind End is no name.
+  void Begin(int number);
+  void SetCharset(int charset);
+  void SetCodePage(int codePage);
+  void AppendName(char16_t unit);
+  void End() { open_ = false; }
+
+  void SetDefault(int number);
+
+  // Which fonts that name no code page of their own follow.
+  void SetDocumentCodePage(int codePage);
+
+  // kDefaultFont for numbers that are not declared.
+  std::uint16_t IndexOf(int number) const;
+
+  // The characters of the bytes 0x80 to 0xFF in the font of this index.
+  const char16_t* UpperHalfOf(std::uint16_t index) const;
+
+  // The same for the name that is being read.
+  const char16_t* UpperHalfOfName() const { return UpperHalfOf(current_); }
+
+  // Gives the document the fonts its runs use, in the order of their first use, and the runs the
+  // indices of these.
+  void GiveFontsTo(Document& document) const;
+
+ private:
+  struct Entry {
+    Font font;
+    const char16_t* upperHalf = nullptr;  // null: the document's
+  };
+
+  std::uint16_t Resolve(std::uint16_t index) const;
+
+  std::vector<Entry> entries_;
+  std::vector<std::uint16_t> indexOfNumber_;
+  const char16_t* documentUpperHalf_;
+  int defaultNumber_ = 0;
+  std::uint16_t current_ = 0;
+  bool open_ = false;
+};
+
+}  // namespace verlume::richtext

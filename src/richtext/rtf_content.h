@@ -1,0 +1,90 @@
+// What has been read of an RTF document: its text and runs, its tables, and the groups that are
+// open. Knows what text and control words do; the parser knows how they are written.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "richtext/document.h"
+#include "richtext/font_table.h"
+#include "richtext/rtf_tokens.h"
+#include "richtext/run_builder.h"
+
+namespace verlume::richtext {
+
+// Where the text of a group goes.
+enum class Destination : std::uint8_t { kBody, kFontTable, kColorTable };
+
+// What a group inherits from the one around it and loses at its end.
+struct GroupState {
+  CharFormat format;  // its font is an index of FontTable
+  Destination destination = Destination::kBody;
+  std::uint8_t fallbackCount = 1;  // \uc: how many characters stand behind \u for older readers
+};
+
+class RtfContent {
+ public:
+  explicit RtfContent(std::size_t expectedLength);
+
+  void OpenGroup();
+  void CloseGroup();
+  bool Ended() const { return ended_; }  // the document's own brace was closed
+
+  // Text that needs no decoding: characters of a string, or ASCII bytes.
+  template <typename Ch>
+  void Append(const Ch* begin, const Ch* end) {
+    if (InBody()) return builder_.Append(begin, end);
+    for (; begin != end; ++begin) AppendToTable(static_cast<char16_t>(*begin));
+  }
+
+  void Append(char16_t unit) {
+    if (!InBody()) return AppendToTable(unit);
+    builder_.Append(unit == u'\r' ? u'\n' : unit);
+  }
+
+  // A byte, in the code page of the font in force.
+  void AppendByte(unsigned char byte) {
+    Append(byte < 0x80 ? char16_t{byte} : UpperHalf()[byte - 0x80]);
+  }
+
+  void AppendCodePoint(char32_t codePoint);
+  void AppendBreak(bool endsParagraph);
+
+  // Does what a control word says of formats, the document and its tables; other words do nothing.
+  void Apply(const ControlToken& token);
+
+  // Sends the text of the group to a table. False where the group is too deep to be kept: it has to
+  // be passed over.
+  bool OpenTable(Destination table);
+
+  int FallbackCount() const { return state_.fallbackCount; }
+  bool IsUtf8() const { return utf8_; }  // the document declares its bytes as UTF-8
+
+  Document Finish();
+
+ private:
+  bool InBody() const { return state_.destination == Destination::kBody; }
+  const char16_t* UpperHalf() const;
+  void AppendToTable(char16_t unit);
+  bool ApplyFormat(const ControlToken& token);
+  void ApplyToDocument(const ControlToken& token);
+  void ApplyToFonts(const ControlToken& token);
+  void ApplyToColors(const ControlToken& token);
+  void SetFallbackCount(int count);
+  void SetColorPart(int shift, int value);
+  Color ColorOf(int number) const;
+
+  RunBuilder builder_;
+  FontTable fonts_;
+  std::vector<Color> colors_;
+  Color newColor_ = kAutomaticColor;  // the one that is being declared
+
+  GroupState state_;
+  std::vector<GroupState> outerGroups_;
+  std::size_t excessDepth_ = 0;  // groups open beyond the depth that is kept
+  bool utf8_ = false;
+  bool ended_ = false;
+};
+
+}  // namespace verlume::richtext

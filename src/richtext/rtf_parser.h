@@ -1,0 +1,46 @@
+// The RTF reader itself: one pass over the tokens.
+#pragma once
+
+#include "richtext/document.h"
+#include "richtext/rtf_content.h"
+#include "richtext/rtf_tokens.h"
+
+namespace verlume::richtext {
+
+// Reads a document of characters (char16_t) or bytes (char). For use once.
+template <typename Ch>
+class RtfParser {
+ public:
+  RtfParser(const Ch* begin, const Ch* end);
+
+  Document Parse();
+
+ private:
+  void ReadBrace();
+  void ReadText();
+  void ReadUpperByte();
+  void ReadControl();
+  void ReadSymbol();
+  void ReadHexCharacter();
+  void ReadIgnorable();
+
+  void Apply(const ControlToken& token);
+  void ApplyUnicode(int number);
+  void ApplyBinary(int length);
+  void ApplyTable(Destination table);
+
+  void Emit(char16_t unit);
+  void EmitByte(unsigned char byte);
+  void EmitBreak(bool endsParagraph);
+  bool TryEmitUtf8(unsigned char first);
+  bool SkipFallback();
+
+  RtfTokens<Ch> tokens_;
+  RtfContent content_;
+  int fallbackLeft_ = 0;  // characters still to be passed over behind \u
+};
+
+extern template class RtfParser<char>;
+extern template class RtfParser<char16_t>;
+
+}  // namespace verlume::richtext
