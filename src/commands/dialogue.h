@@ -1,0 +1,40 @@
+// The dialogue pane. Every line that enters it goes through WriteDialogueLine.
+#pragma once
+
+#include <string_view>
+
+#include "platform/platform.h"
+#include "records/dialogue_log.h"
+#include "shell/app_state.h"
+#include "shell/error_report.h"
+#include "shell/settings.h"
+
+namespace verlume {
+
+enum class CommandPane { Keep, Clear };
+
+class Dialogue {
+ public:
+  Dialogue(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings,
+           DialogueLog& log)
+      : state_(state), platform_(platform), errors_(errors), settings_(settings), log_(log) {}
+
+  // Writes one line of rich text at the end of the dialogue pane, with stamp and nickname tag, and
+  // hands it to the log. An empty text writes nothing. In every case the command pane is then
+  // emptied if asked, and gets the focus. Uses up AppState::ForeignText and RemoteMessage. A
+  // failure is reported (207), not thrown.
+  void WriteDialogueLine(std::u16string_view rtf, CommandPane commandPane);
+
+  void mnuToolsDate_Click();
+  void mnuToolsTime_Click();
+  void mnuToolsClearDialogue_Click();
+
+ private:
+  AppState& state_;
+  Platform& platform_;
+  ErrorReport& errors_;
+  Settings& settings_;
+  DialogueLog& log_;
+};
+
+}  // namespace verlume

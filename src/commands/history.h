@@ -1,0 +1,30 @@
+// The command history: the last 50 lines entered, as rich text, walked with Page Up and Page Down.
+#pragma once
+
+#include "platform/platform.h"
+#include "shell/app_state.h"
+#include "shell/error_report.h"
+
+namespace verlume {
+
+class CommandHistory {
+ public:
+  CommandHistory(AppState& state, Platform& platform, ErrorReport& errors)
+      : state_(state), platform_(platform), errors_(errors) {}
+
+  // Keeps the command pane's rich text as the newest line; the oldest goes when there are 50.
+  void AddToHistory();
+
+  // The special keys of the command pane: Tab, Escape, Page Up, Page Down.
+  void rtbCommands_KeyDown(int& keyCode, int shift);
+
+  void mnuToolsClearCommands_Click();
+  void mnuToolsClearHistory_Click();
+
+ private:
+  AppState& state_;
+  Platform& platform_;
+  ErrorReport& errors_;
+};
+
+}  // namespace verlume

@@ -1,0 +1,20 @@
+// The connection's state, kept as three flags of AppState.
+#pragma once
+
+#include "platform/platform.h"
+#include "shell/app_state.h"
+
+namespace verlume {
+
+enum class ConnectionState { Idle, Waiting, Calling, Connected };
+
+ConnectionState StateOf(const AppState& state);
+
+// Sets the flags; the state that is left needs nothing else.
+void EnterState(AppState& state, ConnectionState entered);
+
+// Back to Idle from wherever: clears the flags, lblLocalPort, lblRemoteIP and lblRemotePort, turns
+// the lamp red and closes the socket.
+void ResetConnection(AppState& state, Platform& platform);
+
+}  // namespace verlume

@@ -1,0 +1,23 @@
+// Where folders and macros lie.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/file_system.h"
+#include "shell/app_state.h"
+
+namespace verlume {
+
+// The path with the separator appended unless it ends in it already.
+std::u16string WithTrailingSeparator(std::u16string_view path, char16_t separator);
+
+// True when a directory of that path is found; "" never exists. Never fails.
+bool FolderExists(const FileSystem& files, std::u16string_view path);
+
+// The file of a macro, and whether it is there. A name that would leave the macros folder (it
+// holds a separator, or is "", "." or "..") has no file.
+std::u16string MacroPath(const AppState& state, const FileSystem& files, std::u16string_view name);
+bool MacroExists(const AppState& state, const FileSystem& files, std::u16string_view name);
+
+}  // namespace verlume

@@ -1,0 +1,97 @@
+// The main window, frmMain, as the logic sees it: references to its controls, under their names.
+#pragma once
+
+#include "platform/control.h"
+#include "platform/rich_text_box.h"
+#include "platform/window.h"
+
+namespace verlume {
+
+struct MainWindow {
+  Window& window;
+  LayoutControl& freeSizer1;
+  Timer& tmrTimer;
+
+  Menu& mnuFile;
+  MenuEntry& mnuFileMacrosFolder;
+  MenuEntry& mnuFileLogFolder;
+  MenuEntry& mnuFileLogRecord;
+  MenuEntry& mnuFileLogOpen;
+  MenuEntry& mnuFileLogSaveAs;
+  MenuEntry& mnuFileExit;
+
+  Menu& mnuComm;
+  MenuEntry& mnuCommWait;
+  MenuEntry& mnuCommCall;
+  MenuEntry& mnuCommCancel;
+  MenuEntry& mnuCommClose;
+  MenuEntry& mnuCommRefresh;
+
+  Menu& mnuFormat;
+  MenuEntry& mnuFormatFontBold;
+  MenuEntry& mnuFormatFontItalics;
+  MenuEntry& mnuFormatFontUnderline;
+  MenuEntry& mnuFormatFontSize;
+  MenuEntry& mnuFormatFontColor;
+  MenuEntry& mnuFormatFontSettings;
+  MenuEntry& mnuFormatBackcolorCommands;
+  MenuEntry& mnuFormatBackcolorDialogue;
+
+  Menu& mnuTools;
+  MenuEntry& mnuToolsNick;
+  MenuEntry& mnuToolsSaveMacro;
+  MenuEntry& mnuToolsEditMacros;
+  MenuEntry& mnuToolsClearDialogue;
+  MenuEntry& mnuToolsClearCommands;
+  MenuEntry& mnuToolsClearHistory;
+  MenuEntry& mnuToolsDate;
+  MenuEntry& mnuToolsTime;
+  MenuEntry& mnuToolsAlwaysOnTop;
+  MenuEntry& mnuToolsLanguageEnglish;
+  MenuEntry& mnuToolsLanguageGreek;
+
+  Menu& mnuHelp;
+  MenuEntry& mnuHelpDetailed;
+  MenuEntry& mnuHelpAbout;
+
+  RichTextBox& rtbData;      // the dialogue pane
+  RichTextBox& rtbCommands;  // the command pane
+  RichTextBox& rtbRemote;    // hidden: turns RTF into plain text
+
+  CheckBox& chkBold;
+  CheckBox& chkItalics;
+  CheckBox& chkUnderline;
+  Label& lblColor;
+
+  // The values of the status panel, and the caption beside each.
+  Label& lblStatus;
+  Label& lblCurrentDateTime;
+  Label& lblChatStartDateTime;
+  Label& lblChatDuration;
+  Label& lblLocalIP;
+  Label& lblLocalPort;
+  Label& lblLocalNickname;
+  Label& lblRemoteIP;
+  Label& lblRemotePort;
+  Label& lblRemoteNickname;
+  Label& lblBytesSent;
+  Label& lblBytesReceived;
+  Label& lblCurrentDateTimeCaption;
+  Label& lblChatStartDateTimeCaption;
+  Label& lblChatDurationCaption;
+  Label& lblLocalIPCaption;
+  Label& lblLocalPortCaption;
+  Label& lblLocalNicknameCaption;
+  Label& lblRemoteIPCaption;
+  Label& lblRemotePortCaption;
+  Label& lblRemoteNicknameCaption;
+  Label& lblBytesSentCaption;
+  Label& lblBytesReceivedCaption;
+
+  Control& picShape;  // the frame that holds the lamp
+  Lamp& shpStatus;
+  Label& lblCopyright;
+  Picture& picCopyright;
+};
+
+}  // namespace verlume

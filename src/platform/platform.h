@@ -1,0 +1,24 @@
+// A whole platform: everything the program is built upon. It outlives the program.
+#pragma once
+
+#include "platform/dialogs.h"
+#include "platform/file_system.h"
+#include "platform/main_window.h"
+#include "platform/socket.h"
+#include "platform/system.h"
+
+namespace verlume {
+
+struct Platform {
+  MainWindow& frmMain;
+  Socket& sckControl;
+  Dialogs& dialogs;
+  CommonDialog& dlgControl;
+  FileSystem& files;
+  Clock& clock;
+  Locale& locale;
+  Application& application;
+  HelpViewer& help;
+};
+
+}  // namespace verlume

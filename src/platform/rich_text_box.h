@@ -1,0 +1,95 @@
+// The rich-text box: the command pane, the dialogue pane and the hidden box are each one.
+//
+// Positions and lengths are UTF-16 units. A line break is one unit, u'\n', in Text and in every
+// position; "\r\n" and "\r" that are put in become one. In a single-line box a line break that is
+// put in, by whatever road, becomes a blank.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/control.h"
+#include "richtext/document.h"
+
+namespace verlume {
+
+// The format of a selection. A member without value: undetermined when read (the selection is
+// mixed), left as it is when set.
+struct SelectionFormat {
+  std::optional<std::u16string> fontName;
+  std::optional<double> fontSize;  // points
+  std::optional<Color> color;      // kAutomaticColor reads as 0, black
+  std::optional<bool> bold;
+  std::optional<bool> italic;
+  std::optional<bool> underline;
+  std::optional<bool> strikethrough;
+};
+
+enum class TextFileFormat { RichText, PlainText };
+
+// Key codes of onKeyDown: only these keys raise it with a code of their own, others raise it with
+// 0.
+namespace key_code {
+inline constexpr int kTab = 9;
+inline constexpr int kEscape = 27;
+inline constexpr int kPageUp = 33;
+inline constexpr int kPageDown = 34;
+}  // namespace key_code
+
+class RichTextBox : public Control {
+ public:
+  virtual std::u16string Text() const = 0;
+  virtual std::size_t TextLength() const = 0;  // constant time
+  // Replaces everything. The new text takes the format that the insertion point had, and a box
+  // emptied so keeps it for what is typed next. The insertion point goes to the start.
+  virtual void SetText(std::u16string_view text) = 0;
+
+  // Everything as RTF (richtext/rtf_writer.h), and back (richtext/rtf_reader.h: text that is no
+  // RTF is plain text). Setting puts the insertion point at the start.
+  virtual std::u16string Rtf() const = 0;
+  virtual void SetRtf(std::u16string_view rtf) = 0;
+
+  virtual std::size_t SelStart() const = 0;
+  virtual std::size_t SelLength() const = 0;
+  // Both are cut to what the text has; a length of 0 is an insertion point. Brings it into view.
+  virtual void Select(std::size_t start, std::size_t length) = 0;
+
+  virtual SelectionFormat SelFormat() const = 0;
+  // On an insertion point: the format of what is inserted or typed there next.
+  virtual void SetSelFormat(const SelectionFormat& format) = 0;
+  // Replace the selection; the insertion point is behind it afterwards. Plain text takes the
+  // selection's format, rich text brings its own. Both work in a locked box too.
+  virtual void SetSelText(std::u16string_view text) = 0;
+  virtual void SetSelRtf(std::u16string_view rtf) = 0;
+
+  // The character set that the box's fonts are written with, 161 for Greek.
+  virtual void SetFontCharset(int charset) = 0;
+
+  // Whole files. Throw RunTimeFailure (53, 61, 70, 75, 76) and leave box and file as they were. A
+  // file that is no RTF loads as plain text. Saving replaces the file in one step.
+  virtual void LoadFile(std::u16string_view path, TextFileFormat format) = 0;
+  virtual void SaveFile(std::u16string_view path, TextFileFormat format) const = 0;
+
+  // Locked: the user can select and copy but not change.
+  virtual void SetLocked(bool locked) = 0;
+  virtual bool Locked() const = 0;
+  virtual void SetTag(std::u16string_view text) = 0;
+  virtual std::u16string Tag() const = 0;
+  virtual void SetBackColor(Color color) = 0;
+  virtual Color BackColor() const = 0;
+
+  // A key that types a character, before the box sees it: Enter is 13, Ctrl+Enter 10, Ctrl+A to
+  // Ctrl+Z 1 to 26. The handler sets the code to 0 to swallow it.
+  std::function<void(int& charCode)> onKeyPress;
+  // Any key going down, before onKeyPress. `shift` is 0 without modifiers (Shift 1, Ctrl 2, Alt 4).
+  // The handler sets the code to 0 to swallow a key that has a code.
+  std::function<void(int& keyCode, int shift)> onKeyDown;
+  // The selection, or the format at the insertion point, may have changed: by the user or by a
+  // program's Select, SetText, SetRtf, LoadFile. Never by SetSelFormat.
+  std::function<void()> onSelChange;
+  std::function<void()> onGotFocus;
+};
+
+}  // namespace verlume

@@ -1,0 +1,60 @@
+// What the logic asks of the machine besides windows, sockets and files: the time, the user's
+// regional forms, the program's own place and its event loop, and the help viewer.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace verlume {
+
+struct LocalTime {
+  int year = 0;
+  int month = 0;  // 1 to 12
+  int day = 0;
+  int hour = 0;  // 0 to 23
+  int minute = 0;
+  int second = 0;
+};
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  virtual LocalTime Now() const = 0;
+};
+
+// The system's regional settings.
+class Locale {
+ public:
+  virtual ~Locale() = default;
+  virtual std::u16string LongDate(const LocalTime& time) const = 0;
+  virtual std::u16string LongTime(const LocalTime& time) const = 0;
+  // What separates groups of three digits; may be "".
+  virtual std::u16string GroupSeparator() const = 0;
+  // Upper case; Greek letters keep their accents.
+  virtual std::u16string UpperCase(std::u16string_view text) const = 0;
+};
+
+class Application {
+ public:
+  virtual ~Application() = default;
+  // The folder of the executable, without a trailing separator.
+  virtual std::u16string ProgramFolder() const = 0;
+  // Where the settings file lies: the program's folder, or the user's own configuration folder
+  // where that is not writable. It exists.
+  virtual std::u16string SettingsFolder() const = 0;
+  // Where the help files lie: the program's folder, or the installed data folder.
+  virtual std::u16string HelpFolder() const = 0;
+  // Handles the events that wait, and returns.
+  virtual void YieldToEvents() = 0;
+  // Ends the program: every window closes, and no further event reaches a handler.
+  virtual void End() = 0;
+};
+
+class HelpViewer {
+ public:
+  virtual ~HelpViewer() = default;
+  // The file that the help entry and the context help of every control open from now on.
+  virtual void SetHelpFile(std::u16string_view path) = 0;
+};
+
+}  // namespace verlume

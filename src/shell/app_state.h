@@ -1,0 +1,92 @@
+// The one record of program-wide values. It is made by the composition root and passed by
+// reference; everything runs on one thread, so nothing locks it. A modal box lets events through:
+// whoever shows one reads the record again afterwards.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "platform/control.h"
+
+namespace verlume {
+
+inline constexpr int kHistoryCapacity = 50;
+inline constexpr std::size_t kNicknameLimit = 32;  // characters
+
+struct AppState {
+  // Paths.
+  std::u16string IniFile;
+  std::u16string HelpFileGreek;
+  std::u16string HelpFileEnglish;
+
+  // The window and its language.
+  std::u16string Title;
+  bool IsGreek = false;
+  bool AlwaysOnTop = false;
+  bool ExitConfirmed = false;  // true only after Yes to the exit question, or when none is needed
+
+  // The connection. At most one of the first three is true; none is Idle.
+  bool IsWaiting = false;
+  bool IsCalling = false;
+  bool IsConnected = false;
+  bool ReservedState = false;  // cleared with the other three, never set
+  std::int32_t LocalPort = 0;
+  std::u16string LocalHostName;
+  std::u16string LocalAddress;
+  std::u16string RemoteHost;  // as the user called it
+  std::int32_t RemotePort = 0;
+  std::u16string RemoteAddress;  // of the connected peer
+  std::u16string Nickname;       // 1 to kNicknameLimit characters
+  std::u16string RemoteNickname;
+  std::u16string ProtocolMarker;  // opens every protocol message (connection/wire_protocol.h)
+
+  // The line being executed.
+  std::u16string CommandLine;   // its plain text
+  std::u16string OutgoingText;  // its rich text, as sent and written into the dialogue pane
+
+  // One-shot flags of the next line written into the dialogue pane.
+  bool ForeignText = false;    // it is the peer's
+  bool RemoteMessage = false;  // it names its sender itself: no nickname tag
+
+  // Stamps of dialogue lines.
+  bool DateStamp = true;
+  bool TimeStamp = true;
+
+  // The command history: element 0 holds the number of lines as text, 1 is the oldest line.
+  std::array<std::u16string, kHistoryCapacity + 1> History;
+  std::int16_t HistoryUp = 1;     // Page Up shows the line before this one
+  std::int16_t HistoryDown = -1;  // Page Down shows the line after this one
+
+  // The dialogue log.
+  std::u16string LogFolder;
+  bool LogDialogue = false;     // the user's switch
+  bool LogOpen = false;         // a conversation is on
+  std::u16string LogFileStem;   // the peer's nickname made fit for a file name
+  std::u16string DialogFilter;  // of the last load or save dialog
+
+  // Macros.
+  std::u16string MacrosFolder;
+  std::u16string MacroToRun;  // rich text that the macro editor hands over
+  std::int16_t MacroIndex = -1;
+
+  // The local text style.
+  std::u16string FontName;
+  bool FontBold = false;
+  bool FontItalic = false;
+  bool FontStrikethrough = false;
+  bool FontUnderline = false;
+  Color FontColor = 0;
+  double FontSize = 0;  // points
+
+  // The style in force while a macro is edited.
+  std::u16string MacroFontName;
+  bool MacroBold = false;
+  bool MacroItalic = false;
+  bool MacroStrikethrough = false;
+  bool MacroUnderline = false;
+  Color MacroColor = 0;
+  double MacroFontSize = 0;  // points
+};
+
+}  // namespace verlume

@@ -1,0 +1,61 @@
+#include "shell/error_report.h"
+
+#include <exception>
+#include <utility>
+
+#include "platform/run_time_failure.h"
+#include "shell/text_pair.h"
+
+namespace verlume {
+namespace {
+
+constexpr TextPair kErrorText = {
+    u"Error condition %1 with the description '%2' has occured."
+    u"\r\n\r\n"
+    u"The application cannot perform the requested operation."
+    u"\r\n\r\n"
+    u"Do you want to shut down the application and return "
+    u"to the Windows environment?",
+    u"Παρουσιάσθηκε το σφάλμα με αριθμό %1 και περιγραφή «%2»."
+    u"\r\n\r\n"
+    u"Η εφαρμογή δεν μπορεί να εκτελέσει την εργασία "
+    u"που ζητήσατε."
+    u"\r\n\r\n"
+    u"Θέλετε να διακοπεί η λειτουργία της εφαρμογής και "
+    u"να επιστρέψετε στο περιβάλλον των Windows;"};
+
+}  // namespace
+
+ErrorReport::ErrorReport(const AppState& state, Dialogs& dialogs,
+                         std::function<void()> resetConnection, std::function<void()> unload)
+    : state_(state),
+      dialogs_(dialogs),
+      resetConnection_(std::move(resetConnection)),
+      unload_(std::move(unload)) {}
+
+bool ErrorReport::Guard(Procedure procedure, const std::function<void()>& body) {
+  try {
+    body();
+    return true;
+  } catch (const RunTimeFailure& failure) {
+    if (failure.number != FailureNumber::Cancelled) {
+      Report(static_cast<std::int32_t>(failure.number), failure.description, procedure);
+    }
+  } catch (const std::exception&) {
+    const RunTimeFailure internal(FailureNumber::InternalError);
+    Report(static_cast<std::int32_t>(internal.number), internal.description, procedure);
+  }
+  return false;
+}
+
+void ErrorReport::Report(std::int32_t errorNumber, std::u16string_view description,
+                         Procedure procedure) {
+  const std::u16string text =
+      kErrorText.Fill(state_.IsGreek, {DecimalText(errorNumber), description});
+  const std::u16string title =
+      state_.Title + u", " + DecimalText(static_cast<int>(procedure)) + u".";
+  resetConnection_();
+  if (dialogs_.ShowMessage(Question(text, title, Answer::No)) == Answer::Yes) unload_();
+}
+
+}  // namespace verlume

@@ -1,0 +1,37 @@
+// The common error report, and the wrapper that leads every procedure's failures to it.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string_view>
+
+#include "platform/dialogs.h"
+#include "shell/app_state.h"
+#include "shell/procedure_number.h"
+
+namespace verlume {
+
+class ErrorReport {
+ public:
+  // `resetConnection` closes the connection; `unload` unloads the main window, which ends the
+  // program.
+  ErrorReport(const AppState& state, Dialogs& dialogs, std::function<void()> resetConnection,
+              std::function<void()> unload);
+
+  // Runs the body of a procedure. Whatever exception leaves it ends the procedure here: a
+  // RunTimeFailure is reported with its own number, any other exception as an internal error. A
+  // cancelled dialog is a silent end. True when the body ran to its end.
+  bool Guard(Procedure procedure, const std::function<void()>& body);
+
+  // Closes the connection, tells the user and asks whether to end the program; No is the default.
+  // Returns after No with the connection Idle.
+  void Report(std::int32_t errorNumber, std::u16string_view description, Procedure procedure);
+
+ private:
+  const AppState& state_;
+  Dialogs& dialogs_;
+  std::function<void()> resetConnection_;
+  std::function<void()> unload_;
+};
+
+}  // namespace verlume

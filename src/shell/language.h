@@ -1,0 +1,30 @@
+// The interface language: the fixed texts of the main window, set in one place.
+#pragma once
+
+#include "platform/platform.h"
+#include "shell/app_state.h"
+#include "shell/error_report.h"
+#include "shell/settings.h"
+
+namespace verlume {
+
+class Language {
+ public:
+  Language(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings)
+      : state_(state), platform_(platform), errors_(errors), settings_(settings) {}
+
+  // Sets every caption and tool tip in the language of AppState::IsGreek, the help file and the
+  // language of the boxes' buttons, and writes the choice to the settings file.
+  void ApplyLanguage();
+
+  void mnuToolsLanguageEnglish_Click();
+  void mnuToolsLanguageGreek_Click();
+
+ private:
+  AppState& state_;
+  Platform& platform_;
+  ErrorReport& errors_;
+  Settings& settings_;
+};
+
+}  // namespace verlume

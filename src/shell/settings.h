@@ -1,0 +1,34 @@
+// The settings file "Verlume.ini": sections of key=value lines. Each setting is read once at
+// start-up and written on its own at the moment it changes.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "platform/file_system.h"
+#include "shell/app_state.h"
+
+namespace verlume {
+
+class Settings {
+ public:
+  Settings(const AppState& state, FileSystem& files) : state_(state), files_(files) {}
+
+  // The value of a key, at most size - 1 characters of it, or `missingMarker` where the file, the
+  // section or the key is missing. Section and key are compared without regard to case; blanks and
+  // one pair of quotes around a value are not part of it. Never fails.
+  std::u16string ReadSetting(std::u16string_view section, std::u16string_view key,
+                             std::u16string_view missingMarker, std::size_t size) const;
+
+  // Replaces the key's line, or adds it, with file and section where they are missing; every other
+  // line stays as it is. Throws RunTimeFailure when the file cannot be written.
+  void WriteSetting(std::u16string_view section, std::u16string_view key,
+                    std::u16string_view value);
+
+ private:
+  const AppState& state_;
+  FileSystem& files_;
+};
+
+}  // namespace verlume

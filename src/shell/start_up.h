@@ -1,0 +1,43 @@
+// Start-up: everything that is prepared before the user types.
+#pragma once
+
+#include <functional>
+
+#include "platform/platform.h"
+#include "shell/app_state.h"
+#include "shell/error_report.h"
+#include "shell/language.h"
+#include "shell/settings.h"
+
+namespace verlume {
+
+class StartUp {
+ public:
+  // What start-up runs of the rooms beside it.
+  struct Steps {
+    std::function<void()> resetConnection;
+    std::function<std::u16string()> buildProtocolMarker;
+    std::function<void()> applyCommandStyle;
+  };
+
+  StartUp(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings,
+          Language& language, Steps steps);
+
+  // Fills AppState and reads the settings file, before the window is shown. A failure ends it there
+  // and is reported (203); the program goes on with what was set so far.
+  void Form_Load();
+
+  // Once the window has been laid out: applies the text style, and asks for the log and macros
+  // folders while they are missing.
+  void freeSizer1_PostLayout();
+
+ private:
+  AppState& state_;
+  Platform& platform_;
+  ErrorReport& errors_;
+  Settings& settings_;
+  Language& language_;
+  Steps steps_;
+};
+
+}  // namespace verlume

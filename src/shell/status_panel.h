@@ -1,0 +1,45 @@
+// The status panel: clock, duration, counters and lamp. Counts are kept as decimal text in the tags
+// of their labels.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/platform.h"
+#include "shell/error_report.h"
+
+namespace verlume {
+
+// Lamp colours.
+inline constexpr Color kLampIdle = 255;
+inline constexpr Color kLampBusy = 65535;  // waiting and calling
+inline constexpr Color kLampConnected = 65280;
+
+void SetLamp(Lamp& lamp, Color color);
+
+// "#,###,###,##0" with the system's group separator.
+std::u16string GroupedNumberText(std::int32_t number, const Locale& locale);
+
+// Adds to the count in the label's tag (empty counts as 0) and shows it. Throws RunTimeFailure 6
+// when the count leaves 32 bits.
+void AddToCounter(Label& counter, std::size_t characters, const Locale& locale);
+
+class StatusPanel {
+ public:
+  StatusPanel(Platform& platform, ErrorReport& errors) : platform_(platform), errors_(errors) {}
+
+  // Once a second: shows the time, and counts the duration while connected.
+  void tmrTimer_Timer();
+
+  // A chat begins now: its start time, and counts from 0.
+  void StartChat();
+
+  // Empties the value labels that tell of a connection, all but the local address and nickname.
+  void ClearValues();
+
+ private:
+  Platform& platform_;
+  ErrorReport& errors_;
+};
+
+}  // namespace verlume

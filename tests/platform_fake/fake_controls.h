@@ -1,0 +1,131 @@
+// Controls in memory: they keep what they are given, and a test raises their events by calling the
+// handlers.
+#pragma once
+
+#include "platform/control.h"
+#include "platform/window.h"
+
+namespace verlume::fake {
+
+// The part that every control shares.
+template <class Role>
+class FakeControl : public Role {
+ public:
+  void SetToolTip(std::u16string_view text) override { toolTip = text; }
+  std::u16string ToolTip() const override { return toolTip; }
+  void SetAccessibleName(std::u16string_view name) override { accessibleName = name; }
+  void SetFocus() override { ++timesFocused; }
+  void ShowContextHelp() override { ++timesHelpShown; }
+
+  std::u16string toolTip;
+  std::u16string accessibleName;
+  int timesFocused = 0;
+  int timesHelpShown = 0;
+};
+
+class FakeLabel : public FakeControl<Label> {
+ public:
+  void SetCaption(std::u16string_view text) override { caption = text; }
+  std::u16string Caption() const override { return caption; }
+  void SetTag(std::u16string_view text) override { tag = text; }
+  std::u16string Tag() const override { return tag; }
+  void SetBackColor(Color color) override { backColor = color; }
+  void SetHeight(int value) override { height = value; }
+
+  std::u16string caption = u"as designed";
+  std::u16string tag;
+  Color backColor = 0;
+  int height = 0;
+};
+
+class FakePicture : public FakeControl<Picture> {
+ public:
+  int Height() const override { return 48; }
+};
+
+class FakeLamp : public Lamp {
+ public:
+  void SetFillColor(Color color) override { fill = color; }
+  void SetBorderColor(Color color) override { border = color; }
+  Color FillColor() const override { return fill; }
+  Color BorderColor() const override { return border; }
+
+  Color fill = 0;
+  Color border = 0;
+};
+
+class FakeCheckBox : public FakeControl<CheckBox> {
+ public:
+  void SetCaption(std::u16string_view text) override { caption = text; }
+  void SetValue(int newValue) override {
+    if (newValue == value) return;
+    value = newValue;
+    if (onClick) onClick();
+  }
+  int Value() const override { return value; }
+
+  std::u16string caption;
+  int value = 0;
+};
+
+class FakeMenuEntry : public MenuEntry {
+ public:
+  void SetCaption(std::u16string_view text) override { caption = text; }
+  std::u16string Caption() const override { return caption; }
+  void SetChecked(bool value) override { checked = value; }
+  bool Checked() const override { return checked; }
+
+  std::u16string caption;
+  bool checked = false;
+};
+
+class FakeMenu : public Menu {
+ public:
+  void SetCaption(std::u16string_view text) override { caption = text; }
+  std::u16string Caption() const override { return caption; }
+
+  std::u16string caption;
+};
+
+class FakeTimer : public Timer {
+ public:
+  void Start() override { running = true; }
+  void Tick() {
+    if (running && onTimer) onTimer();
+  }
+
+  bool running = false;
+};
+
+class FakeLayoutControl : public LayoutControl {};
+
+class FakeWindow : public Window {
+ public:
+  void SetTitle(std::u16string_view text) override { title = text; }
+  std::u16string Title() const override { return title; }
+  void Show() override { shown = true; }
+  void Unload() override { Close(UnloadMode::Code); }
+  bool SetTopMost(bool value) override {
+    topMost = value;
+    ++timesPlaced;
+    return topMost;
+  }
+
+  // What the close box does.
+  void Close(UnloadMode mode) {
+    if (unloaded) return;
+    bool cancel = false;
+    if (onQueryUnload) onQueryUnload(cancel, mode);
+    if (cancel || unloaded) return;
+    unloaded = true;
+    if (onUnload) onUnload();
+  }
+
+  std::u16string title;
+  bool shown = false;
+  bool unloaded = false;
+  bool topMost = false;
+  int timesPlaced = 0;
+};
+
+}  // namespace verlume::fake

@@ -1,0 +1,115 @@
+#include "platform_fake/fake_file_system.h"
+
+#include <algorithm>
+
+#include "richtext/code_pages.h"
+
+namespace verlume::fake {
+namespace {
+
+std::u16string_view WithoutSeparator(std::u16string_view path) {
+  while (path.size() > 1 && path.back() == u'/') path.remove_suffix(1);
+  return path;
+}
+
+std::u16string_view FolderOf(std::u16string_view path) {
+  const std::size_t slash = path.rfind(u'/');
+  return slash == 0 || slash == std::u16string_view::npos ? u"/" : path.substr(0, slash);
+}
+
+bool EndsIn(std::u16string_view name, std::u16string_view extension) {
+  const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
+  return name.size() >= extension.size() &&
+         std::equal(extension.begin(), extension.end(), name.end() - extension.size(),
+                    [&](char16_t a, char16_t b) { return lower(a) == lower(b); });
+}
+
+std::string Utf8(std::u16string_view text) {
+  std::string bytes;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    char32_t c = text[i];
+    if (c >= 0xD800 && c < 0xDC00 && i + 1 < text.size()) {
+      c = 0x10000 + ((c - 0xD800) << 10) + (text[++i] - 0xDC00);
+    }
+    if (c < 0x80) {
+      bytes += static_cast<char>(c);
+      continue;
+    }
+    const int tail = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+    constexpr int kLead[] = {0, 0xC0, 0xE0, 0xF0};
+    bytes += static_cast<char>(kLead[tail] | (c >> (6 * tail)));
+    for (int n = tail - 1; n >= 0; --n) bytes += static_cast<char>(0x80 | ((c >> (6 * n)) & 0x3F));
+  }
+  return bytes;
+}
+
+}  // namespace
+
+bool FakeFileSystem::IsFolder(std::u16string_view path) const noexcept {
+  return !path.empty() && folders_.contains(WithoutSeparator(path));
+}
+
+bool FakeFileSystem::IsFile(std::u16string_view path) const noexcept {
+  return files.contains(path);
+}
+
+std::vector<std::u16string> FakeFileSystem::ListFiles(std::u16string_view folder,
+                                                      std::u16string_view extension) const {
+  if (!IsFolder(folder)) throw RunTimeFailure(FailureNumber::PathNotFound);
+  std::vector<std::u16string> names;
+  for (const auto& [path, bytes] : files) {
+    if (FolderOf(path) == WithoutSeparator(folder) && EndsIn(path, extension)) {
+      names.push_back(path.substr(path.rfind(u'/') + 1));
+    }
+  }
+  return names;
+}
+
+std::u16string FakeFileSystem::ReadText(std::u16string_view path) const {
+  return richtext::DecodeUtf8OrGreek(ReadBytes(path));
+}
+
+std::string FakeFileSystem::ReadBytes(std::u16string_view path) const {
+  const auto file = files.find(path);
+  if (file == files.end()) throw RunTimeFailure(FailureNumber::FileNotFound);
+  return file->second;
+}
+
+void FakeFileSystem::ReplaceText(std::u16string_view path, std::u16string_view text) {
+  ReplaceBytes(path, Utf8(text));
+}
+
+void FakeFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes) {
+  CheckWrite(path);
+  files[std::u16string(path)] = bytes;
+}
+
+void FakeFileSystem::AppendText(std::u16string_view path, std::u16string_view text) {
+  CheckWrite(path);
+  files[std::u16string(path)] += Utf8(text);
+}
+
+void FakeFileSystem::Delete(std::u16string_view path) {
+  if (!IsFile(path)) throw RunTimeFailure(FailureNumber::FileNotFound);
+  files.erase(files.find(path));
+}
+
+void FakeFileSystem::MakeFolder(std::u16string_view path) {
+  for (path = WithoutSeparator(path); path != u"/"; path = FolderOf(path)) {
+    folders_.insert(std::u16string(path));
+  }
+}
+
+void FakeFileSystem::RemoveFolder(std::u16string_view path) {
+  const std::u16string folder(WithoutSeparator(path));
+  folders_.erase(folder);
+  std::erase_if(files, [&](const auto& file) { return FolderOf(file.first) == folder; });
+}
+
+void FakeFileSystem::CheckWrite(std::u16string_view path) const {
+  if (writesFail) throw RunTimeFailure(*writesFail);
+  if (IsFolder(path)) throw RunTimeFailure(FailureNumber::PathFileAccessError);
+  if (!IsFolder(FolderOf(path))) throw RunTimeFailure(FailureNumber::PathNotFound);
+}
+
+}  // namespace verlume::fake

@@ -1,0 +1,41 @@
+// Files in memory, with switches that make them fail.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <set>
+
+#include "platform/file_system.h"
+#include "platform/run_time_failure.h"
+
+namespace verlume::fake {
+
+class FakeFileSystem : public FileSystem {
+ public:
+  bool IsFolder(std::u16string_view path) const noexcept override;
+  bool IsFile(std::u16string_view path) const noexcept override;
+  std::vector<std::u16string> ListFiles(std::u16string_view folder,
+                                        std::u16string_view extension) const override;
+  std::u16string ReadText(std::u16string_view path) const override;
+  std::string ReadBytes(std::u16string_view path) const override;
+  void ReplaceText(std::u16string_view path, std::u16string_view text) override;
+  void ReplaceBytes(std::u16string_view path, std::string_view bytes) override;
+  void AppendText(std::u16string_view path, std::u16string_view text) override;
+  void Delete(std::u16string_view path) override;
+  char16_t Separator() const override { return u'/'; }
+
+  // For tests: a folder is kept without its trailing separator.
+  void MakeFolder(std::u16string_view path);
+  void RemoveFolder(std::u16string_view path);
+
+  // Every write fails with this while it is set.
+  std::optional<FailureNumber> writesFail;
+  std::map<std::u16string, std::string, std::less<>> files;  // path -> bytes
+
+ private:
+  void CheckWrite(std::u16string_view path) const;
+
+  std::set<std::u16string, std::less<>> folders_ = {u"/"};
+};
+
+}  // namespace verlume::fake

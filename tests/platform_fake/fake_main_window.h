@@ -1,0 +1,166 @@
+// The main window in memory. Its members bear the names of the controls they stand for.
+#pragma once
+
+#include "platform/main_window.h"
+#include "platform_fake/fake_controls.h"
+#include "platform_fake/fake_rich_text_box.h"
+
+namespace verlume::fake {
+
+struct FakeMainWindow {
+  explicit FakeMainWindow(FakeFileSystem& files)
+      : rtbData(files), rtbCommands(files, FakeRichTextBox::Lines::Single), rtbRemote(files) {}
+
+  FakeWindow window;
+  FakeLayoutControl freeSizer1;
+  FakeTimer tmrTimer;
+  FakeMenu mnuFile;
+  FakeMenuEntry mnuFileMacrosFolder;
+  FakeMenuEntry mnuFileLogFolder;
+  FakeMenuEntry mnuFileLogRecord;
+  FakeMenuEntry mnuFileLogOpen;
+  FakeMenuEntry mnuFileLogSaveAs;
+  FakeMenuEntry mnuFileExit;
+  FakeMenu mnuComm;
+  FakeMenuEntry mnuCommWait;
+  FakeMenuEntry mnuCommCall;
+  FakeMenuEntry mnuCommCancel;
+  FakeMenuEntry mnuCommClose;
+  FakeMenuEntry mnuCommRefresh;
+  FakeMenu mnuFormat;
+  FakeMenuEntry mnuFormatFontBold;
+  FakeMenuEntry mnuFormatFontItalics;
+  FakeMenuEntry mnuFormatFontUnderline;
+  FakeMenuEntry mnuFormatFontSize;
+  FakeMenuEntry mnuFormatFontColor;
+  FakeMenuEntry mnuFormatFontSettings;
+  FakeMenuEntry mnuFormatBackcolorCommands;
+  FakeMenuEntry mnuFormatBackcolorDialogue;
+  FakeMenu mnuTools;
+  FakeMenuEntry mnuToolsNick;
+  FakeMenuEntry mnuToolsSaveMacro;
+  FakeMenuEntry mnuToolsEditMacros;
+  FakeMenuEntry mnuToolsClearDialogue;
+  FakeMenuEntry mnuToolsClearCommands;
+  FakeMenuEntry mnuToolsClearHistory;
+  FakeMenuEntry mnuToolsDate;
+  FakeMenuEntry mnuToolsTime;
+  FakeMenuEntry mnuToolsAlwaysOnTop;
+  FakeMenuEntry mnuToolsLanguageEnglish;
+  FakeMenuEntry mnuToolsLanguageGreek;
+  FakeMenu mnuHelp;
+  FakeMenuEntry mnuHelpDetailed;
+  FakeMenuEntry mnuHelpAbout;
+  FakeRichTextBox rtbData;
+  FakeRichTextBox rtbCommands;
+  FakeRichTextBox rtbRemote;
+  FakeCheckBox chkBold;
+  FakeCheckBox chkItalics;
+  FakeCheckBox chkUnderline;
+  FakeLabel lblColor;
+  FakeLabel lblStatus;
+  FakeLabel lblCurrentDateTime;
+  FakeLabel lblChatStartDateTime;
+  FakeLabel lblChatDuration;
+  FakeLabel lblLocalIP;
+  FakeLabel lblLocalPort;
+  FakeLabel lblLocalNickname;
+  FakeLabel lblRemoteIP;
+  FakeLabel lblRemotePort;
+  FakeLabel lblRemoteNickname;
+  FakeLabel lblBytesSent;
+  FakeLabel lblBytesReceived;
+  FakeLabel lblCurrentDateTimeCaption;
+  FakeLabel lblChatStartDateTimeCaption;
+  FakeLabel lblChatDurationCaption;
+  FakeLabel lblLocalIPCaption;
+  FakeLabel lblLocalPortCaption;
+  FakeLabel lblLocalNicknameCaption;
+  FakeLabel lblRemoteIPCaption;
+  FakeLabel lblRemotePortCaption;
+  FakeLabel lblRemoteNicknameCaption;
+  FakeLabel lblBytesSentCaption;
+  FakeLabel lblBytesReceivedCaption;
+  FakeControl<Control> picShape;
+  FakeLamp shpStatus;
+  FakeLabel lblCopyright;
+  FakePicture picCopyright;
+
+  // What the logic sees of it.
+  MainWindow frmMain = {window,
+                        freeSizer1,
+                        tmrTimer,
+                        mnuFile,
+                        mnuFileMacrosFolder,
+                        mnuFileLogFolder,
+                        mnuFileLogRecord,
+                        mnuFileLogOpen,
+                        mnuFileLogSaveAs,
+                        mnuFileExit,
+                        mnuComm,
+                        mnuCommWait,
+                        mnuCommCall,
+                        mnuCommCancel,
+                        mnuCommClose,
+                        mnuCommRefresh,
+                        mnuFormat,
+                        mnuFormatFontBold,
+                        mnuFormatFontItalics,
+                        mnuFormatFontUnderline,
+                        mnuFormatFontSize,
+                        mnuFormatFontColor,
+                        mnuFormatFontSettings,
+                        mnuFormatBackcolorCommands,
+                        mnuFormatBackcolorDialogue,
+                        mnuTools,
+                        mnuToolsNick,
+                        mnuToolsSaveMacro,
+                        mnuToolsEditMacros,
+                        mnuToolsClearDialogue,
+                        mnuToolsClearCommands,
+                        mnuToolsClearHistory,
+                        mnuToolsDate,
+                        mnuToolsTime,
+                        mnuToolsAlwaysOnTop,
+                        mnuToolsLanguageEnglish,
+                        mnuToolsLanguageGreek,
+                        mnuHelp,
+                        mnuHelpDetailed,
+                        mnuHelpAbout,
+                        rtbData,
+                        rtbCommands,
+                        rtbRemote,
+                        chkBold,
+                        chkItalics,
+                        chkUnderline,
+                        lblColor,
+                        lblStatus,
+                        lblCurrentDateTime,
+                        lblChatStartDateTime,
+                        lblChatDuration,
+                        lblLocalIP,
+                        lblLocalPort,
+                        lblLocalNickname,
+                        lblRemoteIP,
+                        lblRemotePort,
+                        lblRemoteNickname,
+                        lblBytesSent,
+                        lblBytesReceived,
+                        lblCurrentDateTimeCaption,
+                        lblChatStartDateTimeCaption,
+                        lblChatDurationCaption,
+                        lblLocalIPCaption,
+                        lblLocalPortCaption,
+                        lblLocalNicknameCaption,
+                        lblRemoteIPCaption,
+                        lblRemotePortCaption,
+                        lblRemoteNicknameCaption,
+                        lblBytesSentCaption,
+                        lblBytesReceivedCaption,
+                        picShape,
+                        shpStatus,
+                        lblCopyright,
+                        picCopyright};
+};
+
+}  // namespace verlume::fake

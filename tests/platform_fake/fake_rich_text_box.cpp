@@ -1,0 +1,173 @@
+#include "platform_fake/fake_rich_text_box.h"
+
+#include <algorithm>
+
+#include "richtext/rtf_reader.h"
+#include "richtext/rtf_writer.h"
+
+namespace verlume::fake {
+
+std::u16string FakeRichTextBox::Text() const {
+  std::u16string text;
+  for (const Cell& cell : cells_) text += cell.character;
+  return text;
+}
+
+void FakeRichTextBox::SetText(std::u16string_view text) {
+  ReplaceAll(CellsOf(text));
+}
+
+void FakeRichTextBox::SetRtf(std::u16string_view rtf) {
+  ReplaceAll(CellsOf(richtext::ReadRtf(rtf)));
+}
+
+void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells) {
+  cells_ = std::move(cells);
+  selStart_ = selLength_ = 0;
+  if (!cells_.empty()) insertionLook_ = cells_.front().look;
+  RaiseSelChange();
+}
+
+std::u16string FakeRichTextBox::Rtf() const {
+  richtext::Document document;
+  const auto indexOf = [&document, this](const std::u16string& name) {
+    const auto same = [&](const richtext::Font& font) { return font.name == name; };
+    const auto found = std::find_if(document.fonts.begin(), document.fonts.end(), same);
+    if (found != document.fonts.end()) return found - document.fonts.begin();
+    document.fonts.push_back({name, charset_});
+    return static_cast<std::ptrdiff_t>(document.fonts.size()) - 1;
+  };
+  for (const auto& [character, look] : cells_) {
+    richtext::CharFormat format;
+    format.font = static_cast<std::uint16_t>(indexOf(look.fontName));
+    format.halfPoints = static_cast<std::uint16_t>(look.fontSize * 2);
+    format.color = look.color;
+    format.bold = look.bold;
+    format.italic = look.italic;
+    format.underline = look.underline;
+    format.strikethrough = look.strikethrough;
+    document.text += character;
+    if (document.runs.empty() || document.runs.back().format != format) {
+      document.runs.push_back({0, format});
+    }
+    ++document.runs.back().length;
+  }
+  return richtext::WriteRtf(document);
+}
+
+void FakeRichTextBox::Select(std::size_t start, std::size_t length) {
+  selStart_ = std::min(start, cells_.size());
+  selLength_ = std::min(length, cells_.size() - selStart_);
+  if (selStart_ > 0) insertionLook_ = cells_[selStart_ - 1].look;
+  RaiseSelChange();
+}
+
+SelectionFormat FakeRichTextBox::SelFormat() const {
+  const Look& first = selLength_ > 0 ? cells_[selStart_].look : insertionLook_;
+  SelectionFormat format{first.fontName, first.fontSize,  first.color,        first.bold,
+                         first.italic,   first.underline, first.strikethrough};
+  for (std::size_t i = selStart_; i < selStart_ + selLength_; ++i) {
+    const Look& look = cells_[i].look;
+    if (look.fontName != first.fontName) format.fontName.reset();
+    if (look.fontSize != first.fontSize) format.fontSize.reset();
+    if (look.color != first.color) format.color.reset();
+    if (look.bold != first.bold) format.bold.reset();
+    if (look.italic != first.italic) format.italic.reset();
+    if (look.underline != first.underline) format.underline.reset();
+    if (look.strikethrough != first.strikethrough) format.strikethrough.reset();
+  }
+  return format;
+}
+
+void FakeRichTextBox::SetSelFormat(const SelectionFormat& format) {
+  const auto apply = [&format](Look& look) {
+    look.fontName = format.fontName.value_or(look.fontName);
+    look.fontSize = format.fontSize.value_or(look.fontSize);
+    look.color = format.color.value_or(look.color);
+    look.bold = format.bold.value_or(look.bold);
+    look.italic = format.italic.value_or(look.italic);
+    look.underline = format.underline.value_or(look.underline);
+    look.strikethrough = format.strikethrough.value_or(look.strikethrough);
+  };
+  if (selLength_ == 0) return apply(insertionLook_);
+  for (std::size_t i = selStart_; i < selStart_ + selLength_; ++i) apply(cells_[i].look);
+}
+
+void FakeRichTextBox::SetSelText(std::u16string_view text) {
+  Insert(CellsOf(text));
+}
+
+void FakeRichTextBox::SetSelRtf(std::u16string_view rtf) {
+  Insert(CellsOf(richtext::ReadRtf(rtf)));
+}
+
+void FakeRichTextBox::Insert(const std::vector<Cell>& cells) {
+  const auto at = cells_.begin() + static_cast<std::ptrdiff_t>(selStart_);
+  const auto next = cells_.erase(at, at + static_cast<std::ptrdiff_t>(selLength_));
+  cells_.insert(next, cells.begin(), cells.end());
+  if (!cells.empty()) insertionLook_ = cells.back().look;
+  selStart_ += cells.size();
+  selLength_ = 0;
+}
+
+std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(std::u16string_view text) const {
+  const Look& look = selLength_ > 0 ? cells_[selStart_].look : insertionLook_;
+  std::vector<Cell> cells;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    char16_t c = text[i];
+    if (c == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') continue;
+    if (c == u'\r' || c == u'\n') c = lines_ == Lines::Single ? u' ' : u'\n';
+    cells.push_back({c, look});
+  }
+  return cells;
+}
+
+std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(
+    const richtext::Document& document) const {
+  std::vector<Cell> cells;
+  std::size_t at = 0;
+  for (const richtext::Run& run : document.runs) {
+    Look look;
+    look.fontName = document.fonts[run.format.font].name;
+    look.fontSize = run.format.halfPoints / 2.0;
+    look.color = std::max<Color>(run.format.color, 0);
+    look.bold = run.format.bold;
+    look.italic = run.format.italic;
+    look.underline = run.format.underline;
+    look.strikethrough = run.format.strikethrough;
+    for (std::size_t end = at + run.length; at < end; ++at) {
+      const char16_t c = document.text[at];
+      cells.push_back({c == u'\n' && lines_ == Lines::Single ? u' ' : c, look});
+    }
+  }
+  return cells;
+}
+
+void FakeRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
+  if (format == TextFileFormat::PlainText) return SetText(files_.ReadText(path));
+  ReplaceAll(CellsOf(richtext::ReadRtf(files_.ReadBytes(path))));
+}
+
+void FakeRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) const {
+  files_.ReplaceText(path, format == TextFileFormat::PlainText ? Text() : Rtf());
+}
+
+void FakeRichTextBox::Type(std::u16string_view keys) {
+  for (const char16_t key : keys) {
+    if (!PressKey(0)) continue;
+    int charCode = key;
+    if (onKeyPress) onKeyPress(charCode);
+    if (charCode == 0 || locked) continue;
+    const char16_t typed[] = {static_cast<char16_t>(charCode)};
+    SetSelText({typed, 1});
+    RaiseSelChange();
+  }
+}
+
+bool FakeRichTextBox::PressKey(int keyCode, int shift) {
+  int code = keyCode;
+  if (onKeyDown) onKeyDown(code, shift);
+  return code != 0 || keyCode == 0;
+}
+
+}  // namespace verlume::fake

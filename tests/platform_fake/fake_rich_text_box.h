@@ -1,0 +1,84 @@
+// A rich-text box in memory: every character with its format.
+#pragma once
+
+#include <vector>
+
+#include "platform/rich_text_box.h"
+#include "platform_fake/fake_controls.h"
+#include "platform_fake/fake_file_system.h"
+
+namespace verlume::fake {
+
+class FakeRichTextBox : public FakeControl<RichTextBox> {
+ public:
+  enum class Lines { Many, Single };
+
+  explicit FakeRichTextBox(FakeFileSystem& files, Lines lines = Lines::Many)
+      : files_(files), lines_(lines) {}
+
+  std::u16string Text() const override;
+  std::size_t TextLength() const override { return cells_.size(); }
+  void SetText(std::u16string_view text) override;
+  std::u16string Rtf() const override;
+  void SetRtf(std::u16string_view rtf) override;
+  std::size_t SelStart() const override { return selStart_; }
+  std::size_t SelLength() const override { return selLength_; }
+  void Select(std::size_t start, std::size_t length) override;
+  SelectionFormat SelFormat() const override;
+  void SetSelFormat(const SelectionFormat& format) override;
+  void SetSelText(std::u16string_view text) override;
+  void SetSelRtf(std::u16string_view rtf) override;
+  void SetFontCharset(int charset) override { charset_ = charset; }
+  void LoadFile(std::u16string_view path, TextFileFormat format) override;
+  void SaveFile(std::u16string_view path, TextFileFormat format) const override;
+  void SetLocked(bool value) override { locked = value; }
+  bool Locked() const override { return locked; }
+  void SetTag(std::u16string_view text) override { tag = text; }
+  std::u16string Tag() const override { return tag; }
+  void SetBackColor(Color color) override { backColor = color; }
+  Color BackColor() const override { return backColor; }
+
+  // As the user does it: each character through onKeyDown and onKeyPress, then, unless swallowed,
+  // into the box. Type(u"\r") is Enter.
+  void Type(std::u16string_view keys);
+  // A key with a code of its own; false when the handler swallowed it.
+  bool PressKey(int keyCode, int shift = 0);
+
+  bool locked = false;
+  std::u16string tag;
+  Color backColor = 0xFFFFFF;
+
+ private:
+  struct Look {
+    std::u16string fontName = u"Arial";
+    double fontSize = 10;
+    Color color = 0;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    bool strikethrough = false;
+    bool operator==(const Look&) const = default;
+  };
+  struct Cell {
+    char16_t character;
+    Look look;
+  };
+
+  void Insert(const std::vector<Cell>& cells);
+  std::vector<Cell> CellsOf(std::u16string_view text) const;
+  std::vector<Cell> CellsOf(const richtext::Document& document) const;
+  void ReplaceAll(std::vector<Cell> cells);
+  void RaiseSelChange() {
+    if (onSelChange) onSelChange();
+  }
+
+  FakeFileSystem& files_;
+  Lines lines_;
+  std::vector<Cell> cells_;
+  std::size_t selStart_ = 0;
+  std::size_t selLength_ = 0;
+  Look insertionLook_;
+  int charset_ = richtext::kGreekCharset;
+};
+
+}  // namespace verlume::fake

@@ -1,0 +1,137 @@
+#include "platform_fake/fake_socket.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/run_time_failure.h"
+#include "richtext/code_pages.h"
+
+namespace verlume::fake {
+
+void FakeNetwork::RunUntilIdle() {
+  while (!events_.empty()) {
+    const auto event = std::move(events_.front());
+    events_.pop_front();
+    event();
+  }
+}
+
+FakeSocket::~FakeSocket() {
+  Close();
+  network_.sockets_.erase(this);
+}
+
+// Queues an event of the connection that the socket holds now.
+void FakeSocket::Post(std::function<void()> event) {
+  network_.events_.push_back([this, generation = generation_, event = std::move(event)] {
+    if (network_.sockets_.contains(this) && generation == generation_) event();
+  });
+}
+
+void FakeSocket::Listen() {
+  if (localPort_ == 0) localPort_ = network_.nextPort_++;
+  if (network_.listeners_.contains(localPort_)) throw RunTimeFailure(FailureNumber::AddressInUse);
+  network_.listeners_[localPort_] = this;
+  state_ = SocketState::Listening;
+}
+
+void FakeSocket::Connect() {
+  state_ = SocketState::Connecting;
+  localPort_ = network_.nextPort_++;
+  Post([this] {
+    const auto listener = network_.listeners_.find(remotePort_);
+    if (listener == network_.listeners_.end()) return LosePeer();
+    state_ = SocketState::Connected;
+    peer_ = listener->second;
+    remoteHostIP_ = peer_->localIP;
+    peer_->callers_.push_back(this);
+    peer_->AskNextCaller();
+    if (onConnect) onConnect();
+  });
+}
+
+void FakeSocket::AskNextCaller() {
+  if (request_ != 0 || callers_.empty()) return;
+  pending_ = callers_.front();
+  callers_.pop_front();
+  request_ = network_.nextRequest_++;
+  Post([this, caller = pending_, request = request_] {
+    remoteHostIP_ = caller->localIP;
+    remotePort_ = caller->localPort_;
+    if (onConnectionRequest) onConnectionRequest(request);
+  });
+}
+
+void FakeSocket::Accept(std::int64_t requestId) {
+  FakeSocket* caller = requestId == request_ ? std::exchange(pending_, nullptr) : nullptr;
+  request_ = 0;
+  if (!caller) return Post([this] { LosePeer(); });
+  peer_ = caller;
+  caller->peer_ = this;
+  state_ = SocketState::Connected;
+  for (const std::u16string& text : std::exchange(caller->sent, {})) {
+    caller->sent.push_back(text);
+    Arrive(text);
+  }
+}
+
+// As on a real machine, closing a listener leaves the caller being asked about to Accept; those
+// behind it are refused.
+void FakeSocket::Close() {
+  if (state_ == SocketState::Listening) {
+    network_.listeners_.erase(localPort_);
+    for (FakeSocket* caller : std::exchange(callers_, {})) {
+      caller->Post([caller] { caller->LosePeer(); });
+    }
+  } else {
+    request_ = 0;
+    pending_ = nullptr;
+  }
+  if (FakeSocket* peer = std::exchange(peer_, nullptr)) {
+    std::erase(peer->callers_, this);
+    if (peer->pending_ == this) peer->pending_ = nullptr;
+    if (peer->peer_ == this) {
+      peer->peer_ = nullptr;
+      peer->Post([peer] { peer->LosePeer(); });
+    }
+  }
+  state_ = SocketState::Closed;
+  unread_.clear();
+  ++generation_;
+}
+
+void FakeSocket::LosePeer() {
+  state_ = SocketState::Closed;
+  peer_ = nullptr;
+  if (onClose) onClose();
+}
+
+void FakeSocket::SendData(std::u16string_view text) {
+  if (state_ != SocketState::Connected) return;
+  sent.emplace_back(text);
+  if (peer_ && peer_->peer_ == this) {
+    peer_->Arrive(richtext::DecodeGreek(richtext::EncodeGreek(text)));
+  }
+}
+
+void FakeSocket::Arrive(std::u16string text) {
+  if (!network_.joinArrivals) {
+    return Post([this, text = std::move(text)] {
+      arrival_ = text;
+      if (onDataArrival) onDataArrival(static_cast<std::int32_t>(text.size()));
+    });
+  }
+  unread_ += text;
+  Post([this] {
+    arrival_ = std::exchange(unread_, {});
+    if (!arrival_.empty() && onDataArrival) {
+      onDataArrival(static_cast<std::int32_t>(arrival_.size()));
+    }
+  });
+}
+
+std::u16string FakeSocket::GetData() {
+  return std::exchange(arrival_, {});
+}
+
+}  // namespace verlume::fake

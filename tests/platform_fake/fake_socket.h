@@ -1,0 +1,79 @@
+// Sockets in memory. The sockets of one network reach each other by port, whatever the host name;
+// their events wait in the network's queue until a test lets them through.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <memory>
+#include <set>
+#include <vector>
+
+#include "platform/socket.h"
+
+namespace verlume::fake {
+
+class FakeSocket;
+
+class FakeNetwork {
+ public:
+  // Raises every event that waits, and those that follow from them.
+  void RunUntilIdle();
+
+  // All that waits for one reader becomes one arrival, as TCP may do.
+  bool joinArrivals = false;
+
+ private:
+  friend class FakeSocket;
+  std::deque<std::function<void()>> events_;
+  std::map<std::int32_t, FakeSocket*> listeners_;
+  std::set<const FakeSocket*> sockets_;
+  std::int32_t nextPort_ = 49152;
+  std::int64_t nextRequest_ = 1;
+};
+
+class FakeSocket : public Socket {
+ public:
+  explicit FakeSocket(FakeNetwork& network) : network_(network) { network_.sockets_.insert(this); }
+  ~FakeSocket() override;
+
+  SocketState State() const override { return state_; }
+  void SetLocalPort(std::int32_t port) override { localPort_ = port; }
+  std::int32_t LocalPort() const override { return localPort_; }
+  void SetRemoteHost(std::u16string_view host) override { remoteHost = host; }
+  void SetRemotePort(std::int32_t port) override { remotePort_ = port; }
+  std::u16string RemoteHostIP() const override { return remoteHostIP_; }
+  std::int32_t RemotePort() const override { return remotePort_; }
+  std::u16string LocalIP() const override { return localIP; }
+  std::u16string LocalHostName() const override { return u"fakehost"; }
+  void Listen() override;
+  void Connect() override;
+  void Accept(std::int64_t requestId) override;
+  void Close() override;
+  void SendData(std::u16string_view text) override;
+  std::u16string GetData() override;
+
+  std::u16string remoteHost;
+  std::u16string localIP = u"192.0.2.1";
+  std::vector<std::u16string> sent;  // every text handed to SendData while connected
+
+ private:
+  void Post(std::function<void()> event);
+  void Arrive(std::u16string text);
+  void LosePeer();
+  void AskNextCaller();
+
+  FakeNetwork& network_;
+  SocketState state_ = SocketState::Closed;
+  std::int32_t localPort_ = 0;
+  std::int32_t remotePort_ = 0;
+  std::u16string remoteHostIP_;
+  FakeSocket* peer_ = nullptr;
+  std::deque<FakeSocket*> callers_;  // of a listener: those that wait to be accepted
+  std::int64_t request_ = 0;         // the caller being asked about, 0 for none
+  FakeSocket* pending_ = nullptr;    // that caller, until it leaves
+  std::u16string unread_;
+  std::u16string arrival_;
+  int generation_ = 0;  // events of an earlier connection are dropped
+};
+
+}  // namespace verlume::fake
