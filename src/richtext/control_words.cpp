@@ -1,6 +1,7 @@
 #include "richtext/control_words.h"
 
-#include <cstring>
+#include <array>
+#include <iterator>
 
 namespace verlume::richtext {
 namespace {
@@ -94,7 +95,6 @@ constexpr ControlWord kControlWords[] = {
     {"aftncn", Action::kUnshown},
     {"aftnsep", Action::kUnshown},
     {"aftnsepc", Action::kUnshown},
-    {"colorschememapping", Action::kUnshown},
     {"datafield", Action::kUnshown},
     {"datastore", Action::kUnshown},
     {"falt", Action::kUnshown},
@@ -118,7 +118,6 @@ constexpr ControlWord kControlWords[] = {
     {"headerr", Action::kUnshown},
     {"info", Action::kUnshown},
     {"latentstyles", Action::kUnshown},
-    {"listoverridetable", Action::kUnshown},
     {"listtable", Action::kUnshown},
     {"listtext", Action::kUnshown},
     {"mmathPr", Action::kUnshown},
@@ -148,24 +147,35 @@ constexpr ControlWord kControlWords[] = {
     {"xmlnstbl", Action::kUnshown},
 };
 
+constexpr std::size_t kRows = std::size(kControlWords);
 constexpr std::size_t kSlots = 1024;  // sparse, so that a look-up seldom takes a second step
-constexpr std::uint32_t kSlotShift = 32 - 10;
 constexpr ControlWord kUnknownWord;
 
-constexpr std::uint32_t Hash(std::string_view name) {
-  ControlWordName hashed{};
-  for (const char character : name) hashed.Add(character);
-  return hashed.hash;
+constexpr std::array<ControlWordName, kRows> PackNames() {
+  std::array<ControlWordName, kRows> names;
+  for (std::size_t row = 0; row < kRows; ++row) {
+    const std::string_view name = kControlWords[row].name;
+    const char* place = name.data();
+    names[row] = ControlWordName::Read(place, place + name.size());
+  }
+  return names;
+}
+
+constexpr std::array<ControlWordName, kRows> kNames = PackNames();
+
+constexpr std::size_t FirstSlot(const ControlWordName& name) {
+  constexpr std::uint64_t kMix = 0x9E3779B97F4A7C15u;
+  return static_cast<std::size_t>((name.head ^ name.tail) * kMix >> 54);
 }
 
 // An open hash table of row numbers (one-based, 0 is a free slot), made at compile time.
 constexpr std::array<std::uint8_t, kSlots> MakeSlots() {
-  static_assert(std::size(kControlWords) < 255);
+  static_assert(kRows < 255);
   std::array<std::uint8_t, kSlots> slots{};
-  for (std::size_t i = 0; i < std::size(kControlWords); ++i) {
-    std::size_t slot = Hash(kControlWords[i].name) >> kSlotShift;
+  for (std::size_t row = 0; row < kRows; ++row) {
+    std::size_t slot = FirstSlot(kNames[row]);
     while (slots[slot] != 0) slot = (slot + 1) % kSlots;
-    slots[slot] = static_cast<std::uint8_t>(i + 1);
+    slots[slot] = static_cast<std::uint8_t>(row + 1);
   }
   return slots;
 }
@@ -175,13 +185,9 @@ constexpr std::array<std::uint8_t, kSlots> kSlotTable = MakeSlots();
 }  // namespace
 
 const ControlWord& FindControlWord(const ControlWordName& name) {
-  if (name.length > name.characters.size()) return kUnknownWord;
-  for (std::size_t slot = name.hash >> kSlotShift; kSlotTable[slot] != 0;
-       slot = (slot + 1) % kSlots) {
-    const ControlWord& word = kControlWords[kSlotTable[slot] - 1];
-    const bool same = word.name.size() == name.length &&
-                      std::memcmp(word.name.data(), name.characters.data(), name.length) == 0;
-    if (same) return word;
+  for (std::size_t slot = FirstSlot(name); kSlotTable[slot] != 0; slot = (slot + 1) % kSlots) {
+    const std::size_t row = kSlotTable[slot] - std::size_t{1};
+    if (kNames[row] == name) return kControlWords[row];
   }
   return kUnknownWord;
 }

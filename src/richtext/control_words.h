@@ -1,10 +1,11 @@
 // The control words the RTF reader knows, each with what it does.
 #pragma once
 
-#include <array>
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
 
 #include "richtext/rtf_limits.h"
 
@@ -51,17 +52,43 @@ struct ControlWord {
   std::uint16_t value = 0;
 };
 
-// A control word's name while it is being read: the characters and their hash in one pass. Only the
-// first limits::kMaxControlWordLength characters are held, `length` counts all of them.
-struct ControlWordName {
-  std::array<char, limits::kMaxControlWordLength> characters;
-  std::size_t length = 0;
-  std::uint32_t hash = 0;
+template <typename Ch>
+constexpr bool IsAsciiLetter(Ch character) {
+  return (static_cast<std::make_unsigned_t<Ch>>(character) | 0x20u) - 'a' < 26u;
+}
 
-  constexpr void Add(char character) {
-    if (length < characters.size()) characters[length] = character;
-    ++length;
-    hash = (hash ^ static_cast<unsigned char>(character)) * 0x01000193u;
+// A control word's name, its letters packed into two numbers so that comparing costs next to
+// nothing. A name too long for them is empty: no known word has it.
+struct ControlWordName {
+  std::uint64_t head = 0;  // the first eight letters
+  std::uint64_t tail = 0;
+
+  // Reads the letters at `place` and moves it behind them.
+  template <typename Ch>
+  static constexpr ControlWordName Read(const Ch*& place, const Ch* end) {
+    const std::uint64_t first = ReadHalf(place, end);
+    const ControlWordName name{first, ReadHalf(place, end)};
+    if (place == end || !IsAsciiLetter(*place)) return name;
+    place = std::find_if_not(place, end, IsAsciiLetter<Ch>);
+    return {};
+  }
+
+  constexpr bool operator==(const ControlWordName&) const = default;
+
+ private:
+  static constexpr std::ptrdiff_t kHalf = limits::kMaxControlWordLength / 2;
+  static_assert(kHalf == sizeof head);
+
+  template <typename Ch>
+  static constexpr std::uint64_t ReadHalf(const Ch*& place, const Ch* end) {
+    const Ch* at = place;
+    const Ch* halfEnd = at + std::min(end - at, kHalf);
+    std::uint64_t packed = 0;
+    for (; at != halfEnd && IsAsciiLetter(*at); ++at) {
+      packed = packed << 8 | static_cast<unsigned char>(*at);
+    }
+    place = at;
+    return packed;
   }
 };
 

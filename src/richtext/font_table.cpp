@@ -60,20 +60,6 @@ void FontTable::SetDocumentCodePage(int codePage) {
   documentUpperHalf_ = UpperHalf(codePage);
 }
 
-std::uint16_t FontTable::IndexOf(int number) const {
-  const auto place = static_cast<std::size_t>(number);
-  return number >= 0 && place < indexOfNumber_.size() ? indexOfNumber_[place] : kDefaultFont;
-}
-
-const char16_t* FontTable::UpperHalfOf(std::uint16_t index) const {
-  const char16_t* own = entries_[Resolve(index)].upperHalf;
-  return own != nullptr ? own : documentUpperHalf_;
-}
-
-std::uint16_t FontTable::Resolve(std::uint16_t index) const {
-  return index == kDefaultFont ? IndexOf(defaultNumber_) : index;
-}
-
 void FontTable::GiveFontsTo(Document& document) const {
   constexpr std::uint16_t kUnused = 0xFFFF;
   std::vector<std::uint16_t> newIndices(entries_.size(), kUnused);

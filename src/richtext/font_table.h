@@ -30,10 +30,16 @@ class FontTable {
   void SetDocumentCodePage(int codePage);
 
   // kDefaultFont for numbers that are not declared.
-  std::uint16_t IndexOf(int number) const;
+  std::uint16_t IndexOf(int number) const {
+    const auto place = static_cast<std::size_t>(number);
+    return number >= 0 && place < indexOfNumber_.size() ? indexOfNumber_[place] : kDefaultFont;
+  }
 
   // The characters of the bytes 0x80 to 0xFF in the font of this index.
-  const char16_t* UpperHalfOf(std::uint16_t index) const;
+  const char16_t* UpperHalfOf(std::uint16_t index) const {
+    const char16_t* own = entries_[Resolve(index)].upperHalf;
+    return own != nullptr ? own : documentUpperHalf_;
+  }
 
   // The same for the name that is being read.
   const char16_t* UpperHalfOfName() const { return UpperHalfOf(current_); }
@@ -48,7 +54,9 @@ class FontTable {
     const char16_t* upperHalf = nullptr;  // null: the document's
   };
 
-  std::uint16_t Resolve(std::uint16_t index) const;
+  std::uint16_t Resolve(std::uint16_t index) const {
+    return index == kDefaultFont ? IndexOf(defaultNumber_) : index;
+  }
 
   std::vector<Entry> entries_;
   std::vector<std::uint16_t> indexOfNumber_;

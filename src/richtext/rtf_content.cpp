@@ -207,10 +207,6 @@ Color RtfContent::ColorOf(int number) const {
   return number >= 0 && place < colors_.size() ? colors_[place] : kAutomaticColor;
 }
 
-const char16_t* RtfContent::UpperHalf() const {
-  return InBody() ? fonts_.UpperHalfOf(state_.format.font) : fonts_.UpperHalfOfName();
-}
-
 Document RtfContent::Finish() {
   Document document = builder_.Finish();
   fonts_.GiveFontsTo(document);

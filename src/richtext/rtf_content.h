@@ -43,9 +43,9 @@ class RtfContent {
     builder_.Append(unit == u'\r' ? u'\n' : unit);
   }
 
-  // A byte, in the code page of the font in force.
-  void AppendByte(unsigned char byte) {
-    Append(byte < 0x80 ? char16_t{byte} : UpperHalf()[byte - 0x80]);
+  // The characters of the bytes 0x80 to 0xFF in the font in force.
+  const char16_t* UpperHalf() const {
+    return InBody() ? fonts_.UpperHalfOf(state_.format.font) : fonts_.UpperHalfOfName();
   }
 
   void AppendCodePoint(char32_t codePoint);
@@ -65,7 +65,6 @@ class RtfContent {
 
  private:
   bool InBody() const { return state_.destination == Destination::kBody; }
-  const char16_t* UpperHalf() const;
   void AppendToTable(char16_t unit);
   bool ApplyFormat(const ControlToken& token);
   void ApplyToDocument(const ControlToken& token);

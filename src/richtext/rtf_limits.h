@@ -9,7 +9,7 @@ namespace verlume::richtext::limits {
 inline constexpr std::size_t kMaxGroupDepth = 256;
 
 // Longer control words are read over as unknown ones.
-inline constexpr std::size_t kMaxControlWordLength = 32;
+inline constexpr std::size_t kMaxControlWordLength = 16;
 
 // A control word's number is held within plus and minus this.
 inline constexpr int kMaxParameter = 100'000'000;

@@ -1,6 +1,8 @@
 #include "richtext/rtf_parser.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <string>
 
 #include "richtext/utf8.h"
@@ -220,8 +222,24 @@ void RtfParser<Ch>::Emit(char16_t unit) {
 template <typename Ch>
 void RtfParser<Ch>::EmitByte(unsigned char byte) {
   if (SkipFallback()) return;
-  const bool emitted = content_.IsUtf8() && byte >= 0x80 && TryEmitUtf8(byte);
-  if (!emitted) content_.AppendByte(byte);
+  if (byte < 0x80) return content_.Append(byte);
+  const bool emitted = content_.IsUtf8() && TryEmitUtf8(byte);
+  if (!emitted) EmitUpperBytes(byte);
+}
+
+// Such bytes come in stretches: words of a language with letters of its own.
+template <typename Ch>
+void RtfParser<Ch>::EmitUpperBytes(unsigned char first) {
+  const char16_t* upperHalf = content_.UpperHalf();
+  std::array<char16_t, 64> units;
+  std::size_t count = 0;
+  units[count++] = upperHalf[first - 0x80];
+  while (!content_.IsUtf8() && count < units.size()) {
+    const auto byte = tokens_.ReadUpperByte();
+    if (!byte) break;
+    units[count++] = upperHalf[*byte - 0x80];
+  }
+  content_.Append(units.data(), units.data() + count);
 }
 
 template <typename Ch>

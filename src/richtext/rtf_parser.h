@@ -31,6 +31,7 @@ class RtfParser {
 
   void Emit(char16_t unit);
   void EmitByte(unsigned char byte);
+  void EmitUpperBytes(unsigned char first);
   void EmitBreak(bool endsParagraph);
   bool TryEmitUtf8(unsigned char first);
   bool SkipFallback();

@@ -37,7 +37,7 @@ class RtfTokens {
   static constexpr unsigned Value(Ch character) {
     return static_cast<std::make_unsigned_t<Ch>>(character);
   }
-  static constexpr bool IsLetter(Ch character) { return (Value(character) | 0x20u) - 'a' < 26u; }
+  static constexpr bool IsLetter(Ch character) { return IsAsciiLetter(character); }
   static constexpr bool IsDigit(Ch character) { return Value(character) - '0' < 10u; }
 
   // The end of the text that begins here. Bytes above 127 end it: they have to be decoded.
@@ -50,9 +50,7 @@ class RtfTokens {
   // With the backslash read and a letter next: the control word, its number and the blank that
   // delimits it.
   ControlToken ReadControlWord() {
-    ControlWordName name;
-    for (; at_ != end_ && IsLetter(*at_); ++at_) name.Add(static_cast<char>(*at_));
-    ControlToken token{&FindControlWord(name)};
+    ControlToken token{&FindControlWord(ControlWordName::Read(at_, end_))};
     const bool negative = Left() > 1 && *at_ == '-' && IsDigit(at_[1]);
     if (negative) ++at_;
     token.hasParameter = at_ != end_ && IsDigit(*at_);
@@ -114,8 +112,10 @@ class RtfTokens {
 
   int ReadDigits() {
     int number = 0;
-    for (; at_ != end_ && IsDigit(*at_); ++at_) {
-      const int digit = static_cast<int>(Value(*at_) - '0');
+    const Ch* begin = at_;
+    at_ = std::find_if_not(begin, end_, IsDigit);
+    for (const Ch* place = begin; place != at_; ++place) {
+      const int digit = static_cast<int>(Value(*place) - '0');
       if (number < limits::kMaxParameter) number = number * 10 + digit;
     }
     return std::min(number, limits::kMaxParameter);

@@ -1,6 +1,7 @@
 // Gathers the text of a document and the runs over it.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 
 #include "richtext/document.h"
@@ -9,17 +10,23 @@ namespace verlume::richtext {
 
 class RunBuilder {
  public:
-  explicit RunBuilder(std::size_t expectedLength) { text_.reserve(expectedLength); }
+  explicit RunBuilder(std::size_t expectedLength) {
+    text_.reserve(expectedLength);
+    runs_.reserve(8);  // enough for a chat line
+  }
 
   // The format of what is appended from here on.
   void SetFormat(const CharFormat& format);
 
   void Append(char16_t unit) { text_.push_back(unit); }
 
-  // Characters of a string, or ASCII bytes.
-  template <typename Ch>
-  void Append(const Ch* begin, const Ch* end) {
-    text_.append(begin, end);
+  void Append(const char16_t* begin, const char16_t* end) { text_.append(begin, end); }
+
+  // ASCII bytes.
+  void Append(const char* begin, const char* end) {
+    const std::size_t length = text_.size();
+    text_.resize(length + static_cast<std::size_t>(end - begin));
+    std::copy(begin, end, text_.begin() + static_cast<std::ptrdiff_t>(length));
   }
 
   // Appends a line break that ends a paragraph: the last one of the document adds no empty line.
