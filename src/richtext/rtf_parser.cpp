@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "richtext/utf8.h"
@@ -193,7 +194,7 @@ void RtfParser<Ch>::Apply(const ControlToken& token) {
 // One UTF-16 unit, signed as it should be or unsigned; some writers put a whole code point there.
 template <typename Ch>
 void RtfParser<Ch>::ApplyUnicode(int number) {
-  if (number > 0x10FFFF) {
+  if (number < INT16_MIN || number > 0x10FFFF) {
     content_.Append(kReplacement);
   } else if (number > 0xFFFF) {
     content_.AppendCodePoint(static_cast<char32_t>(number));

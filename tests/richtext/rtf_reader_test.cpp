@@ -112,6 +112,126 @@ TEST(RtfReaderTest, TheFontsCharsetDecidesTheCodePage) {
   EXPECT_EQ(ReadText("\\f0 \xe1\\f1 \xe1\\f2 \xe1"), "αáα");
 }
 
+TEST(RtfReaderTest, FontsThatNameNoPageFollowTheDocument) {
+  const Case cases[] = {
+      {R"({\rtf1\ansi \'e1})", "á"},
+      {R"({\rtf1 \'e1})", "á"},
+      {R"({\rtf1\ansicpg1251 \'e1})", "б"},
+      {R"({\rtf1\mac \'8e})", "é"},
+      {R"({\rtf1\pc \'e1})", "ß"},
+      {R"({\rtf1\pc \'9e})", "₧"},
+      {R"({\rtf1\pca \'9e})", "×"},
+      {R"({\rtf1\ansi\ansicpg437 \'e0})", "α"},
+      {R"({\rtf1\ansi\ansicpg932 \'e1})", "á"},
+      {R"({\rtf1\ansicpg1253{\fonttbl{\f0\fcharset1 A;}}\'e1})", "α"},
+      {R"({\rtf1\ansicpg1253{\fonttbl{\f0\fcharset2 A;}}\'e1})", "α"},
+      {R"({\rtf1{\fonttbl{\f0\cpg1253 A;}}\'e1})", "α"},
+      {R"({\rtf1{\fonttbl{\f0\fcharset204\cpg1253 A;}}\'e1})", "α"},
+      {R"({\rtf1{\fonttbl{\f0\fcharset204\cpg99 A;}}\'e1})", "б"},
+  };
+  for (const auto& [rtf, text] : cases) EXPECT_EQ(DumpText(ReadRtf(rtf).text), text) << rtf;
+}
+
+TEST(RtfReaderTest, Utf8OfADocumentThatDeclaresItIsRead) {
+  const std::string head = "{\\rtf1\\ansicpg65001{\\fonttbl{\\f0\\fcharset161 A;}}";
+  const auto read = [&](const std::string& body) {
+    return DumpText(ReadRtf(std::string_view(head + body + "}")).text);
+  };
+  EXPECT_EQ(read("\xCE\xB1\xE2\x82\xAC\xF0\x9F\x98\x80 x"), "α€😀 x");
+  EXPECT_EQ(read("\\'ce\\'b1\\'e2\\'82\\'ac x"), "α€ x");
+  EXPECT_EQ(read("\\'e1\\'e2 \xE1"), "αβ α");  // not UTF-8: the font's page
+  EXPECT_EQ(read("\xCE\\b \xB1"), "Ξ±");
+  EXPECT_EQ(DumpText(ReadRtf(u"{\\rtf1\\ansicpg65001 \u00CE\u00B1\\'ce\\'b1}").text), "Î±α");
+}
+
+TEST(RtfReaderTest, FontTablesAreReadInTheirManyShapes) {
+  const Case cases[] = {
+      {R"({\rtf1{\fonttbl\f0\fswiss A;\f1 B;}\f1 x})", "B/1 12 auto -|x\n"},
+      {R"({\rtf1{\fonttbl{\f0 A;}{\f5\fcharset161{\*\panose 02}B{\*\falt C};}}\f5 x})",
+       "B/161 12 auto -|x\n"},
+      {R"({\rtf1{\fonttbl{\f0 A}{\f1 B}}\f1 x})", "B/1 12 auto -|x\n"},
+      {R"({\rtf1{\fonttbl{\f0\fcharset161 \'c1\u233?\u946?;}}x})", "Αéβ/161 12 auto -|x\n"},
+      {R"({\rtf1\deff1{\fonttbl{\f0 A;}{\f1 B;}}x\f0 y\plain z\f9 w})",
+       "B/1 12 auto -|x\nA/1 12 auto -|y\nB/1 12 auto -|zw\n"},
+      {R"({\rtf1{\fonttbl{\f0 A;}{\f1 A;}}x\f1 y})", "A/1 12 auto -|xy\n"},
+      {R"({\rtf1{\*\fonttbl{\f0 A;}}x})", "A/1 12 auto -|x\n"},
+      {R"({\rtf1 x{\fonttbl{\f0 A;}}y})", "A/1 12 auto -|xy\n"},
+  };
+  for (const auto& [rtf, dump] : cases) EXPECT_EQ(Dump(ReadRtf(rtf)), dump) << rtf;
+}
+
+TEST(RtfReaderTest, ColorTablesAreReadInTheirManyShapes) {
+  const Case cases[] = {
+      {R"({\rtf1{\colortbl;\red255;\green128;}\cf1 a\cf2 b\cf0 c\cf3 d})",
+       "/161 12 #ff0000 -|a\n/161 12 #008000 -|b\n/161 12 auto -|cd\n"},
+      {R"({\rtf1{\colortbl\red1\green2\blue3;\red300\green-1\blue0;}a\cf0 b\cf1 c\cf d})",
+       "/161 12 auto -|a\n/161 12 #010203 -|b\n/161 12 #ff0000 -|c\n/161 12 #010203 -|d\n"},
+      {R"({\rtf1{\*\colortbl;\red0\green0\blue0;\red255\green255\blue255;}\cf1 a\cf2 b})",
+       "/161 12 #000000 -|a\n/161 12 #ffffff -|b\n"},
+      {R"({\rtf1\red255 a\fcharset2 b})", "/161 12 auto -|ab\n"},
+  };
+  for (const auto& [rtf, dump] : cases) EXPECT_EQ(Dump(ReadRtf(rtf)), dump) << rtf;
+}
+
+TEST(RtfReaderTest, CharactersBehindUnicodeArePassedOverAndNothingElse) {
+  const Case cases[] = {
+      {R"(\u945\endash x)", "αx"},
+      {R"(\u945\~x)", "αx"},
+      {R"(\u945\{x)", "αx"},
+      {R"(\u945\u946?x)", "αβx"},
+      {R"(\u945\b x)", "αx"},
+      {R"(\u945\par x)", R"(α\nx)"},
+      {R"(\u945\line x)", R"(α\nx)"},
+      {R"(\uc2\u945{x}y)", "αxy"},
+      {R"(\uc3\u945?\'e1\bin2 {}x)", "αx"},
+      {"\\u945\r\n?x", "αx"},
+      {R"(\uc2\u945 abc)", "αc"},
+      {R"(\u x)", "x"},
+  };
+  for (const auto& [rtf, text] : cases) EXPECT_EQ(ReadText(rtf), text) << rtf;
+}
+
+TEST(RtfReaderTest, EveryNamedCharacterIsRead) {
+  EXPECT_EQ(
+      ReadText(R"(\emdash\endash\lquote\rquote\ldblquote\rdblquote\bullet\enspace\emspace)"
+               R"(\qmspace\zwbo\zwnj\zwj\ltrmark\rtlmark\zwnbo\tab\nestcell\~\_\-)"),
+      "—–‘’“”•\u2002\u2003\u2005\u200B\u200C\u200D\u200E\u200F\u2060\\t\\t\u00A0\u2011\u00AD");
+}
+
+TEST(RtfReaderTest, UnderlinesOfEveryKindShowAsUnderline) {
+  for (const std::string word : {"ul", "uld", "uldash", "uldashd", "uldashdd", "uldb", "ulhair",
+                                 "ulhwave", "ulldash", "ulth", "ulthd", "ulthdash", "ulthdashd",
+                                 "ulthdashdd", "ulthldash", "ululdbwave", "ulw", "ulwave"}) {
+    EXPECT_EQ(ReadRuns("\\" + word + " a\\" + word + "0 b"),
+              "Tahoma/161 8 auto u|a\nTahoma/161 8 auto -|b\n")
+        << word;
+  }
+}
+
+TEST(RtfReaderTest, BrokenSymbolsLoseNoText) {
+  const Case cases[] = {
+      {R"(a\'zzb)", "azzb"}, {R"(a\'ezb)", "aezb"},  {R"(a\'{b}c)", "abc"}, {R"(a\ b)", "ab"},
+      {R"(a\*b)", "ab"},     {R"(a\* \b c)", "a c"}, {"a\\\xE1", "aα"},     {R"(a\|\:b)", "ab"},
+  };
+  for (const auto& [rtf, text] : cases) EXPECT_EQ(ReadText(rtf), text) << rtf;
+}
+
+TEST(RtfReaderTest, ControlCharactersAreHarmless) {
+  EXPECT_EQ(ReadText(R"(a\'0db\'0ac\u13?d)"), R"(a\nb\nc\nd)");
+  EXPECT_EQ(ReadText(R"(a\'00b\u0?c\'09d)"), R"(a\u0000b\u0000c\td)");
+  EXPECT_EQ(ReadText(std::string_view("a\0b\x01", 4)), R"(ab\u0001)");
+}
+
+TEST(RtfReaderTest, OnlyTheExactSignatureMakesRtf) {
+  EXPECT_TRUE(LooksLikeRtf(u"{\\rtf1 a}"));
+  EXPECT_TRUE(LooksLikeRtf("{\\rtf"));
+  for (const std::string_view text :
+       {"", "{\\rt", " {\\rtf1}", "{\\RTF1}", "{ \\rtf1}", "\\rtf1"}) {
+    EXPECT_FALSE(LooksLikeRtf(text)) << text;
+    EXPECT_FALSE(LooksLikeRtf(std::u16string(text.begin(), text.end()))) << text;
+  }
+}
+
 TEST(RtfReaderTest, CharactersOfAStringStandForThemselves) {
   const Document document = ReadRtf(u"{\\rtf1\\ansi καλη😀\\'e9é\\par}");
   EXPECT_EQ(DumpText(document.text), "καλη😀éé");
