@@ -69,7 +69,7 @@ void FontTable::GiveFontsTo(Document& document) const {
     std::uint16_t& index = newIndices[old];
     if (index == kUnused) index = IndexIn(document.fonts, entries_[old].font);
     run.format.font = index;
-    // Two numbers may have named one font: such neighbours are one run.
+    // A format may have come and gone with no text, and two numbers may name one font.
     const bool joins = kept != 0 && document.runs[kept - 1].format == run.format;
     if (joins) {
       document.runs[kept - 1].length += run.length;

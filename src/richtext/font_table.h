@@ -45,7 +45,7 @@ class FontTable {
   const char16_t* UpperHalfOfName() const { return UpperHalfOf(current_); }
 
   // Gives the document the fonts its runs use, in the order of their first use, and the runs the
-  // indices of these.
+  // indices of these. Neighbours that turn out equal become one run.
   void GiveFontsTo(Document& document) const;
 
  private:

@@ -28,11 +28,7 @@ Document RunBuilder::Finish() {
 void RunBuilder::CloseRun() {
   const std::size_t length = text_.size() - runStart_;
   if (length == 0) return;
-  if (!runs_.empty() && runs_.back().format == format_) {
-    runs_.back().length += length;
-  } else {
-    runs_.push_back({length, format_});
-  }
+  runs_.push_back({length, format_});
   runStart_ = text_.size();
 }
 

@@ -32,7 +32,7 @@ class RunBuilder {
   // Appends a line break that ends a paragraph: the last one of the document adds no empty line.
   void EndParagraph();
 
-  // The text and the runs; the fonts are left empty.
+  // The text and the runs, of which neighbours may still be equal; the fonts are left empty.
   Document Finish();
 
  private:

@@ -92,8 +92,10 @@ TEST(CodePagesTest, BytesThatAreNotUtf8AreGreek) {
   EXPECT_EQ(DecodeUtf8OrGreek("\xEA\xE1\xEB\xE7"), u"καλη");
   EXPECT_EQ(DecodeUtf8OrGreek("\xCE\xB1\xE1"), u"αα");
   EXPECT_EQ(DecodeUtf8OrGreek("\xC0\x80"), std::u16string({u'ΐ', u'€'}));  // overlong
-  EXPECT_EQ(DecodeUtf8OrGreek("\xED\xA0\x80"), u"ν\u00A0€");               // a surrogate
-  EXPECT_EQ(DecodeUtf8OrGreek("\xE2\x82"), u"β‚");                         // cut off
+  EXPECT_EQ(DecodeUtf8OrGreek("\xE0\x80\x80"), u"ΰ€€");
+  EXPECT_EQ(DecodeUtf8OrGreek("\xF4\x90\x80\x80"), u"τ\u0090€€");  // above U+10FFFF
+  EXPECT_EQ(DecodeUtf8OrGreek("\xED\xA0\x80"), u"ν\u00A0€");       // a surrogate
+  EXPECT_EQ(DecodeUtf8OrGreek("\xE2\x82"), u"β‚");                 // cut off
 }
 
 }  // namespace

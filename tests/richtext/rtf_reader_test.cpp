@@ -85,7 +85,7 @@ TEST(RtfReaderTest, WhatCarriesNoShownTextIsPassedOver) {
       {R"(a{\info{\title t}}{\stylesheet{\s0 Normal;}}b)", "ab"},
       {R"({\header h}{\footer f}{\pntext\'b7\tab}a)", "a"},
       {R"(a{\object\objemb{\*\objdata 00}{\result r}}b)", "ab"},
-      {R"(a{\pict\bin3 }{}b}b)", "ab"},
+      {R"(a{\pict\bin3 }}}x}b)", "ab"},
       {R"(a\bin2 {}b)", "ab"},
       {R"(a{\v hidden}b)", "ahiddenb"},
       {R"(a{\unknown shown}b)", "ashownb"},
@@ -140,6 +140,7 @@ TEST(RtfReaderTest, Utf8OfADocumentThatDeclaresItIsRead) {
   EXPECT_EQ(read("\xCE\xB1\xE2\x82\xAC\xF0\x9F\x98\x80 x"), "α€😀 x");
   EXPECT_EQ(read("\\'ce\\'b1\\'e2\\'82\\'ac x"), "α€ x");
   EXPECT_EQ(read("\\'e1\\'e2 \xE1"), "αβ α");  // not UTF-8: the font's page
+  EXPECT_EQ(read("\xE1\xCE\xB1\\'e1\\'ce\\'b1"), "αααα");
   EXPECT_EQ(read("\xCE\\b \xB1"), "Ξ±");
   EXPECT_EQ(DumpText(ReadRtf(u"{\\rtf1\\ansicpg65001 \u00CE\u00B1\\'ce\\'b1}").text), "Î±α");
 }
@@ -155,6 +156,7 @@ TEST(RtfReaderTest, FontTablesAreReadInTheirManyShapes) {
        "B/1 12 auto -|x\nA/1 12 auto -|y\nB/1 12 auto -|zw\n"},
       {R"({\rtf1{\fonttbl{\f0 A;}{\f1 A;}}x\f1 y})", "A/1 12 auto -|xy\n"},
       {R"({\rtf1{\*\fonttbl{\f0 A;}}x})", "A/1 12 auto -|x\n"},
+      {R"({\rtf1{\fonttbl{\f0 A;}\par\line}x})", "A/1 12 auto -|x\n"},
       {R"({\rtf1 x{\fonttbl{\f0 A;}}y})", "A/1 12 auto -|xy\n"},
   };
   for (const auto& [rtf, dump] : cases) EXPECT_EQ(Dump(ReadRtf(rtf)), dump) << rtf;
@@ -182,6 +184,7 @@ TEST(RtfReaderTest, CharactersBehindUnicodeArePassedOverAndNothingElse) {
       {R"(\u945\b x)", "αx"},
       {R"(\u945\par x)", R"(α\nx)"},
       {R"(\u945\line x)", R"(α\nx)"},
+      {"\\u945\\\nx", R"(α\nx)"},
       {R"(\uc2\u945{x}y)", "αxy"},
       {R"(\uc3\u945?\'e1\bin2 {}x)", "αx"},
       {"\\u945\r\n?x", "αx"},
@@ -235,6 +238,7 @@ TEST(RtfReaderTest, OnlyTheExactSignatureMakesRtf) {
 TEST(RtfReaderTest, CharactersOfAStringStandForThemselves) {
   const Document document = ReadRtf(u"{\\rtf1\\ansi καλη😀\\'e9é\\par}");
   EXPECT_EQ(DumpText(document.text), "καλη😀éé");
+  EXPECT_EQ(ReadRtf(u"{\\rtf1\\ansicpg1253 \\'e1é}").text, u"αé");
 }
 
 TEST(RtfReaderTest, PlainTextIsOneRun) {
