@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -26,7 +27,17 @@ class Settings {
   void WriteSetting(std::u16string_view section, std::u16string_view key,
                     std::u16string_view value);
 
+  // The same for several keys of one section, in the order given and in one step: the file holds
+  // all of them or, on failure, none.
+  struct KeyValue {
+    std::u16string_view key;
+    std::u16string value;
+  };
+  void WriteSettings(std::u16string_view section, std::initializer_list<KeyValue> values);
+
  private:
+  std::u16string TextToChange() const;
+
   const AppState& state_;
   FileSystem& files_;
 };

@@ -1,0 +1,87 @@
+#include "shell/status_panel.h"
+
+#include <limits>
+
+#include "platform/run_time_failure.h"
+#include "shell/conversions.h"
+#include "shell/date_time_text.h"
+#include "shell/text_pair.h"
+
+namespace verlume {
+namespace {
+
+// The count in the label's tag, grown by `increase`. The tag stays as it is on failure.
+std::int32_t GrowCount(Label& counter, std::size_t increase) {
+  const std::u16string tag = counter.Tag();
+  const std::int32_t count = tag.empty() ? 0 : IntegerOf(tag);
+  const std::int64_t room = std::int64_t{std::numeric_limits<std::int32_t>::max()} - count;
+  if (increase > static_cast<std::uint64_t>(room)) throw RunTimeFailure(FailureNumber::Overflow);
+  const auto grown = static_cast<std::int32_t>(count + static_cast<std::int64_t>(increase));
+  counter.SetTag(DecimalText(grown));
+  return grown;
+}
+
+// "####0:00:00"
+std::u16string DurationText(std::int32_t seconds) {
+  const std::int32_t hours = seconds / 3600;
+  const std::int32_t minutes = (seconds - hours * 3600) / 60;
+  return DecimalText(hours) + u":" + ZeroPaddedText(minutes, 2) + u":" +
+         ZeroPaddedText(seconds % 60, 2);
+}
+
+}  // namespace
+
+void SetLamp(Lamp& lamp, Color color) {
+  lamp.SetBorderColor(color);
+  lamp.SetFillColor(color);
+}
+
+std::u16string GroupedNumberText(std::int32_t number, const Locale& locale) {
+  std::u16string text = DecimalText(number);
+  const std::size_t firstDigit = number < 0 ? 1 : 0;
+  const std::u16string separator = locale.GroupSeparator();
+  for (std::size_t at = text.size(); at > firstDigit + 3;) {
+    at -= 3;
+    text.insert(at, separator);
+  }
+  return text;
+}
+
+void AddToCounter(Label& counter, std::size_t characters, const Locale& locale) {
+  counter.SetCaption(GroupedNumberText(GrowCount(counter, characters), locale));
+}
+
+void StatusPanel::tmrTimer_Timer() {
+  errors_.Guard(Procedure::tmrTimer_Timer, [this] {
+    MainWindow& frmMain = platform_.frmMain;
+    frmMain.lblCurrentDateTime.SetCaption(LongDateTimeText(platform_.clock, platform_.locale));
+    if (platform_.sckControl.State() != SocketState::Connected) return;
+    frmMain.lblChatDuration.SetCaption(DurationText(GrowCount(frmMain.lblChatDuration, 1)));
+  });
+}
+
+void StatusPanel::StartChat() {
+  MainWindow& frmMain = platform_.frmMain;
+  frmMain.lblChatStartDateTime.SetCaption(LongDateTimeText(platform_.clock, platform_.locale));
+  frmMain.lblChatDuration.SetTag(u"0");
+  frmMain.lblChatDuration.SetCaption(DurationText(0));
+  for (Label* counter : {&frmMain.lblBytesSent, &frmMain.lblBytesReceived}) {
+    counter->SetTag(u"0");
+    counter->SetCaption(GroupedNumberText(0, platform_.locale));
+  }
+}
+
+void StatusPanel::ClearValues() {
+  MainWindow& frmMain = platform_.frmMain;
+  for (Label* value : {&frmMain.lblStatus, &frmMain.lblChatStartDateTime, &frmMain.lblLocalPort,
+                       &frmMain.lblRemoteIP, &frmMain.lblRemotePort, &frmMain.lblRemoteNickname}) {
+    value->SetCaption(u"");
+  }
+  for (Label* counter :
+       {&frmMain.lblChatDuration, &frmMain.lblBytesSent, &frmMain.lblBytesReceived}) {
+    counter->SetCaption(u"");
+    counter->SetTag(u"");
+  }
+}
+
+}  // namespace verlume
