@@ -16,7 +16,7 @@ std::u16string WithTrailingSeparator(std::u16string_view path, char16_t separato
 bool FolderExists(const FileSystem& files, std::u16string_view path);
 
 // The file of a macro, and whether it is there. A name that would leave the macros folder (it
-// holds a separator, or is "", "." or "..") has no file.
+// holds a separator, or is "", "." or "..") has no file, and while no folder is chosen none has.
 std::u16string MacroPath(const AppState& state, const FileSystem& files, std::u16string_view name);
 bool MacroExists(const AppState& state, const FileSystem& files, std::u16string_view name);
 

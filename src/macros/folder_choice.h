@@ -1,0 +1,18 @@
+// Choosing one of the program's folders.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/platform.h"
+
+namespace verlume {
+
+// Lets the user choose a folder, starting from `current` where that exists and from the program's
+// own folder otherwise. The result ends in a separator; there is none when the user cancels. Other
+// failures are thrown.
+std::optional<std::u16string> ChooseFolder(Platform& platform, std::u16string_view title,
+                                           std::u16string_view current);
+
+}  // namespace verlume
