@@ -12,7 +12,8 @@
 
 namespace verlume {
 
-// A nickname made fit for a file name: each of \ / : * ? " < > | becomes "_".
+// A nickname made fit for a file name: each of \ / : * ? " < > | and each control character becomes
+// "_". What would be no name of its own ("", "." or "..") is "_".
 std::u16string LogFileStemOf(std::u16string_view nickname);
 
 class DialogueLog {
@@ -20,17 +21,29 @@ class DialogueLog {
   DialogueLog(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings)
       : state_(state), platform_(platform), errors_(errors), settings_(settings) {}
 
-  // Appends one line; does nothing while logging is off or no conversation is open. The file is
-  // complete after each line. A failure is reported (240), not thrown.
+  // Appends one line; does nothing while logging is off or no conversation is open. Line breaks and
+  // other control characters inside it are written as blanks. The file is complete after each line.
+  // A failure is reported (240), not thrown.
   void AppendToLog(std::u16string_view line);
 
   // "[date_time]***** " + text: the lines that tell of the connection.
   void AppendConnectionLine(std::u16string_view statusText);
 
+  // Lets the user choose the log folder and keeps it in the settings file; refused while lines are
+  // being recorded. A cancel changes nothing.
   void mnuFileLogFolder_Click();
+
+  // The logging switch. Switching on asks for the log folder for as long as there is none.
   void mnuFileLogRecord_Click();
 
  private:
+  bool IsRecording() const;
+  // True unless it failed, which has then been reported (239).
+  bool ChooseLogFolder();
+  bool RefuseWhileRecording();
+  bool AskForLogFolder();
+  void SwitchLogging(bool on);
+
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;

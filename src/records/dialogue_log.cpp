@@ -1,0 +1,114 @@
+#include "records/dialogue_log.h"
+
+#include "macros/folder_choice.h"
+#include "macros/macro_paths.h"
+#include "platform/run_time_failure.h"
+#include "records/dialogue_log_texts.h"
+#include "shell/date_time_text.h"
+
+namespace verlume {
+namespace {
+
+using namespace dialogue_log_texts;
+
+bool IsControl(char16_t c) {
+  const bool isLineBreak = c == 0x2028 || c == 0x2029;
+  return c < 0x20 || (c >= 0x7F && c < 0xA0) || isLineBreak;
+}
+
+// An entry of the log is one line, whatever the peer puts into a message or a nickname.
+std::u16string OneLineOf(std::u16string_view text) {
+  std::u16string line;
+  line.reserve(text.size() + 2);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') continue;
+    line += IsControl(text[i]) ? u' ' : text[i];
+  }
+  return line;
+}
+
+}  // namespace
+
+std::u16string LogFileStemOf(std::u16string_view nickname) {
+  constexpr std::u16string_view kForbidden = u"\\/:*?\"<>|";
+  std::u16string stem(nickname);
+  for (char16_t& c : stem) {
+    if (IsControl(c) || kForbidden.find(c) != kForbidden.npos) c = u'_';
+  }
+  if (stem.empty() || stem == u"." || stem == u"..") return u"_";
+  return stem;
+}
+
+bool DialogueLog::IsRecording() const {
+  return state_.LogDialogue && state_.LogOpen;
+}
+
+void DialogueLog::AppendToLog(std::u16string_view line) {
+  if (!IsRecording()) return;
+  errors_.Guard(Procedure::AppendToLog, [&] {
+    // Without a folder the path would begin at the root.
+    if (state_.LogFolder.empty()) throw RunTimeFailure(FailureNumber::PathNotFound);
+    const std::u16string path =
+        WithTrailingSeparator(state_.LogFolder, platform_.files.Separator()) + state_.LogFileStem +
+        u".txt";
+    platform_.files.AppendText(path, OneLineOf(line) + u"\r\n");
+  });
+}
+
+void DialogueLog::AppendConnectionLine(std::u16string_view statusText) {
+  AppendToLog(u"[" + DateTimeText(platform_.clock) + u"]***** " + std::u16string(statusText));
+}
+
+void DialogueLog::mnuFileLogFolder_Click() {
+  ChooseLogFolder();
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
+bool DialogueLog::ChooseLogFolder() {
+  return errors_.Guard(Procedure::mnuFileLogFolder_Click, [this] {
+    if (RefuseWhileRecording()) return;
+    const auto folder =
+        ChooseFolder(platform_, kLogFolderDialogTitle.In(state_.IsGreek), state_.LogFolder);
+    // A conversation may have begun while the dialog was open.
+    if (!folder || RefuseWhileRecording()) return;
+    state_.LogFolder = *folder;
+    settings_.WriteSetting(u"Logging", u"Logfolder", *folder);
+  });
+}
+
+bool DialogueLog::RefuseWhileRecording() {
+  if (!IsRecording()) return false;
+  platform_.dialogs.ShowMessage(
+      Refusal(kLogFolderRefusal.In(state_.IsGreek), kLogFolderTitle.In(state_.IsGreek)));
+  return true;
+}
+
+void DialogueLog::mnuFileLogRecord_Click() {
+  errors_.Guard(Procedure::mnuFileLogRecord_Click, [this] {
+    if (platform_.frmMain.mnuFileLogRecord.Checked()) return SwitchLogging(false);
+    while (!FolderExists(platform_.files, state_.LogFolder)) {
+      // Nothing is recorded meanwhile, so the choice of a folder is not refused.
+      state_.LogDialogue = false;
+      if (!AskForLogFolder()) return SwitchLogging(false);
+      if (!ChooseLogFolder()) return;
+    }
+    SwitchLogging(true);
+  });
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
+bool DialogueLog::AskForLogFolder() {
+  const std::u16string_view title = kLogQuestionTitle.In(state_.IsGreek);
+  const Message question = Question(kLogQuestion.In(state_.IsGreek), title, Answer::Yes);
+  if (platform_.dialogs.ShowMessage(question) == Answer::Yes) return true;
+  platform_.dialogs.ShowMessage(Note(kLogImpossible.In(state_.IsGreek), title));
+  return false;
+}
+
+void DialogueLog::SwitchLogging(bool on) {
+  platform_.frmMain.mnuFileLogRecord.SetChecked(on);
+  state_.LogDialogue = on;
+  settings_.WriteSetting(u"Logging", u"Logdialogue", on ? u"True" : u"False");
+}
+
+}  // namespace verlume
