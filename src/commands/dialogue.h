@@ -21,15 +21,24 @@ class Dialogue {
 
   // Writes one line of rich text at the end of the dialogue pane, with stamp and nickname tag, and
   // hands it to the log. An empty text writes nothing. In every case the command pane is then
-  // emptied if asked, and gets the focus. Uses up AppState::ForeignText and RemoteMessage. A
-  // failure is reported (207), not thrown.
+  // emptied if asked, and gets the focus. Uses up AppState::RemoteMessage or else ForeignText. A
+  // failure is reported (207), not thrown; the command pane then keeps its text and gets the focus.
   void WriteDialogueLine(std::u16string_view rtf, CommandPane commandPane);
 
+  // The stamps of the lines written from now on.
   void mnuToolsDate_Click();
   void mnuToolsTime_Click();
+
   void mnuToolsClearDialogue_Click();
 
  private:
+  enum class Sender { Local, Remote, NamedInText };
+
+  Sender TakeSender(std::u16string_view rtf);
+  void WriteLine(std::u16string_view rtf, Sender sender);
+  std::u16string PlainTextOf(std::u16string_view rtf);
+  void SwitchStamp(MenuEntry& entry, bool& stampSwitch, std::u16string_view key);
+
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;
