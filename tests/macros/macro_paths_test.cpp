@@ -1,0 +1,72 @@
+#include "macros/macro_paths.h"
+
+#include <gtest/gtest.h>
+
+#include "platform_fake/fake_file_system.h"
+
+namespace verlume {
+namespace {
+
+TEST(MacroPathsTest, SeparatorIsAppendedOnlyWhereItIsMissing) {
+  EXPECT_EQ(WithTrailingSeparator(u"/macros", u'/'), u"/macros/");
+  EXPECT_EQ(WithTrailingSeparator(u"/macros/", u'/'), u"/macros/");
+  EXPECT_EQ(WithTrailingSeparator(u"C:\\macros", u'\\'), u"C:\\macros\\");
+  EXPECT_EQ(WithTrailingSeparator(u"", u'/'), u"/");
+}
+
+TEST(MacroPathsTest, OnlyADirectoryIsAFolder) {
+  fake::FakeFileSystem files;
+  files.MakeFolder(u"/macros");
+  files.files[u"/macros/file"] = "";
+  EXPECT_TRUE(FolderExists(files, u"/macros"));
+  EXPECT_TRUE(FolderExists(files, u"/macros/"));
+  EXPECT_FALSE(FolderExists(files, u"/macros/file"));
+  EXPECT_FALSE(FolderExists(files, u"/elsewhere"));
+  EXPECT_FALSE(FolderExists(files, u""));
+}
+
+class MacroFileTest : public testing::Test {
+ protected:
+  MacroFileTest() {
+    files.MakeFolder(u"/macros");
+    state.MacrosFolder = u"/macros/";
+  }
+
+  fake::FakeFileSystem files;
+  AppState state;
+};
+
+TEST_F(MacroFileTest, PathIsFolderNameAndExtension) {
+  EXPECT_EQ(MacroPath(state, files, u"γεια"), u"/macros/γεια.rtf");
+}
+
+TEST_F(MacroFileTest, FolderWithoutTrailingSeparatorGivesTheSamePath) {
+  state.MacrosFolder = u"/macros";
+  EXPECT_EQ(MacroPath(state, files, u"hello"), u"/macros/hello.rtf");
+}
+
+TEST_F(MacroFileTest, MacroExistsWhereItsFileIs) {
+  files.files[u"/macros/hello.rtf"] = "{\\rtf1 hello}";
+  files.MakeFolder(u"/macros/folder.rtf");
+  EXPECT_TRUE(MacroExists(state, files, u"hello"));
+  EXPECT_FALSE(MacroExists(state, files, u"Hello"));
+  EXPECT_FALSE(MacroExists(state, files, u"other"));
+  EXPECT_FALSE(MacroExists(state, files, u"folder"));
+}
+
+TEST_F(MacroFileTest, NameThatWouldLeaveTheFolderHasNoFile) {
+  for (const std::u16string name :
+       {u"../secret", u"/secret", u"sub/secret", u"..\\secret", u"", u".", u".."}) {
+    files.files[MacroPath(state, files, name)] = "";
+    EXPECT_FALSE(MacroExists(state, files, name)) << testing::PrintToString(name);
+  }
+}
+
+TEST_F(MacroFileTest, NoMacroExistsWhileNoFolderIsChosen) {
+  state.MacrosFolder = u"";
+  files.files[u"/hello.rtf"] = "";
+  EXPECT_FALSE(MacroExists(state, files, u"hello"));
+}
+
+}  // namespace
+}  // namespace verlume
