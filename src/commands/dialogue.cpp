@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "shell/conversions.h"
 #include "shell/date_time_text.h"
 
 namespace verlume {
@@ -100,7 +101,7 @@ void Dialogue::mnuToolsTime_Click() {
 void Dialogue::SwitchStamp(MenuEntry& entry, bool& stampSwitch, std::u16string_view key) {
   stampSwitch = !entry.Checked();
   entry.SetChecked(stampSwitch);
-  settings_.WriteSetting(u"General", key, stampSwitch ? u"True" : u"False");
+  settings_.WriteSetting(u"General", key, BooleanText(stampSwitch));
 }
 
 void Dialogue::mnuToolsClearDialogue_Click() {

@@ -4,6 +4,7 @@
 #include "macros/macro_paths.h"
 #include "platform/run_time_failure.h"
 #include "records/dialogue_log_texts.h"
+#include "shell/conversions.h"
 #include "shell/date_time_text.h"
 
 namespace verlume {
@@ -108,7 +109,7 @@ bool DialogueLog::AskForLogFolder() {
 void DialogueLog::SwitchLogging(bool on) {
   platform_.frmMain.mnuFileLogRecord.SetChecked(on);
   state_.LogDialogue = on;
-  settings_.WriteSetting(u"Logging", u"Logdialogue", on ? u"True" : u"False");
+  settings_.WriteSetting(u"Logging", u"Logdialogue", BooleanText(on));
 }
 
 }  // namespace verlume
