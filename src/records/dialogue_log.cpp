@@ -17,6 +17,10 @@ bool IsControl(char16_t c) {
   return c < 0x20 || (c >= 0x7F && c < 0xA0) || isLineBreak;
 }
 
+// More than a nickname of this program ever has. A peer may send a longer one, and a file system
+// takes 255 bytes.
+constexpr std::size_t kStemLimit = 80;
+
 // An entry of the log is one line, whatever the peer puts into a message or a nickname.
 std::u16string OneLineOf(std::u16string_view text) {
   std::u16string line;
@@ -32,7 +36,7 @@ std::u16string OneLineOf(std::u16string_view text) {
 
 std::u16string LogFileStemOf(std::u16string_view nickname) {
   constexpr std::u16string_view kForbidden = u"\\/:*?\"<>|";
-  std::u16string stem(nickname);
+  std::u16string stem(nickname.substr(0, kStemLimit));
   for (char16_t& c : stem) {
     if (IsControl(c) || kForbidden.find(c) != kForbidden.npos) c = u'_';
   }

@@ -13,7 +13,7 @@
 namespace verlume {
 
 // A nickname made fit for a file name: each of \ / : * ? " < > | and each control character becomes
-// "_". What would be no name of its own ("", "." or "..") is "_".
+// "_". What would be no name of its own ("", "." or "..") is "_", and an overlong name is cut.
 std::u16string LogFileStemOf(std::u16string_view nickname);
 
 class DialogueLog {

@@ -26,6 +26,12 @@ TEST(LogFileStemTest, WhatIsNoNameBecomesAnUnderscore) {
   EXPECT_EQ(LogFileStemOf(u"..."), u"...");
 }
 
+TEST(LogFileStemTest, OverlongNicknameIsCutToWhatAFileNameHolds) {
+  const std::u16string longestOfOurs(32, u'€');
+  EXPECT_EQ(LogFileStemOf(longestOfOurs), longestOfOurs);
+  EXPECT_EQ(LogFileStemOf(std::u16string(4000, u'€')), std::u16string(80, u'€'));
+}
+
 class AppendToLogTest : public RoomTest {
  protected:
   AppendToLogTest() {
