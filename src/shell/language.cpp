@@ -1,0 +1,32 @@
+#include "shell/language.h"
+
+#include "shell/language_texts.h"
+
+namespace verlume {
+
+void Language::ApplyLanguage() {
+  errors_.Guard(Procedure::ApplyLanguage, [this] {
+    const MainWindow& frmMain = platform_.frmMain;
+    const bool isGreek = state_.IsGreek;
+    state_.Title = kMainWindowTitle.In(isGreek);
+    for (const auto& [set, text] : MenuAndToolTipTexts(frmMain)) set(text.In(isGreek));
+    for (const auto& [set, text] : PanelTexts(frmMain)) set(text.In(isGreek));
+    frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);
+    frmMain.mnuToolsLanguageGreek.SetChecked(isGreek);
+    platform_.dialogs.SetLanguage(isGreek);
+    platform_.help.SetHelpFile(isGreek ? state_.HelpFileGreek : state_.HelpFileEnglish);
+    settings_.WriteSetting(u"General", u"Language", isGreek ? u"1" : u"0");
+  });
+}
+
+void Language::mnuToolsLanguageEnglish_Click() {
+  state_.IsGreek = false;
+  ApplyLanguage();
+}
+
+void Language::mnuToolsLanguageGreek_Click() {
+  state_.IsGreek = true;
+  ApplyLanguage();
+}
+
+}  // namespace verlume

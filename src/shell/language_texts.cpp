@@ -1,0 +1,141 @@
+#include "shell/language_texts.h"
+
+namespace verlume {
+namespace {
+
+using Setter = std::function<void(std::u16string_view)>;
+
+Setter Title(Window& window) {
+  return [&window](std::u16string_view text) { window.SetTitle(text); };
+}
+
+template <class Element>
+Setter Caption(Element& element) {
+  return [&element](std::u16string_view text) { element.SetCaption(text); };
+}
+
+Setter ToolTip(Control& control) {
+  return [&control](std::u16string_view text) { control.SetToolTip(text); };
+}
+
+Setter AccessibleName(Control& control) {
+  return [&control](std::u16string_view text) { control.SetAccessibleName(text); };
+}
+
+// A value of the status panel and the caption beside it, if it has one.
+struct PanelValue {
+  Label& value;
+  Label* caption;
+  TextPair text;
+};
+
+std::vector<PanelValue> PanelValues(const MainWindow& frmMain) {
+  return {
+      {frmMain.lblStatus, nullptr, {u"Status", u"Κατάσταση"}},
+      {frmMain.lblCurrentDateTime, &frmMain.lblCurrentDateTimeCaption, {u"Now", u"Τώρα"}},
+      {frmMain.lblChatStartDateTime,
+       &frmMain.lblChatStartDateTimeCaption,
+       {u"Chat began", u"Έναρξη διαλόγου"}},
+      {frmMain.lblChatDuration, &frmMain.lblChatDurationCaption, {u"Duration", u"Διάρκεια"}},
+      {frmMain.lblLocalIP, &frmMain.lblLocalIPCaption, {u"Local address", u"Τοπική διεύθυνση"}},
+      {frmMain.lblLocalPort, &frmMain.lblLocalPortCaption, {u"Local port", u"Τοπική θύρα"}},
+      {frmMain.lblLocalNickname,
+       &frmMain.lblLocalNicknameCaption,
+       {u"Your nickname", u"Ψευδώνυμό σας"}},
+      {frmMain.lblRemoteIP,
+       &frmMain.lblRemoteIPCaption,
+       {u"Remote address", u"Απομακρυσμένη διεύθυνση"}},
+      {frmMain.lblRemotePort,
+       &frmMain.lblRemotePortCaption,
+       {u"Remote port", u"Απομακρυσμένη θύρα"}},
+      {frmMain.lblRemoteNickname,
+       &frmMain.lblRemoteNicknameCaption,
+       {u"Remote nickname", u"Απομακρυσμένο ψευδώνυμο"}},
+      {frmMain.lblBytesSent,
+       &frmMain.lblBytesSentCaption,
+       {u"Characters sent", u"Σταλμένοι χαρακτήρες"}},
+      {frmMain.lblBytesReceived,
+       &frmMain.lblBytesReceivedCaption,
+       {u"Characters received", u"Ληφθέντες χαρακτήρες"}},
+  };
+}
+
+}  // namespace
+
+std::vector<FixedText> MenuAndToolTipTexts(const MainWindow& frmMain) {
+  return {
+      {Title(frmMain.window), kMainWindowTitle},
+      {ToolTip(frmMain.lblCopyright), {u"Copyright notice", u"Πνευματικά δικαιώματα"}},
+      {ToolTip(frmMain.picCopyright), {u"Copyright notice", u"Πνευματικά δικαιώματα"}},
+      {ToolTip(frmMain.picShape),
+       {u"Red=Idle / Yellow=Wait / Green=Connect",
+        u"Κόκκινο=Αδράνεια / Κίτρινο=Αναμονή / Πράσινο=Σύνδεση"}},
+      {Caption(frmMain.mnuFile), {u"File", u"Αρχείο"}},
+      {Caption(frmMain.mnuFileMacrosFolder), {u"Macros folder", u"Φάκελλος μακροεντολών"}},
+      {Caption(frmMain.mnuFileLogFolder), {u"Log folder", u"Φάκελλος καταγραφής"}},
+      {Caption(frmMain.mnuFileLogRecord), {u"Log dialogue", u"Καταγραφή διαλόγου"}},
+      {Caption(frmMain.mnuFileLogOpen), {u"Load dialogue", u"Φόρτωμα διαλόγου"}},
+      {Caption(frmMain.mnuFileLogSaveAs), {u"Save dialogue as", u"Αποθήκευση διαλόγου ως"}},
+      {Caption(frmMain.mnuFileExit), {u"Exit", u"Έξοδος"}},
+      {Caption(frmMain.mnuComm), {u"Communication", u"Επικοινωνία"}},
+      {Caption(frmMain.mnuCommWait), {u"Wait", u"Αναμονή"}},
+      {Caption(frmMain.mnuCommCall), {u"Call", u"Κλήση"}},
+      {Caption(frmMain.mnuCommCancel), {u"Cancel", u"Ακύρωση"}},
+      {Caption(frmMain.mnuCommClose), {u"Close", u"Κλείσιμο"}},
+      {Caption(frmMain.mnuCommRefresh), {u"Refresh IP", u"Ανανέωση IP"}},
+      {Caption(frmMain.mnuFormat), {u"Format", u"Μορφή"}},
+      {Caption(frmMain.mnuFormatFontBold), {u"Bold", u"Έντονη γραφή"}},
+      {Caption(frmMain.mnuFormatFontItalics), {u"Italics", u"Πλάγια γραφή"}},
+      {Caption(frmMain.mnuFormatFontUnderline), {u"Underlined", u"Υπογραμμισμένη γραφή"}},
+      {Caption(frmMain.mnuFormatFontSize), {u"Font size", u"Μέγεθος γραμματοσειράς"}},
+      {Caption(frmMain.mnuFormatFontColor), {u"Font color", u"Χρώμα γραμματοσειράς"}},
+      {Caption(frmMain.mnuFormatFontSettings), {u"Font settings", u"Ρυθμίσεις γραμματοσειράς"}},
+      {Caption(frmMain.mnuFormatBackcolorCommands),
+       {u"Commands back color", u"Χρώμα φόντου εντολών"}},
+      {Caption(frmMain.mnuFormatBackcolorDialogue),
+       {u"Dialogue back color", u"Χρώμα φόντου διαλόγου"}},
+      {Caption(frmMain.mnuTools), {u"Tools", u"Εργαλεία"}},
+      {Caption(frmMain.mnuToolsNick), {u"Nickname", u"Ψευδώνυμο"}},
+      {Caption(frmMain.mnuToolsSaveMacro), {u"Save macro", u"Αποθήκευση μακροεντολής"}},
+      {Caption(frmMain.mnuToolsEditMacros), {u"Edit macros", u"Επεξεργασία μακροεντολών"}},
+      {Caption(frmMain.mnuToolsClearDialogue), {u"Clear dialogue", u"Καθάρισμα διαλόγου"}},
+      {Caption(frmMain.mnuToolsClearCommands), {u"Clear commands", u"Καθάρισμα εντολών"}},
+      {Caption(frmMain.mnuToolsClearHistory), {u"Clear history", u"Καθάρισμα ιστορικού"}},
+      {Caption(frmMain.mnuToolsDate), {u"Date", u"Ημερομηνία"}},
+      {Caption(frmMain.mnuToolsTime), {u"Time", u"Ώρα"}},
+      {Caption(frmMain.mnuToolsAlwaysOnTop), {u"Always on top", u"Πάντα σε πρώτο πλάνο"}},
+      {Caption(frmMain.mnuToolsLanguageEnglish), {u"English", u"Αγγλική"}},
+      {Caption(frmMain.mnuToolsLanguageGreek), {u"Greek", u"Ελληνική"}},
+      {Caption(frmMain.mnuHelp), {u"Help", u"Βοήθεια"}},
+      {Caption(frmMain.mnuHelpDetailed), {u"Detailed", u"Λεπτομερής"}},
+      {Caption(frmMain.mnuHelpAbout), {u"About", u"Σχετικά"}},
+      {ToolTip(frmMain.rtbCommands), {u"Commands textbox", u"Πλαίσιο κειμένου εντολών"}},
+      {ToolTip(frmMain.rtbData), {u"Dialogue textbox", u"Πλαίσιο κειμένου διαλόγου"}},
+  };
+}
+
+std::vector<FixedText> PanelTexts(const MainWindow& frmMain) {
+  std::vector<FixedText> texts = {
+      {Caption(frmMain.chkBold), {u"Bold", u"Έντονα"}},
+      {ToolTip(frmMain.chkBold), {u"Bold", u"Έντονη γραφή"}},
+      {Caption(frmMain.chkItalics), {u"Italics", u"Πλάγια"}},
+      {ToolTip(frmMain.chkItalics), {u"Italics", u"Πλάγια γραφή"}},
+      {Caption(frmMain.chkUnderline), {u"Underlined", u"Υπογράμμιση"}},
+      {ToolTip(frmMain.chkUnderline), {u"Underlined", u"Υπογραμμισμένη γραφή"}},
+      {ToolTip(frmMain.lblColor), {u"Font color", u"Χρώμα γραμματοσειράς"}},
+      {AccessibleName(frmMain.lblColor), {u"Font color", u"Χρώμα γραμματοσειράς"}},
+      {AccessibleName(frmMain.rtbData), {u"Dialogue", u"Διάλογος"}},
+      {AccessibleName(frmMain.rtbCommands), {u"Commands", u"Εντολές"}},
+      {AccessibleName(frmMain.picShape), {u"Connection state", u"Κατάσταση συνδέσεως"}},
+      {AccessibleName(frmMain.picCopyright), {u"Copyright notice", u"Πνευματικά δικαιώματα"}},
+      {Caption(frmMain.lblCopyright), {u"© 2026 The Verlume team", u"© 2026 Η ομάδα του Verlume"}},
+  };
+  for (const auto& [value, caption, text] : PanelValues(frmMain)) {
+    if (caption) texts.push_back({Caption(*caption), text});
+    texts.push_back({ToolTip(value), text});
+    texts.push_back({AccessibleName(value), text});
+  }
+  return texts;
+}
+
+}  // namespace verlume

@@ -1,0 +1,159 @@
+#include "shell/settings_reader.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "shell/conversions.h"
+#include "shell/text_pair.h"
+
+namespace verlume {
+namespace {
+
+constexpr Color kWhite = 0xFFFFFF;
+
+using Value = std::optional<std::u16string_view>;
+
+struct Target {
+  AppState& state;
+  const MainWindow& frmMain;
+};
+
+void TakeText(Value value, std::u16string& field) {
+  if (value && !value->empty()) field = *value;
+}
+
+void TakeBoolean(Value value, bool& field) {
+  if (value) field = BooleanOf(*value);
+}
+
+void TakeSwitch(Value value, bool& field, MenuEntry& entry) {
+  TakeBoolean(value, field);
+  entry.SetChecked(field);
+}
+
+std::optional<Color> ColorOf(Value value) {
+  if (!value) return std::nullopt;
+  const Color color = IntegerOf(*value);
+  if (color < 0) return std::nullopt;
+  return std::min(color, kWhite);
+}
+
+void TakeBackColor(Value value, RichTextBox& pane) {
+  if (const auto color = ColorOf(value)) pane.SetBackColor(*color);
+}
+
+struct Key {
+  std::u16string_view section;
+  std::u16string_view key;
+  std::size_t size;                      // of the read buffer
+  std::u16string_view missingMarker;     // what a missing key reads as
+  void (*take)(Value value, Target to);  // no value: missing
+};
+
+constexpr std::u16string_view kGeneral = u"General";
+constexpr std::u16string_view kFontLocal = u"FontLocal";
+constexpr std::u16string_view kBackColor = u"BackColor";
+constexpr std::u16string_view kLogging = u"Logging";
+constexpr std::u16string_view kNull = u"NULL";
+
+// In the order in which they are read.
+constexpr Key kKeys[] = {
+    {kGeneral, u"Nickname", 32, u"",
+     [](Value value, Target to) {
+       TakeText(value, to.state.Nickname);
+       to.frmMain.lblLocalNickname.SetCaption(to.state.Nickname);
+     }},
+    {kGeneral, u"DateStamp", 20, kNull,
+     [](Value value, Target to) {
+       TakeSwitch(value, to.state.DateStamp, to.frmMain.mnuToolsDate);
+     }},
+    {kGeneral, u"TimeStamp", 20, kNull,
+     [](Value value, Target to) {
+       TakeSwitch(value, to.state.TimeStamp, to.frmMain.mnuToolsTime);
+     }},
+    {kGeneral, u"AlwaysOnTop", 20, kNull,
+     [](Value value, Target to) {
+       TakeSwitch(value, to.state.AlwaysOnTop, to.frmMain.mnuToolsAlwaysOnTop);
+       to.frmMain.window.SetTopMost(to.state.AlwaysOnTop);
+     }},
+    {kFontLocal, u"Name", 1024, kNull,
+     [](Value value, Target to) { TakeText(value, to.state.FontName); }},
+    {kFontLocal, u"Bold", 20, kNull,
+     [](Value value, Target to) { TakeBoolean(value, to.state.FontBold); }},
+    {kFontLocal, u"Italic", 20, kNull,
+     [](Value value, Target to) { TakeBoolean(value, to.state.FontItalic); }},
+    {kFontLocal, u"Strikethrough", 20, kNull,
+     [](Value value, Target to) { TakeBoolean(value, to.state.FontStrikethrough); }},
+    {kFontLocal, u"Underline", 20, kNull,
+     [](Value value, Target to) { TakeBoolean(value, to.state.FontUnderline); }},
+    {kFontLocal, u"Forecolor", 20, kNull,
+     [](Value value, Target to) {
+       to.state.FontColor = ColorOf(value).value_or(to.state.FontColor);
+     }},
+    {kFontLocal, u"Size", 20, kNull,
+     [](Value value, Target to) {
+       if (!value) return;
+       to.state.FontSize = std::clamp(NumberOf(*value), kSmallestFontSize, kLargestFontSize);
+     }},
+    {kBackColor, u"Commands", 20, kNull,
+     [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbCommands); }},
+    {kBackColor, u"Dialogue", 20, kNull,
+     [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbData); }},
+    {kLogging, u"Logfolder", 1024, u"",
+     [](Value value, Target to) { TakeText(value, to.state.LogFolder); }},
+    {kLogging, u"Logdialogue", 20, kNull,
+     [](Value value, Target to) {
+       TakeSwitch(value, to.state.LogDialogue, to.frmMain.mnuFileLogRecord);
+     }},
+    {kGeneral, u"Macrosfolder", 1024, u"",
+     [](Value value, Target to) { TakeText(value, to.state.MacrosFolder); }},
+};
+
+bool IsMissing(std::u16string_view value, std::u16string_view missingMarker) {
+  return missingMarker.empty() ? value.empty() : value.starts_with(missingMarker);
+}
+
+}  // namespace
+
+void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
+  const SelectionFormat pane = frmMain.rtbData.SelFormat();
+  state.FontName = pane.fontName.value_or(state.FontName);
+  state.FontBold = pane.bold.value_or(false);
+  state.FontItalic = pane.italic.value_or(false);
+  state.FontStrikethrough = pane.strikethrough.value_or(false);
+  state.FontUnderline = pane.underline.value_or(false);
+  state.FontColor = pane.color.value_or(0);
+  state.FontSize = pane.fontSize.value_or(kLargestFontSize);
+
+  state.Nickname.clear();
+  state.MacrosFolder.clear();
+  state.LogFolder.clear();
+  TakeSwitch({}, state.DateStamp = true, frmMain.mnuToolsDate);
+  TakeSwitch({}, state.TimeStamp = true, frmMain.mnuToolsTime);
+  TakeSwitch({}, state.AlwaysOnTop = false, frmMain.mnuToolsAlwaysOnTop);
+  TakeSwitch({}, state.LogDialogue = false, frmMain.mnuFileLogRecord);
+}
+
+void ReadLanguage(AppState& state, const Settings& settings) {
+  state.IsGreek = NumericPrefixOf(settings.ReadSetting(kGeneral, u"Language", u"0", 5)) == 1;
+}
+
+void ReadSettings(AppState& state, const MainWindow& frmMain, const Settings& settings) {
+  for (const Key& row : kKeys) {
+    const std::u16string text =
+        settings.ReadSetting(row.section, row.key, row.missingMarker, row.size);
+    row.take(IsMissing(text, row.missingMarker) ? Value() : Value(text), {state, frmMain});
+  }
+}
+
+void WriteFontSettings(const AppState& state, Settings& settings) {
+  settings.WriteSettings(kFontLocal, {{u"Name", state.FontName},
+                                      {u"Bold", BooleanText(state.FontBold)},
+                                      {u"Italic", BooleanText(state.FontItalic)},
+                                      {u"Strikethrough", BooleanText(state.FontStrikethrough)},
+                                      {u"Underline", BooleanText(state.FontUnderline)},
+                                      {u"Forecolor", DecimalText(state.FontColor)},
+                                      {u"Size", NumberText(state.FontSize)}});
+}
+
+}  // namespace verlume

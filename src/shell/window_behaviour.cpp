@@ -1,0 +1,30 @@
+#include "shell/window_behaviour.h"
+
+#include "shell/conversions.h"
+
+namespace verlume {
+
+void WindowBehaviour::mnuToolsAlwaysOnTop_Click() {
+  errors_.Guard(Procedure::mnuToolsAlwaysOnTop_Click, [this] {
+    state_.AlwaysOnTop = !state_.AlwaysOnTop;
+    platform_.frmMain.window.SetTopMost(state_.AlwaysOnTop);
+    platform_.frmMain.mnuToolsAlwaysOnTop.SetChecked(state_.AlwaysOnTop);
+    settings_.WriteSetting(u"General", u"AlwaysOnTop", BooleanText(state_.AlwaysOnTop));
+  });
+}
+
+void BindContextHelp(const MainWindow& frmMain) {
+  for (Control* control : std::initializer_list<Control*>{
+           &frmMain.lblCurrentDateTime, &frmMain.lblChatStartDateTime, &frmMain.lblChatDuration,
+           &frmMain.lblLocalIP, &frmMain.lblLocalPort, &frmMain.lblLocalNickname,
+           &frmMain.lblRemoteIP, &frmMain.lblRemotePort, &frmMain.lblRemoteNickname,
+           &frmMain.lblBytesSent, &frmMain.lblBytesReceived, &frmMain.lblStatus, &frmMain.picShape,
+           &frmMain.chkBold, &frmMain.chkItalics, &frmMain.chkUnderline, &frmMain.lblColor,
+           &frmMain.lblCopyright, &frmMain.picCopyright}) {
+    control->onMouseUp = [control](MouseButton button) {
+      if (button != MouseButton::Left) control->ShowContextHelp();
+    };
+  }
+}
+
+}  // namespace verlume
