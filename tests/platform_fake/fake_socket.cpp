@@ -18,6 +18,7 @@ void FakeNetwork::RunUntilIdle() {
 
 FakeSocket::~FakeSocket() {
   Close();
+  if (pending_) pending_->peer_ = nullptr;
   network_.sockets_.erase(this);
 }
 
@@ -75,17 +76,15 @@ void FakeSocket::Accept(std::int64_t requestId) {
   }
 }
 
-// As on a real machine, closing a listener leaves the caller being asked about to Accept; those
-// behind it are refused.
+// As on a real machine, closing a listener refuses the callers behind the one being asked about;
+// that one is kept for an Accept that follows at once, and dropped otherwise.
 void FakeSocket::Close() {
   if (state_ == SocketState::Listening) {
     network_.listeners_.erase(localPort_);
     for (FakeSocket* caller : std::exchange(callers_, {})) {
+      caller->peer_ = nullptr;
       caller->Post([caller] { caller->LosePeer(); });
     }
-  } else {
-    request_ = 0;
-    pending_ = nullptr;
   }
   if (FakeSocket* peer = std::exchange(peer_, nullptr)) {
     std::erase(peer->callers_, this);
@@ -98,6 +97,14 @@ void FakeSocket::Close() {
   state_ = SocketState::Closed;
   unread_.clear();
   ++generation_;
+  if (request_ == 0) return;
+  Post([this] {
+    request_ = 0;
+    FakeSocket* caller = std::exchange(pending_, nullptr);
+    if (!caller) return;
+    caller->peer_ = nullptr;
+    caller->Post([caller] { caller->LosePeer(); });
+  });
 }
 
 void FakeSocket::LosePeer() {
