@@ -1,7 +1,16 @@
 // The actions behind the connection commands. Each reads AppState::CommandLine, reports its own
 // failures, and ends by giving the focus back to the command pane. The menu entries run them with
 // the bare command word.
+//
+// Their boxes let socket events through, so a state that was asked about may be gone when the
+// answer comes. An answer counts only for the state it was given in: when another one has taken its
+// place, that one is asked about, and nothing is done that the user has not agreed to.
 #pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
 
 #include "commands/dialogue.h"
 #include "connection/connection_state.h"
@@ -12,6 +21,7 @@
 #include "shell/error_report.h"
 #include "shell/settings.h"
 #include "shell/status_panel.h"
+#include "shell/text_pair.h"
 
 namespace verlume {
 
@@ -46,6 +56,43 @@ class ConnectionActions {
   void mnuToolsNick_Click();
 
  private:
+  // What an action that ends whatever there is says of each state before it does.
+  struct LeaveTexts {
+    const TextPair& connected;  // a refusal; %1 address, %2 port
+    const TextPair& waiting;    // a question; %1 local port
+    const TextPair& waitingTitle;
+    const TextPair& calling;  // a question; %1 remote port
+    const TextPair& title;    // of the refusal and of the question about a call
+  };
+
+  // Runs an action: its failures are reported, the focus goes back to the command pane.
+  void Run(Procedure procedure, const std::function<void()>& action);
+  void RunFromMenu(std::u16string_view commandWord, void (ConnectionActions::*action)());
+
+  // Refuses while Connected, asks while Waiting or Calling. True when the state in force may be
+  // left; `agreed` is that state.
+  bool MayLeaveState(const LeaveTexts& texts, ConnectionState& agreed);
+  // The same for boxes shown since: true at once while the state is the agreed one.
+  bool MayStillLeaveState(const LeaveTexts& texts, ConnectionState agreed);
+  // No is the default.
+  bool UserAgrees(const std::u16string& text, const TextPair& title);
+
+  // "" when the user gave up.
+  std::u16string AskHost();
+  // A port, or -1 when the user gave up.
+  std::int32_t AskRemotePort();
+  // False when the user gave up.
+  bool MendLocalPort(std::u16string& portText);
+  std::u16string AskNickname(std::u16string candidate);
+  std::u16string ExitQuestion(ConnectionState asked) const;
+
+  void SetStatus(std::u16string_view text);
+  // Leaves Connected: status line and log say that the user did it, and the log is closed.
+  void RecordClosedByUser();
+  // What the command leaves in the dialogue pane; empties the command pane.
+  void WriteOutgoingText();
+  std::u16string_view In(const TextPair& text) const { return text.In(state_.IsGreek); }
+
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;

@@ -1,13 +1,15 @@
-// What the program does on each event of its socket.
+// What the program does on each event of its socket. Each procedure reports its own failures.
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "connection/wire_protocol.h"
 #include "platform/platform.h"
 #include "records/dialogue_log.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
+#include "shell/text_pair.h"
 
 namespace verlume {
 
@@ -17,12 +19,19 @@ class SocketEvents {
                DialogueLog& log)
       : state_(state), platform_(platform), errors_(errors), wire_(wire), log_(log) {}
 
+  // Asks the user, modally; acts on the answer only if this side is still listening by then.
   void sckControl_ConnectionRequest(std::int64_t requestId);
   void sckControl_Connect();
   void sckControl_DataArrival(std::int32_t bytesTotal);
   void sckControl_Close();
 
  private:
+  bool AskWhetherToAccept(const std::u16string& ip);
+  // A connection to a peer is being established.
+  void ShowPeer(const std::u16string& ip);
+  // A text with %1 host, %2 port.
+  void SetStatus(const TextPair& text, const std::u16string& host, std::int32_t port);
+
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;

@@ -13,7 +13,9 @@
 
 namespace verlume {
 
-// The fixed text that opens every protocol message: NUL, 67 characters, NUL.
+// The fixed text that opens every protocol message: NUL, 67 characters, NUL. All of them are in
+// Windows-1253, so that it crosses the wire unchanged. It never changes: it is what two copies of
+// the program know each other by.
 std::u16string BuildProtocolMarker();
 
 class WireProtocol {
@@ -29,18 +31,30 @@ class WireProtocol {
       : state_(state), platform_(platform), errors_(errors), with_(collaborators) {}
 
   // The only way anything is sent: one send, counted in lblBytesSent. Does nothing unless the
-  // socket is connected. A failure is reported (227), not thrown.
-  void SendToPeer(std::u16string_view text);
+  // socket is connected. A failure is reported (227), not thrown; only then is the result false.
+  bool SendToPeer(std::u16string_view text);
 
   void SendStart();                              // "S", right after accepting a call
   void SendNickname();                           // "N"
   void SendActionLine(std::u16string_view rtf);  // "M"
   void SendChatLine(std::u16string_view rtf) { SendToPeer(rtf); }
 
-  // One arrival of data is one message.
+  // One arrival of data is one message: it is read, counted in lblBytesReceived, and either changes
+  // the connection (handshake), or the peer's nickname, or is a line for the dialogue. Throws
+  // RunTimeFailure 5 when a handshake or nickname message has no end, 6 when the count overflows.
   void OnDataArrival();
 
  private:
+  void OnStart(std::u16string_view data);
+  void OnConfirm(std::u16string_view data);
+  // Becomes Connected; returns what the status line says of it.
+  std::u16string EnterConversation();
+  void OpenLog(std::u16string_view statusText);
+  void TakeNickname(std::u16string_view data);
+  // `oneShot` is AppState::ForeignText or RemoteMessage.
+  void WriteRemoteLine(std::u16string_view text, bool& oneShot);
+  bool SendWithNickname(char16_t kind);
+
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;

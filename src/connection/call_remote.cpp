@@ -1,0 +1,64 @@
+// "/CALL host port".
+#include "connection/command_parts.h"
+#include "connection/connection_actions.h"
+#include "connection/connection_texts.h"
+#include "connection/port_number.h"
+#include "connection/status_texts.h"
+
+namespace verlume {
+
+namespace texts = connection_texts::call_remote;
+
+void ConnectionActions::CallRemote() {
+  Run(Procedure::CallRemote, [this] {
+    const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kTitle, texts::kCalling,
+                              texts::kTitle};
+    ConnectionState agreed;
+    if (!MayLeaveState(leave, agreed)) return;
+
+    const auto parts = CommandParts(state_.CommandLine, 3);
+    std::u16string host = parts.size() > 1 ? parts[1] : u"";
+    if (host.empty()) host = AskHost();
+    if (host.empty()) return;
+
+    std::int32_t port = -1;
+    if (parts.size() > 2 && IsPortNumber(parts[2], kLeastPort, kGreatestPort)) {
+      port = PortNumberOf(parts[2]);
+    }
+    if (port < 0) port = AskRemotePort();
+    // Host and port may have been asked for while a caller was being accepted.
+    if (port < 0 || !MayStillLeaveState(leave, agreed)) return;
+
+    ResetConnection(state_, platform_);
+    state_.RemoteHost = host;
+    state_.RemotePort = port;
+    platform_.sckControl.SetRemoteHost(host);
+    platform_.sckControl.SetRemotePort(port);
+    platform_.sckControl.Connect();
+
+    const std::u16string portText = DecimalText(port);
+    SetStatus(status_texts::kCalling.Fill(state_.IsGreek, {host, portText}));
+    platform_.frmMain.lblRemoteIP.SetCaption(host);
+    platform_.frmMain.lblRemotePort.SetCaption(portText);
+    SetLamp(platform_.frmMain.shpStatus, kLampBusy);
+    EnterState(state_, ConnectionState::Calling);
+    // Last: if this line cannot be written, the report of that ends the call.
+    WriteOutgoingText();
+  });
+}
+
+std::u16string ConnectionActions::AskHost() {
+  return platform_.dialogs.AskText(In(texts::kHostPrompt), In(texts::kHostTitle), u"");
+}
+
+std::int32_t ConnectionActions::AskRemotePort() {
+  for (;;) {
+    const std::u16string typed =
+        platform_.dialogs.AskText(In(texts::kPortPrompt), In(texts::kPortTitle), u"");
+    if (typed.empty()) return -1;
+    if (IsPortNumber(typed, kLeastPort, kGreatestPort)) return PortNumberOf(typed);
+    platform_.dialogs.ShowMessage(Note(In(connection_texts::kWrongPort), In(texts::kPortTitle)));
+  }
+}
+
+}  // namespace verlume

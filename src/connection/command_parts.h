@@ -1,0 +1,14 @@
+// A command line taken apart.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace verlume {
+
+// Splits at single blanks into at most `limit` parts, 1 or more; the last part keeps every further
+// blank. Two blanks side by side have an empty part between them. An empty line is one empty part.
+std::vector<std::u16string> CommandParts(std::u16string_view line, std::size_t limit);
+
+}  // namespace verlume

@@ -1,0 +1,31 @@
+#include "connection/connection_state.h"
+
+#include "shell/status_panel.h"
+
+namespace verlume {
+
+ConnectionState StateOf(const AppState& state) {
+  if (state.IsConnected) return ConnectionState::Connected;
+  if (state.IsWaiting) return ConnectionState::Waiting;
+  if (state.IsCalling) return ConnectionState::Calling;
+  return ConnectionState::Idle;
+}
+
+void EnterState(AppState& state, ConnectionState entered) {
+  state.IsWaiting = entered == ConnectionState::Waiting;
+  state.IsCalling = entered == ConnectionState::Calling;
+  state.IsConnected = entered == ConnectionState::Connected;
+  state.ReservedState = false;
+}
+
+void ResetConnection(AppState& state, Platform& platform) {
+  EnterState(state, ConnectionState::Idle);
+  MainWindow& frmMain = platform.frmMain;
+  frmMain.lblLocalPort.SetCaption(u"");
+  frmMain.lblRemoteIP.SetCaption(u"");
+  frmMain.lblRemotePort.SetCaption(u"");
+  SetLamp(frmMain.shpStatus, kLampIdle);
+  platform.sckControl.Close();
+}
+
+}  // namespace verlume

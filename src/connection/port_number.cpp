@@ -1,0 +1,50 @@
+#include "connection/port_number.h"
+
+#include <limits>
+#include <optional>
+
+#include "platform/run_time_failure.h"
+
+namespace verlume {
+namespace {
+
+std::u16string_view WithoutBlanks(std::u16string_view text) {
+  const std::size_t first = text.find_first_not_of(u' ');
+  if (first == text.npos) return {};
+  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
+}
+
+template <class Integer>
+Integer Narrow(std::int64_t value) {
+  if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max()) {
+    throw RunTimeFailure(FailureNumber::Overflow);
+  }
+  return static_cast<Integer>(value);
+}
+
+// Nothing when the text is no whole number.
+std::optional<std::int32_t> WholeNumber(std::u16string_view text) {
+  const bool isNegative = text.starts_with(u'-');
+  if (isNegative || text.starts_with(u'+')) text.remove_prefix(1);
+  if (text.empty() || text.find_first_not_of(u"0123456789") != text.npos) return std::nullopt;
+  std::int64_t value = 0;
+  for (const char16_t digit : text) {
+    value = value * 10 + (digit - u'0');
+    // Further digits only make it greater; stopping here keeps the sum itself from overflowing.
+    if (value > std::numeric_limits<std::uint32_t>::max()) break;
+  }
+  return Narrow<std::int32_t>(isNegative ? -value : value);
+}
+
+}  // namespace
+
+bool IsPortNumber(std::u16string_view text, std::int32_t min, std::int32_t max) {
+  const std::optional<std::int32_t> number = WholeNumber(WithoutBlanks(text));
+  return number && *number >= min && *number <= max;
+}
+
+std::int16_t PortNumberOf(std::u16string_view text) {
+  return Narrow<std::int16_t>(WholeNumber(WithoutBlanks(text)).value_or(0));
+}
+
+}  // namespace verlume

@@ -1,0 +1,50 @@
+// "/NICK nickname".
+#include "connection/command_parts.h"
+#include "connection/connection_actions.h"
+#include "connection/connection_texts.h"
+
+namespace verlume {
+namespace {
+
+namespace texts = connection_texts::set_nickname;
+
+// A NUL ends a nickname on the wire, and a line break would tear the tag of every dialogue line:
+// no control character is typed, so what a paste brings along is no part of a nickname.
+std::u16string WithoutControlCharacters(std::u16string text) {
+  std::erase_if(text, [](char16_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); });
+  return text;
+}
+
+}  // namespace
+
+void ConnectionActions::SetNickname() {
+  Run(Procedure::SetNickname, [this] {
+    const auto parts = CommandParts(state_.CommandLine, 2);
+    const std::u16string nickname = AskNickname(parts.size() > 1 ? parts[1] : u"");
+    if (nickname.empty()) return;
+
+    // Written before it is taken on: a nickname that cannot be kept changes nothing.
+    with_.settings.WriteSetting(u"General", u"Nickname", nickname);
+    state_.Nickname = nickname;
+    platform_.frmMain.lblLocalNickname.SetCaption(nickname);
+    WriteOutgoingText();
+    with_.wire.SendNickname();
+  });
+}
+
+// The candidate, or what the user types until it is a nickname. "" when the user gave up.
+std::u16string ConnectionActions::AskNickname(std::u16string candidate) {
+  for (;;) {
+    candidate = WithoutControlCharacters(candidate);
+    if (candidate.empty()) {
+      candidate = WithoutControlCharacters(
+          platform_.dialogs.AskText(In(texts::kPrompt), In(texts::kTitle), state_.Nickname));
+      if (candidate.empty()) return {};
+    }
+    if (candidate.size() <= kNicknameLimit) return candidate;
+    platform_.dialogs.ShowMessage(Note(In(texts::kTooLong), In(texts::kTitle)));
+    candidate.clear();
+  }
+}
+
+}  // namespace verlume

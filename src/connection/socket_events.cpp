@@ -1,0 +1,79 @@
+#include "connection/socket_events.h"
+
+#include <string>
+
+#include "connection/connection_state.h"
+#include "connection/connection_texts.h"
+#include "connection/status_texts.h"
+
+namespace verlume {
+
+void SocketEvents::sckControl_ConnectionRequest(std::int64_t requestId) {
+  errors_.Guard(Procedure::sckControl_ConnectionRequest, [&] {
+    const std::u16string ip = platform_.sckControl.RemoteHostIP();
+    ShowPeer(ip);
+    const bool isAccepted = AskWhetherToAccept(ip);
+    // The wait may have ended while the question was open (any error ends it): then there is no
+    // call left to accept or reject, and what ended it has said so.
+    const bool isStillWaiting = StateOf(state_) == ConnectionState::Waiting &&
+                                platform_.sckControl.State() == SocketState::Listening;
+    if (!isStillWaiting) return;
+    if (isAccepted) {
+      platform_.sckControl.Close();
+      platform_.sckControl.Accept(requestId);
+      wire_.SendStart();
+    } else {
+      ResetConnection(state_, platform_);
+      SetStatus(status_texts::kRejected, ip, state_.LocalPort);
+    }
+  });
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
+bool SocketEvents::AskWhetherToAccept(const std::u16string& ip) {
+  namespace texts = connection_texts::connection_request;
+  const bool isGreek = state_.IsGreek;
+  Message ask =
+      Question(texts::kAsk.Fill(isGreek, {ip, DecimalText(platform_.sckControl.RemotePort())}),
+               texts::kTitle.In(isGreek), Answer::Yes);
+  ask.unexpected = true;
+  return platform_.dialogs.ShowMessage(ask) == Answer::Yes;
+}
+
+void SocketEvents::sckControl_Connect() {
+  // Nothing is sent: the side that was called speaks first.
+  errors_.Guard(Procedure::sckControl_Connect,
+                [this] { ShowPeer(platform_.sckControl.RemoteHostIP()); });
+}
+
+void SocketEvents::sckControl_DataArrival(std::int32_t) {
+  errors_.Guard(Procedure::sckControl_DataArrival, [this] { wire_.OnDataArrival(); });
+}
+
+void SocketEvents::sckControl_Close() {
+  errors_.Guard(Procedure::sckControl_Close, [this] {
+    platform_.sckControl.Close();
+    const ConnectionState left = StateOf(state_);
+    ResetConnection(state_, platform_);
+    if (left == ConnectionState::Calling || left == ConnectionState::Waiting) {
+      SetStatus(status_texts::kNotEstablished, state_.RemoteHost, state_.RemotePort);
+      return;
+    }
+    SetStatus(status_texts::kClosedByPeer, state_.RemoteAddress, state_.RemotePort);
+    log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());
+    state_.LogOpen = false;
+  });
+}
+
+void SocketEvents::ShowPeer(const std::u16string& ip) {
+  const std::int32_t port = platform_.sckControl.RemotePort();
+  SetStatus(status_texts::kEstablishing, ip, port);
+  platform_.frmMain.lblRemoteIP.SetCaption(ip);
+  platform_.frmMain.lblRemotePort.SetCaption(DecimalText(port));
+}
+
+void SocketEvents::SetStatus(const TextPair& text, const std::u16string& host, std::int32_t port) {
+  platform_.frmMain.lblStatus.SetCaption(text.Fill(state_.IsGreek, {host, DecimalText(port)}));
+}
+
+}  // namespace verlume

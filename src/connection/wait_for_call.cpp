@@ -1,0 +1,51 @@
+// "/WAIT port".
+#include "connection/command_parts.h"
+#include "connection/connection_actions.h"
+#include "connection/connection_texts.h"
+#include "connection/port_number.h"
+#include "connection/status_texts.h"
+
+namespace verlume {
+
+namespace texts = connection_texts::wait_for_call;
+
+void ConnectionActions::WaitForCall() {
+  Run(Procedure::WaitForCall, [this] {
+    const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kPortTitle,
+                              texts::kCalling, texts::kTitle};
+    ConnectionState agreed;
+    if (!MayLeaveState(leave, agreed)) return;
+
+    // Without a port the system chooses one.
+    const auto parts = CommandParts(state_.CommandLine, 2);
+    std::u16string portText = parts.size() > 1 ? parts[1] : u"0";
+    if (!MendLocalPort(portText)) return;
+    const std::int16_t port = PortNumberOf(portText);
+    // The port may have been asked for while the call was being answered.
+    if (!MayStillLeaveState(leave, agreed)) return;
+
+    ResetConnection(state_, platform_);
+    platform_.sckControl.SetLocalPort(port);
+    platform_.sckControl.Listen();
+    state_.LocalPort = platform_.sckControl.LocalPort();
+
+    const std::u16string portInUse = DecimalText(state_.LocalPort);
+    SetStatus(status_texts::kWaiting.Fill(state_.IsGreek, {portInUse}));
+    platform_.frmMain.lblLocalPort.SetCaption(portInUse);
+    SetLamp(platform_.frmMain.shpStatus, kLampBusy);
+    EnterState(state_, ConnectionState::Waiting);
+    // Last: if this line cannot be written, the report of that ends the wait.
+    WriteOutgoingText();
+  });
+}
+
+bool ConnectionActions::MendLocalPort(std::u16string& portText) {
+  while (!IsPortNumber(portText, kLeastPort, kGreatestPort)) {
+    platform_.dialogs.ShowMessage(Note(In(connection_texts::kWrongPort), In(texts::kPortTitle)));
+    portText = platform_.dialogs.AskText(In(texts::kPortPrompt), In(texts::kPortTitle), u"");
+    if (portText.empty()) return false;
+  }
+  return true;
+}
+
+}  // namespace verlume

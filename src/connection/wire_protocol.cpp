@@ -1,0 +1,133 @@
+#include "connection/wire_protocol.h"
+
+#include <algorithm>
+
+#include "connection/connection_state.h"
+#include "connection/status_texts.h"
+#include "platform/run_time_failure.h"
+
+namespace verlume {
+namespace {
+
+constexpr char16_t kStart = u'S';
+constexpr char16_t kConfirm = u'C';
+constexpr char16_t kNickname = u'N';
+constexpr char16_t kActionLine = u'M';
+
+constexpr std::u16string_view kMarkerParts[] = {
+    u"Verlume", u"Verlume", u"Δημιουργία της ομάδας Verlume", u"Made by the Verlume team"};
+constexpr std::size_t kMarkerTextLength = 67;
+constexpr std::size_t kMarkerLength = kMarkerTextLength + 2;
+
+constexpr std::size_t LengthOfMarkerParts() {
+  std::size_t length = 0;
+  for (const std::u16string_view part : kMarkerParts) length += part.size();
+  return length;
+}
+static_assert(LengthOfMarkerParts() == kMarkerTextLength);
+
+// The one character after the marker; NUL, which is no kind, when there is none.
+char16_t KindOf(std::u16string_view data) {
+  return data.size() > kMarkerLength ? data[kMarkerLength] : u'\0';
+}
+
+}  // namespace
+
+std::u16string BuildProtocolMarker() {
+  std::u16string text;
+  for (const std::u16string_view part : kMarkerParts) text += part;
+  std::reverse(text.begin(), text.end());
+  return u'\0' + text + u'\0';
+}
+
+bool WireProtocol::SendToPeer(std::u16string_view text) {
+  return errors_.Guard(Procedure::SendToPeer, [&] {
+    if (platform_.sckControl.State() != SocketState::Connected) return;
+    platform_.sckControl.SendData(text);
+    AddToCounter(platform_.frmMain.lblBytesSent, text.size(), platform_.locale);
+  });
+}
+
+bool WireProtocol::SendWithNickname(char16_t kind) {
+  return SendToPeer(state_.ProtocolMarker + kind + state_.Nickname + u'\0');
+}
+
+void WireProtocol::SendStart() {
+  SendWithNickname(kStart);
+}
+
+void WireProtocol::SendNickname() {
+  SendWithNickname(kNickname);
+}
+
+void WireProtocol::SendActionLine(std::u16string_view rtf) {
+  std::u16string message = state_.ProtocolMarker + kActionLine;
+  message += rtf;
+  SendToPeer(message);
+}
+
+void WireProtocol::OnDataArrival() {
+  const std::u16string data = platform_.sckControl.GetData();
+  AddToCounter(platform_.frmMain.lblBytesReceived, data.size(), platform_.locale);
+
+  const char16_t kind = data.starts_with(state_.ProtocolMarker) ? KindOf(data) : u'\0';
+  switch (kind) {
+    case kStart:
+      return OnStart(data);
+    case kConfirm:
+      return OnConfirm(data);
+    case kNickname:
+      return TakeNickname(data);
+    case kActionLine:
+      return WriteRemoteLine(data.substr(kMarkerLength + 1), state_.RemoteMessage);
+    default:
+      return WriteRemoteLine(data, state_.ForeignText);
+  }
+}
+
+void WireProtocol::OnStart(std::u16string_view data) {
+  state_.LocalPort = platform_.sckControl.LocalPort();
+  platform_.frmMain.lblLocalPort.SetCaption(DecimalText(state_.LocalPort));
+  // A failed answer has been reported, which has ended the connection: there is nothing to confirm.
+  if (SendWithNickname(kConfirm)) OnConfirm(data);
+}
+
+void WireProtocol::OnConfirm(std::u16string_view data) {
+  const std::u16string status = EnterConversation();
+  TakeNickname(data);
+  OpenLog(status);
+}
+
+std::u16string WireProtocol::EnterConversation() {
+  EnterState(state_, ConnectionState::Connected);
+  state_.RemoteAddress = platform_.sckControl.RemoteHostIP();
+  state_.RemotePort = platform_.sckControl.RemotePort();
+  std::u16string status = status_texts::kActive.Fill(
+      state_.IsGreek, {state_.RemoteAddress, DecimalText(state_.RemotePort)});
+  platform_.frmMain.lblStatus.SetCaption(status);
+  SetLamp(platform_.frmMain.shpStatus, kLampConnected);
+  with_.statusPanel.StartChat();
+  return status;
+}
+
+void WireProtocol::TakeNickname(std::u16string_view data) {
+  const std::u16string_view rest = data.substr(kMarkerLength + 1);
+  const std::size_t end = rest.find(u'\0');
+  if (end == rest.npos) throw RunTimeFailure(FailureNumber::InvalidProcedureCall);
+  state_.RemoteNickname = rest.substr(0, end);
+  platform_.frmMain.lblRemoteNickname.SetCaption(state_.RemoteNickname);
+}
+
+void WireProtocol::OpenLog(std::u16string_view statusText) {
+  state_.LogFileStem = LogFileStemOf(state_.RemoteNickname);
+  state_.LogOpen = true;
+  with_.log.AppendConnectionLine(statusText);
+}
+
+void WireProtocol::WriteRemoteLine(std::u16string_view text, bool& oneShot) {
+  oneShot = true;
+  // Whatever the user is typing stays.
+  with_.dialogue.WriteDialogueLine(text, CommandPane::Keep);
+}
+
+}  // namespace verlume
