@@ -1,0 +1,103 @@
+// One user's program without its window loop: the rooms up to the connection, on a platform in
+// memory. Sides that share a network can call each other.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "commands/dialogue.h"
+#include "connection/connection_actions.h"
+#include "connection/connection_state.h"
+#include "connection/socket_events.h"
+#include "connection/wire_protocol.h"
+#include "platform_fake/fake_platform.h"
+#include "records/dialogue_log.h"
+#include "shell/settings.h"
+#include "shell/status_panel.h"
+
+namespace verlume::fake {
+
+struct Side {
+  Side(FakeNetwork& network, std::u16string_view nickname, std::u16string_view address)
+      : fake(network) {
+    state.Title = u"Verlume";
+    state.IniFile = u"/verlume/Verlume.ini";
+    state.ProtocolMarker = BuildProtocolMarker();
+    state.Nickname = nickname;
+    state.LocalAddress = address;
+    state.DateStamp = false;
+    state.TimeStamp = false;
+    fake.socket.localIP = address;
+    fake.socket.onConnectionRequest = [this](std::int64_t id) {
+      events.sckControl_ConnectionRequest(id);
+    };
+    fake.socket.onConnect = [this] { events.sckControl_Connect(); };
+    fake.socket.onDataArrival = [this](std::int32_t total) {
+      events.sckControl_DataArrival(total);
+    };
+    fake.socket.onClose = [this] { events.sckControl_Close(); };
+    ResetConnection(state, fake.platform);
+  }
+
+  // Typed commands, as the interpreter hands them over.
+  void Call(std::u16string_view rest) { Command(u"/CALL", rest, &ConnectionActions::CallRemote); }
+  void Wait(std::u16string_view rest) { Command(u"/WAIT", rest, &ConnectionActions::WaitForCall); }
+  void Nick(std::u16string_view rest) { Command(u"/NICK", rest, &ConnectionActions::SetNickname); }
+
+  ConnectionState State() const { return StateOf(state); }
+  std::u16string Status() const { return fake.window.lblStatus.caption; }
+  std::u16string DialoguePane() const { return fake.window.rtbData.Text(); }
+  // The lamp's colour; -1 when fill and border differ.
+  Color Lamp() const {
+    const FakeLamp& lamp = fake.window.shpStatus;
+    return lamp.fill == lamp.border ? lamp.fill : -1;
+  }
+  // Turns logging on; the file of a peer is read with LogOf.
+  void RecordDialogues() {
+    fake.files.MakeFolder(u"/logs");
+    state.LogFolder = u"/logs/";
+    state.LogDialogue = true;
+  }
+  std::u16string LogOf(std::u16string_view stem) const {
+    const std::u16string path = u"/logs/" + std::u16string(stem) + u".txt";
+    return fake.files.IsFile(path) ? fake.files.ReadText(path) : u"";
+  }
+
+  FakePlatform fake;
+  AppState state;
+  ErrorReport errors{state, fake.dialogs, [this] { ResetConnection(state, fake.platform); },
+                     [this] { fake.window.window.Unload(); }};
+  Settings settings{state, fake.files};
+  DialogueLog log{state, fake.platform, errors, settings};
+  Dialogue dialogue{state, fake.platform, errors, settings, log};
+  StatusPanel statusPanel{fake.platform, errors};
+  WireProtocol wire{state, fake.platform, errors, {dialogue, log, statusPanel}};
+  ConnectionActions actions{
+      state, fake.platform, errors, {settings, dialogue, log, statusPanel, wire}};
+  SocketEvents events{state, fake.platform, errors, wire, log};
+
+ private:
+  void Command(std::u16string_view word, std::u16string_view rest,
+               void (ConnectionActions::*action)()) {
+    state.CommandLine = word;
+    if (!rest.empty()) state.CommandLine += u' ';
+    state.CommandLine += rest;
+    (actions.*action)();
+  }
+};
+
+// Alice calls, Bob waits.
+struct TwoSides {
+  void Connect() {
+    bob.Wait(u"4000");
+    bob.fake.dialogs.answers.push_back(Answer::Yes);
+    alice.Call(u"bob 4000");
+    network.RunUntilIdle();
+  }
+
+  FakeNetwork network;
+  Side alice{network, u"Alice", u"192.0.2.1"};
+  Side bob{network, u"Bob", u"192.0.2.2"};
+};
+
+}  // namespace verlume::fake
