@@ -22,6 +22,10 @@ class CommandHistory {
   void mnuToolsClearHistory_Click();
 
  private:
+  void ShowPreviousLine();
+  void ShowNextLine();
+  void ShowLine(int index);
+
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;
