@@ -1,0 +1,64 @@
+#include "commands/placeholders.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "commands/rtf_text_replacer.h"
+#include "richtext/rtf_writer.h"
+
+namespace verlume {
+namespace {
+
+// $l, $L, $τ, $Τ and $r, $R, $α, $Α, as the command pane's rich text has them.
+constexpr std::u16string_view kLocal[] = {u"$l", u"$L", u"$\\'f4", u"$\\'d4"};
+constexpr std::u16string_view kRemote[] = {u"$r", u"$R", u"$\\'e1", u"$\\'c1"};
+
+// The action word as it can be typed, and as the rich text has it.
+struct Spelling {
+  std::u16string_view typed;
+  std::u16string_view rtf;
+};
+constexpr Spelling kActionWord[] = {
+    {u"/me", u"/me"},
+    {u"/mE", u"/mE"},
+    {u"/Me", u"/Me"},
+    {u"/ME", u"/ME"},
+    {u"/εγώ", u"/\\'e5\\'e3\\'fe"},
+    {u"/εγΏ", u"/\\'e5\\'e3\\'bf"},
+    {u"/εΓώ", u"/\\'e5\\'c3\\'fe"},
+    {u"/εΓΏ", u"/\\'e5\\'c3\\'bf"},
+    {u"/Εγώ", u"/\\'c5\\'e3\\'fe"},
+    {u"/ΕγΏ", u"/\\'c5\\'e3\\'bf"},
+    {u"/ΕΓώ", u"/\\'c5\\'c3\\'fe"},
+    {u"/ΕΓΏ", u"/\\'c5\\'c3\\'bf"},
+};
+
+std::vector<RtfReplacement> ReplacementsFor(const Nicknames& nicknames) {
+  std::vector<RtfReplacement> list;
+  const std::u16string local = richtext::EscapeForRtf(nicknames.local);
+  for (const std::u16string_view pattern : kLocal) list.push_back({pattern, local});
+  if (!nicknames.remote) return list;
+  const std::u16string remote = richtext::EscapeForRtf(*nicknames.remote);
+  for (const std::u16string_view pattern : kRemote) list.push_back({pattern, remote});
+  return list;
+}
+
+}  // namespace
+
+std::u16string ExpandPlaceholders(std::u16string_view rtf, const Nicknames& nicknames) {
+  return ReplaceInRtfText(rtf, ReplacementsFor(nicknames));
+}
+
+std::u16string ExpandActionLine(std::u16string_view rtf, std::u16string_view typedWord,
+                                const Nicknames& nicknames) {
+  std::vector<RtfReplacement> list = ReplacementsFor(nicknames);
+  const auto word =
+      std::find_if(std::begin(kActionWord), std::end(kActionWord),
+                   [typedWord](const Spelling& each) { return each.typed == typedWord; });
+  if (word != std::end(kActionWord)) {
+    list.push_back({word->rtf, richtext::EscapeForRtf(nicknames.local), true});
+  }
+  return ReplaceInRtfText(rtf, list);
+}
+
+}  // namespace verlume
