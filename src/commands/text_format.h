@@ -1,6 +1,8 @@
 // The user's own text style, and the back colours of the panes.
 #pragma once
 
+#include <string_view>
+
 #include "commands/dialogue.h"
 #include "platform/platform.h"
 #include "shell/app_state.h"
@@ -19,7 +21,8 @@ class TextFormat {
         settings_(settings),
         dialogue_(dialogue) {}
 
-  // Applies the local style to what is typed next in the command pane and saves it.
+  // Applies the local style to what is typed next in the command pane, shows it in check boxes,
+  // ticks and colour label, and saves it. A failure is reported (229), not thrown.
   void ApplyCommandStyle();
 
   void chkBold_Click();
@@ -38,15 +41,26 @@ class TextFormat {
   // The size in AppState::CommandLine, asked for when there is none: a number from 8 to 11.
   void SetFontSize();
 
-  // The style at the insertion point becomes the local style.
+  // The style at the insertion point becomes the local style, and is saved where it differs. The
+  // insertion point stays. Does nothing before the first ApplyCommandStyle.
   void rtbCommands_SelChange();
 
  private:
+  // Marks lblColor while the program paints it: a press does not open the dialog then.
+  static constexpr std::u16string_view kFromCode = u"FROMCODE";
+
+  void ApplyToPane();
+  void ShowStyle();
+  void SetFlag(bool& flag, bool wanted);
+  void ChooseBackColor(RichTextBox& pane, std::u16string_view key, Procedure procedure);
+
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;
   Settings& settings_;
   Dialogue& dialogue_;
+  bool settling_ = false;      // the controls are being brought into line: their events are echoes
+  bool styleInForce_ = false;  // the local style has been applied once
 };
 
 }  // namespace verlume

@@ -1,0 +1,133 @@
+// The part of the text format that asks the user: for a colour, the font, its size.
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "commands/text_format.h"
+#include "connection/command_parts.h"
+#include "shell/conversions.h"
+#include "shell/text_pair.h"
+
+namespace verlume {
+namespace {
+
+// Limits of the local font size, in points.
+constexpr double kSmallestSize = 8;
+constexpr double kLargestSize = 11;
+
+constexpr TextPair kSizeTitle = {u"Font size definition", u"Ορισμός μεγέθους γραμματοσειράς"};
+constexpr TextPair kSizePrompt = {
+    u"Type the font size."
+    u"\r\n\r\n"
+    u"You may type a number between 8 and 11 inclusive.",
+    u"Πληκτρολογήστε το μέγεθος που θέλετε να έχει η γραμματοσειρά."
+    u"\r\n\r\n"
+    u"Μπορείτε να πληκτρολογήσετε έναν αριθμό από το 8 μέχρι και το 11."};
+constexpr TextPair kSizeRange = {
+    u"The font size must be between 8 and 11 inclusive.",
+    u"Το μέγεθος της γραμματοσειράς πρέπει να είναι μεταξύ του 8 και του 11."};
+
+// The size that the text names: digits with at most one decimal mark, "." or ",", blanks around
+// them. None where it is no such number, or no size that is allowed.
+std::optional<double> FontSizeOf(std::u16string_view text) {
+  const std::size_t first = text.find_first_not_of(u' ');
+  if (first == text.npos) return std::nullopt;
+  std::u16string number(text.substr(first, text.find_last_not_of(u' ') - first + 1));
+  std::replace(number.begin(), number.end(), u',', u'.');
+  const bool isPlain = number.find_first_not_of(u"0123456789.") == number.npos &&
+                       number.find_first_of(u"0123456789") != number.npos &&
+                       std::count(number.begin(), number.end(), u'.') <= 1;
+  if (!isPlain) return std::nullopt;
+  const double size = NumericPrefixOf(number);
+  if (size < kSmallestSize || size > kLargestSize) return std::nullopt;
+  return size;
+}
+
+}  // namespace
+
+void TextFormat::SetFontSize() {
+  errors_.Guard(Procedure::SetFontSize, [this] {
+    const std::vector<std::u16string> parts = CommandParts(state_.CommandLine, 2);
+    std::u16string answer = parts.size() > 1 ? parts[1] : u"";
+    if (answer.empty()) {
+      answer =
+          platform_.dialogs.AskText(kSizePrompt.In(state_.IsGreek), kSizeTitle.In(state_.IsGreek),
+                                    NumberText(state_.FontSize));
+    }
+    if (answer.empty()) return;
+    if (const std::optional<double> size = FontSizeOf(answer)) {
+      state_.FontSize = *size;
+      ApplyCommandStyle();
+      dialogue_.WriteDialogueLine(u"", CommandPane::Clear);
+    } else {
+      platform_.dialogs.ShowMessage(
+          Note(kSizeRange.In(state_.IsGreek), kSizeTitle.In(state_.IsGreek)));
+    }
+  });
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
+void TextFormat::mnuFormatFontSize_Click() {
+  state_.CommandLine = u"/SIZE";
+  state_.OutgoingText.clear();
+  SetFontSize();
+}
+
+void TextFormat::lblColor_MouseDown(MouseButton button) {
+  if (button == MouseButton::Right) return;
+  if (platform_.frmMain.lblColor.Tag() == kFromCode) return;
+  errors_.Guard(Procedure::lblColor_MouseDown, [this] {
+    state_.FontColor = platform_.dlgControl.ShowColor(state_.FontColor);
+    ApplyCommandStyle();
+  });
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
+void TextFormat::mnuFormatFontColor_Click() {
+  lblColor_MouseDown(MouseButton::Left);
+}
+
+void TextFormat::mnuFormatFontSettings_Click() {
+  errors_.Guard(Procedure::mnuFormatFontSettings_Click, [this] {
+    const FontChoice chosen =
+        platform_.dlgControl.ShowFont({.name = state_.FontName,
+                                       .bold = state_.FontBold,
+                                       .italic = state_.FontItalic,
+                                       .underline = state_.FontUnderline,
+                                       .strikethrough = state_.FontStrikethrough,
+                                       .color = state_.FontColor,
+                                       .size = state_.FontSize},
+                                      kSmallestSize, kLargestSize);
+    state_.FontName = chosen.name;
+    state_.FontBold = chosen.bold;
+    state_.FontItalic = chosen.italic;
+    state_.FontUnderline = chosen.underline;
+    state_.FontStrikethrough = chosen.strikethrough;
+    state_.FontColor = chosen.color;
+    state_.FontSize = std::clamp(chosen.size, kSmallestSize, kLargestSize);
+    ApplyCommandStyle();
+  });
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
+void TextFormat::mnuFormatBackcolorCommands_Click() {
+  ChooseBackColor(platform_.frmMain.rtbCommands, u"Commands",
+                  Procedure::mnuFormatBackcolorCommands_Click);
+}
+
+void TextFormat::mnuFormatBackcolorDialogue_Click() {
+  ChooseBackColor(platform_.frmMain.rtbData, u"Dialogue",
+                  Procedure::mnuFormatBackcolorDialogue_Click);
+}
+
+void TextFormat::ChooseBackColor(RichTextBox& pane, std::u16string_view key, Procedure procedure) {
+  errors_.Guard(procedure, [this, &pane, key] {
+    const Color chosen = platform_.dlgControl.ShowColor(pane.BackColor());
+    pane.SetBackColor(chosen);
+    settings_.WriteSetting(u"BackColor", key, DecimalText(chosen));
+  });
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
+}  // namespace verlume
