@@ -1,8 +1,12 @@
 // The interpreter behind the Enter key: decides what a typed line is, and does it.
 #pragma once
 
+#include <string_view>
+
+#include "commands/command_table.h"
 #include "commands/dialogue.h"
 #include "commands/history.h"
+#include "commands/placeholders.h"
 #include "commands/text_format.h"
 #include "connection/connection_actions.h"
 #include "connection/wire_protocol.h"
@@ -30,6 +34,15 @@ class CommandInterpreter {
   void rtbCommands_KeyPress(int& charCode);
 
  private:
+  void RunTypedLine();
+  void LoadMacroNamedBy(std::u16string_view line);
+  void PerformPlain(const CommandRow& row);
+  void PerformRoutine(const CommandRow& row, std::u16string_view line);
+  void WriteChatLine();
+  void WriteActionLine(std::u16string_view typedWord);
+  Nicknames NicknamesInForce() const;
+  CommandTargets Targets() const;
+
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;

@@ -63,6 +63,7 @@ void FakeRichTextBox::Select(std::size_t start, std::size_t length) {
 }
 
 SelectionFormat FakeRichTextBox::SelFormat() const {
+  if (formatIsMixed) return {};
   const Look& first = selLength_ > 0 ? cells_[selStart_].look : insertionLook_;
   SelectionFormat format{first.fontName, first.fontSize,  first.color,        first.bold,
                          first.italic,   first.underline, first.strikethrough};

@@ -47,6 +47,7 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   bool locked = false;
   std::u16string tag;
   Color backColor = 0xFFFFFF;
+  bool formatIsMixed = false;  // SelFormat reads as undetermined
 
  private:
   struct Look {

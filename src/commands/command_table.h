@@ -1,0 +1,43 @@
+// The slash commands: one row per command, in the order in which a typed word is compared.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "commands/text_format.h"
+#include "connection/connection_actions.h"
+#include "platform/platform.h"
+#include "shell/app_state.h"
+
+namespace verlume {
+
+enum class CommandKind {
+  Plain,              // the command pane is emptied, then the row's action runs
+  Routine,            // the routine reads AppState::CommandLine and empties the pane itself
+  NormalisedRoutine,  // the same, with the blanks of AppState::CommandLine put in order first
+  Action,             // the line is an action line; the row has nothing to perform
+};
+
+// What a row may act upon.
+struct CommandTargets {
+  AppState& state;
+  MainWindow& frmMain;
+  Application& application;
+  ConnectionActions& connection;
+  TextFormat& textFormat;
+};
+
+struct CommandRow {
+  std::u16string_view english;
+  std::u16string_view greek;
+  CommandKind kind;
+  void (*perform)(const CommandTargets& on);
+};
+
+std::span<const CommandRow> CommandTable();
+
+// The first row that has the word, in either language; null when none has. Compares exactly: the
+// caller puts the word into upper case.
+const CommandRow* FindCommand(std::u16string_view word);
+
+}  // namespace verlume

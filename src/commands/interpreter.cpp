@@ -1,0 +1,120 @@
+#include "commands/interpreter.h"
+
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "commands/placeholders.h"
+#include "connection/command_parts.h"
+#include "macros/macro_paths.h"
+
+namespace verlume {
+namespace {
+
+constexpr int kCtrlEnter = 10;
+constexpr int kEnter = 13;
+
+std::u16string FirstWord(std::u16string_view line) {
+  return CommandParts(line, 2).front();
+}
+
+// Trailing blanks go, and runs of blanks become one.
+std::u16string Normalised(std::u16string_view line) {
+  std::u16string normalised;
+  for (const char16_t c : line) {
+    if (c != u' ' || !normalised.ends_with(u' ')) normalised += c;
+  }
+  if (normalised.ends_with(u' ')) normalised.pop_back();
+  return normalised;
+}
+
+}  // namespace
+
+void CommandInterpreter::rtbCommands_KeyPress(int& charCode) {
+  errors_.Guard(Procedure::rtbCommands_KeyPress, [this, &charCode] {
+    platform_.application.YieldToEvents();
+    if (charCode != kEnter && charCode != kCtrlEnter) return;
+    // Swallowed, so that no line break ever enters the pane.
+    const bool isEnter = std::exchange(charCode, 0) == kEnter;
+    if (isEnter && platform_.frmMain.rtbCommands.TextLength() > 0) RunTypedLine();
+  });
+}
+
+void CommandInterpreter::RunTypedLine() {
+  RichTextBox& pane = platform_.frmMain.rtbCommands;
+  with_.history.AddToHistory();
+  LoadMacroNamedBy(pane.Text());
+  const std::u16string line = state_.CommandLine = pane.Text();
+  if (line.empty()) return;  // the macro was
+
+  const CommandRow* row = FindCommand(platform_.locale.UpperCase(FirstWord(line)));
+  if (!row) {
+    WriteChatLine();
+  } else if (row->kind == CommandKind::Action) {
+    WriteActionLine(FirstWord(line));
+  } else if (row->kind == CommandKind::Plain) {
+    PerformPlain(*row);
+  } else {
+    PerformRoutine(*row, line);
+  }
+}
+
+// "/" + a macro's name puts the macro in the place of the line.
+void CommandInterpreter::LoadMacroNamedBy(std::u16string_view line) {
+  if (!line.starts_with(u'/') || state_.MacrosFolder.empty()) return;
+  const std::u16string_view name = line.substr(1);
+  if (!MacroExists(state_, platform_.files, name)) return;
+  platform_.frmMain.rtbCommands.LoadFile(MacroPath(state_, platform_.files, name),
+                                         TextFileFormat::RichText);
+}
+
+void CommandInterpreter::PerformPlain(const CommandRow& row) {
+  platform_.application.YieldToEvents();
+  state_.OutgoingText.clear();
+  with_.dialogue.WriteDialogueLine(u"", CommandPane::Clear);
+  row.perform(Targets());
+  platform_.application.YieldToEvents();
+}
+
+// The line is handed over as it was typed, whatever another line did to AppState meanwhile.
+void CommandInterpreter::PerformRoutine(const CommandRow& row, std::u16string_view line) {
+  platform_.application.YieldToEvents();
+  const bool normalised = row.kind == CommandKind::NormalisedRoutine;
+  state_.CommandLine = normalised ? Normalised(line) : std::u16string(line);
+  state_.OutgoingText.clear();
+  row.perform(Targets());
+}
+
+void CommandInterpreter::WriteChatLine() {
+  const std::u16string rtf =
+      ExpandPlaceholders(platform_.frmMain.rtbCommands.Rtf(), NicknamesInForce());
+  state_.OutgoingText = rtf;
+  with_.wire.SendChatLine(rtf);
+  with_.dialogue.WriteDialogueLine(rtf, CommandPane::Clear);
+  platform_.application.YieldToEvents();
+}
+
+void CommandInterpreter::WriteActionLine(std::u16string_view typedWord) {
+  RichTextBox& pane = platform_.frmMain.rtbCommands;
+  platform_.application.YieldToEvents();
+  if (FirstWord(pane.Text()) != typedWord) return;  // another event took the line away
+  const std::u16string rtf = ExpandActionLine(pane.Rtf(), typedWord, NicknamesInForce());
+  state_.OutgoingText = rtf;
+  state_.RemoteMessage = true;
+  with_.wire.SendActionLine(rtf);
+  with_.dialogue.WriteDialogueLine(rtf, CommandPane::Clear);
+}
+
+Nicknames CommandInterpreter::NicknamesInForce() const {
+  Nicknames nicknames{state_.Nickname, std::nullopt};
+  if (platform_.sckControl.State() == SocketState::Connected) {
+    nicknames.remote = state_.RemoteNickname;
+  }
+  return nicknames;
+}
+
+CommandTargets CommandInterpreter::Targets() const {
+  return {state_, platform_.frmMain, platform_.application, with_.connection, with_.textFormat};
+}
+
+}  // namespace verlume
