@@ -20,6 +20,8 @@ class ShutDown {
   void mnuFileExit_Click();
 
  private:
+  bool UserConfirms();
+
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;

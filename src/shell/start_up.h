@@ -11,6 +11,8 @@
 
 namespace verlume {
 
+struct FolderTexts;
+
 class StartUp {
  public:
   // What start-up runs of the rooms beside it.
@@ -24,7 +26,7 @@ class StartUp {
           Language& language, Steps steps);
 
   // Fills AppState and reads the settings file, before the window is shown. A failure ends it there
-  // and is reported (203); the program goes on with what was set so far.
+  // and is reported (203); the program goes on with what was set so far. Starts the timer.
   void Form_Load();
 
   // Once the window has been laid out: applies the text style, and asks for the log and macros
@@ -32,6 +34,16 @@ class StartUp {
   void freeSizer1_PostLayout();
 
  private:
+  void SetPaths();
+  void SetInitialValues();
+  void ClearWindow();
+  void SetNickname();
+  void CheckLogFolder();
+  void CheckMacrosFolder();
+  // True when the user wants to choose the folder now.
+  bool AsksForFolder(const FolderTexts& texts);
+  void TellAfterNo(const FolderTexts& texts);
+
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;
