@@ -85,7 +85,7 @@ TEST_F(StatusPanelTest, AFailingTickIsReportedAndTheNextOneRuns) {
   window.lblChatDuration.tag = u"2147483647";
   fake.dialogs.answers = {Answer::No};
   panel.tmrTimer_Timer();
-  EXPECT_EQ(Titles(), std::vector<std::u16string>{u"Verlume, 226."});
+  ASSERT_EQ(Titles(), std::vector<std::u16string>{u"Verlume, 226."});
   EXPECT_NE(fake.dialogs.messages[0].text.find(u"condition 6 "), std::u16string::npos);
   EXPECT_EQ(window.lblChatDuration.tag, u"2147483647");
   window.lblChatDuration.tag = u"";
