@@ -119,6 +119,15 @@ TEST_F(SocketEventsTest, AnAnswerAfterTheWaitHasEndedDoesNothing) {
   }
 }
 
+TEST_F(SocketEventsTest, AnAnswerAfterTheListenerIsGoneAcceptsNobody) {
+  CallBob();
+  asked.answers = {Answer::Yes};
+  WhileBobIsAsked([this] { bob.fake.socket.Close(); });
+  network.RunUntilIdle();
+  EXPECT_EQ(bob.fake.socket.State(), SocketState::Closed);
+  EXPECT_TRUE(bob.fake.socket.sent.empty());
+}
+
 TEST_F(SocketEventsTest, ACompletedConnectSaysSoAndSendsNothing) {
   CallBob();
   std::u16string status, ip, port;

@@ -120,6 +120,8 @@ TEST_F(WaitForCallTest, AnotherPortIsSetOnlyOnYes) {
   bob.Wait(u"4001");
   EXPECT_EQ(bob.state.LocalPort, 4001);
   EXPECT_EQ(bob.State(), ConnectionState::Waiting);
+  alice.Wait(u"4000");  // the port is free again
+  EXPECT_EQ(alice.State(), ConnectionState::Waiting);
 }
 
 TEST_F(WaitForCallTest, ACallIsCancelledOnlyOnYes) {
@@ -129,6 +131,7 @@ TEST_F(WaitForCallTest, ACallIsCancelledOnlyOnYes) {
   EXPECT_EQ(bob.State(), ConnectionState::Calling);
   bob.Wait(u"4000");
   EXPECT_EQ(bob.State(), ConnectionState::Waiting);
+  EXPECT_EQ(window.lblRemoteIP.caption, u"");
 }
 
 TEST_F(WaitForCallTest, ACallAcceptedWhileThePortIsTypedIsNotDropped) {
