@@ -1,9 +1,11 @@
 // What every control shares: tool tip, focus, context help and mouse events of its widget.
 #pragma once
 
+#include <QAbstractScrollArea>
 #include <QMouseEvent>
 #include <QWhatsThis>
 #include <QWidget>
+#include <type_traits>
 
 #include "platform/control.h"
 #include "platform_qt/qt_text.h"
@@ -40,7 +42,14 @@ class MouseWatcher : public QObject {
 template <class Role, class Widget>
 class QtControl : public Role {
  public:
-  explicit QtControl(Widget* widget) : widget_(widget) { new MouseWatcher(widget, *this); }
+  explicit QtControl(Widget* widget) : widget_(widget) {
+    // What scrolls hears of the mouse through its viewport.
+    if constexpr (std::is_base_of_v<QAbstractScrollArea, Widget>) {
+      new MouseWatcher(widget->viewport(), *this);
+    } else {
+      new MouseWatcher(widget, *this);
+    }
+  }
 
   void SetToolTip(std::u16string_view text) override {
     // Plain text, whatever it looks like.

@@ -1,0 +1,59 @@
+// The rich-text box on QPlainTextEdit, which lays out only what it shows: a dialogue of 100,000
+// lines costs nothing to append to or to resize. Outside text never meets Qt's HTML.
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "platform/file_system.h"
+#include "platform/rich_text_box.h"
+#include "platform_qt/qt_control.h"
+#include "platform_qt/qt_rich_text.h"
+
+namespace verlume::qt {
+
+class RichTextWidget;
+
+// Undo is there for the user of a single-line box that is not locked. Ground and letters are the
+// classic white and black whatever the desktop's theme.
+class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
+ public:
+  using Lines = qt::Lines;
+
+  // `files` is read and written by LoadFile and SaveFile; it outlives the box.
+  QtRichTextBox(QWidget* parent, FileSystem& files, Lines lines);
+
+  std::u16string Text() const override;
+  std::size_t TextLength() const override;
+  void SetText(std::u16string_view text) override;
+  std::u16string Rtf() const override;
+  void SetRtf(std::u16string_view rtf) override;
+  std::size_t SelStart() const override;
+  std::size_t SelLength() const override;
+  void Select(std::size_t start, std::size_t length) override;
+  SelectionFormat SelFormat() const override;
+  void SetSelFormat(const SelectionFormat& format) override;
+  void SetSelText(std::u16string_view text) override;
+  void SetSelRtf(std::u16string_view rtf) override;
+  void SetFontCharset(int charset) override;
+  void LoadFile(std::u16string_view path, TextFileFormat format) override;
+  void SaveFile(std::u16string_view path, TextFileFormat format) const override;
+  void SetLocked(bool locked) override;
+  bool Locked() const override;
+  void SetTag(std::u16string_view text) override { tag_ = text; }
+  std::u16string Tag() const override { return tag_; }
+  void SetBackColor(Color color) override;
+  Color BackColor() const override;
+
+ private:
+  QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines);
+
+  RichTextWidget& view() const;
+  void ReplaceAll(const richtext::Document& document);
+  void RaiseSelChange();
+
+  FileSystem& files_;
+  Lines lines_;
+  std::u16string tag_;
+};
+
+}  // namespace verlume::qt
