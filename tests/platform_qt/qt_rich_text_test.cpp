@@ -1,0 +1,66 @@
+#include "platform_qt/qt_rich_text.h"
+
+#include <gtest/gtest.h>
+
+#include <QTextDocument>
+
+#include "platform_qt/qt_text.h"
+
+namespace verlume::qt {
+namespace {
+
+TEST(QtRichText, ReturnsAndLineFeedsBecomeOneBreakEach) {
+  EXPECT_EQ(FromQt(SafeText(u"a\r\nb\rc\nd\r\r\ne", Lines::Many)), u"a\nb\nc\nd\n\ne");
+}
+
+TEST(QtRichText, BreaksOfAnyKindBecomeBlanksInASingleLine) {
+  EXPECT_EQ(FromQt(SafeText(u"a\r\nb\rc\nd\u2028e\u2029f", Lines::Single)), u"a b c d e f");
+}
+
+TEST(QtRichText, SeparatorsBecomeLineBreaks) {
+  EXPECT_EQ(FromQt(SafeText(u"a\u2028b\u2029c", Lines::Many)), u"a\nb\nc");
+}
+
+TEST(QtRichText, UnitsThatQtGivesAMeaningBecomeReplacementCharacters) {
+  using namespace std::string_view_literals;
+  EXPECT_EQ(FromQt(SafeText(u"a\0b\uFFFC"sv, Lines::Many)), u"a\uFFFDb\uFFFD");
+  const std::u16string frame = {0xFDD0, u'x', 0xFDD1, 0xFDEF};
+  EXPECT_EQ(FromQt(SafeText(frame, Lines::Many)), u"\uFFFDx\uFFFD\uFFFD");
+}
+
+TEST(QtRichText, LoneSurrogatesAndNoBreakSpacesStay) {
+  const std::u16string odd = {0xD800, u'a', 0xDC00, 0x00A0};
+  EXPECT_EQ(FromQt(SafeText(odd, Lines::Many)), odd);
+}
+
+TEST(QtRichText, ADocumentComesOutAsItWentIn) {
+  richtext::Document document;
+  document.text = u"plain\nbold \u03b1red";
+  document.fonts = {{u"Arial", 161}, {u"Tahoma", 161}};
+  richtext::CharFormat bold{.font = 0, .halfPoints = 20, .bold = true};
+  richtext::CharFormat red{.font = 1, .halfPoints = 17, .color = 0x0000FF, .underline = true};
+  document.runs = {{6, {.font = 0, .halfPoints = 20}}, {6, bold}, {3, red}};
+  QTextDocument shown;
+  QTextCursor cursor(&shown);
+  InsertDocument(cursor, document, Lines::Many);
+  cursor.select(QTextCursor::Document);
+  EXPECT_EQ(SelectedDocument(cursor, 161), document);
+}
+
+TEST(QtRichText, APartOfADocumentComesOutWithItsFormats) {
+  richtext::Document document;
+  document.text = u"abc\ndef";
+  document.fonts = {{u"Arial", 161}};
+  document.runs = {{2, {.bold = true}}, {5, {}}};
+  QTextDocument shown;
+  QTextCursor cursor(&shown);
+  InsertDocument(cursor, document, Lines::Many);
+  cursor.setPosition(1);
+  cursor.setPosition(5, QTextCursor::KeepAnchor);
+  const richtext::Document part = SelectedDocument(cursor, 161);
+  EXPECT_EQ(part.text, u"bc\nd");
+  EXPECT_EQ(part.runs, (std::vector<richtext::Run>{{1, {.bold = true}}, {3, {}}}));
+}
+
+}  // namespace
+}  // namespace verlume::qt
