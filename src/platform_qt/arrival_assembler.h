@@ -1,0 +1,52 @@
+// Makes arrivals out of the bytes that a connection brings. Standard C++ only; time is passed in,
+// as milliseconds of any clock that never goes back.
+//
+// TCP cuts a text where it likes. An RTF document (with or without the protocol marker and its kind
+// character before it) is held back until its braces are balanced; everything else is ready at
+// once.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform_qt/arrival_assembler_scan.h"
+
+namespace verlume::qt {
+
+class ArrivalAssembler {
+ public:
+  // How long a document may wait for its next byte.
+  static constexpr std::int64_t kPatience = 2000;
+  // How many bytes may wait.
+  static constexpr std::size_t kLargest = 4 << 20;
+
+  // Adds what one read brought. Each byte is looked at once.
+  void Add(std::string_view bytes, std::int64_t now);
+
+  // All that waits, when it is whole, overdue or too large; nothing otherwise.
+  std::optional<std::string> Take(std::int64_t now);
+
+  // All that waits, whole or not: nothing more will come.
+  std::optional<std::string> TakeAll();
+
+  // When Take gives what waits at the latest; nothing when nothing waits.
+  std::optional<std::int64_t> Deadline() const;
+
+ private:
+  enum class At { Start, Marker, Kind, Opening, Document, AfterDocument, OtherText };
+
+  void Scan(std::string_view bytes);
+  void Begin(char byte);
+  void FeedMarker(char byte);
+  void FeedOpening(char byte);
+
+  std::string waiting_;
+  At at_ = At::Start;
+  std::size_t matched_ = 0;  // bytes of the marker or of the opening seen so far
+  DocumentScan document_;
+  std::int64_t lastByte_ = 0;
+};
+
+}  // namespace verlume::qt

@@ -1,0 +1,187 @@
+#include "platform_qt/arrival_assembler.h"
+
+#include <gtest/gtest.h>
+
+namespace verlume::qt {
+namespace {
+
+using namespace std::string_literals;
+
+using Arrival = std::optional<std::string>;
+
+const std::string kMarker = '\0' + std::string(67, 'm') + '\0';
+
+// Adds and takes at one moment.
+Arrival Read(ArrivalAssembler& assembler, std::string_view bytes, std::int64_t now = 0) {
+  assembler.Add(bytes, now);
+  return assembler.Take(now);
+}
+
+// The text comes out whole although its bytes come one by one; nothing comes out earlier.
+void ExpectHeldTogether(const std::string& text) {
+  ArrivalAssembler assembler;
+  for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+    EXPECT_EQ(Read(assembler, text.substr(i, 1)), std::nullopt) << i << " of " << text;
+  }
+  EXPECT_EQ(Read(assembler, text.substr(text.size() - 1)), Arrival(text)) << text;
+}
+
+TEST(ArrivalAssembler, NothingComesOutOfNothing) {
+  ArrivalAssembler assembler;
+  EXPECT_EQ(assembler.Take(0), std::nullopt);
+  EXPECT_EQ(assembler.TakeAll(), std::nullopt);
+  EXPECT_EQ(assembler.Deadline(), std::nullopt);
+}
+
+TEST(ArrivalAssembler, OtherTextIsReadyAtOnce) {
+  for (const std::string& text : {"hello"s, "{x"s, "{\\rtx"s, "}"s, "\\rtf"s, "\0\0"s, "\0a\0"s}) {
+    ArrivalAssembler assembler;
+    EXPECT_EQ(Read(assembler, text), Arrival(text));
+  }
+}
+
+TEST(ArrivalAssembler, HandshakesAreReadyAtOnce) {
+  for (const std::string& kind : {"S"s, "C"s, "N"s}) {
+    ArrivalAssembler assembler;
+    const std::string message = kMarker + kind + "Anna" + '\0';
+    EXPECT_EQ(Read(assembler, message), Arrival(message));
+  }
+}
+
+TEST(ArrivalAssembler, DocumentsAreHeldUntilTheirBracesAreBalanced) {
+  ExpectHeldTogether(R"({\rtf1\ansi{\fonttbl{\f0 Arial;}}hello\par})");
+  ExpectHeldTogether(R"({\rtf})");
+}
+
+TEST(ArrivalAssembler, DocumentsBehindTheMarkerAreHeldToo) {
+  ExpectHeldTogether(kMarker + R"(M{\rtf1 {\b Anna} waves})");
+}
+
+TEST(ArrivalAssembler, EscapedBracesAreNoBraces) {
+  ExpectHeldTogether(R"({\rtf1 \}\}\{ a \\})");
+  ExpectHeldTogether(R"({\rtf1 \\\}\'7d\'7b})");
+}
+
+TEST(ArrivalAssembler, BinaryDataIsNoText) {
+  ExpectHeldTogether(R"({\rtf1{\bin3 }}}}})");
+  ExpectHeldTogether(R"({\rtf1{\bin2\}}})");
+  ExpectHeldTogether("{\\rtf1{\\bin1 }}}");
+}
+
+TEST(ArrivalAssembler, OtherWordsAndEmptyDataHoldNoBinaryData) {
+  ExpectHeldTogether(R"({\rtf1{\bin0 }})");
+  ExpectHeldTogether(R"({\rtf1{\bin }})");
+  ExpectHeldTogether(R"({\rtf1{\bin-3 }})");
+  ExpectHeldTogether(R"({\rtf1{\bins3 }})");
+  ExpectHeldTogether(R"({\rtf1{\bi3 }})");
+  ExpectHeldTogether(R"({\rtf1{\b3 }})");
+  ExpectHeldTogether(R"({\rtf1{\abin3 }})");
+}
+
+TEST(ArrivalAssembler, ADataLengthBeyondAllBoundsIsHarmless) {
+  ArrivalAssembler assembler;
+  EXPECT_EQ(Read(assembler, R"({\rtf1\bin99999999999999999999999999 }})"), std::nullopt);
+  EXPECT_NE(assembler.Take(ArrivalAssembler::kPatience), std::nullopt);
+}
+
+TEST(ArrivalAssembler, WhatFollowsADocumentInTheSameReadBelongsToIt) {
+  for (const std::string& tail : {"tail"s, "\r\n\0"s, "{\\rtf1 b}"s, kMarker + "M{\\rtf1 b}"}) {
+    ArrivalAssembler assembler;
+    EXPECT_EQ(Read(assembler, R"({\rtf1 a})" + tail), Arrival(R"({\rtf1 a})" + tail));
+  }
+}
+
+TEST(ArrivalAssembler, ASecondDocumentInTheSameReadIsNotTorn) {
+  for (const std::string& between : {""s, "\r\n"s, "\r\n\0"s, kMarker + "M"}) {
+    ArrivalAssembler assembler;
+    const std::string begun = R"({\rtf1 a})" + between + R"({\rtf1 {b)";
+    EXPECT_EQ(Read(assembler, begun), std::nullopt);
+    EXPECT_EQ(Read(assembler, "}}"), Arrival(begun + "}}"));
+  }
+}
+
+TEST(ArrivalAssembler, ADocumentWaitsTwoSecondsAfterItsLastByte) {
+  ArrivalAssembler assembler;
+  EXPECT_EQ(Read(assembler, R"({\rtf1 a)", 1000), std::nullopt);
+  EXPECT_EQ(assembler.Deadline(), 3000);
+  EXPECT_EQ(Read(assembler, "b", 2500), std::nullopt);
+  EXPECT_EQ(assembler.Deadline(), 4500);
+  EXPECT_EQ(assembler.Take(4499), std::nullopt);
+  EXPECT_EQ(assembler.Take(4500), Arrival(R"({\rtf1 ab)"));
+  EXPECT_EQ(assembler.Deadline(), std::nullopt);
+}
+
+TEST(ArrivalAssembler, TheRestOfAnOverdueDocumentIsReadyAtOnce) {
+  ArrivalAssembler assembler;
+  assembler.Add(R"({\rtf1 a)", 0);
+  ASSERT_NE(assembler.Take(2000), std::nullopt);
+  EXPECT_EQ(Read(assembler, "b}", 2001), Arrival("b}"));
+}
+
+TEST(ArrivalAssembler, ABeginningWaitsTwoSecondsToo) {
+  for (const std::string& begun : {"{"s, "{\\rt"s, "\0mm"s, kMarker, kMarker + "M"}) {
+    ArrivalAssembler assembler;
+    EXPECT_EQ(Read(assembler, begun), std::nullopt);
+    EXPECT_EQ(assembler.Take(1999), std::nullopt);
+    EXPECT_EQ(assembler.Take(2000), Arrival(begun));
+  }
+}
+
+TEST(ArrivalAssembler, ABeginningThatTurnsOutOtherwiseIsReadyAtOnce) {
+  ArrivalAssembler assembler;
+  EXPECT_EQ(Read(assembler, "{\\"), std::nullopt);
+  EXPECT_EQ(Read(assembler, "x"), Arrival("{\\x"));
+}
+
+TEST(ArrivalAssembler, AtMostFourMebibytesWait) {
+  ArrivalAssembler assembler;
+  const std::string begun = R"({\rtf1 )" + std::string(ArrivalAssembler::kLargest - 8, 'x');
+  EXPECT_EQ(Read(assembler, begun), std::nullopt);
+  EXPECT_EQ(Read(assembler, "y"), Arrival(begun + "y"));
+  EXPECT_EQ(Read(assembler, "the rest}"), Arrival("the rest}"));
+  EXPECT_EQ(Read(assembler, R"({\rtf1 next})"), Arrival(R"({\rtf1 next})"));
+}
+
+TEST(ArrivalAssembler, TheEndOfADocumentsLineMayComeLater) {
+  ArrivalAssembler assembler;
+  ASSERT_NE(Read(assembler, R"({\rtf1 a})"), std::nullopt);
+  EXPECT_EQ(Read(assembler, "\r"), std::nullopt);
+  EXPECT_EQ(Read(assembler, "\n\0"s), std::nullopt);
+  EXPECT_EQ(assembler.Deadline(), std::nullopt);
+  EXPECT_EQ(Read(assembler, "next"), Arrival("next"));
+}
+
+TEST(ArrivalAssembler, TheEndOfADocumentsLineIsTakenFromTheNextOne) {
+  for (const std::string& end : {"\r\n\0"s, "\0"s, "\n"s}) {
+    for (const std::string& next : {R"({\rtf1 {b}})"s, kMarker + R"(M{\rtf1 {b}})"}) {
+      ArrivalAssembler assembler;
+      ASSERT_NE(Read(assembler, R"({\rtf1 a})"), std::nullopt);
+      EXPECT_EQ(Read(assembler, end + next.substr(0, next.size() - 1)), std::nullopt);
+      EXPECT_EQ(Read(assembler, "}"), Arrival(next));
+    }
+  }
+}
+
+TEST(ArrivalAssembler, AMarkerAfterADocumentKeepsItsNul) {
+  ArrivalAssembler assembler;
+  ASSERT_NE(Read(assembler, R"({\rtf1 a})"), std::nullopt);
+  const std::string message = kMarker + "NAnna" + '\0';
+  EXPECT_EQ(Read(assembler, message), Arrival(message));
+}
+
+TEST(ArrivalAssembler, LineEndsThatFollowNoDocumentAreShown) {
+  ArrivalAssembler assembler;
+  EXPECT_EQ(Read(assembler, "\r\n"), Arrival("\r\n"));
+  ASSERT_NE(Read(assembler, R"({\rtf1 a})", 100), std::nullopt);
+  EXPECT_EQ(Read(assembler, "\r\n", 2100), Arrival("\r\n")) << "long after the document";
+}
+
+TEST(ArrivalAssembler, AllThatWaitsIsTakenWhenNothingMoreComes) {
+  ArrivalAssembler assembler;
+  assembler.Add(R"({\rtf1 a)", 0);
+  EXPECT_EQ(assembler.TakeAll(), Arrival(R"({\rtf1 a)"));
+  EXPECT_EQ(assembler.TakeAll(), std::nullopt);
+}
+
+}  // namespace
+}  // namespace verlume::qt
