@@ -68,6 +68,8 @@ void FakeSocket::Accept(std::int64_t requestId) {
   request_ = 0;
   if (!caller) return Post([this] { LosePeer(); });
   peer_ = caller;
+  remoteHostIP_ = caller->localIP;
+  remotePort_ = caller->localPort_;
   caller->peer_ = this;
   state_ = SocketState::Connected;
   for (const std::u16string& text : std::exchange(caller->sent, {})) {
@@ -95,7 +97,9 @@ void FakeSocket::Close() {
     }
   }
   state_ = SocketState::Closed;
+  remoteHostIP_.clear();
   unread_.clear();
+  arrival_.clear();
   ++generation_;
   if (request_ == 0) return;
   Post([this] {

@@ -1,0 +1,230 @@
+#include "platform_qt/qt_socket.h"
+
+#include <QHostInfo>
+#include <QNetworkProxy>
+#include <algorithm>
+#include <utility>
+
+#include "platform/run_time_failure.h"
+#include "platform_qt/qt_socket_address.h"
+#include "platform_qt/qt_socket_linger.h"
+#include "platform_qt/qt_text.h"
+#include "richtext/code_pages.h"
+
+namespace verlume::qt {
+namespace {
+
+constexpr int kConnectLimit = 15000;  // ms
+// What one turn of the event loop reads at most: a peer that floods is slowed down by TCP, and the
+// windows stay responsive.
+constexpr qint64 kLargestRead = 256 << 10;
+constexpr std::int32_t kLastPort = 65535;
+
+// Each text leaves at once; a peer that has vanished is noticed one day.
+void SetOptions(QTcpSocket& socket) {
+  socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+  socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+}
+
+}  // namespace
+
+QtSocket::QtSocket() {
+  clock_.start();
+  server_.setProxy(QNetworkProxy::NoProxy);
+  // One caller is taken and asked about; those behind it wait in the system's backlog.
+  server_.setMaxPendingConnections(1);
+  connect(&server_, &QTcpServer::newConnection, this,
+          [this] { Post(&QtSocket::RaiseConnectionRequest); });
+  patience_.setSingleShot(true);
+  connect(&patience_, &QTimer::timeout, this,
+          [this] { RaiseArrival(assembler_.Take(clock_.elapsed())); });
+  connectLimit_.setSingleShot(true);
+  connect(&connectLimit_, &QTimer::timeout, this, [this] { Lose(); });
+}
+
+QtSocket::~QtSocket() {
+  Close();
+  DropCaller();
+  FinishLingering(this);
+}
+
+void QtSocket::Post(void (QtSocket::*step)()) {
+  QMetaObject::invokeMethod(
+      this,
+      [this, step, generation = generation_] {
+        if (generation == generation_) (this->*step)();
+      },
+      Qt::QueuedConnection);
+}
+
+SocketState QtSocket::State() const {
+  // The system may have ended a connection whose end is still to be raised.
+  const bool isGone =
+      state_ == SocketState::Connected && socket_->state() != QAbstractSocket::ConnectedState;
+  return isGone ? SocketState::Closed : state_;
+}
+
+void QtSocket::SetRemoteHost(std::u16string_view host) {
+  remoteHost_ = ToQt(host);
+}
+
+std::u16string QtSocket::RemoteHostIP() const {
+  return FromQt(peer_.address);
+}
+
+std::int32_t QtSocket::RemotePort() const {
+  return peer_.address.isEmpty() ? remotePort_ : peer_.port;
+}
+
+std::u16string QtSocket::LocalIP() const {
+  return FromQt(OwnAddress());
+}
+
+std::u16string QtSocket::LocalHostName() const {
+  return FromQt(QHostInfo::localHostName());
+}
+
+QtSocket::Peer QtSocket::PeerOf(const QTcpSocket& socket) {
+  return {AddressText(socket.peerAddress()), socket.peerPort()};
+}
+
+void QtSocket::Listen() {
+  Close();
+  if (localPort_ < 0 || localPort_ > kLastPort) {
+    throw RunTimeFailure(FailureNumber::InvalidProcedureCall);
+  }
+  if (!server_.listen(QHostAddress::Any, static_cast<quint16>(localPort_))) {
+    const bool isTaken = server_.serverError() == QAbstractSocket::AddressInUseError;
+    throw RunTimeFailure(isTaken ? FailureNumber::AddressInUse : FailureNumber::PermissionDenied);
+  }
+  localPort_ = server_.serverPort();
+  state_ = SocketState::Listening;
+}
+
+void QtSocket::RaiseConnectionRequest() {
+  QTcpSocket* socket = server_.nextPendingConnection();
+  if (!socket) return;
+  server_.pauseAccepting();
+  socket->setParent(this);
+  socket->setReadBufferSize(kLargestRead);
+  caller_ = {socket, ++lastRequest_, PeerOf(*socket)};
+  peer_ = caller_.peer;
+  if (onConnectionRequest) onConnectionRequest(caller_.id);
+}
+
+void QtSocket::Accept(std::int64_t requestId) {
+  const Caller caller = requestId == caller_.id ? std::exchange(caller_, {}) : Caller{};
+  Close();
+  if (!caller.socket) return Post(&QtSocket::Lose);
+  Hold(caller.socket);
+  SetOptions(*caller.socket);
+  state_ = SocketState::Connected;
+  peer_ = caller.peer;
+  // What the caller sent, or that it has left, was signalled while nobody listened.
+  Post(&QtSocket::Read);
+  if (State() != SocketState::Connected) Post(&QtSocket::Finish);
+}
+
+// Makes the signals of a socket into events of the connection that begins.
+void QtSocket::Hold(QTcpSocket* socket) {
+  socket_ = socket;
+  connect(socket, &QTcpSocket::readyRead, this, [this] { Post(&QtSocket::Read); });
+  connect(socket, &QTcpSocket::disconnected, this, [this] { Post(&QtSocket::Finish); });
+  connect(socket, &QTcpSocket::errorOccurred, this, [this] { Post(&QtSocket::Finish); });
+}
+
+void QtSocket::Connect() {
+  Close();
+  state_ = SocketState::Connecting;
+  const QString host = HostToCall(remoteHost_);
+  if (host.isEmpty() || remotePort_ <= 0 || remotePort_ > kLastPort) return Post(&QtSocket::Lose);
+  auto* socket = new QTcpSocket(this);
+  socket->setProxy(QNetworkProxy::NoProxy);
+  socket->setReadBufferSize(kLargestRead);
+  connect(socket, &QTcpSocket::connected, this, [this] {
+    peer_ = PeerOf(*socket_);
+    localPort_ = socket_->localPort();
+    Post(&QtSocket::RaiseConnect);
+  });
+  Hold(socket);
+  connectLimit_.start(kConnectLimit);
+  socket->connectToHost(host, static_cast<quint16>(remotePort_));
+}
+
+void QtSocket::RaiseConnect() {
+  connectLimit_.stop();
+  SetOptions(*socket_);
+  state_ = SocketState::Connected;
+  if (onConnect) onConnect();
+}
+
+void QtSocket::Read() {
+  const QByteArray bytes = socket_->read(kLargestRead);
+  assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
+  RaiseArrival(assembler_.Take(clock_.elapsed()));
+}
+
+// The connection has ended, or could not be made: what arrived before comes first.
+void QtSocket::Finish() {
+  if (socket_->state() != QAbstractSocket::UnconnectedState) return;
+  Post(&QtSocket::Lose);
+  const QByteArray bytes = socket_->readAll();
+  assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
+  RaiseArrival(assembler_.TakeAll());
+}
+
+void QtSocket::Lose() {
+  Close();
+  if (onClose) onClose();
+}
+
+void QtSocket::RaiseArrival(std::optional<std::string> bytes) {
+  patience_.stop();
+  if (const auto deadline = assembler_.Deadline()) {
+    patience_.start(static_cast<int>(std::max<std::int64_t>(0, *deadline - clock_.elapsed())));
+  }
+  if (!bytes) return;
+  arrival_ = richtext::DecodeGreek(*bytes);
+  if (onDataArrival) onDataArrival(static_cast<std::int32_t>(bytes->size()));
+}
+
+void QtSocket::Close() {
+  ++generation_;
+  state_ = SocketState::Closed;
+  peer_ = {};
+  arrival_.clear();
+  assembler_ = {};
+  patience_.stop();
+  connectLimit_.stop();
+  server_.close();
+  Release();
+  // The caller that is being asked about is kept for an Accept that follows at once.
+  if (caller_.socket) Post(&QtSocket::DropCaller);
+}
+
+void QtSocket::Release() {
+  QTcpSocket* socket = std::exchange(socket_, nullptr);
+  if (!socket) return;
+  LetLinger(socket, this);
+}
+
+void QtSocket::DropCaller() {
+  QTcpSocket* socket = std::exchange(caller_, {}).socket;
+  if (!socket) return;
+  socket->abort();
+  socket->deleteLater();
+}
+
+void QtSocket::SendData(std::u16string_view text) {
+  if (State() != SocketState::Connected) return;
+  const std::string bytes = richtext::EncodeGreek(text);
+  socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
+  // At once, so that one text is one send.
+  socket_->flush();
+}
+
+std::u16string QtSocket::GetData() {
+  return std::exchange(arrival_, {});
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,86 @@
+// The TCP socket made real by Qt Network.
+//
+// Every signal of Qt's becomes an event of the queue, which carries the generation of the
+// connection it belongs to: so no event comes from inside an operation, handlers may open modal
+// boxes (further events are raised inside those), and an ended connection raises nothing more.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include "platform/socket.h"
+#include "platform_qt/arrival_assembler.h"
+
+namespace verlume::qt {
+
+class QtSocket : public QObject, public Socket {
+ public:
+  QtSocket();
+  // Sends what was handed over before, for a few seconds at most.
+  ~QtSocket() override;
+
+  SocketState State() const override;
+  void SetLocalPort(std::int32_t port) override { localPort_ = port; }
+  std::int32_t LocalPort() const override { return localPort_; }
+  void SetRemoteHost(std::u16string_view host) override;
+  void SetRemotePort(std::int32_t port) override { remotePort_ = port; }
+  std::u16string RemoteHostIP() const override;
+  std::int32_t RemotePort() const override;
+  std::u16string LocalIP() const override;
+  std::u16string LocalHostName() const override;
+  void Listen() override;
+  void Connect() override;
+  void Accept(std::int64_t requestId) override;
+  void Close() override;
+  void SendData(std::u16string_view text) override;
+  std::u16string GetData() override;
+
+ private:
+  // Who is at the other end, or asks to be.
+  struct Peer {
+    QString address;  // "" for nobody
+    std::int32_t port = 0;
+  };
+  struct Caller {
+    QTcpSocket* socket = nullptr;
+    std::int64_t id = 0;
+    Peer peer;
+  };
+
+  static Peer PeerOf(const QTcpSocket& socket);
+
+  // Runs a step from the event loop, unless the connection has ended by then.
+  void Post(void (QtSocket::*step)());
+  void Hold(QTcpSocket* socket);
+  void Release();
+  void DropCaller();
+
+  void RaiseConnectionRequest();
+  void RaiseConnect();
+  void Read();
+  void Finish();
+  void Lose();
+  void RaiseArrival(std::optional<std::string> bytes);
+
+  QTcpServer server_;
+  QTcpSocket* socket_ = nullptr;  // the connection, made or in the making
+  Caller caller_;                 // the one that is being asked about
+  Peer peer_;
+  std::int64_t lastRequest_ = 0;
+
+  SocketState state_ = SocketState::Closed;
+  std::uint64_t generation_ = 0;
+  std::int32_t localPort_ = 0;
+  QString remoteHost_;
+  std::int32_t remotePort_ = 0;
+
+  ArrivalAssembler assembler_;
+  std::u16string arrival_;
+  QElapsedTimer clock_;
+  QTimer patience_;      // for the rest of a document
+  QTimer connectLimit_;  // for a call to be answered
+};
+
+}  // namespace verlume::qt

@@ -1,0 +1,354 @@
+// What every Socket does, as tests that run on each implementation.
+//
+// A World makes sockets that can reach each other: `Socket& New()`, `std::u16string Host()` (where
+// they listen) and `bool Wait(condition)`, which lets events through until the condition holds or
+// a limit has passed.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/run_time_failure.h"
+#include "platform/socket.h"
+
+namespace verlume {
+
+// A socket and what it has raised.
+struct SocketUser {
+  explicit SocketUser(Socket& itsSocket) : socket(itsSocket) {
+    socket.onConnectionRequest = [this](std::int64_t id) {
+      requests.push_back(id);
+      if (answer) answer(id);
+    };
+    socket.onConnect = [this] { ++connects; };
+    socket.onDataArrival = [this](std::int32_t total) {
+      texts.push_back(socket.GetData());
+      totals.push_back(total);
+    };
+    socket.onClose = [this] {
+      ++closes;
+      textsBeforeClose = texts.size();
+    };
+  }
+  SocketUser(const SocketUser&) = delete;
+  SocketUser& operator=(const SocketUser&) = delete;
+
+  std::size_t Events() const { return requests.size() + connects + texts.size() + closes; }
+  std::u16string Received() const {
+    std::u16string all;
+    for (const std::u16string& text : texts) all += text;
+    return all;
+  }
+
+  Socket& socket;
+  std::function<void(std::int64_t)> answer;
+  std::vector<std::int64_t> requests;
+  std::size_t connects = 0;
+  std::vector<std::u16string> texts;
+  std::vector<std::int32_t> totals;
+  std::size_t closes = 0;
+  std::size_t textsBeforeClose = 0;
+};
+
+template <class World>
+class SocketContract : public testing::Test {
+ protected:
+  SocketContract() : callee(world.New()), caller(world.New()), other(world.New()) {}
+
+  void Listen() {
+    callee.socket.SetLocalPort(0);
+    callee.socket.Listen();
+  }
+  void Call(SocketUser& user) {
+    user.socket.SetRemoteHost(world.Host());
+    user.socket.SetRemotePort(callee.socket.LocalPort());
+    user.socket.Connect();
+  }
+  // The caller is asked about, and the caller knows that it got through.
+  void Ring() {
+    Listen();
+    Call(caller);
+    ASSERT_TRUE(world.Wait([&] { return callee.requests.size() == 1 && caller.connects == 1; }));
+  }
+  void Answer() {
+    callee.socket.Close();
+    callee.socket.Accept(callee.requests.back());
+  }
+  void ConnectBoth() {
+    Ring();
+    Answer();
+    ASSERT_TRUE(world.Wait([&] { return callee.socket.State() == SocketState::Connected; }));
+  }
+  bool WaitForClose(SocketUser& user) {
+    return world.Wait([&] { return user.closes > 0; });
+  }
+
+  World world;
+  SocketUser callee;
+  SocketUser caller;
+  SocketUser other;
+};
+
+TYPED_TEST_SUITE_P(SocketContract);
+
+TYPED_TEST_P(SocketContract, StartsClosedWithNobodyAtTheOtherEnd) {
+  EXPECT_EQ(this->caller.socket.State(), SocketState::Closed);
+  EXPECT_EQ(this->caller.socket.RemoteHostIP(), u"");
+  this->caller.socket.SetRemotePort(77);
+  EXPECT_EQ(this->caller.socket.RemotePort(), 77);
+  EXPECT_EQ(this->caller.socket.GetData(), u"");
+  EXPECT_NE(this->caller.socket.LocalIP(), u"");
+  EXPECT_NE(this->caller.socket.LocalHostName(), u"");
+}
+
+TYPED_TEST_P(SocketContract, ListeningOnPortZeroTellsThePortInUse) {
+  this->Listen();
+  EXPECT_EQ(this->callee.socket.State(), SocketState::Listening);
+  EXPECT_GT(this->callee.socket.LocalPort(), 0);
+}
+
+TYPED_TEST_P(SocketContract, ListeningOnATakenPortFails) {
+  this->Listen();
+  this->other.socket.SetLocalPort(this->callee.socket.LocalPort());
+  try {
+    this->other.socket.Listen();
+    FAIL();
+  } catch (const RunTimeFailure& failure) {
+    EXPECT_EQ(failure.number, FailureNumber::AddressInUse);
+  }
+  EXPECT_EQ(this->other.socket.State(), SocketState::Closed);
+  this->callee.socket.Close();
+  this->other.socket.Listen();
+  EXPECT_EQ(this->other.socket.State(), SocketState::Listening);
+}
+
+TYPED_TEST_P(SocketContract, AnAnsweredCallConnectsBothSides) {
+  ASSERT_NO_FATAL_FAILURE(this->Ring());
+  EXPECT_EQ(this->callee.socket.State(), SocketState::Listening);
+  EXPECT_EQ(this->caller.socket.State(), SocketState::Connected);
+  const std::int32_t port = this->callee.socket.LocalPort();
+  EXPECT_NE(this->callee.socket.RemoteHostIP(), u"");
+  EXPECT_EQ(this->callee.socket.RemotePort(), this->caller.socket.LocalPort());
+  this->Answer();
+  EXPECT_EQ(this->callee.socket.State(), SocketState::Connected);
+  EXPECT_EQ(this->callee.socket.LocalPort(), port);
+  EXPECT_NE(this->callee.socket.RemoteHostIP(), u"");
+  EXPECT_EQ(this->callee.socket.RemotePort(), this->caller.socket.LocalPort());
+  EXPECT_NE(this->caller.socket.RemoteHostIP(), u"");
+  EXPECT_EQ(this->caller.socket.RemotePort(), port);
+  EXPECT_EQ(this->callee.connects, 0u) << "only the caller is told";
+  EXPECT_EQ(this->caller.closes + this->callee.closes, 0u);
+}
+
+TYPED_TEST_P(SocketContract, ACallMayBeAnsweredInsideItsEvent) {
+  this->callee.answer = [this](std::int64_t id) {
+    this->callee.socket.Close();
+    this->callee.socket.Accept(id);
+    this->callee.socket.SendData(u"welcome");
+  };
+  this->Listen();
+  this->Call(this->caller);
+  EXPECT_TRUE(this->world.Wait([&] { return this->caller.Received() == u"welcome"; }));
+}
+
+TYPED_TEST_P(SocketContract, OperationsRaiseNothingThemselves) {
+  this->Listen();
+  this->Call(this->caller);
+  EXPECT_EQ(this->caller.socket.State(), SocketState::Connecting);
+  EXPECT_EQ(this->caller.Events(), 0u);
+  ASSERT_TRUE(this->world.Wait(
+      [&] { return this->callee.requests.size() == 1 && this->caller.connects == 1; }));
+  this->Answer();
+  this->caller.socket.SendData(u"hello");
+  this->caller.socket.Close();
+  EXPECT_EQ(this->callee.Events(), 1u);
+  EXPECT_EQ(this->caller.Events(), 1u);
+}
+
+TYPED_TEST_P(SocketContract, TextsArriveWithTheirLength) {
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->caller.socket.SendData(u"αβγ");
+  ASSERT_TRUE(this->world.Wait([&] { return this->callee.texts.size() == 1; }));
+  EXPECT_EQ(this->callee.texts[0], u"αβγ");
+  EXPECT_EQ(this->callee.totals[0], 3);
+  EXPECT_EQ(this->callee.socket.GetData(), u"") << "it has been read";
+  this->callee.socket.SendData(u"and back");
+  EXPECT_TRUE(this->world.Wait([&] { return this->caller.Received() == u"and back"; }));
+}
+
+TYPED_TEST_P(SocketContract, CharactersOutsideTheCodePageArriveAsQuestionMarks) {
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->caller.socket.SendData(u"日α\xD83D\xDE00 \xD800");
+  EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"?α? ?"; }));
+}
+
+TYPED_TEST_P(SocketContract, NothingIsSentUnlessConnected) {
+  this->caller.socket.SendData(u"lost");
+  this->Listen();
+  this->callee.socket.SendData(u"lost");
+  this->Call(this->caller);
+  this->caller.socket.SendData(u"lost");
+  ASSERT_TRUE(this->world.Wait([&] { return this->callee.requests.size() == 1; }));
+  this->callee.socket.SendData(u"lost");
+  this->Answer();
+  ASSERT_TRUE(this->world.Wait([&] { return this->caller.connects == 1; }));
+  this->caller.socket.SendData(u"a");
+  this->callee.socket.SendData(u"b");
+  EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"a"; }));
+  EXPECT_TRUE(this->world.Wait([&] { return this->caller.Received() == u"b"; }));
+}
+
+TYPED_TEST_P(SocketContract, TextSentBeforeTheAnswerArrivesAfterIt) {
+  ASSERT_NO_FATAL_FAILURE(this->Ring());
+  this->caller.socket.SendData(u"early");
+  EXPECT_EQ(this->callee.texts.size(), 0u);
+  this->Answer();
+  EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"early"; }));
+}
+
+TYPED_TEST_P(SocketContract, ARefusedCallCloses) {
+  ASSERT_NO_FATAL_FAILURE(this->Ring());
+  this->callee.socket.Close();
+  EXPECT_EQ(this->callee.socket.State(), SocketState::Closed);
+  EXPECT_EQ(this->callee.socket.RemoteHostIP(), u"");
+  EXPECT_TRUE(this->WaitForClose(this->caller));
+  EXPECT_EQ(this->caller.socket.State(), SocketState::Closed);
+  EXPECT_EQ(this->callee.closes, 0u);
+}
+
+TYPED_TEST_P(SocketContract, ARefusedCallCanNoLongerBeAnswered) {
+  ASSERT_NO_FATAL_FAILURE(this->Ring());
+  this->callee.socket.Close();
+  ASSERT_TRUE(this->WaitForClose(this->caller));
+  this->callee.socket.Accept(this->callee.requests[0]);
+  EXPECT_EQ(this->callee.closes, 0u);
+  EXPECT_TRUE(this->WaitForClose(this->callee));
+}
+
+TYPED_TEST_P(SocketContract, ASecondCallerWaitsAndIsRefusedWhenTheListenerCloses) {
+  ASSERT_NO_FATAL_FAILURE(this->Ring());
+  this->Call(this->other);
+  ASSERT_TRUE(this->world.Wait([&] { return this->other.connects == 1; }));
+  this->Answer();
+  EXPECT_TRUE(this->WaitForClose(this->other));
+  EXPECT_EQ(this->callee.requests.size(), 1u);
+  this->caller.socket.SendData(u"still here");
+  EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"still here"; }));
+  EXPECT_EQ(this->caller.closes, 0u);
+}
+
+TYPED_TEST_P(SocketContract, AnsweringACallerWhoHasLeftCloses) {
+  ASSERT_NO_FATAL_FAILURE(this->Ring());
+  this->caller.socket.Close();
+  this->Answer();
+  EXPECT_EQ(this->callee.closes, 0u);
+  EXPECT_TRUE(this->WaitForClose(this->callee));
+  EXPECT_EQ(this->callee.socket.State(), SocketState::Closed);
+  EXPECT_EQ(this->callee.closes, 1u);
+}
+
+TYPED_TEST_P(SocketContract, AnsweringAnUnknownCallCloses) {
+  this->callee.socket.Accept(4711);
+  EXPECT_EQ(this->callee.closes, 0u);
+  EXPECT_TRUE(this->WaitForClose(this->callee));
+}
+
+TYPED_TEST_P(SocketContract, ArrivalsComeBeforeTheCloseWhichComesOnce) {
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->caller.socket.SendData(u"last words");
+  this->caller.socket.Close();
+  EXPECT_EQ(this->caller.socket.State(), SocketState::Closed);
+  EXPECT_EQ(this->caller.socket.RemoteHostIP(), u"");
+  ASSERT_TRUE(this->WaitForClose(this->callee));
+  EXPECT_EQ(this->callee.Received(), u"last words");
+  EXPECT_EQ(this->callee.textsBeforeClose, this->callee.texts.size());
+  EXPECT_EQ(this->callee.socket.State(), SocketState::Closed);
+  EXPECT_EQ(this->callee.closes, 1u);
+  EXPECT_EQ(this->caller.closes, 0u) << "who closes is not told";
+}
+
+TYPED_TEST_P(SocketContract, WordsSentOnAnsweringStillArriveWhenTheCalleeClosesAtOnce) {
+  ASSERT_NO_FATAL_FAILURE(this->Ring());
+  this->caller.socket.SendData(u"never read");
+  this->Answer();
+  this->callee.socket.SendData(u"good bye");
+  this->callee.socket.Close();
+  ASSERT_TRUE(this->WaitForClose(this->caller));
+  EXPECT_EQ(this->caller.Received(), u"good bye");
+  EXPECT_EQ(this->callee.texts.size(), 0u);
+}
+
+TYPED_TEST_P(SocketContract, ACallThatNobodyTakesCloses) {
+  this->Listen();
+  this->callee.socket.Close();
+  this->Call(this->caller);
+  EXPECT_EQ(this->caller.closes, 0u);
+  EXPECT_TRUE(this->WaitForClose(this->caller));
+  EXPECT_EQ(this->caller.socket.State(), SocketState::Closed);
+  EXPECT_EQ(this->caller.connects, 0u);
+}
+
+TYPED_TEST_P(SocketContract, ACancelledCallRaisesNothing) {
+  this->Listen();
+  this->Call(this->caller);
+  this->caller.socket.Close();
+  this->Call(this->other);
+  this->callee.answer = [this](std::int64_t) { this->callee.socket.Close(); };
+  ASSERT_TRUE(this->WaitForClose(this->other));
+  EXPECT_EQ(this->caller.Events(), 0u);
+}
+
+TYPED_TEST_P(SocketContract, ClosingInsideAnEventEndsTheEvents) {
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->callee.socket.onDataArrival = [this](std::int32_t) {
+    this->callee.texts.push_back(this->callee.socket.GetData());
+    this->callee.socket.Close();
+  };
+  this->caller.socket.SendData(u"one");
+  ASSERT_TRUE(this->WaitForClose(this->caller));
+  EXPECT_EQ(this->callee.texts.size(), 1u);
+  EXPECT_EQ(this->callee.closes, 0u);
+}
+
+TYPED_TEST_P(SocketContract, ClosingTwiceIsHarmlessAndTheSocketServesAgain) {
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->callee.socket.Close();
+  this->callee.socket.Close();
+  ASSERT_TRUE(this->WaitForClose(this->caller));
+  this->caller.connects = 0;
+  this->callee.requests.clear();
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->caller.socket.SendData(u"again");
+  EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"again"; }));
+}
+
+TYPED_TEST_P(SocketContract, SidesMayChangeTheirRoles) {
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->caller.socket.Close();
+  ASSERT_TRUE(this->WaitForClose(this->callee));
+  this->caller.socket.SetLocalPort(0);
+  this->caller.socket.Listen();
+  this->callee.socket.SetRemoteHost(this->world.Host());
+  this->callee.socket.SetRemotePort(this->caller.socket.LocalPort());
+  this->callee.socket.Connect();
+  EXPECT_TRUE(this->world.Wait(
+      [&] { return this->caller.requests.size() == 1 && this->callee.connects == 1; }));
+}
+
+REGISTER_TYPED_TEST_SUITE_P(
+    SocketContract, StartsClosedWithNobodyAtTheOtherEnd, ListeningOnPortZeroTellsThePortInUse,
+    ListeningOnATakenPortFails, AnAnsweredCallConnectsBothSides, ACallMayBeAnsweredInsideItsEvent,
+    OperationsRaiseNothingThemselves, TextsArriveWithTheirLength,
+    CharactersOutsideTheCodePageArriveAsQuestionMarks, NothingIsSentUnlessConnected,
+    TextSentBeforeTheAnswerArrivesAfterIt, ARefusedCallCloses, ARefusedCallCanNoLongerBeAnswered,
+    ASecondCallerWaitsAndIsRefusedWhenTheListenerCloses, AnsweringACallerWhoHasLeftCloses,
+    AnsweringAnUnknownCallCloses, ArrivalsComeBeforeTheCloseWhichComesOnce,
+    WordsSentOnAnsweringStillArriveWhenTheCalleeClosesAtOnce, ACallThatNobodyTakesCloses,
+    ACancelledCallRaisesNothing, ClosingInsideAnEventEndsTheEvents,
+    ClosingTwiceIsHarmlessAndTheSocketServesAgain, SidesMayChangeTheirRoles);
+
+}  // namespace verlume
