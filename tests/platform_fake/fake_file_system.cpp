@@ -24,12 +24,35 @@ bool EndsIn(std::u16string_view name, std::u16string_view extension) {
                     [&](char16_t a, char16_t b) { return lower(a) == lower(b); });
 }
 
+bool IsSurrogate(char16_t c) {
+  return c >= 0xD800 && c < 0xE000;
+}
+
+bool IsPair(std::u16string_view text) {
+  return text.size() > 1 && IsSurrogate(text[0]) && text[0] < 0xDC00 && IsSurrogate(text[1]) &&
+         text[1] >= 0xDC00;
+}
+
+// Whether a file may have this path.
+bool IsText(std::u16string_view path) {
+  for (; !path.empty(); path.remove_prefix(1)) {
+    if (IsPair(path)) {
+      path.remove_prefix(1);
+    } else if (path[0] == u'\0' || IsSurrogate(path[0])) {
+      return false;
+    }
+  }
+  return true;
+}
+
 std::string Utf8(std::u16string_view text) {
   std::string bytes;
   for (std::size_t i = 0; i < text.size(); ++i) {
     char32_t c = text[i];
-    if (c >= 0xD800 && c < 0xDC00 && i + 1 < text.size()) {
+    if (IsPair(text.substr(i))) {
       c = 0x10000 + ((c - 0xD800) << 10) + (text[++i] - 0xDC00);
+    } else if (IsSurrogate(text[i])) {
+      c = U'?';
     }
     if (c < 0x80) {
       bytes += static_cast<char>(c);
@@ -70,6 +93,7 @@ std::u16string FakeFileSystem::ReadText(std::u16string_view path) const {
 }
 
 std::string FakeFileSystem::ReadBytes(std::u16string_view path) const {
+  CheckPath(path);
   const auto file = files.find(path);
   if (file == files.end()) throw RunTimeFailure(FailureNumber::FileNotFound);
   return file->second;
@@ -90,6 +114,7 @@ void FakeFileSystem::AppendText(std::u16string_view path, std::u16string_view te
 }
 
 void FakeFileSystem::Delete(std::u16string_view path) {
+  CheckPath(path);
   if (!IsFile(path)) throw RunTimeFailure(FailureNumber::FileNotFound);
   files.erase(files.find(path));
 }
@@ -108,7 +133,12 @@ void FakeFileSystem::RemoveFolder(std::u16string_view path) {
 
 void FakeFileSystem::CheckWrite(std::u16string_view path) const {
   if (writesFail) throw RunTimeFailure(*writesFail);
-  if (IsFolder(path)) throw RunTimeFailure(FailureNumber::PathFileAccessError);
+  CheckPath(path);
+}
+
+// Throws unless a file of that path may be.
+void FakeFileSystem::CheckPath(std::u16string_view path) const {
+  if (!IsText(path) || IsFolder(path)) throw RunTimeFailure(FailureNumber::PathFileAccessError);
   if (!IsFolder(FolderOf(path))) throw RunTimeFailure(FailureNumber::PathNotFound);
 }
 

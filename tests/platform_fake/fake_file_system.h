@@ -33,6 +33,7 @@ class FakeFileSystem : public FileSystem {
   std::map<std::u16string, std::string, std::less<>> files;  // path -> bytes
 
  private:
+  void CheckPath(std::u16string_view path) const;
   void CheckWrite(std::u16string_view path) const;
 
   std::set<std::u16string, std::less<>> folders_ = {u"/"};

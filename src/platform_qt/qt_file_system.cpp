@@ -1,0 +1,159 @@
+#include "platform_qt/qt_file_system.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QStringDecoder>
+#include <cerrno>
+#include <filesystem>
+#include <optional>
+
+#include "platform/run_time_failure.h"
+#include "platform_qt/qt_file_system_posix.h"
+#include "platform_qt/qt_text.h"
+#include "richtext/code_pages.h"
+
+namespace verlume::qt {
+namespace {
+
+constexpr mode_t kPermissionBits = 07777;
+
+// A lone surrogate becomes '?'.
+std::string Utf8(std::u16string_view text) {
+  return ToQt(text).toUtf8().toStdString();
+}
+
+std::string NameOf(std::u16string_view path) {
+  const QString name = ToQt(path);
+  if (!name.isValidUtf16() || name.contains(QChar(0))) {
+    throw RunTimeFailure(FailureNumber::PathFileAccessError);
+  }
+  return name.toUtf8().toStdString();
+}
+
+// The text of a file's name, unless it is no UTF-8.
+std::optional<QString> TextOf(const std::string& name) {
+  QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+  const QString text = decode(name);
+  if (decode.hasError()) return std::nullopt;
+  return text;
+}
+
+bool IsOfType(std::u16string_view path, mode_t type) noexcept try {
+  struct stat found;
+  return Find(NameOf(path), found) && (found.st_mode & S_IFMT) == type;
+} catch (...) {
+  return false;
+}
+
+// Where the content of a path lies: the end of its links, or the path itself. The end of a link
+// need not exist.
+std::string FollowLinks(std::string path) {
+  constexpr int kMostLinks = 40;
+  for (int links = 0; links < kMostLinks; ++links) {
+    std::error_code error;
+    const std::filesystem::path target = std::filesystem::read_symlink(path, error);
+    if (error) return path;
+    path = std::filesystem::path(FolderOf(path)) / target;
+  }
+  throw RunTimeFailure(FailureNumber::PathFileAccessError);
+}
+
+// Throws unless a file may stand in the place of what is there; gives the permissions to keep.
+std::optional<mode_t> CheckReplaceable(const std::string& path) {
+  struct stat found;
+  if (!Find(path, found)) return std::nullopt;
+  if (!S_ISREG(found.st_mode)) throw RunTimeFailure(FailureNumber::PathFileAccessError);
+  if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) ThrowErrno(path);
+  return found.st_mode & kPermissionBits;
+}
+
+// A name beside `path` that no other process uses. A file of that name is left over from a crash.
+std::string NameBeside(const std::string& path) {
+  const std::string folder = FolderOf(path);
+  return folder + "/.verlume-" + std::to_string(::getpid()) + ".new";
+}
+
+void WriteNew(const std::string& path, std::string_view bytes, std::optional<mode_t> permissions) {
+  ::unlink(path.c_str());
+  OpenFile file(path, O_WRONLY | O_CREAT | O_EXCL);
+  file.Write(bytes);
+  if (permissions) file.SetPermissions(*permissions);
+  file.Flush();
+  file.Close();
+}
+
+// Makes the new name itself last through a crash, where the system can.
+void FlushFolder(const std::string& folder) {
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  ::fsync(descriptor);
+  ::close(descriptor);
+}
+
+}  // namespace
+
+bool QtFileSystem::IsFolder(std::u16string_view path) const noexcept {
+  return IsOfType(path, S_IFDIR);
+}
+
+bool QtFileSystem::IsFile(std::u16string_view path) const noexcept {
+  return IsOfType(path, S_IFREG);
+}
+
+std::vector<std::u16string> QtFileSystem::ListFiles(std::u16string_view folder,
+                                                    std::u16string_view extension) const {
+  if (!IsFolder(folder)) throw RunTimeFailure(FailureNumber::PathNotFound);
+  const std::string path = NameOf(folder);
+  std::error_code error;
+  std::vector<std::u16string> names;
+  auto entry = std::filesystem::directory_iterator(path, error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    const std::optional<QString> name = TextOf(entry->path().filename().string());
+    if (!name || !name->endsWith(ToQt(extension), Qt::CaseInsensitive)) continue;
+    std::error_code ignored;
+    if (entry->is_regular_file(ignored)) names.push_back(FromQt(*name));
+  }
+  if (!error) return names;
+  errno = error.value();
+  ThrowErrno(path);
+}
+
+std::u16string QtFileSystem::ReadText(std::u16string_view path) const {
+  return richtext::DecodeUtf8OrGreek(ReadBytes(path));
+}
+
+std::string QtFileSystem::ReadBytes(std::u16string_view path) const {
+  return OpenFile(NameOf(path), O_RDONLY).ReadAll();
+}
+
+void QtFileSystem::ReplaceText(std::u16string_view path, std::u16string_view text) {
+  ReplaceBytes(path, Utf8(text));
+}
+
+void QtFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes) {
+  const std::string target = FollowLinks(NameOf(path));
+  const std::optional<mode_t> permissions = CheckReplaceable(target);
+  const std::string fresh = NameBeside(target);
+  try {
+    WriteNew(fresh, bytes, permissions);
+    if (::rename(fresh.c_str(), target.c_str()) != 0) ThrowErrno(target);
+  } catch (const RunTimeFailure&) {
+    ::unlink(fresh.c_str());
+    throw;
+  }
+  FlushFolder(FolderOf(target));
+}
+
+void QtFileSystem::AppendText(std::u16string_view path, std::u16string_view text) {
+  OpenFile file(NameOf(path), O_WRONLY | O_CREAT | O_APPEND);
+  file.Append(Utf8(text));
+  file.Close();
+}
+
+void QtFileSystem::Delete(std::u16string_view path) {
+  const std::string name = NameOf(path);
+  if (::unlink(name.c_str()) != 0) ThrowErrno(name);
+}
+
+}  // namespace verlume::qt
