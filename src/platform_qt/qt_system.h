@@ -1,0 +1,72 @@
+// The machine's clock and regional forms, the program's own place and event loop, and the help
+// file.
+#pragma once
+
+#include <QLocale>
+#include <QObject>
+#include <QString>
+
+#include "platform/system.h"
+
+namespace verlume::qt {
+
+class QtClock : public Clock {
+ public:
+  LocalTime Now() const override;
+};
+
+class QtLocale : public Locale {
+ public:
+  explicit QtLocale(const QLocale& locale = QLocale::system());
+
+  std::u16string LongDate(const LocalTime& time) const override;
+  // With seconds, without the name of the time zone.
+  std::u16string LongTime(const LocalTime& time) const override;
+  std::u16string GroupSeparator() const override;
+  // The same on every machine: command words must not depend on the user's language.
+  std::u16string UpperCase(std::u16string_view text) const override;
+
+ private:
+  QLocale locale_;
+  QString timeFormat_;
+};
+
+// Needs a QApplication.
+class QtApplication : public QObject, public Application {
+ public:
+  QtApplication();
+  // For a program that lies in another folder than its executable.
+  explicit QtApplication(const QString& programFolder);
+
+  std::u16string ProgramFolder() const override;
+  std::u16string SettingsFolder() const override;
+  // The program's folder where a help file lies in it, else the data folder of the installation.
+  std::u16string HelpFolder() const override;
+  // Does nothing once the program has ended.
+  void YieldToEvents() override;
+  // Hides every window and leaves every event loop, those of modal boxes too. What is left to run
+  // of the handlers runs to its end; boxes that it opens return at once.
+  void End() override;
+
+  // The program's event loop, until End; returns at once when the program has ended before.
+  int Run();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QString programFolder_;
+  bool hasEnded_ = false;
+};
+
+class QtHelpViewer : public HelpViewer {
+ public:
+  void SetHelpFile(std::u16string_view path) override { helpFile_ = path; }
+  // "" until one is set.
+  const std::u16string& HelpFile() const { return helpFile_; }
+
+ private:
+  std::u16string helpFile_;
+};
+
+}  // namespace verlume::qt
