@@ -90,6 +90,8 @@ class QtApplicationFolders : public testing::Test {
   QtApplicationFolders() {
     const QString program = Program();
     QDir().mkpath(program);
+    // Everybody may look in.
+    EXPECT_EQ(::chmod(folder_.path().toUtf8().constData(), 0755), 0);
   }
   QString Program() const { return folder_.path() + "/bin"; }
   void MakeHelp(const QString& folder) {
@@ -168,6 +170,9 @@ TEST(QtApplicationEvents, NoHandlerRunsAfterTheEnd) {
   bool isHandled = false;
   application.End();
   QTimer::singleShot(0, &application, [&] { isHandled = true; });
+  QTimer timer;
+  timer.callOnTimeout([&] { isHandled = true; });
+  timer.start(0);
   application.YieldToEvents();
   QCoreApplication::processEvents();
   EXPECT_FALSE(isHandled);
