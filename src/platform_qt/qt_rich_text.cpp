@@ -84,22 +84,6 @@ QTextCharFormat FormatAt(const QTextDocument& document, int index) {
   return document.allFormats().at(index).toCharFormat();
 }
 
-QTextCharFormat FormatOfFirst(const QTextCursor& cursor) {
-  QTextCharFormat format = cursor.charFormat();
-  VisitSelectedPieces(cursor, [&](int index, int, int) {
-    format = FormatAt(*cursor.document(), index);
-    return false;
-  });
-  return format;
-}
-
-// A box that has been emptied goes on in the format of what was there.
-void KeepFormatIfEmpty(QTextCursor& cursor, const QTextCharFormat& format) {
-  if (!cursor.document()->isEmpty()) return;
-  cursor.setBlockCharFormat(format);
-  cursor.setCharFormat(format);
-}
-
 }  // namespace
 
 QString SafeText(std::u16string_view text, Lines lines) {
@@ -110,6 +94,21 @@ QString SafeText(std::u16string_view text, Lines lines) {
     if (!first) joined += text[i];
   }
   return SafeUnits(joined, lines);
+}
+
+QTextCharFormat FormatOfFirst(const QTextCursor& cursor) {
+  QTextCharFormat format = cursor.charFormat();
+  VisitSelectedPieces(cursor, [&](int index, int, int) {
+    format = FormatAt(*cursor.document(), index);
+    return false;
+  });
+  return format;
+}
+
+void KeepFormatIfEmpty(QTextCursor& cursor, const QTextCharFormat& format) {
+  if (!cursor.document()->isEmpty()) return;
+  cursor.setBlockCharFormat(format);
+  cursor.setCharFormat(format);
 }
 
 void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines) {

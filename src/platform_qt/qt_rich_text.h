@@ -17,6 +17,12 @@ enum class Lines { Many, Single };
 // units that Qt gives a meaning of its own become U+FFFD, so that positions never drift.
 QString SafeText(std::u16string_view text, Lines lines);
 
+// The format of the selection's first character, or of the insertion point.
+QTextCharFormat FormatOfFirst(const QTextCursor& cursor);
+
+// An empty document goes on in this format, wherever a cursor is set in it.
+void KeepFormatIfEmpty(QTextCursor& cursor, const QTextCharFormat& format);
+
 // Both replace the cursor's selection and leave the cursor behind what came in.
 void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines);
 void InsertDocument(QTextCursor& cursor, const richtext::Document& document, Lines lines);

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <QPointer>
+#include <functional>
 
 #include "platform/file_system.h"
 #include "platform/rich_text_box.h"
@@ -21,6 +23,7 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
 
   // `files` is read and written by LoadFile and SaveFile; it outlives the box.
   QtRichTextBox(QWidget* parent, FileSystem& files, Lines lines);
+  ~QtRichTextBox() override;
 
   std::u16string Text() const override;
   std::size_t TextLength() const override;
@@ -47,10 +50,10 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
  private:
   QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines);
 
-  RichTextWidget& view() const;
   void ReplaceAll(const richtext::Document& document);
-  void RaiseSelChange();
+  void ReplaceAll(const std::function<void(QTextCursor&)>& fill);
 
+  QPointer<RichTextWidget> view_;
   FileSystem& files_;
   Lines lines_;
   std::u16string tag_;

@@ -6,6 +6,18 @@
 #include "richtext/rtf_writer.h"
 
 namespace verlume::fake {
+namespace {
+
+// What a box on a real platform makes of a unit, which keeps marks of its own in its text.
+char16_t SafeUnit(char16_t unit, bool singleLine) {
+  if (unit == u'\n' || unit == u'\r' || unit == u'\u2028' || unit == u'\u2029') {
+    return singleLine ? u' ' : u'\n';
+  }
+  const bool isMark = unit == 0 || unit == 0xFFFC || (unit >= 0xFDD0 && unit <= 0xFDEF);
+  return isMark ? u'\uFFFD' : unit;
+}
+
+}  // namespace
 
 std::u16string FakeRichTextBox::Text() const {
   std::u16string text;
@@ -58,20 +70,31 @@ std::u16string FakeRichTextBox::Rtf() const {
 void FakeRichTextBox::Select(std::size_t start, std::size_t length) {
   selStart_ = std::min(start, cells_.size());
   selLength_ = std::min(length, cells_.size() - selStart_);
-  if (selStart_ > 0) insertionLook_ = cells_[selStart_ - 1].look;
+  TakeInsertionLook();
   RaiseSelChange();
+}
+
+void FakeRichTextBox::TakeInsertionLook() {
+  const auto isBreak = [this](std::size_t at) { return cells_[at].character == u'\n'; };
+  const bool startsLine = selStart_ == 0 || isBreak(selStart_ - 1);
+  if (startsLine && selStart_ < cells_.size() && !isBreak(selStart_)) {
+    insertionLook_ = cells_[selStart_].look;
+  } else if (selStart_ > 0) {
+    insertionLook_ = cells_[selStart_ - 1].look;
+  }
 }
 
 SelectionFormat FakeRichTextBox::SelFormat() const {
   if (formatIsMixed) return {};
   const Look& first = selLength_ > 0 ? cells_[selStart_].look : insertionLook_;
-  SelectionFormat format{first.fontName, first.fontSize,  first.color,        first.bold,
+  const auto shown = [](Color color) { return std::max<Color>(color, 0); };
+  SelectionFormat format{first.fontName, first.fontSize,  shown(first.color), first.bold,
                          first.italic,   first.underline, first.strikethrough};
   for (std::size_t i = selStart_; i < selStart_ + selLength_; ++i) {
     const Look& look = cells_[i].look;
     if (look.fontName != first.fontName) format.fontName.reset();
     if (look.fontSize != first.fontSize) format.fontSize.reset();
-    if (look.color != first.color) format.color.reset();
+    if (shown(look.color) != shown(first.color)) format.color.reset();
     if (look.bold != first.bold) format.bold.reset();
     if (look.italic != first.italic) format.italic.reset();
     if (look.underline != first.underline) format.underline.reset();
@@ -115,10 +138,9 @@ std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(std::u16string_view 
   const Look& look = selLength_ > 0 ? cells_[selStart_].look : insertionLook_;
   std::vector<Cell> cells;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    char16_t c = text[i];
+    const char16_t c = text[i];
     if (c == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') continue;
-    if (c == u'\r' || c == u'\n') c = lines_ == Lines::Single ? u' ' : u'\n';
-    cells.push_back({c, look});
+    cells.push_back({SafeUnit(c, lines_ == Lines::Single), look});
   }
   return cells;
 }
@@ -129,16 +151,16 @@ std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(
   std::size_t at = 0;
   for (const richtext::Run& run : document.runs) {
     Look look;
-    look.fontName = document.fonts[run.format.font].name;
+    const std::u16string& name = document.fonts[run.format.font].name;
+    if (!name.empty()) look.fontName = name;
     look.fontSize = run.format.halfPoints / 2.0;
-    look.color = std::max<Color>(run.format.color, 0);
+    look.color = run.format.color;
     look.bold = run.format.bold;
     look.italic = run.format.italic;
     look.underline = run.format.underline;
     look.strikethrough = run.format.strikethrough;
     for (std::size_t end = at + run.length; at < end; ++at) {
-      const char16_t c = document.text[at];
-      cells.push_back({c == u'\n' && lines_ == Lines::Single ? u' ' : c, look});
+      cells.push_back({SafeUnit(document.text[at], lines_ == Lines::Single), look});
     }
   }
   return cells;

@@ -53,7 +53,7 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   struct Look {
     std::u16string fontName = u"Arial";
     double fontSize = 10;
-    Color color = 0;
+    Color color = kAutomaticColor;
     bool bold = false;
     bool italic = false;
     bool underline = false;
@@ -68,6 +68,7 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   void Insert(const std::vector<Cell>& cells);
   std::vector<Cell> CellsOf(std::u16string_view text) const;
   std::vector<Cell> CellsOf(const richtext::Document& document) const;
+  void TakeInsertionLook();
   void ReplaceAll(std::vector<Cell> cells);
   void RaiseSelChange() {
     if (onSelChange) onSelChange();

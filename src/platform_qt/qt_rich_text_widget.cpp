@@ -1,0 +1,148 @@
+#include "platform_qt/qt_rich_text_widget.h"
+
+#include <QInputMethodEvent>
+#include <QPalette>
+#include <QScrollBar>
+
+#include "platform_qt/qt_key_codes.h"
+#include "platform_qt/qt_rich_text_mime.h"
+#include "platform_qt/qt_text.h"
+#include "platform_qt/qt_text_format.h"
+
+namespace verlume::qt {
+namespace {
+
+// The classic look, in light and in dark desktops alike.
+QPalette ClassicPalette(QPalette palette) {
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::PlaceholderText, Qt::darkGray);
+  palette.setColor(QPalette::Highlight, QColor(0x30, 0x66, 0xB0));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  return palette;
+}
+
+}  // namespace
+
+RichTextWidget::ProgramChange::~ProgramChange() {
+  if (--widget_.programDepth_ == 0) widget_.lastFormat_ = widget_.textCursor().charFormat();
+}
+
+RichTextWidget::UserChange::~UserChange() {
+  if (widget_ && --widget_->userDepth_ == 0) widget_->SettleSelChange();
+}
+
+RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
+    : QPlainTextEdit(parent), lines_(lines) {
+  setPalette(ClassicPalette(palette()));
+  QFont font(ToQt(kOwnFontName));
+  font.setPointSizeF(kOwnFontSize);
+  setFont(font);
+  setLineWrapMode(QPlainTextEdit::WidgetWidth);
+  setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  const auto note = [this] { NoteSelChange(); };
+  connect(this, &QPlainTextEdit::cursorPositionChanged, this, note);
+  connect(this, &QPlainTextEdit::selectionChanged, this, note);
+  connect(document(), &QTextDocument::contentsChanged, this, note);
+}
+
+bool RichTextWidget::Swallowed(int keyCode, int shift, int charCode) {
+  const QPointer<RichTextWidget> self(this);
+  int code = keyCode;
+  if (events_ && events_->onKeyDown) events_->onKeyDown(code, shift);
+  if (!self || (keyCode != 0 && code == 0)) return true;
+  if (charCode == 0) return false;
+  if (events_ && events_->onKeyPress) events_->onKeyPress(charCode);
+  return !self || charCode == 0;
+}
+
+void RichTextWidget::keyPressEvent(QKeyEvent* event) {
+  const UserChange change(*this);
+  if (Swallowed(KeyCodeOf(*event), ShiftOf(*event), CharCodeOf(*event))) return event->accept();
+  PerformKey(event);
+}
+
+void RichTextWidget::PerformKey(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Backtab) {
+    // Qt keeps it from an editor that takes tabs.
+    QAbstractScrollArea::focusNextPrevChild(false);
+    return;
+  }
+  const QString text = IsEnter(*event) ? QString(u'\n') : event->text();
+  const bool typesOther = text.size() > 0 && SafeText(FromQt(text), lines_) != event->text();
+  const bool plainKey = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+  if (typesOther && plainKey && !isReadOnly()) return TypeText(text);
+  QPlainTextEdit::keyPressEvent(event);
+}
+
+void RichTextWidget::TypeText(const QString& text) {
+  QTextCursor cursor = textCursor();
+  InsertText(cursor, FromQt(text), lines_);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+}
+
+void RichTextWidget::inputMethodEvent(QInputMethodEvent* event) {
+  const UserChange change(*this);
+  QString commit = SafeText(FromQt(event->commitString()), lines_);
+  if (!commit.isEmpty() && Swallowed(0, 0, commit.front().unicode())) commit.clear();
+  QInputMethodEvent safe(event->preeditString(), event->attributes());
+  safe.setCommitString(commit, event->replacementStart(), event->replacementLength());
+  QPlainTextEdit::inputMethodEvent(&safe);
+  event->setAccepted(safe.isAccepted());
+}
+
+void RichTextWidget::focusInEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusInEvent(event);
+  if (events_ && events_->onGotFocus) events_->onGotFocus();
+}
+
+void RichTextWidget::resizeEvent(QResizeEvent* event) {
+  const bool showsEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+  QPlainTextEdit::resizeEvent(event);
+  if (showsEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+bool RichTextWidget::viewportEvent(QEvent* event) {
+  const UserChange change(*this);
+  return QPlainTextEdit::viewportEvent(event);
+}
+
+bool RichTextWidget::canInsertFromMimeData(const QMimeData* source) const {
+  return source && HoldsText(*source);
+}
+
+QMimeData* RichTextWidget::createMimeDataFromSelection() const {
+  return new RichTextMimeData(SelectedDocument(textCursor(), charset_));
+}
+
+void RichTextWidget::insertFromMimeData(const QMimeData* source) {
+  if (isReadOnly() || !source) return;
+  const UserChange change(*this);
+  QTextCursor cursor = textCursor();
+  InsertMimeData(cursor, *source, lines_);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+}
+
+void RichTextWidget::NoteSelChange() {
+  if (programDepth_ > 0) return;
+  selChanged_ = true;
+  if (userDepth_ == 0) SettleSelChange();
+}
+
+void RichTextWidget::SettleSelChange() {
+  if (!selChanged_) return;
+  selChanged_ = false;
+  if (document()->isEmpty()) {
+    const ProgramChange change(*this);
+    QTextCursor cursor = textCursor();
+    KeepFormatIfEmpty(cursor, lastFormat_);
+    setTextCursor(cursor);
+  }
+  lastFormat_ = textCursor().charFormat();
+  if (events_ && events_->onSelChange) events_->onSelChange();
+}
+
+}  // namespace verlume::qt
