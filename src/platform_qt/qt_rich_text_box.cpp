@@ -114,14 +114,20 @@ void QtRichTextBox::SetSelText(std::u16string_view text) {
   const ProgramChange change(*view_);
   QTextCursor cursor = widget_->textCursor();
   InsertText(cursor, text, lines_);
-  widget_->setTextCursor(cursor);
+  FollowTo(cursor);
 }
 
 void QtRichTextBox::SetSelRtf(std::u16string_view rtf) {
   const ProgramChange change(*view_);
   QTextCursor cursor = widget_->textCursor();
   InsertDocument(cursor, richtext::ReadRtf(rtf), lines_);
-  widget_->setTextCursor(cursor);
+  FollowTo(cursor);
+}
+
+void QtRichTextBox::FollowTo(const QTextCursor& cursor) {
+  // The widget's own cursor moves with what is inserted; setting it costs half a line's time.
+  const QTextCursor own = widget_->textCursor();
+  if (own.hasSelection() || own.position() != cursor.position()) widget_->setTextCursor(cursor);
 }
 
 void QtRichTextBox::SetFontCharset(int charset) {

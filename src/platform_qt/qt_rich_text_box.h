@@ -52,6 +52,7 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
 
   void ReplaceAll(const richtext::Document& document);
   void ReplaceAll(const std::function<void(QTextCursor&)>& fill);
+  void FollowTo(const QTextCursor& cursor);
 
   QPointer<RichTextWidget> view_;
   FileSystem& files_;

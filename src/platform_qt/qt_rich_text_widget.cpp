@@ -99,7 +99,9 @@ void RichTextWidget::focusInEvent(QFocusEvent* event) {
 }
 
 void RichTextWidget::resizeEvent(QResizeEvent* event) {
-  const bool showsEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+  QTextCursor end(document());
+  end.movePosition(QTextCursor::End);
+  const bool showsEnd = QRect({}, event->oldSize()).contains(cursorRect(end).center());
   QPlainTextEdit::resizeEvent(event);
   if (showsEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
