@@ -222,10 +222,8 @@ TEST_F(QtRichTextBoxTest, UndoIsForTheUserOfASingleLine) {
 }
 
 TEST_F(QtRichTextBoxTest, ABoxThatTheUserEmptiesKeepsItsFormat) {
-  SelectionFormat bold;
-  bold.bold = true;
-  single.SetSelFormat(bold);
-  Press(single, Qt::Key_A, Qt::NoModifier, "a");
+  single.SetRtf(u"{\\rtf1\\b a}");
+  single.Select(1, 0);
   Press(single, Qt::Key_Backspace, Qt::NoModifier, "\b");
   EXPECT_EQ(single.Text(), u"");
   EXPECT_EQ(single.SelFormat().bold, true);
@@ -271,10 +269,13 @@ TEST_F(QtRichTextBoxTest, MouseButtonsAreToldOnce) {
 
 TEST_F(QtRichTextBoxTest, TheLookIsBlackOnWhiteInADarkTheme) {
   const QPalette before = QApplication::palette();
-  QApplication::setPalette(QPalette(Qt::white, Qt::black, Qt::gray, Qt::black, Qt::gray, Qt::white,
-                                    Qt::white, Qt::black, Qt::black));
-  EXPECT_EQ(many.widget()->palette().color(QPalette::Base), QColor(Qt::white));
-  EXPECT_EQ(many.widget()->palette().color(QPalette::Text), QColor(Qt::black));
+  QPalette dark = before;
+  dark.setColor(QPalette::Base, Qt::black);
+  dark.setColor(QPalette::Text, Qt::white);
+  QApplication::setPalette(dark);
+  const QtRichTextBox box(&window, files, Lines::Many);
+  EXPECT_EQ(box.widget()->palette().color(QPalette::Base), QColor(Qt::white));
+  EXPECT_EQ(box.widget()->palette().color(QPalette::Text), QColor(Qt::black));
   QApplication::setPalette(before);
 }
 
