@@ -1,0 +1,46 @@
+// A layout that keeps every widget's relative place and size: each has a rectangle in design units,
+// and all are scaled by the same two factors when the area changes.
+#pragma once
+
+#include <QLayout>
+#include <QList>
+#include <QRect>
+#include <memory>
+
+namespace verlume::qt {
+
+class ProportionalLayout : public QLayout {
+ public:
+  // At 100 % one design unit is one pixel; the area is never laid out smaller than the design.
+  ProportionalLayout(QWidget* parent, QSize design);
+  ~ProportionalLayout() override;
+
+  void Place(QWidget* widget, const QRect& design);
+  // The widget's rectangle in design units; empty for a widget that is not placed here.
+  QRect DesignOf(const QWidget* widget) const;
+
+  void addItem(QLayoutItem* item) override;
+  int count() const override { return static_cast<int>(places_.size()); }
+  QLayoutItem* itemAt(int index) const override;
+  QLayoutItem* takeAt(int index) override;
+  Qt::Orientations expandingDirections() const override;
+  QSize sizeHint() const override { return minimumSize(); }
+  // The design, enlarged where the user's font needs more height than the design gives.
+  QSize minimumSize() const override;
+  void setGeometry(const QRect& area) override;
+
+ private:
+  struct PlacedItem {
+    std::unique_ptr<QLayoutItem> item;
+    QRect design;
+  };
+
+  QSize design_;
+  std::vector<PlacedItem> places_;
+};
+
+// The height of a widget in its design's units, or in pixels where no such layout holds it.
+int DesignHeight(const QWidget* widget);
+void SetDesignHeight(QWidget* widget, int height);
+
+}  // namespace verlume::qt

@@ -1,0 +1,93 @@
+#include "platform_qt/qt_window.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QWindow>
+
+#include "platform_qt/qt_text.h"
+
+namespace verlume::qt {
+
+QtWindow::QtWindow(QWidget* form) : QObject(form), form_(form) {
+  form->installEventFilter(this);
+}
+
+void QtWindow::SetTitle(std::u16string_view title) {
+  form_->setWindowTitle(ToQt(title));
+}
+
+std::u16string QtWindow::Title() const {
+  return FromQt(form_->windowTitle());
+}
+
+void QtWindow::Show() {
+  form_->show();
+}
+
+void QtWindow::Unload() {
+  // From a handler of the close box this closes nothing yet: the close under way does.
+  if (Close(UnloadMode::Code)) form_->close();
+}
+
+bool QtWindow::Close(UnloadMode mode) {
+  if (unloaded_) return true;
+  bool cancel = false;
+  if (onQueryUnload) onQueryUnload(cancel, mode);
+  if (unloaded_) return true;
+  if (cancel) return false;
+  unloaded_ = true;
+  if (onUnload) onUnload();
+  return true;
+}
+
+bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != form_ || event->type() != QEvent::Close) return false;
+  // A second request while the first is being asked about is the same wish.
+  bool closed = unloaded_;
+  if (!closed && !asking_) {
+    asking_ = true;
+    closed = Close(UnloadMode::User);
+    asking_ = false;
+  }
+  event->setAccepted(closed);
+  return true;
+}
+
+bool QtWindow::SetTopMost(bool topMost) {
+  // Such a band is not a client's to choose there.
+  if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) return false;
+  Qt::WindowFlags flags = form_->windowFlags();
+  flags.setFlag(Qt::WindowStaysOnTopHint, topMost);
+  // QWidget::setWindowFlag would take the window off the screen and put it back elsewhere.
+  form_->overrideWindowFlags(flags);
+  if (QWindow* window = form_->windowHandle()) {
+    window->setFlag(Qt::WindowStaysOnTopHint, topMost);
+  }
+  return topMost;
+}
+
+QtLayoutControl::QtLayoutControl(QWidget* form) : QObject(form), form_(form) {
+  setObjectName(QStringLiteral("freeSizer1"));
+  form->installEventFilter(this);
+}
+
+bool QtLayoutControl::eventFilter(QObject* watched, QEvent* event) {
+  if (raised_) return false;
+  // The form is on the screen once its native window is exposed; that exists from the first Show.
+  if (watched == form_ && event->type() == QEvent::Show && form_->windowHandle()) {
+    form_->windowHandle()->installEventFilter(this);
+  }
+  if (watched == form_->windowHandle() && event->type() == QEvent::Expose &&
+      form_->windowHandle()->isExposed()) {
+    raised_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          if (onPostLayout) onPostLayout();
+        },
+        Qt::QueuedConnection);
+  }
+  return false;
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,35 @@
+// Qt's controls keep the controls' contract.
+#include "platform/control_contract.h"
+#include "platform_qt/qt_controls.h"
+#include "platform_qt/qt_window.h"
+
+namespace verlume::qt {
+namespace {
+
+class QtMaker {
+ public:
+  Label& label() { return label_; }
+  CheckBox& checkBox() { return checkBox_; }
+  MenuEntry& entry() { return entry_; }
+  Menu& menu() { return menu_; }
+  Lamp& lamp() { return lamp_; }
+  Picture& picture() { return picture_; }
+  Window& window() { return window_; }
+  void CloseByUser() { form_.close(); }
+
+ private:
+  QWidget form_;
+  QMenu qtMenu_{&form_};
+  QtLabel label_{new ElidedLabel(&form_)};
+  QtCheckBox checkBox_{new QCheckBox(&form_)};
+  QtMenuEntry entry_{qtMenu_.addAction(QString())};
+  QtMenu menu_{&qtMenu_};
+  QtLamp lamp_{new LampWidget(&form_)};
+  QtPicture picture_{new PictureWidget(&form_)};
+  QtWindow window_{&form_};
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ControlContract, QtMaker);
+
+}  // namespace
+}  // namespace verlume::qt
