@@ -1,0 +1,25 @@
+#include "platform_qt/qt_main_window.h"
+
+namespace verlume::qt {
+
+QtMainWindow::QtMainWindow(FileSystem& files)
+    : rtbData(form_.centralWidget(), files, Lines::Many),
+      rtbCommands(form_.centralWidget(), files, Lines::Single),
+      rtbRemote(form_.centralWidget(), files, Lines::Many) {
+  form_.PlacePane(rtbData.widget(), "rtbData");
+  form_.PlacePane(rtbCommands.widget(), "rtbCommands");
+  rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
+  rtbRemote.widget()->hide();
+  rtbData.SetLocked(true);
+  QFont strong;
+  strong.setWeight(QFont::DemiBold);
+  lblStatus.widget()->setFont(strong);
+  // The Tab key goes the way the eye goes, and starts where the user types.
+  QWidget::setTabOrder(rtbCommands.widget(), chkBold.widget());
+  QWidget::setTabOrder(chkBold.widget(), chkItalics.widget());
+  QWidget::setTabOrder(chkItalics.widget(), chkUnderline.widget());
+  QWidget::setTabOrder(chkUnderline.widget(), rtbData.widget());
+  rtbCommands.widget()->setFocus();
+}
+
+}  // namespace verlume::qt

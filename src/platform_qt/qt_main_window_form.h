@@ -1,0 +1,39 @@
+// The widgets of the main window, made from its design. Each is found by its name.
+#pragma once
+
+#include <QMainWindow>
+#include <QMenu>
+
+#include "platform/file_system.h"
+#include "platform_qt/qt_controls.h"
+#include "platform_qt/qt_main_window_design.h"
+
+namespace verlume::qt {
+
+class ProportionalLayout;
+
+class MainForm : public QMainWindow {
+ public:
+  MainForm();
+
+  // The widget of the design that bears the name; there is one.
+  template <class Widget>
+  Widget* Find(const char* name) {
+    return findChild<Widget*>(QLatin1String(name));
+  }
+
+  // Puts a pane where the design wants it, in the Tab order too.
+  void PlacePane(QWidget* pane, const char* name);
+
+ private:
+  void BuildMenus();
+  void BuildControls();
+  QWidget* Build(const ControlDesign& design);
+  QWidget* BuildLabel(const ControlDesign& design);
+  void RelateCaptions();
+
+  QWidget* area_;
+  ProportionalLayout* layout_;
+};
+
+}  // namespace verlume::qt
