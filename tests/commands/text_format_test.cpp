@@ -275,6 +275,12 @@ TEST_F(TextFormatTest, ALabelMarkedFromCodeDoesNotAsk) {
   EXPECT_THAT(fake.commonDialog.colorsShown, IsEmpty());
 }
 
+TEST_F(TextFormatTest, TheLabelIsMarkedOnlyWhileItIsPainted) {
+  textFormat.ApplyCommandStyle();
+  EXPECT_EQ(window.lblColor.tagWhenPainted, u"FROMCODE");
+  EXPECT_EQ(window.lblColor.tag, u"");
+}
+
 TEST_F(TextFormatTest, ACancelledColourChangesNothing) {
   state.FontColor = 65280;
   textFormat.ApplyCommandStyle();

@@ -29,11 +29,15 @@ class FakeLabel : public FakeControl<Label> {
   std::u16string Caption() const override { return caption; }
   void SetTag(std::u16string_view text) override { tag = text; }
   std::u16string Tag() const override { return tag; }
-  void SetBackColor(Color color) override { backColor = color; }
+  void SetBackColor(Color color) override {
+    backColor = color;
+    tagWhenPainted = tag;
+  }
   void SetHeight(int value) override { height = value; }
 
   std::u16string caption = u"as designed";
   std::u16string tag;
+  std::u16string tagWhenPainted;
   Color backColor = 0;
   int height = 0;
 };
