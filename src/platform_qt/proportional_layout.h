@@ -6,6 +6,7 @@
 #include <QList>
 #include <QRect>
 #include <memory>
+#include <vector>
 
 namespace verlume::qt {
 

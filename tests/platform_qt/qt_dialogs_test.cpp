@@ -131,8 +131,10 @@ TEST_F(QtDialogsTest, UnexpectedBoxIgnoresTheShortcutsOfItsButtonsAtFirst) {
   message.unexpected = true;
   AnswerTo(message, [](QDialog& box) {
     QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
-    QTest::keyClick(&box, Qt::Key_Escape);
+    ASSERT_TRUE(box.isVisible());
     QTest::keyClick(AsBox(box).defaultButton(), Qt::Key_Space);
+    ASSERT_TRUE(box.isVisible());
+    QTest::keyClick(&box, Qt::Key_Escape);
     EXPECT_TRUE(box.isVisible());
     Click(box, QMessageBox::Yes);
   });

@@ -108,6 +108,8 @@ TEST(QtLayoutControlTest, RaisesPostLayoutOnceFromTheEventLoop) {
   form.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
   form.resize(500, 400);
+  QExposeEvent again(QRegion(0, 0, 500, 400));
+  QCoreApplication::sendEvent(form.windowHandle(), &again);
   QCoreApplication::processEvents();
   EXPECT_EQ(raised, 1);
 }
