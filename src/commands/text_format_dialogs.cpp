@@ -7,14 +7,13 @@
 #include "commands/text_format.h"
 #include "connection/command_parts.h"
 #include "shell/conversions.h"
+#include "shell/settings_reader.h"
 #include "shell/text_pair.h"
 
 namespace verlume {
 namespace {
 
 // Limits of the local font size, in points.
-constexpr double kSmallestSize = 8;
-constexpr double kLargestSize = 11;
 
 constexpr TextPair kSizeTitle = {u"Font size definition", u"Ορισμός μεγέθους γραμματοσειράς"};
 constexpr TextPair kSizePrompt = {
@@ -40,7 +39,7 @@ std::optional<double> FontSizeOf(std::u16string_view text) {
                        std::count(number.begin(), number.end(), u'.') <= 1;
   if (!isPlain) return std::nullopt;
   const double size = NumericPrefixOf(number);
-  if (size < kSmallestSize || size > kLargestSize) return std::nullopt;
+  if (size < kSmallestFontSize || size > kLargestFontSize) return std::nullopt;
   return size;
 }
 
@@ -98,14 +97,14 @@ void TextFormat::mnuFormatFontSettings_Click() {
                                        .strikethrough = state_.FontStrikethrough,
                                        .color = state_.FontColor,
                                        .size = state_.FontSize},
-                                      kSmallestSize, kLargestSize);
+                                      kSmallestFontSize, kLargestFontSize);
     state_.FontName = chosen.name;
     state_.FontBold = chosen.bold;
     state_.FontItalic = chosen.italic;
     state_.FontUnderline = chosen.underline;
     state_.FontStrikethrough = chosen.strikethrough;
     state_.FontColor = chosen.color;
-    state_.FontSize = std::clamp(chosen.size, kSmallestSize, kLargestSize);
+    state_.FontSize = std::clamp(chosen.size, kSmallestFontSize, kLargestFontSize);
     ApplyCommandStyle();
   });
   platform_.frmMain.rtbCommands.SetFocus();

@@ -1,6 +1,5 @@
 #include "shell/error_report.h"
 
-#include <exception>
 #include <utility>
 
 #include "platform/run_time_failure.h"
@@ -41,7 +40,7 @@ bool ErrorReport::Guard(Procedure procedure, const std::function<void()>& body) 
     if (failure.number != FailureNumber::Cancelled) {
       Report(static_cast<std::int32_t>(failure.number), failure.description, procedure);
     }
-  } catch (const std::exception&) {
+  } catch (...) {
     const RunTimeFailure internal(FailureNumber::InternalError);
     Report(static_cast<std::int32_t>(internal.number), internal.description, procedure);
   }
