@@ -44,7 +44,7 @@ class Application {
   virtual std::u16string SettingsFolder() const = 0;
   // Where the help files lie: the program's folder, or the installed data folder.
   virtual std::u16string HelpFolder() const = 0;
-  // Handles the events that wait, and returns.
+  // Handles the timer and socket events that wait, and returns; keys and clicks wait on.
   virtual void YieldToEvents() = 0;
   // Ends the program: every window closes, and no further event reaches a handler.
   virtual void End() = 0;

@@ -70,7 +70,11 @@ std::u16string QtApplication::HelpFolder() const {
 }
 
 void QtApplication::YieldToEvents() {
-  if (!hasEnded_) QCoreApplication::processEvents();
+  // Without keys and clicks: a key handled inside the handler of the key before it would be typed
+  // first. And not for long, however fast a peer sends.
+  constexpr int kLimitMilliseconds = 20;
+  if (hasEnded_) return;
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kLimitMilliseconds);
 }
 
 void QtApplication::End() {

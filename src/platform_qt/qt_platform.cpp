@@ -1,0 +1,15 @@
+#include "platform_qt/qt_platform.h"
+
+#include <QApplication>
+
+namespace verlume::qt {
+
+void PrepareApplication() {
+  QApplication::setApplicationName(QStringLiteral("verlume"));
+  QApplication::setDesktopFileName(QStringLiteral("verlume"));
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  // The program decides when it ends, not the last window.
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+}  // namespace verlume::qt

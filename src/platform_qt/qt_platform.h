@@ -1,0 +1,43 @@
+// The whole Qt platform, in one object that outlives the program.
+#pragma once
+
+#include "platform/platform.h"
+#include "platform_qt/qt_common_dialog.h"
+#include "platform_qt/qt_dialogs.h"
+#include "platform_qt/qt_file_system.h"
+#include "platform_qt/qt_main_window.h"
+#include "platform_qt/qt_socket.h"
+#include "platform_qt/qt_system.h"
+
+namespace verlume::qt {
+
+// What has to be said before the QApplication is made.
+void PrepareApplication();
+
+class QtPlatform {
+ public:
+  QtPlatform() = default;
+  QtPlatform(const QtPlatform&) = delete;
+  QtPlatform& operator=(const QtPlatform&) = delete;
+
+  Platform& View() { return view_; }
+
+  // Handles events until the program ends; the process's exit status.
+  int Run() { return application_.Run(); }
+
+ private:
+  QtFileSystem files_;
+  QtClock clock_;
+  QtLocale locale_;
+  QtApplication application_;
+  QtHelpViewer help_;
+  QtMainWindow window_{files_};
+  QtSocket socket_;
+  QtDialogs dialogs_{&window_.form()};
+  QtCommonDialog commonDialog_{&window_.form()};
+
+  Platform view_ = {window_.View(), socket_, dialogs_,     commonDialog_, files_,
+                    clock_,         locale_, application_, help_};
+};
+
+}  // namespace verlume::qt

@@ -1,0 +1,115 @@
+#include "shell/program.h"
+
+namespace verlume {
+namespace {
+
+// Binds an event to a procedure. The procedures catch their own failures.
+template <class Event, class Room, class Method>
+void On(Event& event, Room& room, Method procedure) {
+  event = [&room, procedure](auto&&... arguments) { (room.*procedure)(arguments...); };
+}
+
+}  // namespace
+
+Program::Program(Platform& platform)
+    : platform_(platform),
+      errors_(
+          state_, platform.dialogs, [this] { ResetConnection(state_, platform_); },
+          [this] { platform_.frmMain.window.Unload(); }),
+      settings_(state_, platform.files),
+      statusPanel_(platform, errors_),
+      language_(state_, platform, errors_, settings_),
+      windowBehaviour_(state_, platform, errors_, settings_),
+      log_(state_, platform, errors_, settings_),
+      macroStore_(state_, platform, errors_, settings_),
+      dialogue_(state_, platform, errors_, settings_, log_),
+      wire_(state_, platform, errors_, {dialogue_, log_, statusPanel_}),
+      connection_(state_, platform, errors_, {settings_, dialogue_, log_, statusPanel_, wire_}),
+      socketEvents_(state_, platform, errors_, wire_, log_),
+      history_(state_, platform, errors_),
+      textFormat_(state_, platform, errors_, settings_, dialogue_),
+      interpreter_(state_, platform, errors_,
+                   {dialogue_, history_, textFormat_, connection_, wire_}),
+      startUp_(state_, platform, errors_, settings_, language_,
+               {[this] { ResetConnection(state_, platform_); }, BuildProtocolMarker,
+                [this] { textFormat_.ApplyCommandStyle(); }}),
+      shutDown_(
+          state_, platform, errors_, [this] { connection_.ConfirmExit(); },
+          [this] { ResetConnection(state_, platform_); }) {
+  BindWindow();
+  BindMenus();
+  BindPanes();
+  BindSocket();
+  BindContextHelp(platform.frmMain);
+}
+
+void Program::Start() {
+  startUp_.Form_Load();
+  platform_.frmMain.window.Show();
+}
+
+void Program::BindWindow() {
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.window.onQueryUnload, shutDown_, &ShutDown::Form_QueryUnload);
+  On(frmMain.window.onUnload, shutDown_, &ShutDown::Form_Unload);
+  On(frmMain.freeSizer1.onPostLayout, startUp_, &StartUp::freeSizer1_PostLayout);
+  On(frmMain.tmrTimer.onTimer, statusPanel_, &StatusPanel::tmrTimer_Timer);
+}
+
+void Program::BindMenus() {
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.mnuFileMacrosFolder.onClick, macroStore_, &MacroStore::ChooseMacrosFolder);
+  On(frmMain.mnuFileLogFolder.onClick, log_, &DialogueLog::mnuFileLogFolder_Click);
+  On(frmMain.mnuFileLogRecord.onClick, log_, &DialogueLog::mnuFileLogRecord_Click);
+  On(frmMain.mnuFileExit.onClick, shutDown_, &ShutDown::mnuFileExit_Click);
+
+  On(frmMain.mnuCommWait.onClick, connection_, &ConnectionActions::mnuCommWait_Click);
+  On(frmMain.mnuCommCall.onClick, connection_, &ConnectionActions::mnuCommCall_Click);
+  On(frmMain.mnuCommCancel.onClick, connection_, &ConnectionActions::mnuCommCancel_Click);
+  On(frmMain.mnuCommClose.onClick, connection_, &ConnectionActions::mnuCommClose_Click);
+  On(frmMain.mnuCommRefresh.onClick, connection_, &ConnectionActions::mnuCommRefresh_Click);
+
+  On(frmMain.mnuFormatFontBold.onClick, textFormat_, &TextFormat::mnuFormatFontBold_Click);
+  On(frmMain.mnuFormatFontItalics.onClick, textFormat_, &TextFormat::mnuFormatFontItalics_Click);
+  On(frmMain.mnuFormatFontUnderline.onClick, textFormat_,
+     &TextFormat::mnuFormatFontUnderline_Click);
+  On(frmMain.mnuFormatFontSize.onClick, textFormat_, &TextFormat::mnuFormatFontSize_Click);
+  On(frmMain.mnuFormatFontColor.onClick, textFormat_, &TextFormat::mnuFormatFontColor_Click);
+  On(frmMain.mnuFormatFontSettings.onClick, textFormat_, &TextFormat::mnuFormatFontSettings_Click);
+  On(frmMain.mnuFormatBackcolorCommands.onClick, textFormat_,
+     &TextFormat::mnuFormatBackcolorCommands_Click);
+  On(frmMain.mnuFormatBackcolorDialogue.onClick, textFormat_,
+     &TextFormat::mnuFormatBackcolorDialogue_Click);
+
+  On(frmMain.mnuToolsNick.onClick, connection_, &ConnectionActions::mnuToolsNick_Click);
+  On(frmMain.mnuToolsClearDialogue.onClick, dialogue_, &Dialogue::mnuToolsClearDialogue_Click);
+  On(frmMain.mnuToolsClearCommands.onClick, history_, &CommandHistory::mnuToolsClearCommands_Click);
+  On(frmMain.mnuToolsClearHistory.onClick, history_, &CommandHistory::mnuToolsClearHistory_Click);
+  On(frmMain.mnuToolsDate.onClick, dialogue_, &Dialogue::mnuToolsDate_Click);
+  On(frmMain.mnuToolsTime.onClick, dialogue_, &Dialogue::mnuToolsTime_Click);
+  On(frmMain.mnuToolsAlwaysOnTop.onClick, windowBehaviour_,
+     &WindowBehaviour::mnuToolsAlwaysOnTop_Click);
+  On(frmMain.mnuToolsLanguageEnglish.onClick, language_, &Language::mnuToolsLanguageEnglish_Click);
+  On(frmMain.mnuToolsLanguageGreek.onClick, language_, &Language::mnuToolsLanguageGreek_Click);
+}
+
+void Program::BindPanes() {
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.rtbCommands.onKeyPress, interpreter_, &CommandInterpreter::rtbCommands_KeyPress);
+  On(frmMain.rtbCommands.onKeyDown, history_, &CommandHistory::rtbCommands_KeyDown);
+  On(frmMain.rtbCommands.onSelChange, textFormat_, &TextFormat::rtbCommands_SelChange);
+  On(frmMain.chkBold.onClick, textFormat_, &TextFormat::chkBold_Click);
+  On(frmMain.chkItalics.onClick, textFormat_, &TextFormat::chkItalics_Click);
+  On(frmMain.chkUnderline.onClick, textFormat_, &TextFormat::chkUnderline_Click);
+  On(frmMain.lblColor.onMouseDown, textFormat_, &TextFormat::lblColor_MouseDown);
+}
+
+void Program::BindSocket() {
+  Socket& sckControl = platform_.sckControl;
+  On(sckControl.onConnectionRequest, socketEvents_, &SocketEvents::sckControl_ConnectionRequest);
+  On(sckControl.onConnect, socketEvents_, &SocketEvents::sckControl_Connect);
+  On(sckControl.onDataArrival, socketEvents_, &SocketEvents::sckControl_DataArrival);
+  On(sckControl.onClose, socketEvents_, &SocketEvents::sckControl_Close);
+}
+
+}  // namespace verlume

@@ -1,0 +1,65 @@
+// The composition root: makes the rooms, hands them to each other, and binds every event of the
+// platform to its procedure.
+#pragma once
+
+#include "commands/dialogue.h"
+#include "commands/history.h"
+#include "commands/interpreter.h"
+#include "commands/text_format.h"
+#include "connection/connection_actions.h"
+#include "connection/socket_events.h"
+#include "connection/wire_protocol.h"
+#include "macros/macro_store.h"
+#include "platform/platform.h"
+#include "records/dialogue_log.h"
+#include "shell/app_state.h"
+#include "shell/error_report.h"
+#include "shell/language.h"
+#include "shell/settings.h"
+#include "shell/shut_down.h"
+#include "shell/start_up.h"
+#include "shell/status_panel.h"
+#include "shell/window_behaviour.h"
+
+namespace verlume {
+
+class Program {
+ public:
+  explicit Program(Platform& platform);
+  // The platform's events hold references to this object.
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  // Loads the main window, shows it and starts the clock; from then on the program waits for
+  // events.
+  void Start();
+
+  const AppState& State() const { return state_; }
+
+ private:
+  void BindWindow();
+  void BindMenus();
+  void BindPanes();
+  void BindSocket();
+
+  Platform& platform_;
+  AppState state_;
+  ErrorReport errors_;
+  Settings settings_;
+  StatusPanel statusPanel_;
+  Language language_;
+  WindowBehaviour windowBehaviour_;
+  DialogueLog log_;
+  MacroStore macroStore_;
+  Dialogue dialogue_;
+  WireProtocol wire_;
+  ConnectionActions connection_;
+  SocketEvents socketEvents_;
+  CommandHistory history_;
+  TextFormat textFormat_;
+  CommandInterpreter interpreter_;
+  StartUp startUp_;
+  ShutDown shutDown_;
+};
+
+}  // namespace verlume

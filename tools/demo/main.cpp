@@ -1,0 +1,25 @@
+// verlume_demo SCRIPT LEFT TOP: the program, its window at that place, played by a script.
+#include <QApplication>
+#include <QMainWindow>
+
+#include "platform_qt/qt_platform.h"
+#include "player.h"
+#include "shell/program.h"
+
+int main(int argc, char* argv[]) {
+  verlume::qt::PrepareApplication();
+  QApplication application(argc, argv);
+  const QStringList arguments = application.arguments();
+  if (arguments.size() != 4) return 2;
+
+  verlume::qt::QtPlatform platform;
+  verlume::Program program(platform.View());
+  program.Start();
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == QLatin1String("frmMain")) {
+      window->move(arguments[2].toInt(), arguments[3].toInt());
+    }
+  }
+  verlume::demo::Player player(arguments[1]);
+  return platform.Run();
+}
