@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "richtext/rtf_documents.h"
 #include "shell/conversions.h"
 #include "shell/date_time_text.h"
 
@@ -75,13 +76,20 @@ void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
     logLine += tag;
   }
   GoToEnd(pane);
-  pane.SetSelRtf(rtf);
-  log_.AppendToLog(logLine + PlainTextOf(rtf));
+  // Usually one: lines that TCP has joined are shown as one line, all of them.
+  for (const std::u16string_view document : richtext::SplitRtfDocuments(rtf)) {
+    pane.SetSelRtf(document);
+    logLine += PlainTextOf(document);
+  }
+  log_.AppendToLog(logLine);
 }
 
 std::u16string Dialogue::PlainTextOf(std::u16string_view rtf) {
-  platform_.frmMain.rtbRemote.SetRtf(rtf);
-  return platform_.frmMain.rtbRemote.Text();
+  RichTextBox& rtbRemote = platform_.frmMain.rtbRemote;
+  rtbRemote.SetRtf(rtf);
+  std::u16string text = rtbRemote.Text();
+  rtbRemote.SetText(u"");
+  return text;
 }
 
 void Dialogue::mnuToolsDate_Click() {

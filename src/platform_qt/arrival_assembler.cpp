@@ -83,7 +83,7 @@ void ArrivalAssembler::FeedOpening(char byte) {
     at_ = At::OtherText;
   } else if (++matched_ == kOpening.size()) {
     at_ = At::Document;
-    document_ = DocumentScan();
+    document_ = richtext::DocumentScan();
   }
 }
 

@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform_qt/arrival_assembler_scan.h"
+#include "richtext/document_scan.h"
 
 namespace verlume::qt {
 
@@ -45,7 +45,7 @@ class ArrivalAssembler {
   std::string waiting_;
   At at_ = At::Start;
   std::size_t matched_ = 0;  // bytes of the marker or of the opening seen so far
-  DocumentScan document_;
+  richtext::DocumentScan document_;
   std::int64_t lastByte_ = 0;
 };
 

@@ -13,7 +13,8 @@ namespace verlume::qt {
 namespace {
 
 // The classic look, in light and in dark desktops alike.
-QPalette ClassicPalette(QPalette palette) {
+QPalette ClassicPalette() {
+  QPalette palette;
   palette.setColor(QPalette::Base, Qt::white);
   palette.setColor(QPalette::Text, Qt::black);
   palette.setColor(QPalette::PlaceholderText, Qt::darkGray);
@@ -34,7 +35,7 @@ RichTextWidget::UserChange::~UserChange() {
 
 RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
     : QPlainTextEdit(parent), lines_(lines) {
-  setPalette(ClassicPalette(palette()));
+  setPalette(ClassicPalette());
   QFont font(ToQt(kOwnFontName));
   font.setPointSizeF(kOwnFontSize);
   setFont(font);

@@ -36,9 +36,11 @@ QtSocket::QtSocket() {
   connect(&server_, &QTcpServer::newConnection, this,
           [this] { Post(&QtSocket::RaiseConnectionRequest); });
   patience_.setSingleShot(true);
+  patience_.setTimerType(Qt::PreciseTimer);
   connect(&patience_, &QTimer::timeout, this,
           [this] { RaiseArrival(assembler_.Take(clock_.elapsed())); });
   connectLimit_.setSingleShot(true);
+  connectLimit_.setTimerType(Qt::PreciseTimer);
   connect(&connectLimit_, &QTimer::timeout, this, [this] { Lose(); });
 }
 

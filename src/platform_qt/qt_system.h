@@ -47,6 +47,7 @@ class QtApplication : public QObject, public Application {
   // Hides every window and leaves every event loop, those of modal boxes too. What is left to run
   // of the handlers runs to its end; boxes that it opens return at once.
   void End() override;
+  bool HasEnded() const override { return hasEnded_; }
 
   // The program's event loop, until End; returns at once when the program has ended before.
   int Run();

@@ -11,7 +11,8 @@
 namespace verlume::qt {
 
 inline QString ToQt(std::u16string_view text) {
-  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+  // Not fromUtf16, which takes a byte order mark for one.
+  return QString(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
 }
 
 // Keeps lone surrogates, which QString::toStdU16String does too: both are plain UTF-16 units.

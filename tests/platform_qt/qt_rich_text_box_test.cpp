@@ -273,7 +273,9 @@ TEST_F(QtRichTextBoxTest, TheLookIsBlackOnWhiteInADarkTheme) {
   dark.setColor(QPalette::Base, Qt::black);
   dark.setColor(QPalette::Text, Qt::white);
   QApplication::setPalette(dark);
-  const QtRichTextBox box(&window, files, Lines::Many);
+  // A window made before hears of the theme later.
+  QWidget darkWindow;
+  const QtRichTextBox box(&darkWindow, files, Lines::Many);
   EXPECT_EQ(box.widget()->palette().color(QPalette::Base), QColor(Qt::white));
   EXPECT_EQ(box.widget()->palette().color(QPalette::Text), QColor(Qt::black));
   QApplication::setPalette(before);

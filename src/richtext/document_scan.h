@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace verlume::qt {
+namespace verlume::richtext {
 
 // Counts the braces of a document, byte by byte, from the byte after its "{\rtf" on. Escaped
 // braces and the data of \binN are no braces.
@@ -30,4 +30,4 @@ class DocumentScan {
   bool isNegative_ = false;
 };
 
-}  // namespace verlume::qt
+}  // namespace verlume::richtext

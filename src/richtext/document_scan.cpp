@@ -1,8 +1,8 @@
-#include "platform_qt/arrival_assembler_scan.h"
+#include "richtext/document_scan.h"
 
 #include <string_view>
 
-namespace verlume::qt {
+namespace verlume::richtext {
 namespace {
 
 constexpr std::string_view kBin = "bin";
@@ -85,4 +85,4 @@ bool DocumentScan::EndWord(char byte) {
   return byte != ' ' && Feed(byte);
 }
 
-}  // namespace verlume::qt
+}  // namespace verlume::richtext
