@@ -26,6 +26,9 @@ constexpr std::size_t LengthOfMarkerParts() {
 }
 static_assert(LengthOfMarkerParts() == kMarkerTextLength);
 
+// More than any copy of this program sends; every line of the peer's repeats it.
+constexpr std::size_t kLongestPeerNickname = 256;
+
 // The one character after the marker; NUL, which is no kind, when there is none.
 char16_t KindOf(std::u16string_view data) {
   return data.size() > kMarkerLength ? data[kMarkerLength] : u'\0';
@@ -114,7 +117,7 @@ void WireProtocol::TakeNickname(std::u16string_view data) {
   const std::u16string_view rest = data.substr(kMarkerLength + 1);
   const std::size_t end = rest.find(u'\0');
   if (end == rest.npos) throw RunTimeFailure(FailureNumber::InvalidProcedureCall);
-  state_.RemoteNickname = rest.substr(0, end);
+  state_.RemoteNickname = rest.substr(0, std::min(end, kLongestPeerNickname));
   platform_.frmMain.lblRemoteNickname.SetCaption(state_.RemoteNickname);
 }
 

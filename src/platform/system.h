@@ -48,6 +48,7 @@ class Application {
   virtual void YieldToEvents() = 0;
   // Ends the program: every window closes, and no further event reaches a handler.
   virtual void End() = 0;
+  virtual bool HasEnded() const = 0;
 };
 
 class HelpViewer {

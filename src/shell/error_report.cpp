@@ -54,7 +54,9 @@ void ErrorReport::Report(std::int32_t errorNumber, std::u16string_view descripti
   const std::u16string title =
       state_.Title + u", " + DecimalText(static_cast<int>(procedure)) + u".";
   resetConnection_();
-  if (dialogs_.ShowMessage(Question(text, title, Answer::No)) == Answer::Yes) unload_();
+  Message box = Question(text, title, Answer::No);
+  box.unexpected = true;
+  if (dialogs_.ShowMessage(box) == Answer::Yes) unload_();
 }
 
 }  // namespace verlume

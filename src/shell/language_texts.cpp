@@ -132,7 +132,6 @@ std::vector<FixedText> PanelTexts(const MainWindow& frmMain) {
   };
   for (const auto& [value, caption, text] : PanelValues(frmMain)) {
     if (caption) texts.push_back({Caption(*caption), text});
-    texts.push_back({ToolTip(value), text});
     texts.push_back({AccessibleName(value), text});
   }
   return texts;

@@ -14,7 +14,7 @@ void On(Event& event, Room& room, Method procedure) {
 Program::Program(Platform& platform)
     : platform_(platform),
       errors_(
-          state_, platform.dialogs, [this] { ResetConnection(state_, platform_); },
+          state_, platform.dialogs, [this] { EndChatAfterError(); },
           [this] { platform_.frmMain.window.Unload(); }),
       settings_(state_, platform.files),
       statusPanel_(platform, errors_),
@@ -45,7 +45,15 @@ Program::Program(Platform& platform)
 
 void Program::Start() {
   startUp_.Form_Load();
-  platform_.frmMain.window.Show();
+  if (!platform_.application.HasEnded()) platform_.frmMain.window.Show();
+}
+
+// Any error ends the chat: its log is closed, and the status line does not go on telling of it.
+void Program::EndChatAfterError() {
+  const bool wasIdle = StateOf(state_) == ConnectionState::Idle;
+  ResetConnection(state_, platform_);
+  state_.LogOpen = false;
+  if (!wasIdle) platform_.frmMain.lblStatus.SetCaption(u"");
 }
 
 void Program::BindWindow() {

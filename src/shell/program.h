@@ -7,6 +7,7 @@
 #include "commands/interpreter.h"
 #include "commands/text_format.h"
 #include "connection/connection_actions.h"
+#include "connection/connection_state.h"
 #include "connection/socket_events.h"
 #include "connection/wire_protocol.h"
 #include "macros/macro_store.h"
@@ -37,6 +38,7 @@ class Program {
   const AppState& State() const { return state_; }
 
  private:
+  void EndChatAfterError();
   void BindWindow();
   void BindMenus();
   void BindPanes();

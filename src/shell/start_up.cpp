@@ -29,11 +29,13 @@ void StartUp::Form_Load() {
     SetSettingDefaults(state_, platform_.frmMain);
     ReadLanguage(state_, settings_);
     language_.ApplyLanguage();
+    if (platform_.application.HasEnded()) return;
     ReadSettings(state_, platform_.frmMain, settings_);
     state_.LocalHostName = platform_.sckControl.LocalHostName();
     state_.LocalAddress = platform_.sckControl.LocalIP();
     platform_.frmMain.lblLocalIP.SetCaption(state_.LocalAddress);
   });
+  if (platform_.application.HasEnded()) return;
   // Also after a failure: a nickname is never empty, and the clock runs from here on.
   SetNickname();
   platform_.frmMain.tmrTimer.Start();
@@ -91,6 +93,7 @@ void StartUp::SetNickname() {
 void StartUp::freeSizer1_PostLayout() {
   errors_.Guard(Procedure::freeSizer1_PostLayout, [this] {
     steps_.applyCommandStyle();
+    if (platform_.application.HasEnded()) return;
     platform_.frmMain.rtbCommands.SetFocus();
     CheckLogFolder();
     CheckMacrosFolder();

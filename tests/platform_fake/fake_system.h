@@ -39,6 +39,7 @@ class FakeApplication : public Application {
     if (onYield) onYield();
   }
   void End() override { ended = true; }
+  bool HasEnded() const override { return ended; }
 
   std::function<void()> onYield;
   int timesYielded = 0;

@@ -28,6 +28,10 @@ TEST(QtRichText, UnitsThatQtGivesAMeaningBecomeReplacementCharacters) {
   EXPECT_EQ(FromQt(SafeText(frame, Lines::Many)), u"\uFFFDx\uFFFD\uFFFD");
 }
 
+TEST(QtRichText, ByteOrderMarksAreCharactersLikeOthers) {
+  for (const std::u16string text : {u"\uFEFFab", u"\uFFFEab"}) EXPECT_EQ(FromQt(ToQt(text)), text);
+}
+
 TEST(QtRichText, LoneSurrogatesAndNoBreakSpacesStay) {
   const std::u16string odd = {0xD800, u'a', 0xDC00, 0x00A0};
   EXPECT_EQ(FromQt(SafeText(odd, Lines::Many)), odd);

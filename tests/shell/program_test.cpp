@@ -219,6 +219,46 @@ TEST_F(ProgramTest, RightClickShowsContextHelpAndLeftClickDoesNot) {
   EXPECT_EQ(ann.platform.window.lblStatus.timesHelpShown, 1);
 }
 
+TEST_F(ProgramTest, LinesThatArriveJoinedAreShownWhole) {
+  Connect();
+  network.joinArrivals = true;
+  ann.Enter(u"one");
+  ann.Enter(u"two");
+  network.RunUntilIdle();
+
+  EXPECT_EQ(bob.Dialogue(), u"<Άννα>onetwo");
+  EXPECT_THAT(bob.platform.files.ReadText(u"/logs/Άννα.txt"), Holds(u"<Άννα>onetwo\r\n"));
+}
+
+TEST_F(ProgramTest, AnErrorEndsTheChatItsLogAndItsStatusLine) {
+  Connect();
+  bob.platform.files.writesFail = FailureNumber::DiskFull;
+  bob.platform.dialogs.answers = {Answer::No};
+  bob.Enter(u"hello");
+  bob.Enter(u"hello again");
+
+  ASSERT_EQ(bob.platform.dialogs.messages.size(), 2u);  // the call, and the error once
+  EXPECT_EQ(bob.platform.dialogs.messages[1].title, u"Verlume, 240.");
+  EXPECT_TRUE(bob.platform.dialogs.messages[1].unexpected);
+  EXPECT_FALSE(bob.program.State().LogOpen);
+  EXPECT_EQ(bob.Status(), u"");
+  EXPECT_EQ(bob.Lamp(), 255);
+  EXPECT_EQ(bob.Dialogue(), u"<Bob>hello\n<Bob>hello again");
+}
+
+TEST(ProgramStartTest, ProgramEndedDuringStartUpShowsNoWindow) {
+  FakeNetwork network;
+  FakePlatform platform(network);
+  platform.files.ReplaceText(u"/verlume/Verlume.ini", u"[General]\r\nDateStamp=maybe\r\n");
+  Program program(platform.platform);
+  platform.dialogs.answers = {Answer::Yes};
+  program.Start();
+
+  EXPECT_TRUE(platform.application.ended);
+  EXPECT_FALSE(platform.window.window.shown);
+  EXPECT_FALSE(platform.window.tmrTimer.running);
+}
+
 TEST(ProgramStartTest, SettingThatDoesNotConvertIsReportedAndTheProgramGoesOn) {
   FakeNetwork network;
   FakePlatform platform(network);
