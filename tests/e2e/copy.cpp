@@ -1,0 +1,150 @@
+#include "copy.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QThread>
+#include <algorithm>
+
+namespace verlume::e2e {
+namespace {
+
+// How far down the window the middle of each pane lies.
+constexpr double kDialoguePane = 0.25;
+constexpr double kCommandPane = 0.56;
+
+// Runs a tool to its end and gives what it printed.
+QString Run(const QString& tool, const QStringList& arguments) {
+  QProcess process;
+  process.start(tool, arguments);
+  process.waitForFinished(10000);
+  return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+QString ReadFile(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void PutOnClipboard(const QString& text) {
+  QProcess xclip;
+  // Its child, which serves the clipboard, must not hold our pipes open.
+  xclip.setStandardOutputFile(QProcess::nullDevice());
+  xclip.setStandardErrorFile(QProcess::nullDevice());
+  xclip.start("xclip", {"-selection", "clipboard", "-i"});
+  xclip.write(text.toUtf8());
+  xclip.closeWriteChannel();
+  xclip.waitForFinished(10000);
+}
+
+}  // namespace
+
+bool WaitUntil(const std::function<bool()>& condition, int limitMilliseconds) {
+  const QDeadlineTimer deadline(limitMilliseconds);
+  while (!condition()) {
+    if (deadline.hasExpired()) return false;
+    QThread::msleep(20);
+    QCoreApplication::processEvents();
+  }
+  return true;
+}
+
+Copy::Copy(const QString& nickname, bool isGreek) {
+  const QDir folder(folder_.path());
+  folder.mkdir("macros");
+  folder.mkdir("logs");
+  QFile::copy(VERLUME_EXECUTABLE, folder.filePath("verlume"));
+  QFile settings(folder.filePath("Verlume.ini"));
+  if (settings.open(QIODevice::WriteOnly)) {
+    settings.write(QString("[General]\r\nLanguage=%1\r\nNickname=%2\r\nDateStamp=False\r\n"
+                           "TimeStamp=False\r\nMacrosfolder=%3/macros/\r\n"
+                           "[Logging]\r\nLogfolder=%3/logs/\r\nLogdialogue=True\r\n")
+                       .arg(isGreek ? "1" : "0", nickname, folder_.path())
+                       .toUtf8());
+    settings.close();
+  }
+  program_.setProcessChannelMode(QProcess::ForwardedChannels);
+  program_.start(folder.filePath("verlume"), QStringList());
+  WaitUntil([this] { return !(window_ = FindWindow("Verlume")).isEmpty(); });
+}
+
+Copy::~Copy() {
+  program_.terminate();
+  if (!program_.waitForFinished(5000)) program_.kill();
+  program_.waitForFinished(5000);
+}
+
+QString Copy::FindWindow(const QString& title) const {
+  const QStringList found =
+      Run("xdotool", {"search", "--all", "--onlyvisible", "--pid",
+                      QString::number(program_.processId()), "--name", "^" + title + "$"})
+          .split('\n', Qt::SkipEmptyParts);
+  return found.isEmpty() ? QString() : found.last();
+}
+
+void Copy::Activate() {
+  Run("xdotool", {"windowactivate", "--sync", window_});
+}
+
+void Copy::TypeLine(const QString& line) {
+  Activate();
+  if (std::all_of(line.begin(), line.end(), [](QChar c) { return c.unicode() < 0x80; })) {
+    Run("xdotool", {"type", "--delay", "10", "--", line});
+  } else {
+    // The X server here has no keys for it: it comes by the clipboard.
+    PutOnClipboard(line);
+    PressKeys("ctrl+v");
+  }
+  PressKeys("Return");
+}
+
+void Copy::PressKeys(const QString& keys) {
+  Run("xdotool", {"key", keys});
+}
+
+bool Copy::AnswerBox(const QString& title, const QString& key) {
+  QString box;
+  if (!WaitUntil([&] { return !(box = FindWindow(title)).isEmpty(); })) return false;
+  return WaitUntil([&] {
+    Run("xdotool", {"windowactivate", "--sync", box, "key", key});
+    return FindWindow(title).isEmpty();
+  });
+}
+
+void Copy::ClickAt(double across, double down) {
+  Activate();
+  int width = 0;
+  int height = 0;
+  for (const QString& line :
+       Run("xdotool", {"getwindowgeometry", "--shell", window_}).split('\n')) {
+    if (line.startsWith("WIDTH=")) width = line.mid(6).toInt();
+    if (line.startsWith("HEIGHT=")) height = line.mid(7).toInt();
+  }
+  Run("xdotool", {"mousemove", "--window", window_, QString::number(int(width * across)),
+                  QString::number(int(height * down)), "click", "1"});
+}
+
+QString Copy::Dialogue() {
+  PutOnClipboard("");
+  ClickAt(0.5, kDialoguePane);
+  PressKeys("ctrl+a");
+  PressKeys("ctrl+c");
+  const QString text = Run("xclip", {"-selection", "clipboard", "-o"});
+  ClickAt(0.5, kCommandPane);
+  return text;
+}
+
+QString Copy::Log(const QString& partner) const {
+  return ReadFile(folder_.filePath("logs/" + partner + ".txt"));
+}
+
+QString Copy::Settings() const {
+  return ReadFile(folder_.filePath("Verlume.ini"));
+}
+
+void Copy::CloseWindow() {
+  Run("xdotool", {"windowclose", window_});
+}
+
+}  // namespace verlume::e2e

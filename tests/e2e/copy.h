@@ -1,0 +1,46 @@
+// One copy of the built program in a folder of its own, driven from outside: keys and clicks come
+// from the X server, what it shows is read through the clipboard and its files.
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QTemporaryDir>
+#include <functional>
+
+namespace verlume::e2e {
+
+// Calls `condition` until it holds; false when it does not within the limit.
+bool WaitUntil(const std::function<bool()>& condition, int limitMilliseconds = 20000);
+
+class Copy {
+ public:
+  // Starts the program and waits for its window.
+  Copy(const QString& nickname, bool isGreek);
+  ~Copy();
+
+  // Types into the command pane, key by key where the line is ASCII, and presses Enter.
+  void TypeLine(const QString& line);
+  void PressKeys(const QString& keys);  // as xdotool names them: "Return", "ctrl+a"
+
+  // Presses a key in a box of that title until the box is gone; false when it never came or stays.
+  bool AnswerBox(const QString& title, const QString& key);
+
+  QString Dialogue();  // what the dialogue pane shows, read as a user would copy it
+  QString Log(const QString& partner) const;
+  QString Settings() const;
+  bool HasEnded() { return program_.state() == QProcess::NotRunning; }
+  bool WaitForEnd() { return program_.waitForFinished(10000); }
+  int ExitCode() const { return program_.exitCode(); }
+  void CloseWindow();
+
+ private:
+  QString FindWindow(const QString& title) const;
+  void Activate();
+  void ClickAt(double across, double down);
+
+  QTemporaryDir folder_;
+  QProcess program_;
+  QString window_;
+};
+
+}  // namespace verlume::e2e

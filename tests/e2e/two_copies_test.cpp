@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+
+#include "copy.h"
+
+namespace verlume::e2e {
+namespace {
+
+// A port of this machine that is free, most likely; each test takes another.
+QString NextPort() {
+  static int port = 20000 + static_cast<int>(QCoreApplication::applicationPid() % 10000);
+  return QString::number(port++);
+}
+
+class TwoCopies : public testing::Test {
+ protected:
+  void Connect() {
+    const QString port = NextPort();
+    ann.TypeLine("/ΑΝΑΜΟΝΉ " + port);
+    bob.TypeLine("/CALL 127.0.0.1 " + port);
+    ASSERT_TRUE(ann.AnswerBox("Εισερχόμενη κλήση", "Return"));
+    ASSERT_TRUE(WaitUntil([&] {
+      return bob.Log("Άννα").contains("Active connection.") &&
+             ann.Log("Bob").contains("Ενεργός σύνδεση.");
+    }));
+  }
+
+  Copy ann{"Άννα", true};
+  Copy bob{"Bob", false};
+};
+
+TEST_F(TwoCopies, HoldAConversationInGreekAndEnglish) {
+  Connect();
+  ann.TypeLine("Καλημέρα, $r!");
+  ASSERT_TRUE(WaitUntil([&] { return bob.Log("Άννα").contains("<Άννα>Καλημέρα, Bob!"); }));
+  bob.TypeLine("Good morning, $r!");
+  ASSERT_TRUE(WaitUntil([&] { return ann.Log("Bob").contains("<Bob>Good morning, Άννα!"); }));
+  bob.TypeLine("/me waves");
+  ASSERT_TRUE(WaitUntil([&] { return ann.Log("Bob").contains("] Bob waves"); }));
+
+  const QString expected = "<Άννα>Καλημέρα, Bob!\n<Bob>Good morning, Άννα!\n Bob waves";
+  EXPECT_EQ(ann.Dialogue().toStdString(), expected.toStdString());
+  EXPECT_EQ(bob.Dialogue().toStdString(), expected.toStdString());
+
+  bob.TypeLine("/CLOSE");
+  EXPECT_TRUE(WaitUntil([&] { return ann.Log("Bob").contains("Αποσυνδέθηκε."); }));
+  EXPECT_TRUE(WaitUntil([&] { return bob.Log("Άννα").contains("Disconnected."); }));
+}
+
+TEST_F(TwoCopies, ExitCommandEndsTheProgramAfterItsQuestion) {
+  Connect();
+  bob.TypeLine("/EXIT");
+  EXPECT_TRUE(bob.AnswerBox("Command '/EXIT'", "Return"));  // No is the default
+  EXPECT_FALSE(bob.HasEnded());
+
+  bob.TypeLine("/EXIT");
+  EXPECT_TRUE(bob.AnswerBox("Command '/EXIT'", "alt+y"));
+  EXPECT_TRUE(bob.WaitForEnd());
+  EXPECT_EQ(bob.ExitCode(), 0);
+  EXPECT_TRUE(WaitUntil([&] { return ann.Log("Bob").contains("Αποσυνδέθηκε."); }));
+}
+
+TEST(OneCopy, SettingsAreWrittenBesideTheProgramAtTheChange) {
+  Copy copy("Ann", false);
+  copy.TypeLine("/NICK Ann of the North");
+  EXPECT_TRUE(WaitUntil([&] { return copy.Settings().contains("Nickname=Ann of the North\r\n"); }));
+  copy.TypeLine("/GREEK");
+  EXPECT_TRUE(WaitUntil([&] { return copy.Settings().contains("Language=1\r\n"); }));
+  copy.TypeLine("/EXIT");
+  EXPECT_TRUE(copy.WaitForEnd());
+  EXPECT_EQ(copy.ExitCode(), 0);
+}
+
+}  // namespace
+}  // namespace verlume::e2e
