@@ -28,14 +28,14 @@ struct ControlDesign {
 // The smallest size of the window below its menu bar, at 100 %.
 inline constexpr QSize kDesignSize(640, 455);
 
-// In the order of the Tab key; what stands later is drawn above.
+// Where each control stands.
 inline constexpr auto kMainWindowDesign = std::to_array<ControlDesign>({
-    {ControlKind::Pane, "rtbData", {8, 8, 624, 176}},
-    {ControlKind::CheckBox, "chkBold", {10, 188, 132, 25}},
-    {ControlKind::CheckBox, "chkItalics", {146, 188, 132, 25}},
-    {ControlKind::CheckBox, "chkUnderline", {282, 188, 172, 25}},
-    {ControlKind::Swatch, "lblColor", {460, 192, 44, 17}},
-    {ControlKind::Pane, "rtbCommands", {8, 217, 624, 54}},
+    {ControlKind::Pane, "rtbData", {8, 8, 624, 192}},
+    {ControlKind::CheckBox, "chkBold", {10, 204, 132, 25}},
+    {ControlKind::CheckBox, "chkItalics", {146, 204, 132, 25}},
+    {ControlKind::CheckBox, "chkUnderline", {282, 204, 172, 25}},
+    {ControlKind::Swatch, "lblColor", {460, 208, 44, 17}},
+    {ControlKind::Pane, "rtbCommands", {8, 233, 624, 38}},
 
     {ControlKind::LampFrame, "picShape", {8, 276, 36, 34}},
     {ControlKind::Wrapped, "lblStatus", {52, 276, 580, 34}},

@@ -12,7 +12,7 @@ namespace {
 
 // How far down the window the middle of each pane lies.
 constexpr double kDialoguePane = 0.25;
-constexpr double kCommandPane = 0.56;
+constexpr double kCommandPane = 0.58;
 
 // Runs a tool to its end and gives what it printed.
 QString Run(const QString& tool, const QStringList& arguments) {
