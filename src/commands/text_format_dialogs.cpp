@@ -13,8 +13,6 @@
 namespace verlume {
 namespace {
 
-// Limits of the local font size, in points.
-
 constexpr TextPair kSizeTitle = {u"Font size definition", u"Ορισμός μεγέθους γραμματοσειράς"};
 constexpr TextPair kSizePrompt = {
     u"Type the font size."

@@ -143,8 +143,4 @@ QString Copy::Settings() const {
   return ReadFile(folder_.filePath("Verlume.ini"));
 }
 
-void Copy::CloseWindow() {
-  Run("xdotool", {"windowclose", window_});
-}
-
 }  // namespace verlume::e2e

@@ -31,7 +31,6 @@ class Copy {
   bool HasEnded() { return program_.state() == QProcess::NotRunning; }
   bool WaitForEnd() { return program_.waitForFinished(10000); }
   int ExitCode() const { return program_.exitCode(); }
-  void CloseWindow();
 
  private:
   QString FindWindow(const QString& title) const;
