@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "platform_qt/qt_text.h"
+#include "richtext/rtf_limits.h"
 
 namespace verlume::qt {
 namespace {
@@ -41,11 +42,14 @@ void KeepIfSame(std::optional<T>& common, const std::optional<T>& other) {
   if (common != other) common.reset();
 }
 
+// A document has no more fonts than can be read back; what is beyond takes the first one.
 std::uint16_t IndexOf(const std::u16string& name, int charset, std::vector<richtext::Font>& fonts) {
   const auto found = std::find(fonts.begin(), fonts.end(), richtext::Font{name, charset});
-  const auto index = found - fonts.begin();
-  if (found == fonts.end()) fonts.push_back({name, charset});
-  return static_cast<std::uint16_t>(index);
+  const auto index = static_cast<std::uint16_t>(found - fonts.begin());
+  if (found != fonts.end()) return index;
+  if (fonts.size() == richtext::limits::kMaxFonts) return 0;
+  fonts.push_back({name, charset});
+  return index;
 }
 
 }  // namespace

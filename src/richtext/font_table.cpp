@@ -47,7 +47,8 @@ void FontTable::SetCodePage(int codePage) {
 }
 
 void FontTable::AppendName(char16_t unit) {
-  if (!open_) return;
+  const bool isControl = unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
+  if (!open_ || isControl) return;
   std::u16string& name = entries_[current_].font.name;
   if (name.size() < limits::kMaxFontNameLength) name.push_back(unit);
 }

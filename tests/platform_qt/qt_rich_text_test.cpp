@@ -5,6 +5,7 @@
 #include <QTextDocument>
 
 #include "platform_qt/qt_text.h"
+#include "richtext/rtf_limits.h"
 
 namespace verlume::qt {
 namespace {
@@ -64,6 +65,20 @@ TEST(QtRichText, APartOfADocumentComesOutWithItsFormats) {
   const richtext::Document part = SelectedDocument(cursor, 161);
   EXPECT_EQ(part.text, u"bc\nd");
   EXPECT_EQ(part.runs, (std::vector<richtext::Run>{{1, {.bold = true}}, {3, {}}}));
+}
+
+TEST(QtRichText, FontsBeyondTheLimitOfADocumentTakeItsFirst) {
+  QTextDocument shown;
+  QTextCursor cursor(&shown);
+  for (std::size_t i = 0; i <= richtext::limits::kMaxFonts; ++i) {
+    QTextCharFormat format;
+    format.setFontFamilies({QStringLiteral("Font %1").arg(i)});
+    cursor.insertText(QStringLiteral("x"), format);
+  }
+  cursor.select(QTextCursor::Document);
+  const richtext::Document document = SelectedDocument(cursor, 161);
+  EXPECT_EQ(document.fonts.size(), richtext::limits::kMaxFonts);
+  EXPECT_EQ(document.runs.back().format.font, 0);
 }
 
 }  // namespace

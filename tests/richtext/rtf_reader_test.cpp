@@ -158,6 +158,7 @@ TEST(RtfReaderTest, FontTablesAreReadInTheirManyShapes) {
       {R"({\rtf1{\*\fonttbl{\f0 A;}}x})", "A/1 12 auto -|x\n"},
       {R"({\rtf1{\fonttbl{\f0 A;}\par\line}x})", "A/1 12 auto -|x\n"},
       {R"({\rtf1 x{\fonttbl{\f0 A;}}y})", "A/1 12 auto -|xy\n"},
+      {R"({\rtf1{\fonttbl{\f0 A\'0d\u10?\u133?B;}}x})", "AB/1 12 auto -|x\n"},
   };
   for (const auto& [rtf, dump] : cases) EXPECT_EQ(Dump(ReadRtf(rtf)), dump) << rtf;
 }
