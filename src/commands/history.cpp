@@ -1,24 +1,16 @@
 #include "commands/history.h"
 
 #include <algorithm>
-#include <charconv>
-#include <string>
 
 #include "platform/run_time_failure.h"
+#include "shell/conversions.h"
 #include "shell/text_pair.h"
 
 namespace verlume {
 namespace {
 
 int CountOf(const AppState& state) {
-  const std::string digits(state.History[0].begin(), state.History[0].end());
-  int count = 0;
-  const char* end = digits.data() + digits.size();
-  const auto parsed = std::from_chars(digits.data(), end, count);
-  if (parsed.ec != std::errc() || parsed.ptr != end) {
-    throw RunTimeFailure(FailureNumber::TypeMismatch);
-  }
-  return count;
+  return IntegerOf(state.History[0]);
 }
 
 void SetPositions(AppState& state, int up, int down) {
@@ -51,7 +43,7 @@ void CommandHistory::rtbCommands_KeyDown(int& keyCode, int shift) {
       case key_code::kPageDown:
         keyCode = 0;
     }
-    if (key == key_code::kEscape) mnuToolsClearCommands_Click();
+    if (key == key_code::kEscape) ClearCommands();
     if (key == key_code::kPageUp) ShowPreviousLine();
     if (key == key_code::kPageDown) ShowNextLine();
   });
@@ -81,11 +73,13 @@ void CommandHistory::ShowLine(int index) {
   SetPositions(state_, index, index);
 }
 
+void CommandHistory::ClearCommands() {
+  platform_.frmMain.rtbCommands.SetText(u"");
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
 void CommandHistory::mnuToolsClearCommands_Click() {
-  errors_.Guard(Procedure::mnuToolsClear_Click, [this] {
-    platform_.frmMain.rtbCommands.SetText(u"");
-    platform_.frmMain.rtbCommands.SetFocus();
-  });
+  errors_.Guard(Procedure::mnuToolsClear_Click, [this] { ClearCommands(); });
 }
 
 void CommandHistory::mnuToolsClearHistory_Click() {
@@ -93,8 +87,8 @@ void CommandHistory::mnuToolsClearHistory_Click() {
     state_.History.fill(u"");
     state_.History[0] = u"0";
     SetPositions(state_, 1, -1);
-    platform_.frmMain.rtbCommands.SetFocus();
   });
+  platform_.frmMain.rtbCommands.SetFocus();
 }
 
 }  // namespace verlume

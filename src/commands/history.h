@@ -25,6 +25,7 @@ class CommandHistory {
   void ShowPreviousLine();
   void ShowNextLine();
   void ShowLine(int index);
+  void ClearCommands();
 
   AppState& state_;
   Platform& platform_;

@@ -5,16 +5,17 @@
 namespace verlume {
 namespace {
 
-// Sets a flag for as long as it lives.
-class While {
+// Raises a flag for as long as it lives.
+class Raised {
  public:
-  explicit While(bool& flag) : flag_(flag) { flag_ = true; }
-  ~While() { flag_ = false; }
-  While(const While&) = delete;
-  While& operator=(const While&) = delete;
+  explicit Raised(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
+  ~Raised() { flag_ = before_; }
+  Raised(const Raised&) = delete;
+  Raised& operator=(const Raised&) = delete;
 
  private:
   bool& flag_;
+  const bool before_;
 };
 
 SelectionFormat FormatOf(const AppState& state) {
@@ -34,11 +35,11 @@ bool Change(Value& value, const Value& newValue) {
   return true;
 }
 
-// The format becomes the local style; what is undetermined of the four flags is off. True when the
-// style differs from before.
+// The format becomes the local style, its size the nearest one that is accepted; what is
+// undetermined of the four flags is off. True when the style differs from before.
 bool TakeStyle(AppState& state, const SelectionFormat& format) {
   bool changed = Change(state.FontName, format.fontName.value_or(state.FontName));
-  changed |= Change(state.FontSize, format.fontSize.value_or(state.FontSize));
+  changed |= Change(state.FontSize, AcceptedFontSize(format.fontSize.value_or(state.FontSize)));
   changed |= Change(state.FontColor, format.color.value_or(state.FontColor));
   changed |= Change(state.FontBold, format.bold.value_or(false));
   changed |= Change(state.FontItalic, format.italic.value_or(false));
@@ -60,7 +61,7 @@ void TextFormat::ApplyCommandStyle() {
 
 void TextFormat::ApplyToPane() {
   // Moving the insertion point must not bring the style found there back into force.
-  const While applying(settling_);
+  const Raised applying(settling_);
   RichTextBox& pane = platform_.frmMain.rtbCommands;
   if (pane.TextLength() > 0) pane.Select(pane.TextLength(), 0);
   pane.SetFontCharset(richtext::kGreekCharset);
@@ -70,7 +71,7 @@ void TextFormat::ApplyToPane() {
 // Check boxes, ticks and the colour label agree with the local style.
 void TextFormat::ShowStyle() {
   // The click of a check box would apply the style, which moves the insertion point to the end.
-  const While showing(settling_);
+  const Raised showing(settling_);
   MainWindow& frmMain = platform_.frmMain;
   frmMain.chkBold.SetValue(state_.FontBold ? 1 : 0);
   frmMain.chkItalics.SetValue(state_.FontItalic ? 1 : 0);
@@ -89,21 +90,30 @@ void TextFormat::rtbCommands_SelChange() {
   if (settling_ || !styleInForce_) return;
   bool changed = false;
   errors_.Guard(Procedure::rtbCommands_SelChange, [this, &changed] {
-    const RichTextBox& pane = platform_.frmMain.rtbCommands;
+    RichTextBox& pane = platform_.frmMain.rtbCommands;
     if (pane.SelLength() > 0) return;
-    changed = TakeStyle(state_, pane.SelFormat());
+    // No character is left whose format could be the user's.
+    if (pane.TextLength() == 0) return ApplyToPane();
+    const SelectionFormat format = pane.SelFormat();
+    changed = TakeStyle(state_, format);
+    // Text from elsewhere may be of any size; what is typed into it is not.
+    if (format.fontSize && format.fontSize != state_.FontSize) ApplySizeToPane();
     ShowStyle();
   });
   if (!changed) return;
   errors_.Guard(Procedure::ApplyCommandStyle, [this] { WriteFontSettings(state_, settings_); });
 }
 
+void TextFormat::ApplySizeToPane() {
+  SelectionFormat size;
+  size.fontSize = state_.FontSize;
+  platform_.frmMain.rtbCommands.SetSelFormat(size);
+}
+
 void TextFormat::SetFlag(bool& flag, bool wanted) {
   if (settling_) return;
-  errors_.Guard(Procedure::chkStyle_Click, [this, &flag, wanted] {
-    flag = wanted;
-    ApplyCommandStyle();
-  });
+  flag = wanted;
+  ApplyCommandStyle();
   platform_.frmMain.rtbCommands.SetFocus();
 }
 

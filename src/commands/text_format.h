@@ -41,8 +41,9 @@ class TextFormat {
   // The size in AppState::CommandLine, asked for when there is none: a number from 8 to 11.
   void SetFontSize();
 
-  // The style at the insertion point becomes the local style, and is saved where it differs. The
-  // insertion point stays. Does nothing before the first ApplyCommandStyle.
+  // The style at the insertion point becomes the local style, and is saved where it differs; in an
+  // empty pane the local style stays in force. The insertion point stays. Does nothing before the
+  // first ApplyCommandStyle.
   void rtbCommands_SelChange();
 
  private:
@@ -51,6 +52,7 @@ class TextFormat {
 
   void ApplyToPane();
   void ShowStyle();
+  void ApplySizeToPane();
   void SetFlag(bool& flag, bool wanted);
   void ChooseBackColor(RichTextBox& pane, std::u16string_view key, Procedure procedure);
 

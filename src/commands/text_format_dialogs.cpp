@@ -38,7 +38,7 @@ std::optional<double> FontSizeOf(std::u16string_view text) {
   if (!isPlain) return std::nullopt;
   const double size = NumericPrefixOf(number);
   if (size < kSmallestFontSize || size > kLargestFontSize) return std::nullopt;
-  return size;
+  return AcceptedFontSize(size);
 }
 
 }  // namespace
@@ -102,7 +102,7 @@ void TextFormat::mnuFormatFontSettings_Click() {
     state_.FontUnderline = chosen.underline;
     state_.FontStrikethrough = chosen.strikethrough;
     state_.FontColor = chosen.color;
-    state_.FontSize = std::clamp(chosen.size, kSmallestFontSize, kLargestFontSize);
+    state_.FontSize = AcceptedFontSize(chosen.size);
     ApplyCommandStyle();
   });
   platform_.frmMain.rtbCommands.SetFocus();

@@ -42,8 +42,9 @@ class RichTextBox : public Control {
  public:
   virtual std::u16string Text() const = 0;
   virtual std::size_t TextLength() const = 0;  // constant time
-  // Replaces everything. The new text takes the format that the insertion point had, and a box
-  // emptied so keeps it for what is typed next. The insertion point goes to the start.
+  // Replaces everything. The new text takes the format of the selection's first character, or of
+  // the insertion point, and a box emptied so keeps it for what is typed next. The insertion point
+  // goes to the start.
   virtual void SetText(std::u16string_view text) = 0;
 
   // Everything as RTF (richtext/rtf_writer.h), and back (richtext/rtf_reader.h: text that is no

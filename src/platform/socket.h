@@ -14,14 +14,17 @@ namespace verlume {
 // The classic numbers; text is sent only in Connected.
 enum class SocketState { Closed = 0, Listening = 2, Connecting = 6, Connected = 7 };
 
+// What fits into the 16 bits with a sign in which callers keep a port.
+inline constexpr std::int32_t kGreatestNameablePort = 32767;
+
 class Socket {
  public:
   virtual ~Socket() = default;
 
   virtual SocketState State() const = 0;
 
-  // The port to listen on, 0 to let the system choose; once listening or connected, the port in
-  // use.
+  // The port to listen on, 0 for a free one that every caller can name, up to
+  // kGreatestNameablePort; once listening or connected, the port in use.
   virtual void SetLocalPort(std::int32_t port) = 0;
   virtual std::int32_t LocalPort() const = 0;
   // The name or address to call, and its port.

@@ -13,7 +13,8 @@ namespace verlume::qt {
 namespace {
 
 QFont FontOf(const FontChoice& choice) {
-  QFont font(ToQt(choice.name));
+  QFont font;
+  font.setFamilies({ToQt(choice.name)});
   font.setPointSizeF(choice.size);
   font.setBold(choice.bold);
   font.setItalic(choice.italic);
@@ -32,6 +33,7 @@ FontDialog::FontDialog(QWidget* owner, const FontChoice& start, double minimumSi
   start_.size = std::clamp(start.size, minimum_, maximum_);
   LimitSizes();
   setCurrentFont(FontOf(start_));
+  shownFamily_ = currentFont().family();
 }
 
 // Qt gives no names to the parts of its dialog: the edit of the size is the one that takes numbers
@@ -66,7 +68,7 @@ void FontDialog::HideSizesOutside(QListView* sizes) const {
 FontChoice FontDialog::Choice() const {
   const QFont font = selectedFont();
   FontChoice choice = start_;
-  choice.name = FromQt(font.family());
+  if (font.family() != shownFamily_) choice.name = FromQt(font.family());
   choice.bold = font.bold();
   choice.italic = font.style() != QFont::StyleNormal;
   choice.underline = font.underline();

@@ -15,8 +15,8 @@ class FontDialog : public QFontDialog {
   // Offers sizes from `minimumSize` to `maximumSize` points.
   FontDialog(QWidget* owner, const FontChoice& start, double minimumSize, double maximumSize);
 
-  // The font chosen, its size within the limits. The colour is the one it started with: the dialog
-  // has none.
+  // The font chosen, its size within the limits. A font that is not installed stays chosen while
+  // the user chooses no other. The colour is the one it started with: the dialog has none.
   FontChoice Choice() const;
 
  private:
@@ -24,6 +24,7 @@ class FontDialog : public QFontDialog {
   void HideSizesOutside(QListView* sizes) const;
 
   FontChoice start_;
+  QString shownFamily_;  // what stands for the font it started with
   double minimum_;
   double maximum_;
 };

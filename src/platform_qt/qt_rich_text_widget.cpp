@@ -136,7 +136,7 @@ void RichTextWidget::NoteSelChange() {
 }
 
 void RichTextWidget::SettleSelChange() {
-  if (!selChanged_) return;
+  if (!selChanged_) return KeepInsertionFormat();
   selChanged_ = false;
   if (document()->isEmpty()) {
     const ProgramChange change(*this);
@@ -146,6 +146,15 @@ void RichTextWidget::SettleSelChange() {
   }
   lastFormat_ = textCursor().charFormat();
   if (events_ && events_->onSelChange) events_->onSelChange();
+}
+
+// A caret key that moves nothing makes Qt forget the format that was set for what is typed next.
+void RichTextWidget::KeepInsertionFormat() {
+  QTextCursor cursor = textCursor();
+  if (cursor.hasSelection() || cursor.charFormat() == lastFormat_) return;
+  const ProgramChange change(*this);
+  cursor.setCharFormat(lastFormat_);
+  setTextCursor(cursor);
 }
 
 }  // namespace verlume::qt

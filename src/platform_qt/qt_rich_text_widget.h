@@ -62,6 +62,7 @@ class RichTextWidget : public QPlainTextEdit {
   void TypeText(const QString& text);
   void NoteSelChange();
   void SettleSelChange();
+  void KeepInsertionFormat();
 
   const RichTextBox* events_ = nullptr;
   const Lines lines_;
@@ -69,7 +70,7 @@ class RichTextWidget : public QPlainTextEdit {
   int programDepth_ = 0;
   int userDepth_ = 0;
   bool selChanged_ = false;
-  QTextCharFormat lastFormat_;  // of the insertion point, for the box that the user empties
+  QTextCharFormat lastFormat_;  // of the insertion point, when its box last came to rest
 };
 
 }  // namespace verlume::qt

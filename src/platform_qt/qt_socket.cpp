@@ -2,6 +2,7 @@
 
 #include <QHostInfo>
 #include <QNetworkProxy>
+#include <QRandomGenerator>
 #include <algorithm>
 #include <utility>
 
@@ -24,6 +25,18 @@ constexpr std::int32_t kLastPort = 65535;
 void SetOptions(QTcpSocket& socket) {
   socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
   socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+}
+
+// The system's own choice lies mostly above what a caller can name.
+bool ListenOnFreePort(QTcpServer& server) {
+  constexpr int kAttempts = 100;
+  constexpr int kLeastFreePort = 10'000;  // below lie the well-known services
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    const int port = QRandomGenerator::global()->bounded(kLeastFreePort, kGreatestNameablePort + 1);
+    if (server.listen(QHostAddress::Any, static_cast<quint16>(port))) return true;
+    if (server.serverError() != QAbstractSocket::AddressInUseError) return false;
+  }
+  return false;
 }
 
 }  // namespace
@@ -95,7 +108,10 @@ void QtSocket::Listen() {
   if (localPort_ < 0 || localPort_ > kLastPort) {
     throw RunTimeFailure(FailureNumber::InvalidProcedureCall);
   }
-  if (!server_.listen(QHostAddress::Any, static_cast<quint16>(localPort_))) {
+  const bool isListening =
+      localPort_ == 0 ? ListenOnFreePort(server_)
+                      : server_.listen(QHostAddress::Any, static_cast<quint16>(localPort_));
+  if (!isListening) {
     const bool isTaken = server_.serverError() == QAbstractSocket::AddressInUseError;
     throw RunTimeFailure(isTaken ? FailureNumber::AddressInUse : FailureNumber::PermissionDenied);
   }

@@ -22,11 +22,13 @@ void Language::ApplyLanguage() {
 void Language::mnuToolsLanguageEnglish_Click() {
   state_.IsGreek = false;
   ApplyLanguage();
+  platform_.frmMain.rtbCommands.SetFocus();
 }
 
 void Language::mnuToolsLanguageGreek_Click() {
   state_.IsGreek = true;
   ApplyLanguage();
+  platform_.frmMain.rtbCommands.SetFocus();
 }
 
 }  // namespace verlume

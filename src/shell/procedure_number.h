@@ -17,7 +17,6 @@ enum class Procedure : int {
   sckControl_Close = 212,
   Form_QueryUnload = 213,
   mnuFileExit_Click = 214,
-  chkStyle_Click = 215,  // the three style check boxes and their menu entries
   CancelWaitOrCall = 216,
   CloseConnection = 217,
   ConfirmExit = 218,

@@ -1,6 +1,7 @@
 #include "shell/settings_reader.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 #include "shell/conversions.h"
@@ -26,9 +27,13 @@ void TakeBoolean(Value value, bool& field) {
   if (value) field = BooleanOf(*value);
 }
 
+void SetSwitch(bool& field, bool on, MenuEntry& entry) {
+  field = on;
+  entry.SetChecked(on);
+}
+
 void TakeSwitch(Value value, bool& field, MenuEntry& entry) {
-  TakeBoolean(value, field);
-  entry.SetChecked(field);
+  SetSwitch(field, value ? BooleanOf(*value) : field, entry);
 }
 
 std::optional<Color> ColorOf(Value value) {
@@ -92,8 +97,7 @@ constexpr Key kKeys[] = {
      }},
     {kFontLocal, u"Size", 20, kNull,
      [](Value value, Target to) {
-       if (!value) return;
-       to.state.FontSize = std::clamp(NumberOf(*value), kSmallestFontSize, kLargestFontSize);
+       if (value) to.state.FontSize = AcceptedFontSize(NumberOf(*value));
      }},
     {kBackColor, u"Commands", 20, kNull,
      [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbCommands); }},
@@ -115,6 +119,10 @@ bool IsMissing(std::u16string_view value, std::u16string_view missingMarker) {
 
 }  // namespace
 
+double AcceptedFontSize(double points) {
+  return std::clamp(std::round(points * 2) / 2, kSmallestFontSize, kLargestFontSize);
+}
+
 void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
   const SelectionFormat pane = frmMain.rtbData.SelFormat();
   state.FontName = pane.fontName.value_or(state.FontName);
@@ -128,10 +136,10 @@ void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
   state.Nickname.clear();
   state.MacrosFolder.clear();
   state.LogFolder.clear();
-  TakeSwitch({}, state.DateStamp = true, frmMain.mnuToolsDate);
-  TakeSwitch({}, state.TimeStamp = true, frmMain.mnuToolsTime);
-  TakeSwitch({}, state.AlwaysOnTop = false, frmMain.mnuToolsAlwaysOnTop);
-  TakeSwitch({}, state.LogDialogue = false, frmMain.mnuFileLogRecord);
+  SetSwitch(state.DateStamp, true, frmMain.mnuToolsDate);
+  SetSwitch(state.TimeStamp, true, frmMain.mnuToolsTime);
+  SetSwitch(state.AlwaysOnTop, false, frmMain.mnuToolsAlwaysOnTop);
+  SetSwitch(state.LogDialogue, false, frmMain.mnuFileLogRecord);
 }
 
 void ReadLanguage(AppState& state, const Settings& settings) {

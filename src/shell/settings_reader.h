@@ -11,6 +11,9 @@ namespace verlume {
 inline constexpr double kSmallestFontSize = 8;
 inline constexpr double kLargestFontSize = 11;
 
+// The nearest size that the program accepts; rich text carries sizes in half points.
+double AcceptedFontSize(double points);
+
 // What every key but the language comes to where it is missing: AppState and the menu ticks. The
 // local font is the dialogue pane's.
 void SetSettingDefaults(AppState& state, const MainWindow& frmMain);
@@ -20,8 +23,8 @@ void ReadLanguage(AppState& state, const Settings& settings);
 
 // Reads every other key, one after the other, into AppState and what of the window shows it. A
 // missing key leaves what is there. A text that is no value of its key's type throws RunTimeFailure
-// (13, or 6 for a number out of range); the keys behind it are not read. A font size out of range
-// becomes the nearest one that is accepted, and a colour that is none (negative) counts as missing.
+// (13, or 6 for a number out of range); the keys behind it are not read. A font size becomes the
+// nearest one that is accepted, and a colour that is none (negative) counts as missing.
 void ReadSettings(AppState& state, const MainWindow& frmMain, const Settings& settings);
 
 // Writes the local font, all keys in one step. Throws RunTimeFailure when the file cannot be

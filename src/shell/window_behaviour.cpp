@@ -1,5 +1,7 @@
 #include "shell/window_behaviour.h"
 
+#include <initializer_list>
+
 #include "shell/conversions.h"
 
 namespace verlume {
@@ -11,6 +13,7 @@ void WindowBehaviour::mnuToolsAlwaysOnTop_Click() {
     platform_.frmMain.mnuToolsAlwaysOnTop.SetChecked(state_.AlwaysOnTop);
     settings_.WriteSetting(u"General", u"AlwaysOnTop", BooleanText(state_.AlwaysOnTop));
   });
+  platform_.frmMain.rtbCommands.SetFocus();
 }
 
 void BindContextHelp(const MainWindow& frmMain) {

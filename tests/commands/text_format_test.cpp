@@ -189,8 +189,9 @@ TEST_F(TextFormatTest, AMixedFormatTurnsTheFlagsOffAndKeepsTheRest) {
   state.FontSize = 9;
   state.FontColor = 255;
   textFormat.ApplyCommandStyle();
+  pane.Type(u"x");
   pane.formatIsMixed = true;
-  pane.Select(0, 0);
+  pane.Select(1, 0);
   ExpectBoldEverywhere(false);
   EXPECT_FALSE(state.FontItalic || state.FontUnderline || state.FontStrikethrough);
   EXPECT_EQ(window.chkItalics.value, 0);
@@ -301,7 +302,9 @@ TEST_F(TextFormatTest, TheFontDialogStartsFromTheStyleAndSetsIt) {
   fake.commonDialog.fonts = {FontChoice{u"Verdana", true, false, true, true, 65280, 11}};
   textFormat.mnuFormatFontSettings_Click();
   ASSERT_THAT(fake.commonDialog.fontsShown, SizeIs(1));
-  const FontChoice& start = fake.commonDialog.fontsShown[0];
+  const auto& [start, minimumSize, maximumSize] = fake.commonDialog.fontsShown[0];
+  EXPECT_EQ(minimumSize, 8);
+  EXPECT_EQ(maximumSize, 11);
   EXPECT_EQ(start.name, u"Tahoma");
   EXPECT_EQ(start.size, 9);
   EXPECT_EQ(start.color, 255);
@@ -399,6 +402,13 @@ TEST_F(FontSize, AFractionIsTakenWithEitherDecimalMark) {
   EXPECT_EQ(Setting(u"FontLocal", u"Size"), u"9.5");
   EXPECT_TRUE(Takes(u"/SIZE 8,5"));
   EXPECT_EQ(state.FontSize, 8.5);
+}
+
+TEST_F(FontSize, ASizeIsOfWholeOrHalfPointsAsRichTextCarriesIt) {
+  EXPECT_TRUE(Takes(u"/SIZE 9.3"));
+  EXPECT_EQ(state.FontSize, 9.5);
+  EXPECT_TRUE(Takes(u"/SIZE 9.2"));
+  EXPECT_EQ(state.FontSize, 9);
 }
 
 TEST_F(FontSize, AnythingElseIsRefusedWithTheRange) {

@@ -109,6 +109,8 @@ TYPED_TEST_P(SocketContract, ListeningOnPortZeroTellsThePortInUse) {
   this->Listen();
   EXPECT_EQ(this->callee.socket.State(), SocketState::Listening);
   EXPECT_GT(this->callee.socket.LocalPort(), 0);
+  // The system's own choice is above this more often than not.
+  EXPECT_LE(this->callee.socket.LocalPort(), kGreatestNameablePort);
 }
 
 TYPED_TEST_P(SocketContract, ListeningOnATakenPortFails) {

@@ -58,8 +58,9 @@ Color FakeCommonDialog::ShowColor(Color start) {
   return TakeChoice(colors, "a colour dialog");
 }
 
-FontChoice FakeCommonDialog::ShowFont(const FontChoice& start, double, double) {
-  fontsShown.push_back(start);
+FontChoice FakeCommonDialog::ShowFont(const FontChoice& start, double minimumSize,
+                                      double maximumSize) {
+  fontsShown.push_back({start, minimumSize, maximumSize});
   return TakeChoice(fonts, "a font dialog");
 }
 

@@ -60,7 +60,12 @@ class FakeCommonDialog : public CommonDialog {
   };
   std::vector<FolderShown> foldersShown;
   std::vector<Color> colorsShown;
-  std::vector<FontChoice> fontsShown;
+  struct FontShown {
+    FontChoice start;
+    double minimumSize;
+    double maximumSize;
+  };
+  std::vector<FontShown> fontsShown;
 };
 
 }  // namespace verlume::fake

@@ -27,7 +27,7 @@ class FakeNetwork {
   std::deque<std::function<void()>> events_;
   std::map<std::int32_t, FakeSocket*> listeners_;
   std::set<const FakeSocket*> sockets_;
-  std::int32_t nextPort_ = 49152;
+  std::int32_t nextPort_ = 20000;
   std::int64_t nextRequest_ = 1;
 };
 

@@ -271,6 +271,11 @@ TEST_F(FontDialogTest, StyleGoesInAndComesOutInGreekToo) {
   EXPECT_TRUE(choice.italic);
 }
 
+TEST_F(FontDialogTest, FontThatIsNotInstalledStaysWhileNoOtherIsChosen) {
+  start.name = u"No Such Font";
+  EXPECT_EQ(Ask([](QFontDialog&) {}).name, u"No Such Font");
+}
+
 TEST_F(FontDialogTest, ChosenStyleComesOut) {
   const FontChoice choice = Ask([](QFontDialog& fonts) {
     QFont font(QStringLiteral("DejaVu Sans Mono"));

@@ -241,6 +241,21 @@ TEST_F(QtRichTextBoxTest, AClickInPlaceKeepsTheInsertionFormat) {
   }
 }
 
+TEST_F(QtRichTextBoxTest, ACaretKeyThatMovesNothingKeepsTheInsertionFormat) {
+  SelectionFormat bold;
+  bold.bold = true;
+  for (const Qt::Key key : {Qt::Key_End, Qt::Key_Right, Qt::Key_Down}) {
+    single.SetText(u"a");
+    single.Select(1, 0);
+    single.SetSelFormat(bold);
+    Press(single, key);
+    EXPECT_EQ(single.SelFormat().bold, true) << key;
+    single.SetSelText(u"b");
+    single.Select(1, 1);
+    EXPECT_EQ(single.SelFormat().bold, true) << key;
+  }
+}
+
 TEST_F(QtRichTextBoxTest, MovingTheCaretTellsOnce) {
   single.SetRtf(u"{\\rtf1 a\\b b}");
   std::vector<std::optional<bool>> seen;

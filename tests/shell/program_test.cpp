@@ -1,17 +1,16 @@
 // Two whole programs on the in-memory platform: the road of a call and of a typed line.
-#include "shell/program.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform_fake/fake_platform.h"
 #include "richtext/rtf_reader.h"
+#include "shell/program_copy.h"
 
 namespace verlume {
 namespace {
 
 using fake::FakeNetwork;
 using fake::FakePlatform;
+using fake::ProgramCopy;
 
 MATCHER_P(BeginsWith, start, "") {
   return arg.starts_with(start);
@@ -23,32 +22,6 @@ MATCHER_P(Holds, part, "") {
   return arg.find(part) != arg.npos;
 }
 
-// One copy of the program, started, with its folders in place.
-struct Copy {
-  Copy(FakeNetwork& network, std::u16string_view nickname, std::u16string_view moreSettings = u"")
-      : platform(network), program(platform.platform) {
-    platform.files.MakeFolder(u"/macros");
-    platform.files.MakeFolder(u"/logs");
-    platform.files.ReplaceText(
-        u"/verlume/Verlume.ini",
-        std::u16string(u"[General]\r\nDateStamp=False\r\nTimeStamp=False\r\nMacrosfolder=/macros/")
-            .append(u"\r\nNickname=")
-            .append(nickname)
-            .append(u"\r\n[Logging]\r\nLogfolder=/logs/\r\nLogdialogue=True\r\n")
-            .append(moreSettings));
-    program.Start();
-    platform.window.freeSizer1.onPostLayout();
-  }
-
-  void Enter(std::u16string line) { platform.window.rtbCommands.Type(line + u"\r"); }
-  std::u16string Dialogue() const { return platform.window.rtbData.Text(); }
-  std::u16string Status() const { return platform.window.lblStatus.caption; }
-  Color Lamp() const { return platform.window.shpStatus.fill; }
-
-  FakePlatform platform;
-  Program program;
-};
-
 class ProgramTest : public testing::Test {
  protected:
   void Connect() {
@@ -59,8 +32,8 @@ class ProgramTest : public testing::Test {
   }
 
   FakeNetwork network;
-  Copy ann{network, u"Άννα"};
-  Copy bob{network, u"Bob"};
+  ProgramCopy ann{network, u"Άννα"};
+  ProgramCopy bob{network, u"Bob"};
 };
 
 TEST_F(ProgramTest, CallIsAskedAboutAndConnectsBothSides) {
@@ -68,7 +41,7 @@ TEST_F(ProgramTest, CallIsAskedAboutAndConnectsBothSides) {
 
   ASSERT_EQ(bob.platform.dialogs.messages.size(), 1u);
   EXPECT_EQ(bob.platform.dialogs.messages[0].title, u"Incoming call");
-  for (Copy* side : {&ann, &bob}) {
+  for (ProgramCopy* side : {&ann, &bob}) {
     EXPECT_TRUE(side->program.State().IsConnected);
     EXPECT_EQ(side->Lamp(), 65280);
     EXPECT_THAT(side->Status(), EndsIn(u"Active connection."));

@@ -149,7 +149,7 @@ TEST_F(SettingsReaderTest, KeysBehindAFailureKeepTheirDefaults) {
 
 TEST_F(SettingsReaderTest, AFontSizeOutOfRangeBecomesTheNearestOneAccepted) {
   const std::pair<const char*, double> cases[] = {
-      {"500", 11}, {"11", 11}, {"8", 8}, {"7.9", 8}, {"0", 8}, {"-1", 8}, {"9.25", 9.25}};
+      {"500", 11}, {"11", 11}, {"8", 8}, {"7.9", 8}, {"0", 8}, {"-1", 8}, {"9.3", 9.5}, {"8.2", 8}};
   for (const auto& [value, size] : cases) {
     Read(std::string("[FontLocal]\nSize=") + value + "\n");
     EXPECT_EQ(state.FontSize, size) << value;
