@@ -70,6 +70,21 @@ class CheckBox : public Control {
   std::function<void()> onClick;
 };
 
+class Button : public Control {
+ public:
+  virtual void SetCaption(std::u16string_view text) = 0;
+  virtual std::u16string Caption() const = 0;
+  virtual void SetEnabled(bool enabled) = 0;
+  virtual bool Enabled() const = 0;
+
+  // Does what the user's press of the button does: nothing while it is disabled.
+  void Click() {
+    if (Enabled() && onClick) onClick();
+  }
+
+  std::function<void()> onClick;
+};
+
 // One entry of a menu. Choosing it changes nothing by itself: the tick is set by the program.
 class MenuEntry {
  public:

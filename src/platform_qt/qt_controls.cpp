@@ -76,6 +76,15 @@ QtCheckBox::QtCheckBox(QCheckBox* widget) : QtControl(widget) {
   });
 }
 
+QtButton::QtButton(QPushButton* widget) : QtControl(widget) {
+  QObject::connect(widget, &QPushButton::clicked, widget, [this] { Click(); });
+}
+
+void QtButton::SetCaption(std::u16string_view text) {
+  caption_ = text;
+  widget_->setText(EscapeMnemonics(text));
+}
+
 QtMenuEntry::QtMenuEntry(QAction* action) : action_(action) {
   QObject::connect(action, &QAction::triggered, action, [this] {
     // Qt has turned the tick of a checkable entry; the program alone sets it.

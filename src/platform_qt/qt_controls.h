@@ -1,10 +1,11 @@
-// Labels, pictures, check boxes, the lamp, the clock and the menus, made real.
+// Labels, pictures, check boxes, buttons, the lamp, the clock and the menus, made real.
 #pragma once
 
 #include <QAction>
 #include <QCheckBox>
 #include <QIcon>
 #include <QMenu>
+#include <QPushButton>
 #include <QTimer>
 
 #include "platform_qt/qt_control.h"
@@ -17,7 +18,7 @@ inline QString EscapeMnemonics(std::u16string_view caption) {
   return ToQt(caption).replace(u'&', QStringLiteral("&&"));
 }
 
-class QtLabel : public QtControl<Label, ElidedLabel> {
+class QtLabel : public QtControl<Label, QLabel> {
  public:
   using QtControl::QtControl;
 
@@ -89,6 +90,19 @@ class QtCheckBox : public QtControl<CheckBox, QCheckBox> {
   void SetCaption(std::u16string_view text) override { widget_->setText(EscapeMnemonics(text)); }
   void SetValue(int value) override { widget_->setChecked(value != 0); }
   int Value() const override { return widget_->isChecked() ? 1 : 0; }
+};
+
+class QtButton : public QtControl<Button, QPushButton> {
+ public:
+  explicit QtButton(QPushButton* widget);
+  void SetCaption(std::u16string_view text) override;
+  std::u16string Caption() const override { return caption_; }
+  void SetEnabled(bool enabled) override { widget_->setEnabled(enabled); }
+  // What the program has said of the button; a modal box over its window changes nothing of it.
+  bool Enabled() const override { return widget_->isEnabledTo(widget_->parentWidget()); }
+
+ private:
+  std::u16string caption_;
 };
 
 class QtMenuEntry : public MenuEntry {

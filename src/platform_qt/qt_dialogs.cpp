@@ -68,9 +68,8 @@ QWidget* OwnerOfBoxes(QWidget* mainWindow) {
 }
 
 void KeepToOwnProgram(QWidget* box) {
-  if (QGuiApplication::applicationState() != Qt::ApplicationActive) {
-    box->setAttribute(Qt::WA_ShowWithoutActivating);
-  }
+  box->setAttribute(Qt::WA_ShowWithoutActivating,
+                    QGuiApplication::applicationState() != Qt::ApplicationActive);
 }
 
 QtDialogs::QtDialogs(QWidget* mainWindow) : mainWindow_(mainWindow) {}

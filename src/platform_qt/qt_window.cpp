@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QWindow>
 
+#include "platform_qt/qt_dialogs.h"
 #include "platform_qt/qt_text.h"
 
 namespace verlume::qt {
@@ -24,6 +25,24 @@ void QtWindow::Show() {
   form_->show();
 }
 
+void QtWindow::ShowModal() {
+  if (form_->isVisible()) return;
+  unloaded_ = false;
+  KeepToOwnProgram(form_);
+  form_->setWindowModality(Qt::ApplicationModal);
+  // Where the user moved it the last time does not count.
+  form_->setAttribute(Qt::WA_Moved, false);
+  form_->adjustSize();
+  form_->show();
+  QEventLoop untilHidden;
+  whileModal_ = &untilHidden;
+  untilHidden.exec(QEventLoop::DialogExec);
+  whileModal_ = nullptr;
+  // The end of the program leaves every loop.
+  unloaded_ = true;
+  form_->hide();
+}
+
 void QtWindow::Unload() {
   // From a handler of the close box this closes nothing yet: the close under way does.
   if (Close(UnloadMode::Code)) form_->close();
@@ -41,7 +60,9 @@ bool QtWindow::Close(UnloadMode mode) {
 }
 
 bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != form_ || event->type() != QEvent::Close) return false;
+  if (watched != form_) return false;
+  if (event->type() == QEvent::Hide && !event->spontaneous() && whileModal_) whileModal_->quit();
+  if (event->type() != QEvent::Close) return false;
   // A second request while the first is being asked about is the same wish.
   bool closed = unloaded_;
   if (!closed && !asking_) {

@@ -1,6 +1,7 @@
 // A top-level window, made real by any widget.
 #pragma once
 
+#include <QEventLoop>
 #include <QObject>
 #include <QWidget>
 
@@ -16,6 +17,7 @@ class QtWindow : public QObject, public Window {
   void SetTitle(std::u16string_view title) override;
   std::u16string Title() const override;
   void Show() override;
+  void ShowModal() override;
   void Unload() override;
   bool SetTopMost(bool topMost) override;
 
@@ -29,6 +31,7 @@ class QtWindow : public QObject, public Window {
   QWidget* form_;
   bool asking_ = false;
   bool unloaded_ = false;
+  QEventLoop* whileModal_ = nullptr;
 };
 
 // Watches a form's first showing. The form's layout does the work of the layout control itself.

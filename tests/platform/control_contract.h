@@ -1,6 +1,7 @@
 // What the controls and windows of every platform do. A suite is made from a maker: a default
-// constructible class with label(), checkBox(), entry(), menu(), lamp(), picture(), window() and
-// CloseByUser(), which does what the window's close box does.
+// constructible class with label(), checkBox(), button(), entry(), menu(), lamp(), picture(),
+// window(), CloseByUser(), which does what the window's close box does, and WhileModal(act), which
+// runs the act as soon as the window has been shown modally.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -59,6 +60,28 @@ TYPED_TEST_P(ControlContract, CheckBoxWithoutHandlerChangesAllTheSame) {
   EXPECT_EQ(box.Value(), 0);
   box.SetValue(1);
   EXPECT_EQ(box.Value(), 1);
+}
+
+TYPED_TEST_P(ControlContract, ButtonKeepsItsCaptionAsGiven) {
+  Button& button = this->maker.button();
+  button.SetCaption(u"Save & <b>close</b>...");
+  EXPECT_EQ(button.Caption(), u"Save & <b>close</b>...");
+}
+
+TYPED_TEST_P(ControlContract, DisabledButtonIsDeafToClicks) {
+  Button& button = this->maker.button();
+  int clicks = 0;
+  button.onClick = [&] { ++clicks; };
+  EXPECT_TRUE(button.Enabled());
+  button.Click();
+  EXPECT_EQ(clicks, 1);
+  button.SetEnabled(false);
+  EXPECT_FALSE(button.Enabled());
+  button.Click();
+  EXPECT_EQ(clicks, 1);
+  button.SetEnabled(true);
+  button.Click();
+  EXPECT_EQ(clicks, 2);
 }
 
 TYPED_TEST_P(ControlContract, MenuEntryIsTickedByTheProgramAlone) {
@@ -171,14 +194,56 @@ TYPED_TEST_P(ControlContract, UnloadWithinARefusedCloseQuestionStands) {
   EXPECT_EQ(unloads, 1);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(ControlContract, LabelKeepsItsCaptionAsGiven,
-                            LabelTagIsApartFromItsCaption, ToolTipIsKeptAsGiven,
-                            CheckBoxRaisesClickWhenItsValueChanges,
-                            CheckBoxWithoutHandlerChangesAllTheSame,
-                            MenuEntryIsTickedByTheProgramAlone, MenusKeepTheirCaptions,
-                            LampKeepsItsTwoColors, PictureHasAHeight, WindowKeepsItsTitle,
-                            UnloadAsksAndUnloadsOnce, CloseByUserIsToldFromOneByCode,
-                            RefusedCloseLeavesTheWindow, UnloadWithinTheCloseQuestionUnloadsOnce,
-                            UnloadWithinARefusedCloseQuestionStands);
+TYPED_TEST_P(ControlContract, ShowModalReturnsOnceTheWindowIsUnloaded) {
+  Window& window = this->maker.window();
+  std::vector<const char*> order;
+  window.onUnload = [&] { order.push_back("unload"); };
+  this->maker.WhileModal([&] {
+    order.push_back("shown");
+    window.Unload();
+  });
+  window.ShowModal();
+  order.push_back("returned");
+  EXPECT_EQ(order, (std::vector{"shown", "unload", "returned"}));
+}
+
+TYPED_TEST_P(ControlContract, ModalWindowClosedByTheUserCanBeShownAgain) {
+  Window& window = this->maker.window();
+  std::vector<UnloadMode> asked;
+  int unloads = 0;
+  window.onQueryUnload = [&](bool&, UnloadMode mode) { asked.push_back(mode); };
+  window.onUnload = [&] { ++unloads; };
+  for (int time = 1; time <= 2; ++time) {
+    this->maker.WhileModal([this] { this->maker.CloseByUser(); });
+    window.ShowModal();
+    EXPECT_EQ(unloads, time);
+  }
+  EXPECT_EQ(asked, (std::vector{UnloadMode::User, UnloadMode::User}));
+}
+
+TYPED_TEST_P(ControlContract, ModalWindowThatRefusesTheUserGoesByCode) {
+  Window& window = this->maker.window();
+  int unloads = 0;
+  window.onQueryUnload = [](bool& cancel, UnloadMode mode) { cancel = mode == UnloadMode::User; };
+  window.onUnload = [&] { ++unloads; };
+  this->maker.WhileModal([&] {
+    this->maker.CloseByUser();
+    EXPECT_EQ(unloads, 0);
+    window.Unload();
+  });
+  window.ShowModal();
+  EXPECT_EQ(unloads, 1);
+}
+
+REGISTER_TYPED_TEST_SUITE_P(
+    ControlContract, LabelKeepsItsCaptionAsGiven, LabelTagIsApartFromItsCaption,
+    ToolTipIsKeptAsGiven, CheckBoxRaisesClickWhenItsValueChanges,
+    CheckBoxWithoutHandlerChangesAllTheSame, ButtonKeepsItsCaptionAsGiven,
+    DisabledButtonIsDeafToClicks, MenuEntryIsTickedByTheProgramAlone, MenusKeepTheirCaptions,
+    LampKeepsItsTwoColors, PictureHasAHeight, WindowKeepsItsTitle, UnloadAsksAndUnloadsOnce,
+    CloseByUserIsToldFromOneByCode, RefusedCloseLeavesTheWindow,
+    UnloadWithinTheCloseQuestionUnloadsOnce, UnloadWithinARefusedCloseQuestionStands,
+    ShowModalReturnsOnceTheWindowIsUnloaded, ModalWindowClosedByTheUserCanBeShownAgain,
+    ModalWindowThatRefusesTheUserGoesByCode);
 
 }  // namespace verlume

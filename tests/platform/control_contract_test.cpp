@@ -10,16 +10,19 @@ class FakeMaker {
  public:
   Label& label() { return label_; }
   CheckBox& checkBox() { return checkBox_; }
+  Button& button() { return button_; }
   MenuEntry& entry() { return entry_; }
   Menu& menu() { return menu_; }
   Lamp& lamp() { return lamp_; }
   Picture& picture() { return picture_; }
   Window& window() { return window_; }
   void CloseByUser() { window_.Close(UnloadMode::User); }
+  void WhileModal(std::function<void()> act) { window_.whileModal = std::move(act); }
 
  private:
   fake::FakeLabel label_;
   fake::FakeCheckBox checkBox_;
+  fake::FakeButton button_;
   fake::FakeMenuEntry entry_;
   fake::FakeMenu menu_;
   fake::FakeLamp lamp_;

@@ -2,7 +2,11 @@
 // handlers.
 #pragma once
 
+#include <optional>
+#include <stdexcept>
+
 #include "platform/control.h"
+#include "platform/run_time_failure.h"
 #include "platform/window.h"
 
 namespace verlume::fake {
@@ -72,6 +76,17 @@ class FakeCheckBox : public FakeControl<CheckBox> {
   int value = 0;
 };
 
+class FakeButton : public FakeControl<Button> {
+ public:
+  void SetCaption(std::u16string_view text) override { caption = text; }
+  std::u16string Caption() const override { return caption; }
+  void SetEnabled(bool value) override { enabled = value; }
+  bool Enabled() const override { return enabled; }
+
+  std::u16string caption;
+  bool enabled = true;
+};
+
 class FakeMenuEntry : public MenuEntry {
  public:
   void SetCaption(std::u16string_view text) override { caption = text; }
@@ -105,9 +120,21 @@ class FakeLayoutControl : public LayoutControl {};
 
 class FakeWindow : public Window {
  public:
-  void SetTitle(std::u16string_view text) override { title = text; }
+  void SetTitle(std::u16string_view text) override {
+    if (titleFails) throw RunTimeFailure(*titleFails);
+    title = text;
+  }
   std::u16string Title() const override { return title; }
   void Show() override { shown = true; }
+  // The user does what `whileModal` does, and then uses the close box, unless that or anything
+  // before has closed the window; a close box that is refused fails the test.
+  void ShowModal() override {
+    ++timesShownModal;
+    unloaded = false;
+    if (whileModal) whileModal();
+    Close(UnloadMode::User);
+    if (!unloaded) throw std::logic_error("the modal window stays open");
+  }
   void Unload() override { Close(UnloadMode::Code); }
   bool SetTopMost(bool value) override {
     topMost = value;
@@ -125,8 +152,11 @@ class FakeWindow : public Window {
     if (onUnload) onUnload();
   }
 
+  std::function<void()> whileModal;
+  std::optional<FailureNumber> titleFails;
   std::u16string title;
   bool shown = false;
+  int timesShownModal = 0;
   bool unloaded = false;
   bool topMost = false;
   int timesPlaced = 0;

@@ -133,6 +133,32 @@ TEST_F(QtControlsTest, CheckBoxClickedByTheUserRaisesClick) {
   EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(QtControlsTest, ButtonPressedByTheUserRaisesClick) {
+  QtButton button(new QPushButton(&form));
+  int clicks = 0;
+  button.onClick = [&] { ++clicks; };
+  QTest::mouseClick(button.widget(), Qt::LeftButton);
+  QTest::keyClick(button.widget(), Qt::Key_Space);
+  EXPECT_EQ(clicks, 2);
+  button.SetEnabled(false);
+  QTest::mouseClick(button.widget(), Qt::LeftButton);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(QtControlsTest, ButtonOfADisabledWindowIsEnabledAllTheSame) {
+  QtButton button(new QPushButton(&form));
+  form.setEnabled(false);
+  EXPECT_TRUE(button.Enabled());
+  button.SetEnabled(false);
+  EXPECT_FALSE(button.Enabled());
+}
+
+TEST_F(QtControlsTest, ButtonCaptionHasNoMnemonic) {
+  QtButton button(new QPushButton(&form));
+  button.SetCaption(u"R&D");
+  EXPECT_EQ(button.widget()->text(), "R&&D");
+}
+
 TEST_F(QtControlsTest, CheckBoxCaptionHasNoMnemonic) {
   QtCheckBox box(new QCheckBox(&form));
   box.SetCaption(u"B&W");
