@@ -5,6 +5,8 @@
 #include "connection/connection_state.h"
 #include "connection/status_texts.h"
 #include "platform/run_time_failure.h"
+#include "shell/language_texts.h"
+#include "shell/maker_texts.h"
 
 namespace verlume {
 namespace {
@@ -14,8 +16,8 @@ constexpr char16_t kConfirm = u'C';
 constexpr char16_t kNickname = u'N';
 constexpr char16_t kActionLine = u'M';
 
-constexpr std::u16string_view kMarkerParts[] = {
-    u"Verlume", u"Verlume", u"Δημιουργία της ομάδας Verlume", u"Made by the Verlume team"};
+constexpr std::u16string_view kMarkerParts[] = {kMainWindowTitle.greek, kMainWindowTitle.english,
+                                                kMakersCredit.greek, kMakersCredit.english};
 constexpr std::size_t kMarkerTextLength = 67;
 constexpr std::size_t kMarkerLength = kMarkerTextLength + 2;
 

@@ -1,6 +1,7 @@
 // A whole platform: everything the program is built upon. It outlives the program.
 #pragma once
 
+#include "platform/about_window.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/main_window.h"
@@ -11,6 +12,7 @@ namespace verlume {
 
 struct Platform {
   MainWindow& frmMain;
+  AboutWindow& frmAbout;
   Socket& sckControl;
   Dialogs& dialogs;
   CommonDialog& dlgControl;
@@ -19,6 +21,7 @@ struct Platform {
   Locale& locale;
   Application& application;
   HelpViewer& help;
+  SystemTools& tools;
 };
 
 }  // namespace verlume

@@ -1,7 +1,8 @@
 // What the logic asks of the machine besides windows, sockets and files: the time, the user's
-// regional forms, the program's own place and its event loop, and the help viewer.
+// regional forms, the program's own place and its event loop, the help viewer, and other programs.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -56,6 +57,18 @@ class HelpViewer {
   virtual ~HelpViewer() = default;
   // The file that the help entry and the context help of every control open from now on.
   virtual void SetHelpFile(std::u16string_view path) = 0;
+};
+
+class SystemTools {
+ public:
+  virtual ~SystemTools() = default;
+  // A text value of the registry, under the local-machine root. Empty when there is no such value,
+  // when it holds no text, and on a system without a registry.
+  virtual std::optional<std::u16string> LocalMachineText(std::u16string_view key,
+                                                         std::u16string_view value) const = 0;
+  // Starts a program as a process of its own, with a normal, focused window, and returns at once.
+  // False when it cannot be started.
+  virtual bool StartProgram(std::u16string_view path) = 0;
 };
 
 }  // namespace verlume

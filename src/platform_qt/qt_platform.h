@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform_qt/qt_about_window.h"
 #include "platform_qt/qt_common_dialog.h"
 #include "platform_qt/qt_dialogs.h"
 #include "platform_qt/qt_file_system.h"
@@ -31,13 +32,15 @@ class QtPlatform {
   QtLocale locale_;
   QtApplication application_;
   QtHelpViewer help_;
+  QtSystemTools tools_;
   QtMainWindow window_{files_};
+  QtAboutWindow about_{&window_.form()};
   QtSocket socket_;
   QtDialogs dialogs_{&window_.form()};
   QtCommonDialog commonDialog_{&window_.form()};
 
-  Platform view_ = {window_.View(), socket_, dialogs_,     commonDialog_, files_,
-                    clock_,         locale_, application_, help_};
+  Platform view_ = {window_.View(), about_.View(), socket_,      dialogs_, commonDialog_, files_,
+                    clock_,         locale_,       application_, help_,    tools_};
 };
 
 }  // namespace verlume::qt

@@ -1,5 +1,5 @@
-// The machine's clock and regional forms, the program's own place and event loop, and the help
-// file.
+// The machine's clock and regional forms, the program's own place and event loop, the help file,
+// and other programs.
 #pragma once
 
 #include <QLocale>
@@ -58,6 +58,14 @@ class QtApplication : public QObject, public Application {
  private:
   QString programFolder_;
   bool hasEnded_ = false;
+};
+
+class QtSystemTools : public SystemTools {
+ public:
+  // There is no registry here.
+  std::optional<std::u16string> LocalMachineText(std::u16string_view key,
+                                                 std::u16string_view value) const override;
+  bool StartProgram(std::u16string_view path) override;
 };
 
 class QtHelpViewer : public HelpViewer {

@@ -1,5 +1,7 @@
 #include "shell/language_texts.h"
 
+#include "shell/maker_texts.h"
+
 namespace verlume {
 namespace {
 
@@ -128,7 +130,7 @@ std::vector<FixedText> PanelTexts(const MainWindow& frmMain) {
       {AccessibleName(frmMain.rtbCommands), {u"Commands", u"Εντολές"}},
       {AccessibleName(frmMain.picShape), {u"Connection state", u"Κατάσταση συνδέσεως"}},
       {AccessibleName(frmMain.picCopyright), {u"Copyright notice", u"Πνευματικά δικαιώματα"}},
-      {Caption(frmMain.lblCopyright), {u"© 2026 The Verlume team", u"© 2026 Η ομάδα του Verlume"}},
+      {Caption(frmMain.lblCopyright), kCopyrightNotice},
   };
   for (const auto& [value, caption, text] : PanelValues(frmMain)) {
     if (caption) texts.push_back({Caption(*caption), text});

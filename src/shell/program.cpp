@@ -20,6 +20,7 @@ Program::Program(Platform& platform)
       statusPanel_(platform, errors_),
       language_(state_, platform, errors_, settings_),
       windowBehaviour_(state_, platform, errors_, settings_),
+      aboutBox_(state_, platform, errors_),
       log_(state_, platform, errors_, settings_),
       macroStore_(state_, platform, errors_, settings_),
       dialogue_(state_, platform, errors_, settings_, log_),
@@ -37,6 +38,7 @@ Program::Program(Platform& platform)
           state_, platform, errors_, [this] { connection_.ConfirmExit(); },
           [this] { ResetConnection(state_, platform_); }) {
   BindWindow();
+  BindAbout();
   BindMenus();
   BindPanes();
   BindSocket();
@@ -62,6 +64,19 @@ void Program::BindWindow() {
   On(frmMain.window.onUnload, shutDown_, &ShutDown::Form_Unload);
   On(frmMain.freeSizer1.onPostLayout, startUp_, &StartUp::freeSizer1_PostLayout);
   On(frmMain.tmrTimer.onTimer, statusPanel_, &StatusPanel::tmrTimer_Timer);
+}
+
+void Program::BindAbout() {
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.mnuHelpAbout.onClick, aboutBox_, &AboutBox::mnuHelpAbout_Click);
+  On(frmMain.lblCopyright.onMouseDown, aboutBox_, &AboutBox::lblCopyright_MouseDown);
+  On(frmMain.picCopyright.onMouseDown, aboutBox_, &AboutBox::lblCopyright_MouseDown);
+  const AboutWindow& frmAbout = platform_.frmAbout;
+  On(frmAbout.cmdOK.onClick, aboutBox_, &AboutBox::cmdOK_Click);
+  On(frmAbout.cmdSysInfo.onClick, aboutBox_, &AboutBox::cmdSysInfo_Click);
+  BindContextHelp({&frmAbout.lblTitle, &frmAbout.lblVersion, &frmAbout.lblDescription,
+                   &frmAbout.lblDisclaimer, &frmAbout.picIcon, &frmAbout.cmdOK,
+                   &frmAbout.cmdSysInfo});
 }
 
 void Program::BindMenus() {

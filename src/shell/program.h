@@ -13,6 +13,7 @@
 #include "macros/macro_store.h"
 #include "platform/platform.h"
 #include "records/dialogue_log.h"
+#include "shell/about_box.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
 #include "shell/language.h"
@@ -40,6 +41,7 @@ class Program {
  private:
   void EndChatAfterError();
   void BindWindow();
+  void BindAbout();
   void BindMenus();
   void BindPanes();
   void BindSocket();
@@ -51,6 +53,7 @@ class Program {
   StatusPanel statusPanel_;
   Language language_;
   WindowBehaviour windowBehaviour_;
+  AboutBox aboutBox_;
   DialogueLog log_;
   MacroStore macroStore_;
   Dialogue dialogue_;

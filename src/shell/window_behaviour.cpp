@@ -16,18 +16,22 @@ void WindowBehaviour::mnuToolsAlwaysOnTop_Click() {
   platform_.frmMain.rtbCommands.SetFocus();
 }
 
-void BindContextHelp(const MainWindow& frmMain) {
-  for (Control* control : std::initializer_list<Control*>{
-           &frmMain.lblCurrentDateTime, &frmMain.lblChatStartDateTime, &frmMain.lblChatDuration,
-           &frmMain.lblLocalIP, &frmMain.lblLocalPort, &frmMain.lblLocalNickname,
-           &frmMain.lblRemoteIP, &frmMain.lblRemotePort, &frmMain.lblRemoteNickname,
-           &frmMain.lblBytesSent, &frmMain.lblBytesReceived, &frmMain.lblStatus, &frmMain.picShape,
-           &frmMain.chkBold, &frmMain.chkItalics, &frmMain.chkUnderline, &frmMain.lblColor,
-           &frmMain.lblCopyright, &frmMain.picCopyright}) {
+void BindContextHelp(std::initializer_list<Control*> controls) {
+  for (Control* control : controls) {
     control->onMouseUp = [control](MouseButton button) {
       if (button != MouseButton::Left) control->ShowContextHelp();
     };
   }
+}
+
+void BindContextHelp(const MainWindow& frmMain) {
+  BindContextHelp({&frmMain.lblCurrentDateTime, &frmMain.lblChatStartDateTime,
+                   &frmMain.lblChatDuration, &frmMain.lblLocalIP, &frmMain.lblLocalPort,
+                   &frmMain.lblLocalNickname, &frmMain.lblRemoteIP, &frmMain.lblRemotePort,
+                   &frmMain.lblRemoteNickname, &frmMain.lblBytesSent, &frmMain.lblBytesReceived,
+                   &frmMain.lblStatus, &frmMain.picShape, &frmMain.chkBold, &frmMain.chkItalics,
+                   &frmMain.chkUnderline, &frmMain.lblColor, &frmMain.lblCopyright,
+                   &frmMain.picCopyright});
 }
 
 }  // namespace verlume

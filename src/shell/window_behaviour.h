@@ -1,6 +1,8 @@
 // What the program itself decides about its main window.
 #pragma once
 
+#include <initializer_list>
+
 #include "platform/platform.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
@@ -23,8 +25,11 @@ class WindowBehaviour {
   Settings& settings_;
 };
 
-// A release of any button but the left one on a label, check box or picture of the window shows
-// that control's context help. Binds onMouseUp of all of them.
+// A release of any button but the left one on one of the controls shows that control's context
+// help. Binds onMouseUp of all of them.
+void BindContextHelp(std::initializer_list<Control*> controls);
+
+// The same for the labels, check boxes and pictures of the main window.
 void BindContextHelp(const MainWindow& frmMain);
 
 }  // namespace verlume

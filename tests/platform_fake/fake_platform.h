@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform_fake/fake_about_window.h"
 #include "platform_fake/fake_dialogs.h"
 #include "platform_fake/fake_file_system.h"
 #include "platform_fake/fake_main_window.h"
@@ -18,6 +19,7 @@ struct FakePlatform {
 
   FakeFileSystem files;
   FakeMainWindow window;
+  FakeAboutWindow about;
   FakeSocket socket;
   FakeDialogs dialogs;
   FakeCommonDialog commonDialog;
@@ -25,9 +27,10 @@ struct FakePlatform {
   FakeLocale locale;
   FakeApplication application;
   FakeHelpViewer help;
+  FakeSystemTools tools;
 
-  Platform platform = {window.frmMain, socket, dialogs,     commonDialog, files,
-                       clock,          locale, application, help};
+  Platform platform = {window.frmMain, about.frmAbout, socket,      dialogs, commonDialog, files,
+                       clock,          locale,         application, help,    tools};
 };
 
 }  // namespace verlume::fake

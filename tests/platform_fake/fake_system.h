@@ -1,7 +1,11 @@
-// Time that is set by hand, English regional forms, and a program that lives in /verlume.
+// Time that is set by hand, English regional forms, a program that lives in /verlume, and a
+// registry that is empty at first.
 #pragma once
 
 #include <functional>
+#include <map>
+#include <utility>
+#include <vector>
 
 #include "platform/system.h"
 #include "shell/text_pair.h"
@@ -51,6 +55,25 @@ class FakeHelpViewer : public HelpViewer {
   void SetHelpFile(std::u16string_view path) override { helpFile = path; }
 
   std::u16string helpFile;
+};
+
+// A registry that a test fills, and programs that never run.
+class FakeSystemTools : public SystemTools {
+ public:
+  std::optional<std::u16string> LocalMachineText(std::u16string_view key,
+                                                 std::u16string_view value) const override {
+    const auto found = registry.find({std::u16string(key), std::u16string(value)});
+    if (found == registry.end()) return std::nullopt;
+    return found->second;
+  }
+  bool StartProgram(std::u16string_view path) override {
+    started.emplace_back(path);
+    return startsPrograms;
+  }
+
+  std::map<std::pair<std::u16string, std::u16string>, std::u16string> registry;
+  bool startsPrograms = true;
+  std::vector<std::u16string> started;
 };
 
 }  // namespace verlume::fake

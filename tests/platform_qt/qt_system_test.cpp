@@ -11,6 +11,7 @@
 #include <QMainWindow>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
 #include "platform_qt/qt_text.h"
@@ -195,6 +196,27 @@ TEST(QtApplicationEvents, AProgramThatEndedBeforeItRanReturnsAtOnce) {
   QtApplication application;
   application.End();
   EXPECT_EQ(application.Run(), 0);
+}
+
+TEST(QtSystemTools, ThereIsNoRegistry) {
+  EXPECT_EQ(QtSystemTools().LocalMachineText(u"SOFTWARE\\Microsoft\\Shared Tools", u"PATH"),
+            std::nullopt);
+}
+
+TEST(QtSystemTools, ProgramIsStartedAsAProcessOfItsOwn) {
+  const QTemporaryDir folder;
+  const QString program = folder.filePath("a program");
+  QFile script(program);
+  ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+  script.write("#!/bin/sh\n: >\"$0.ran\"\n");
+  script.close();
+  script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+  EXPECT_TRUE(QtSystemTools().StartProgram(FromQt(program)));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(program + ".ran"); }, 10000));
+}
+
+TEST(QtSystemTools, ProgramThatIsNotThereIsNotStarted) {
+  EXPECT_FALSE(QtSystemTools().StartProgram(u"/no/such/program"));
 }
 
 }  // namespace

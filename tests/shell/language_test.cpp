@@ -138,7 +138,7 @@ TEST_F(LanguageTest, SetsTheGreekTexts) {
   EXPECT_EQ(window.lblCopyright.toolTip, u"Πνευματικά δικαιώματα");
   EXPECT_EQ(window.rtbCommands.toolTip, u"Πλαίσιο κειμένου εντολών");
   EXPECT_EQ(window.lblLocalIPCaption.caption, u"Τοπική διεύθυνση");
-  EXPECT_EQ(window.lblCopyright.caption, u"© 2026 Η ομάδα του Verlume");
+  EXPECT_EQ(window.lblCopyright.caption, u"© 2026 Η ομάδα Verlume");
 }
 
 TEST_F(LanguageTest, NoTextStaysInTheOtherLanguage) {

@@ -248,5 +248,56 @@ TEST(ProgramStartTest, SettingThatDoesNotConvertIsReportedAndTheProgramGoesOn) {
   EXPECT_THAT(platform.window.rtbData.Text(), Holds(u"still here"));
 }
 
+TEST_F(ProgramTest, AboutBoxOpensByMenuCommandAndCopyright) {
+  fake::FakeAboutWindow& about = ann.platform.about;
+  about.window.whileModal = [&] { about.cmdOK.Click(); };
+  int shown = 0;
+  const auto expectOneMore = [&](const char* by) {
+    EXPECT_EQ(about.window.timesShownModal, ++shown) << by;
+  };
+  ann.platform.window.mnuHelpAbout.Click();
+  expectOneMore("menu");
+  ann.Enter(u"/HELPABOUT");
+  expectOneMore("command");
+  ann.Enter(u"/βοήθειασχετικά");
+  expectOneMore("Greek command");
+  ann.platform.window.lblCopyright.onMouseDown(MouseButton::Left);
+  expectOneMore("label");
+  ann.platform.window.picCopyright.onMouseDown(MouseButton::Other);
+  expectOneMore("picture");
+  ann.platform.window.picCopyright.onMouseDown(MouseButton::Right);
+  EXPECT_EQ(about.window.timesShownModal, shown);
+}
+
+TEST_F(ProgramTest, ConversationGoesOnUnderTheAboutBox) {
+  Connect();
+  ann.platform.about.window.whileModal = [this] {
+    bob.Enter(u"hello");
+    network.RunUntilIdle();
+    EXPECT_EQ(ann.Dialogue(), u"<Bob>hello");
+  };
+  ann.Enter(u"/HELPABOUT");
+}
+
+TEST_F(ProgramTest, SystemInfoButtonTellsThatThereIsNone) {
+  ann.platform.about.cmdSysInfo.Click();
+  ASSERT_EQ(ann.platform.dialogs.messages.size(), 1u);
+  EXPECT_EQ(ann.platform.dialogs.messages[0].title, u"System information");
+}
+
+TEST_F(ProgramTest, ElementsOfTheAboutBoxShowTheirContextHelp) {
+  fake::FakeAboutWindow& about = ann.platform.about;
+  const auto check = [](auto&... controls) {
+    for (Control* control : std::initializer_list<Control*>{&controls...}) {
+      ASSERT_TRUE(control->onMouseUp);
+      control->onMouseUp(MouseButton::Left);
+      control->onMouseUp(MouseButton::Right);
+    }
+    for (const int times : {controls.timesHelpShown...}) EXPECT_EQ(times, 1);
+  };
+  check(about.lblTitle, about.lblVersion, about.lblDescription, about.lblDisclaimer, about.picIcon,
+        about.cmdOK, about.cmdSysInfo);
+}
+
 }  // namespace
 }  // namespace verlume

@@ -193,8 +193,9 @@ class LongNamedSocket : public fake::FakeSocket {
 
 TEST_F(StartUpTest, ALongHostNameIsCutToANickname) {
   LongNamedSocket socket(network);
-  Platform other = {window.frmMain, socket,      fake.dialogs,     fake.commonDialog, fake.files,
-                    fake.clock,     fake.locale, fake.application, fake.help};
+  Platform other = {window.frmMain,    fake.about.frmAbout, socket,     fake.dialogs,
+                    fake.commonDialog, fake.files,          fake.clock, fake.locale,
+                    fake.application,  fake.help,           fake.tools};
   StartUp longNamed(state, other, errors, settings, language,
                     {[] {}, [] { return std::u16string(); }, [] {}});
   longNamed.Form_Load();

@@ -1,0 +1,13 @@
+// The operating system's own system-information tool.
+#pragma once
+
+#include "platform/platform.h"
+#include "shell/app_state.h"
+
+namespace verlume {
+
+// Finds the tool and starts it, and returns at once. Tells the user when there is none, or when it
+// cannot be started.
+void StartSysInfo(const AppState& state, Platform& platform);
+
+}  // namespace verlume

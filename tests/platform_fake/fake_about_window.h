@@ -1,0 +1,25 @@
+// The About box in memory.
+#pragma once
+
+#include "platform/about_window.h"
+#include "platform_fake/fake_controls.h"
+
+namespace verlume::fake {
+
+struct FakeAboutWindow {
+  FakeWindow window;
+  FakePicture picIcon;
+  FakeLabel lblTitle;
+  FakeLabel lblVersion;
+  FakeLabel lblDescription;
+  FakeLabel lblDisclaimer;
+  FakeLabel lblCredit;
+  FakeButton cmdOK;
+  FakeButton cmdSysInfo;
+
+  // What the logic sees of it.
+  AboutWindow frmAbout = {window,        picIcon,   lblTitle, lblVersion, lblDescription,
+                          lblDisclaimer, lblCredit, cmdOK,    cmdSysInfo};
+};
+
+}  // namespace verlume::fake
