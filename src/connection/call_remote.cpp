@@ -40,8 +40,8 @@ void ConnectionActions::CallRemote() {
     SetStatus(status_texts::kCalling.Fill(state_.IsGreek, {host, portText}));
     platform_.frmMain.lblRemoteIP.SetCaption(host);
     platform_.frmMain.lblRemotePort.SetCaption(portText);
-    SetLamp(platform_.frmMain.shpStatus, kLampBusy);
     EnterState(state_, ConnectionState::Calling);
+    ShowLamp(state_, platform_.frmMain);
     // Last: if this line cannot be written, the report of that ends the call.
     WriteOutgoingText();
   });

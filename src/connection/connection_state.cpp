@@ -24,7 +24,7 @@ void ResetConnection(AppState& state, Platform& platform) {
   frmMain.lblLocalPort.SetCaption(u"");
   frmMain.lblRemoteIP.SetCaption(u"");
   frmMain.lblRemotePort.SetCaption(u"");
-  SetLamp(frmMain.shpStatus, kLampIdle);
+  ShowLamp(state, frmMain);
   platform.sckControl.Close();
 }
 

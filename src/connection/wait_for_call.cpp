@@ -32,8 +32,8 @@ void ConnectionActions::WaitForCall() {
     const std::u16string portInUse = DecimalText(state_.LocalPort);
     SetStatus(status_texts::kWaiting.Fill(state_.IsGreek, {portInUse}));
     platform_.frmMain.lblLocalPort.SetCaption(portInUse);
-    SetLamp(platform_.frmMain.shpStatus, kLampBusy);
     EnterState(state_, ConnectionState::Waiting);
+    ShowLamp(state_, platform_.frmMain);
     // Last: if this line cannot be written, the report of that ends the wait.
     WriteOutgoingText();
   });

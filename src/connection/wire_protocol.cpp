@@ -110,7 +110,7 @@ std::u16string WireProtocol::EnterConversation() {
   std::u16string status = status_texts::kActive.Fill(
       state_.IsGreek, {state_.RemoteAddress, DecimalText(state_.RemotePort)});
   platform_.frmMain.lblStatus.SetCaption(status);
-  SetLamp(platform_.frmMain.shpStatus, kLampConnected);
+  ShowLamp(state_, platform_.frmMain);
   with_.statusPanel.StartChat();
   return status;
 }

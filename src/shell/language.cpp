@@ -1,6 +1,7 @@
 #include "shell/language.h"
 
 #include "shell/language_texts.h"
+#include "shell/status_panel.h"
 
 namespace verlume {
 
@@ -11,6 +12,7 @@ void Language::ApplyLanguage() {
     state_.Title = kMainWindowTitle.In(isGreek);
     for (const auto& [set, text] : MenuAndToolTipTexts(frmMain)) set(text.In(isGreek));
     for (const auto& [set, text] : PanelTexts(frmMain)) set(text.In(isGreek));
+    ShowLamp(state_, frmMain);
     frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);
     frmMain.mnuToolsLanguageGreek.SetChecked(isGreek);
     platform_.dialogs.SetLanguage(isGreek);

@@ -128,7 +128,6 @@ std::vector<FixedText> PanelTexts(const MainWindow& frmMain) {
       {AccessibleName(frmMain.lblColor), {u"Font color", u"Χρώμα γραμματοσειράς"}},
       {AccessibleName(frmMain.rtbData), {u"Dialogue", u"Διάλογος"}},
       {AccessibleName(frmMain.rtbCommands), {u"Commands", u"Εντολές"}},
-      {AccessibleName(frmMain.picShape), {u"Connection state", u"Κατάσταση συνδέσεως"}},
       {AccessibleName(frmMain.picCopyright), {u"Copyright notice", u"Πνευματικά δικαιώματα"}},
       {Caption(frmMain.lblCopyright), kCopyrightNotice},
   };

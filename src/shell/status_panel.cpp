@@ -10,6 +10,25 @@
 namespace verlume {
 namespace {
 
+struct LampLook {
+  Color color;
+  TextPair words;
+};
+
+constexpr LampLook kIdle = {255, {u"Connection state: idle", u"Κατάσταση συνδέσεως: αδράνεια"}};
+constexpr LampLook kWaiting = {65535,
+                               {u"Connection state: waiting", u"Κατάσταση συνδέσεως: αναμονή"}};
+constexpr LampLook kCalling = {65535,
+                               {u"Connection state: calling", u"Κατάσταση συνδέσεως: κλήση"}};
+constexpr LampLook kConnected = {65280,
+                                 {u"Connection state: connected", u"Κατάσταση συνδέσεως: σύνδεση"}};
+
+const LampLook& LookOf(const AppState& state) {
+  if (state.IsConnected) return kConnected;
+  if (state.IsWaiting) return kWaiting;
+  return state.IsCalling ? kCalling : kIdle;
+}
+
 // The count in the label's tag, grown by `increase`. The tag stays as it is on failure.
 std::int32_t GrowCount(Label& counter, std::size_t increase) {
   const std::u16string tag = counter.Tag();
@@ -31,9 +50,11 @@ std::u16string DurationText(std::int32_t seconds) {
 
 }  // namespace
 
-void SetLamp(Lamp& lamp, Color color) {
-  lamp.SetBorderColor(color);
-  lamp.SetFillColor(color);
+void ShowLamp(const AppState& state, const MainWindow& frmMain) {
+  const LampLook& look = LookOf(state);
+  frmMain.shpStatus.SetBorderColor(look.color);
+  frmMain.shpStatus.SetFillColor(look.color);
+  frmMain.picShape.SetAccessibleName(look.words.In(state.IsGreek));
 }
 
 std::u16string GroupedNumberText(std::int32_t number, const Locale& locale) {

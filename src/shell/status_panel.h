@@ -6,16 +6,14 @@
 #include <string>
 
 #include "platform/platform.h"
+#include "shell/app_state.h"
 #include "shell/error_report.h"
 
 namespace verlume {
 
-// Lamp colours.
-inline constexpr Color kLampIdle = 255;
-inline constexpr Color kLampBusy = 65535;  // waiting and calling
-inline constexpr Color kLampConnected = 65280;
-
-void SetLamp(Lamp& lamp, Color color);
+// Shows the connection's state of AppState: by the lamp's colour, and by words that assistive tools
+// read for picShape.
+void ShowLamp(const AppState& state, const MainWindow& frmMain);
 
 // "#,###,###,##0" with the system's group separator.
 std::u16string GroupedNumberText(std::int32_t number, const Locale& locale);

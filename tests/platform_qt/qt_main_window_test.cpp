@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QLayout>
 #include <QMenuBar>
 #include <QTest>
@@ -49,6 +50,13 @@ TEST_F(QtMainWindowTest, MenusStandInTheirOrder) {
   QStringList names;
   for (QAction* action : form.menuBar()->actions()) names.append(action->menu()->objectName());
   EXPECT_EQ(names, (QStringList{"mnuFile", "mnuComm", "mnuFormat", "mnuTools", "mnuHelp"}));
+}
+
+TEST_F(QtMainWindowTest, FrameOfTheLampIsReadInWords) {
+  view.picShape.SetAccessibleName(u"Connection state: waiting");
+  QAccessibleInterface* frame = QAccessible::queryAccessibleInterface(Named("picShape"));
+  ASSERT_NE(frame, nullptr);
+  EXPECT_EQ(frame->text(QAccessible::Name), "Connection state: waiting");
 }
 
 TEST_F(QtMainWindowTest, TheTickedEntriesAreCheckable) {

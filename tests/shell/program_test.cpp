@@ -248,6 +248,27 @@ TEST(ProgramStartTest, SettingThatDoesNotConvertIsReportedAndTheProgramGoesOn) {
   EXPECT_THAT(platform.window.rtbData.Text(), Holds(u"still here"));
 }
 
+TEST_F(ProgramTest, LampIsReadInWordsOfTheLanguageInForce) {
+  const std::u16string& bobs = bob.platform.window.picShape.accessibleName;
+  const std::u16string& anns = ann.platform.window.picShape.accessibleName;
+  EXPECT_EQ(bobs, u"Connection state: idle");
+  bob.Enter(u"/WAIT 4000");
+  EXPECT_EQ(bobs, u"Connection state: waiting");
+  bob.Enter(u"/GREEK");
+  EXPECT_EQ(bobs, u"Κατάσταση συνδέσεως: αναμονή");
+  EXPECT_EQ(bob.Lamp(), 65535);
+  ann.Enter(u"/call bob 4000");
+  EXPECT_EQ(anns, u"Connection state: calling");
+  bob.platform.dialogs.answers = {Answer::Yes};
+  network.RunUntilIdle();
+  EXPECT_EQ(anns, u"Connection state: connected");
+  EXPECT_EQ(bobs, u"Κατάσταση συνδέσεως: σύνδεση");
+  ann.Enter(u"/CLOSE");
+  network.RunUntilIdle();
+  EXPECT_EQ(anns, u"Connection state: idle");
+  EXPECT_EQ(bobs, u"Κατάσταση συνδέσεως: αδράνεια");
+}
+
 TEST_F(ProgramTest, AboutBoxOpensByMenuCommandAndCopyright) {
   fake::FakeAboutWindow& about = ann.platform.about;
   about.window.whileModal = [&] { about.cmdOK.Click(); };

@@ -33,12 +33,32 @@ class CommaLocale : public fake::FakeLocale {
   std::u16string separator;
 };
 
-TEST_F(StatusPanelTest, TheLampShowsOneColourInFillAndBorder) {
-  SetLamp(window.shpStatus, kLampBusy);
-  EXPECT_EQ(window.shpStatus.fill, 65535);
-  EXPECT_EQ(window.shpStatus.border, 65535);
-  EXPECT_EQ(kLampIdle, 255);
-  EXPECT_EQ(kLampConnected, 65280);
+struct LampCase {
+  bool AppState::*flag;  // the one that is set
+  Color color;
+  std::u16string_view english;
+  std::u16string_view greek;
+};
+
+TEST_F(StatusPanelTest, LampShowsTheConnectionsStateInColourAndInWords) {
+  const LampCase cases[] = {
+      {nullptr, 255, u"Connection state: idle", u"Κατάσταση συνδέσεως: αδράνεια"},
+      {&AppState::IsWaiting, 65535, u"Connection state: waiting", u"Κατάσταση συνδέσεως: αναμονή"},
+      {&AppState::IsCalling, 65535, u"Connection state: calling", u"Κατάσταση συνδέσεως: κλήση"},
+      {&AppState::IsConnected, 65280, u"Connection state: connected",
+       u"Κατάσταση συνδέσεως: σύνδεση"},
+  };
+  for (const LampCase& one : cases) {
+    state = AppState();
+    if (one.flag) state.*one.flag = true;
+    ShowLamp(state, window.frmMain);
+    EXPECT_EQ(window.shpStatus.fill, one.color);
+    EXPECT_EQ(window.shpStatus.border, one.color);
+    EXPECT_EQ(window.picShape.accessibleName, one.english);
+    state.IsGreek = true;
+    ShowLamp(state, window.frmMain);
+    EXPECT_EQ(window.picShape.accessibleName, one.greek);
+  }
 }
 
 TEST_F(StatusPanelTest, ATickShowsTheTimeInTheSystemsLongForms) {
