@@ -55,6 +55,7 @@ void SocketEvents::sckControl_Close() {
     platform_.sckControl.Close();
     const ConnectionState left = StateOf(state_);
     ResetConnection(state_, platform_);
+    platform_.frmMain.window.FlagForAttention();
     if (left == ConnectionState::Calling || left == ConnectionState::Waiting) {
       SetStatus(status_texts::kNotEstablished, state_.RemoteHost, state_.RemotePort);
       return;

@@ -112,6 +112,7 @@ std::u16string WireProtocol::EnterConversation() {
   platform_.frmMain.lblStatus.SetCaption(status);
   ShowLamp(state_, platform_.frmMain);
   with_.statusPanel.StartChat();
+  platform_.frmMain.window.FlagForAttention();
   return status;
 }
 
@@ -133,6 +134,7 @@ void WireProtocol::WriteRemoteLine(std::u16string_view text, bool& oneShot) {
   oneShot = true;
   // Whatever the user is typing stays.
   with_.dialogue.WriteDialogueLine(text, CommandPane::Keep);
+  platform_.frmMain.window.FlagForAttention();
 }
 
 }  // namespace verlume

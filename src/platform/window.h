@@ -27,6 +27,9 @@ class Window {
   // Closes the window: raises onQueryUnload with UnloadMode::Code and, unless that cancels,
   // onUnload. Does nothing once the window has been unloaded.
   virtual void Unload() = 0;
+  // Flags the window's entry in the task bar until the user comes back to the program. Does nothing
+  // while the user is in a window of the program; never raises a window or takes the keyboard.
+  virtual void FlagForAttention() = 0;
   // Places the window above all other windows (true) or in the normal band (false), keeping its
   // place, size and activation. True when it is above the others afterwards.
   virtual bool SetTopMost(bool topMost) = 0;

@@ -74,6 +74,10 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
+void QtWindow::FlagForAttention() {
+  qt::FlagForAttention(form_);
+}
+
 bool QtWindow::SetTopMost(bool topMost) {
   // Such a band is not a client's to choose there.
   if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) return false;

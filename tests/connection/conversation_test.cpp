@@ -34,6 +34,26 @@ TEST_F(ConversationTest, BothSidesAreConnectedAfterTheHandshake) {
   }
 }
 
+TEST_F(ConversationTest, WhatThePeerDoesCallsForAttentionWhatTheUserDoesNot) {
+  const int& alices = alice.fake.window.window.timesFlagged;
+  const int& bobs = bob.fake.window.window.timesFlagged;
+  Connect();
+  EXPECT_EQ(alices, 1) << "the connection is made";
+  EXPECT_EQ(bobs, 1) << "the connection is made, the call had its box";
+  alice.wire.SendChatLine(u"{\\rtf1\\ansi hello}");
+  alice.wire.SendActionLine(u"{\\rtf1\\ansi Alice waves}");
+  network.RunUntilIdle();
+  EXPECT_EQ(alices, 1);
+  EXPECT_EQ(bobs, 3) << "each line";
+  alice.Nick(u"Ally");
+  network.RunUntilIdle();
+  EXPECT_EQ(bobs, 3) << "a nickname alone is nothing to read";
+  alice.actions.CloseConnection();
+  network.RunUntilIdle();
+  EXPECT_EQ(alices, 1);
+  EXPECT_EQ(bobs, 4) << "the end of the conversation";
+}
+
 TEST_F(ConversationTest, TheGreekStatusIsGreek) {
   alice.state.IsGreek = true;
   Connect();

@@ -99,6 +99,20 @@ void Copy::TypeLine(const QString& line) {
   PressKeys("Return");
 }
 
+void Copy::TypeLineInBackground(const QString& line) {
+  Run("xdotool", {"type", "--window", window_, "--delay", "10", "--", line});
+  Run("xdotool", {"key", "--window", window_, "Return"});
+}
+
+bool Copy::HasState(const QString& state) const {
+  return Run("xprop", {"-id", window_, "_NET_WM_STATE"}).contains("_NET_WM_STATE_" + state);
+}
+
+bool Copy::IsActive(const QString& title) const {
+  const QString active = Run("xdotool", {"getactivewindow"}).trimmed();
+  return !active.isEmpty() && active == FindWindow(title);
+}
+
 void Copy::PressKeys(const QString& keys) {
   Run("xdotool", {"key", keys});
 }

@@ -22,20 +22,32 @@ class Copy {
   void TypeLine(const QString& line);
   void PressKeys(const QString& keys);  // as xdotool names them: "Return", "ctrl+a"
 
+  // The same by keys sent to the window alone, wherever the keyboard focus is. ASCII only.
+  void TypeLineInBackground(const QString& line);
+
+  // Makes the window the active one.
+  void Activate();
+  // The window manager's word for what the window is, as xprop prints it: "DEMANDS_ATTENTION".
+  bool HasState(const QString& state) const;
+  // Whether the active window is this copy's window of that title.
+  bool IsActive(const QString& title = "Verlume") const;
+
   // Presses a key in a box of that title until the box is gone; false when it never came or stays.
   bool AnswerBox(const QString& title, const QString& key);
+
+  // Clicks in the window, at parts of its width and height.
+  void ClickAt(double across, double down);
 
   QString Dialogue();  // what the dialogue pane shows, read as a user would copy it
   QString Log(const QString& partner) const;
   QString Settings() const;
+  const QString& Window() const { return window_; }
   bool HasEnded() { return program_.state() == QProcess::NotRunning; }
   bool WaitForEnd() { return program_.waitForFinished(10000); }
   int ExitCode() const { return program_.exitCode(); }
 
  private:
   QString FindWindow(const QString& title) const;
-  void Activate();
-  void ClickAt(double across, double down);
 
   QTemporaryDir folder_;
   QProcess program_;

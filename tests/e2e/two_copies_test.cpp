@@ -61,6 +61,50 @@ TEST_F(TwoCopies, ExitCommandEndsTheProgramAfterItsQuestion) {
   EXPECT_TRUE(WaitUntil([&] { return ann.Log("Bob").contains("Αποσυνδέθηκε."); }));
 }
 
+TEST_F(TwoCopies, LineFlagsTheTaskBarEntryAndLeavesTheActiveWindowAlone) {
+  Connect();
+  for (const char* line : {"first", "second"}) {
+    // A program learns a moment later that the user has left it; a line within it flags nothing.
+    EXPECT_TRUE(WaitUntil([&] {
+      bob.TypeLine(line);
+      return WaitUntil([&] { return ann.HasState("DEMANDS_ATTENTION"); }, 500);
+    })) << line;
+    EXPECT_TRUE(ann.Log("Bob").contains(line));
+    EXPECT_TRUE(bob.IsActive());
+    EXPECT_FALSE(bob.HasState("DEMANDS_ATTENTION"));
+    ann.Activate();
+    EXPECT_TRUE(WaitUntil([&] { return !ann.HasState("DEMANDS_ATTENTION"); })) << line;
+  }
+}
+
+TEST_F(TwoCopies, LineUnderAnActiveAboutBoxFlagsNothing) {
+  Connect();
+  ann.TypeLine("/HELPABOUT");
+  ASSERT_TRUE(WaitUntil([&] { return ann.IsActive("Σχετικά"); }));
+  bob.TypeLineInBackground("hello");
+  ASSERT_TRUE(WaitUntil([&] { return ann.Log("Bob").contains("<Bob>hello"); }));
+  bob.TypeLineInBackground("/CLOSE");
+  ASSERT_TRUE(WaitUntil([&] { return ann.Log("Bob").contains("Αποσυνδέθηκε."); }));
+  EXPECT_FALSE(ann.HasState("DEMANDS_ATTENTION"));
+  EXPECT_TRUE(ann.IsActive("Σχετικά")) << "nor does it take the keyboard from the box";
+  EXPECT_TRUE(ann.AnswerBox("Σχετικά", "Escape"));
+}
+
+TEST(OneCopy, CopyrightOpensTheAboutBoxWhichSaysThatThereIsNoSystemInfo) {
+  Copy copy("Ann", false);
+  copy.ClickAt(0.8, 0.88);
+  ASSERT_TRUE(WaitUntil([&] { return copy.IsActive("About"); }));
+  copy.PressKeys("Tab");
+  copy.PressKeys("space");
+  EXPECT_TRUE(copy.AnswerBox("System information", "Return"));
+  EXPECT_TRUE(WaitUntil([&] { return copy.IsActive("About"); })) << "it stays open";
+  EXPECT_TRUE(copy.AnswerBox("About", "Escape"));
+  EXPECT_TRUE(WaitUntil([&] { return copy.IsActive(); }));
+  copy.TypeLine("/EXIT");
+  EXPECT_TRUE(copy.WaitForEnd());
+  EXPECT_EQ(copy.ExitCode(), 0);
+}
+
 TEST(OneCopy, SettingsAreWrittenBesideTheProgramAtTheChange) {
   Copy copy("Ann", false);
   copy.TypeLine("/NICK Ann of the North");

@@ -136,6 +136,7 @@ class FakeWindow : public Window {
     if (!unloaded) throw std::logic_error("the modal window stays open");
   }
   void Unload() override { Close(UnloadMode::Code); }
+  void FlagForAttention() override { ++timesFlagged; }
   bool SetTopMost(bool value) override {
     topMost = value;
     ++timesPlaced;
@@ -159,6 +160,7 @@ class FakeWindow : public Window {
   int timesShownModal = 0;
   bool unloaded = false;
   bool topMost = false;
+  int timesFlagged = 0;
   int timesPlaced = 0;
 };
 
