@@ -91,6 +91,9 @@ class MenuEntry {
   virtual ~MenuEntry() = default;
   virtual void SetCaption(std::u16string_view text) = 0;
   virtual std::u16string Caption() const = 0;
+  // Shown while the pointer rests on the entry; "" is none.
+  virtual void SetToolTip(std::u16string_view text) = 0;
+  virtual std::u16string ToolTip() const = 0;
   virtual void SetChecked(bool checked) = 0;
   virtual bool Checked() const = 0;
 

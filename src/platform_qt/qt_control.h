@@ -9,6 +9,7 @@
 
 #include "platform/control.h"
 #include "platform_qt/qt_text.h"
+#include "platform_qt/qt_tool_tip.h"
 
 namespace verlume::qt {
 
@@ -52,8 +53,7 @@ class QtControl : public Role {
   }
 
   void SetToolTip(std::u16string_view text) override {
-    // Plain text, whatever it looks like.
-    widget_->setToolTip(ToQt(text).toHtmlEscaped());
+    widget_->setToolTip(PlainToolTip(ToQt(text)));
     widget_->setAccessibleDescription(ToQt(text));
   }
   std::u16string ToolTip() const override { return FromQt(widget_->accessibleDescription()); }

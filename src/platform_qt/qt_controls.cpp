@@ -98,6 +98,11 @@ void QtMenuEntry::SetCaption(std::u16string_view text) {
   action_->setText(EscapeMnemonics(text));
 }
 
+void QtMenuEntry::SetToolTip(std::u16string_view text) {
+  toolTip_ = text;
+  action_->setToolTip(PlainToolTip(ToQt(text)));
+}
+
 void QtMenuEntry::SetChecked(bool checked) {
   checked_ = checked;
   if (checked) action_->setCheckable(true);

@@ -110,12 +110,15 @@ class QtMenuEntry : public MenuEntry {
   explicit QtMenuEntry(QAction* action);
   void SetCaption(std::u16string_view text) override;
   std::u16string Caption() const override { return caption_; }
+  void SetToolTip(std::u16string_view text) override;
+  std::u16string ToolTip() const override { return toolTip_; }
   void SetChecked(bool checked) override;
   bool Checked() const override { return checked_; }
 
  private:
   QAction* action_;
   std::u16string caption_;
+  std::u16string toolTip_;
   bool checked_ = false;
 };
 

@@ -7,6 +7,8 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "platform_qt/qt_tool_tip.h"
+
 namespace verlume::qt {
 namespace {
 
@@ -88,7 +90,7 @@ bool ElidedLabel::event(QEvent* event) {
     VisibleLines(cut);
     if (cut) {
       const auto* help = static_cast<QHelpEvent*>(event);
-      QToolTip::showText(help->globalPos(), text().toHtmlEscaped(), this);
+      QToolTip::showText(help->globalPos(), PlainToolTip(text()), this);
       return true;
     }
   }

@@ -54,6 +54,7 @@ void MainForm::BuildMenus() {
     if (!menu) {
       menu = menuBar()->addMenu(QString());
       menu->setObjectName(QLatin1String(design.menu));
+      menu->setToolTipsVisible(true);
     }
     if (design.separatorBefore) menu->addSeparator();
     QAction* entry = menu->addAction(QString());

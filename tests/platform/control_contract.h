@@ -108,6 +108,14 @@ TYPED_TEST_P(ControlContract, MenusKeepTheirCaptions) {
   EXPECT_EQ(this->maker.menu().Caption(), u"Αρχείο && <b>");
 }
 
+TYPED_TEST_P(ControlContract, MenuEntryKeepsItsToolTipAsGiven) {
+  MenuEntry& entry = this->maker.entry();
+  entry.SetCaption(u"Always on top");
+  EXPECT_EQ(entry.ToolTip(), u"");
+  entry.SetToolTip(u"R&D <b>");
+  EXPECT_EQ(entry.ToolTip(), u"R&D <b>");
+}
+
 TYPED_TEST_P(ControlContract, LampKeepsItsTwoColors) {
   Lamp& lamp = this->maker.lamp();
   lamp.SetFillColor(65535);
@@ -240,8 +248,8 @@ REGISTER_TYPED_TEST_SUITE_P(
     ToolTipIsKeptAsGiven, CheckBoxRaisesClickWhenItsValueChanges,
     CheckBoxWithoutHandlerChangesAllTheSame, ButtonKeepsItsCaptionAsGiven,
     DisabledButtonIsDeafToClicks, MenuEntryIsTickedByTheProgramAlone, MenusKeepTheirCaptions,
-    LampKeepsItsTwoColors, PictureHasAHeight, WindowKeepsItsTitle, UnloadAsksAndUnloadsOnce,
-    CloseByUserIsToldFromOneByCode, RefusedCloseLeavesTheWindow,
+    MenuEntryKeepsItsToolTipAsGiven, LampKeepsItsTwoColors, PictureHasAHeight, WindowKeepsItsTitle,
+    UnloadAsksAndUnloadsOnce, CloseByUserIsToldFromOneByCode, RefusedCloseLeavesTheWindow,
     UnloadWithinTheCloseQuestionUnloadsOnce, UnloadWithinARefusedCloseQuestionStands,
     ShowModalReturnsOnceTheWindowIsUnloaded, ModalWindowClosedByTheUserCanBeShownAgain,
     ModalWindowThatRefusesTheUserGoesByCode);

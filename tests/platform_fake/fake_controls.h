@@ -91,10 +91,13 @@ class FakeMenuEntry : public MenuEntry {
  public:
   void SetCaption(std::u16string_view text) override { caption = text; }
   std::u16string Caption() const override { return caption; }
+  void SetToolTip(std::u16string_view text) override { toolTip = text; }
+  std::u16string ToolTip() const override { return toolTip; }
   void SetChecked(bool value) override { checked = value; }
   bool Checked() const override { return checked; }
 
   std::u16string caption;
+  std::u16string toolTip;
   bool checked = false;
 };
 

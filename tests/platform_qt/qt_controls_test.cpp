@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QToolTip>
 
 namespace verlume::qt {
@@ -45,14 +46,17 @@ TEST_F(QtControlsTest, LineBreakInALabelIsABlank) {
   EXPECT_EQ(Picture(one), Picture(other));
 }
 
-// Rests the mouse on the widget and returns the tool tip that shows.
-QString ToolTipShownBy(QWidget& widget) {
+// Rests the mouse on the widget and returns what the tool tip that shows has to read.
+QString ToolTipShownBy(QWidget& widget, const QPoint& at = {2, 2}) {
   // A tool tip lingers a little before it goes.
   QToolTip::hideText();
   EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 10000));
-  QHelpEvent rest(QEvent::ToolTip, QPoint(2, 2), widget.mapToGlobal(QPoint(2, 2)));
+  QHelpEvent rest(QEvent::ToolTip, at, widget.mapToGlobal(at));
   QApplication::sendEvent(&widget, &rest);
-  return QToolTip::isVisible() ? QToolTip::text() : QString();
+  if (!QToolTip::isVisible()) return {};
+  // As its label shows it.
+  const QString text = QToolTip::text();
+  return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
 }
 
 TEST_F(QtControlsTest, CutLabelShowsTheWholeTextAsToolTip) {
@@ -62,7 +66,41 @@ TEST_F(QtControlsTest, CutLabelShowsTheWholeTextAsToolTip) {
   label.widget()->setGeometry(0, 0, 40, 20);
   form.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
-  EXPECT_EQ(ToolTipShownBy(*label.widget()), "a nickname of &lt;quite&gt; some length");
+  EXPECT_EQ(ToolTipShownBy(*label.widget()), "a nickname of <quite> some length");
+  label.SetCaption(u"a <b>bold</b> nickname, R&D");
+  EXPECT_EQ(ToolTipShownBy(*label.widget()), "a <b>bold</b> nickname, R&D");
+}
+
+TEST_F(QtControlsTest, ToolTipShowsEveryTextAsItIs) {
+  QtLabel label(new ElidedLabel(&form));
+  form.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
+  for (const char* text :
+       {"Red=Idle / Yellow=Wait", "R&D", "a < b & c > d", "<b>bold</b>", "two  blanks & <i>one</i>",
+        "<p>one\ntwo", "&lt;b&gt; &amp; &nbsp;", "<a href='x'>link</a>", "<!doctype html>x"}) {
+    label.SetToolTip(FromQt(QString::fromUtf8(text)));
+    EXPECT_EQ(ToolTipShownBy(*label.widget()).toStdString(), text);
+    EXPECT_EQ(label.widget()->accessibleDescription().toStdString(), text);
+  }
+}
+
+TEST_F(QtControlsTest, MenuEntryShowsItsToolTipAndNoneElse) {
+  QMenu menu;
+  menu.setToolTipsVisible(true);
+  QtMenuEntry with(menu.addAction(QString()));
+  QtMenuEntry without(menu.addAction(QString()));
+  with.SetCaption(u"Always on top");
+  without.SetCaption(u"Date");
+  with.SetToolTip(u"R&D <b>never</b>");
+  menu.popup(QPoint(200, 200));
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu));
+  const auto middleOf = [&menu](int at) {
+    return menu.actionGeometry(menu.actions().at(at)).center();
+  };
+  EXPECT_EQ(ToolTipShownBy(menu, middleOf(0)), "R&D <b>never</b>");
+  EXPECT_EQ(ToolTipShownBy(menu, middleOf(1)), "");
+  with.SetToolTip(u"");
+  EXPECT_EQ(ToolTipShownBy(menu, middleOf(0)), "");
 }
 
 TEST_F(QtControlsTest, LabelThatFitsShowsNoToolTipOfItsText) {

@@ -52,6 +52,12 @@ TEST_F(QtMainWindowTest, MenusStandInTheirOrder) {
   EXPECT_EQ(names, (QStringList{"mnuFile", "mnuComm", "mnuFormat", "mnuTools", "mnuHelp"}));
 }
 
+TEST_F(QtMainWindowTest, MenusShowToolTips) {
+  for (const QMenu* menu : form.findChildren<QMenu*>()) {
+    EXPECT_TRUE(menu->toolTipsVisible()) << menu->objectName().toStdString();
+  }
+}
+
 TEST_F(QtMainWindowTest, FrameOfTheLampIsReadInWords) {
   view.picShape.SetAccessibleName(u"Connection state: waiting");
   QAccessibleInterface* frame = QAccessible::queryAccessibleInterface(Named("picShape"));

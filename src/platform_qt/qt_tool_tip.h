@@ -1,0 +1,11 @@
+// Tool tips whose text is never markup.
+#pragma once
+
+#include <QString>
+
+namespace verlume::qt {
+
+// What to give Qt so that its tool tip shows exactly this text.
+QString PlainToolTip(const QString& text);
+
+}  // namespace verlume::qt
