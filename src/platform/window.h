@@ -30,6 +30,8 @@ class Window {
   // Flags the window's entry in the task bar until the user comes back to the program. Does nothing
   // while the user is in a window of the program; never raises a window or takes the keyboard.
   virtual void FlagForAttention() = 0;
+  // Whether the desktop lets SetTopMost(true) succeed.
+  virtual bool CanBeTopMost() const = 0;
   // Places the window above all other windows (true) or in the normal band (false), keeping its
   // place, size and activation. True when it is above the others afterwards.
   virtual bool SetTopMost(bool topMost) = 0;

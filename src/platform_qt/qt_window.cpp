@@ -78,9 +78,13 @@ void QtWindow::FlagForAttention() {
   qt::FlagForAttention(form_);
 }
 
-bool QtWindow::SetTopMost(bool topMost) {
+bool QtWindow::CanBeTopMost() const {
   // Such a band is not a client's to choose there.
-  if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) return false;
+  return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
+bool QtWindow::SetTopMost(bool topMost) {
+  if (!CanBeTopMost()) return false;
   Qt::WindowFlags flags = form_->windowFlags();
   flags.setFlag(Qt::WindowStaysOnTopHint, topMost);
   // QWidget::setWindowFlag would take the window off the screen and put it back elsewhere.

@@ -20,6 +20,7 @@ class QtWindow : public QObject, public Window {
   void ShowModal() override;
   void Unload() override;
   void FlagForAttention() override;
+  bool CanBeTopMost() const override;
   bool SetTopMost(bool topMost) override;
 
  protected:

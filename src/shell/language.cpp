@@ -13,6 +13,8 @@ void Language::ApplyLanguage() {
     for (const auto& [set, text] : MenuAndToolTipTexts(frmMain)) set(text.In(isGreek));
     for (const auto& [set, text] : PanelTexts(frmMain)) set(text.In(isGreek));
     ShowLamp(state_, frmMain);
+    frmMain.mnuToolsAlwaysOnTop.SetToolTip(
+        frmMain.window.CanBeTopMost() ? u"" : kNeverTopMost.In(isGreek));
     frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);
     frmMain.mnuToolsLanguageGreek.SetChecked(isGreek);
     platform_.dialogs.SetLanguage(isGreek);

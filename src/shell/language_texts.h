@@ -17,6 +17,11 @@ struct FixedText {
 
 inline constexpr TextPair kMainWindowTitle = {u"Verlume", u"Verlume"};
 
+// Of the entry "Always on top", where that cannot be.
+inline constexpr TextPair kNeverTopMost = {
+    u"This desktop does not let programs place themselves above others.",
+    u"Αυτή η επιφάνεια εργασίας δεν επιτρέπει στα προγράμματα να τοποθετούνται πάνω από τα άλλα."};
+
 // Title, menus and tool tips, in the order in which they are set.
 std::vector<FixedText> MenuAndToolTipTexts(const MainWindow& frmMain);
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QProcess>
 
 #include "copy.h"
 
@@ -88,6 +89,28 @@ TEST_F(TwoCopies, LineUnderAnActiveAboutBoxFlagsNothing) {
   EXPECT_FALSE(ann.HasState("DEMANDS_ATTENTION"));
   EXPECT_TRUE(ann.IsActive("Σχετικά")) << "nor does it take the keyboard from the box";
   EXPECT_TRUE(ann.AnswerBox("Σχετικά", "Escape"));
+}
+
+TEST(OneCopy, GoesAboveOthersAndBackWithoutLeavingTheScreen) {
+  Copy copy("Ann", false);
+  QProcess watch;
+  // Line by line, also into a pipe.
+  watch.start("stdbuf", {"-oL", "xprop", "-spy", "-id", copy.Window(), "WM_STATE"});
+  QString changes;
+  const auto watched = [&] {
+    watch.waitForReadyRead(1);
+    changes += QString::fromUtf8(watch.readAllStandardOutput());
+    return changes.count("WM_STATE(");
+  };
+  ASSERT_TRUE(WaitUntil([&] { return watched() == 1; })) << "how it is at first";
+  copy.TypeLine("/ALWAYSONTOP");
+  EXPECT_TRUE(WaitUntil([&] { return copy.HasState("ABOVE"); }));
+  copy.TypeLine("/NOTALWAYSONTOP");
+  EXPECT_TRUE(WaitUntil([&] { return !copy.HasState("ABOVE"); }));
+  EXPECT_TRUE(copy.IsActive());
+  EXPECT_EQ(watched(), 1) << changes.toStdString();
+  watch.kill();
+  watch.waitForFinished(5000);
 }
 
 TEST(OneCopy, CopyrightOpensTheAboutBoxWhichSaysThatThereIsNoSystemInfo) {

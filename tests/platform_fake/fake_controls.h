@@ -140,8 +140,9 @@ class FakeWindow : public Window {
   }
   void Unload() override { Close(UnloadMode::Code); }
   void FlagForAttention() override { ++timesFlagged; }
+  bool CanBeTopMost() const override { return canBeTopMost; }
   bool SetTopMost(bool value) override {
-    topMost = value;
+    topMost = value && canBeTopMost;
     ++timesPlaced;
     return topMost;
   }
@@ -162,6 +163,7 @@ class FakeWindow : public Window {
   bool shown = false;
   int timesShownModal = 0;
   bool unloaded = false;
+  bool canBeTopMost = true;
   bool topMost = false;
   int timesFlagged = 0;
   int timesPlaced = 0;

@@ -60,6 +60,10 @@ TEST_F(QtWindowTest, TopMostBeforeShowingIsInForceWhenShown) {
   EXPECT_TRUE(form.windowHandle()->flags() & Qt::WindowStaysOnTopHint);
 }
 
+TEST_F(QtWindowTest, CanBeTopMostWhereItIsAfterwards) {
+  EXPECT_EQ(window.CanBeTopMost(), window.SetTopMost(true));
+}
+
 // Counts what would be seen if the window went away and came back.
 class Blinks : public QObject {
  public:

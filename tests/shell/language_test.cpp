@@ -23,6 +23,7 @@ void Collect(ShownTexts& texts, const fake::FakeMenu& menu) {
 }
 void Collect(ShownTexts& texts, const fake::FakeMenuEntry& entry) {
   texts.push_back({"menu entry", entry.caption});
+  texts.push_back({"tool tip", entry.toolTip});
 }
 template <class Role>
 void Collect(ShownTexts& texts, const fake::FakeControl<Role>& control) {
@@ -182,6 +183,19 @@ TEST_F(LanguageTest, WhatShowsAValueHasAName) {
   EXPECT_NE(window.picShape.accessibleName, u"");
   EXPECT_NE(window.picCopyright.accessibleName, u"");
   EXPECT_NE(window.chkBold.toolTip, u"");
+}
+
+TEST_F(LanguageTest, AlwaysOnTopSaysWhereItCannotBe) {
+  language.ApplyLanguage();
+  EXPECT_EQ(window.mnuToolsAlwaysOnTop.toolTip, u"");
+  window.window.canBeTopMost = false;
+  language.ApplyLanguage();
+  EXPECT_EQ(window.mnuToolsAlwaysOnTop.toolTip,
+            u"This desktop does not let programs place themselves above others.");
+  language.mnuToolsLanguageGreek_Click();
+  EXPECT_EQ(window.mnuToolsAlwaysOnTop.toolTip,
+            u"Αυτή η επιφάνεια εργασίας δεν επιτρέπει στα προγράμματα να τοποθετούνται πάνω από τα "
+            u"άλλα.");
 }
 
 TEST_F(LanguageTest, TicksTheLanguageInForce) {
