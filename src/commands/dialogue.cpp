@@ -44,7 +44,8 @@ void Dialogue::WriteDialogueLine(std::u16string_view rtf, CommandPane commandPan
     GoToEnd(platform_.frmMain.rtbData);
     if (commandPane == CommandPane::Clear) platform_.frmMain.rtbCommands.SetText(u"");
   });
-  platform_.frmMain.rtbCommands.SetFocus();
+  // Who is typing what is to be found must not find half a word in the next line to be sent.
+  if (!platform_.frmMain.findBar.fraFind.HasFocus()) platform_.frmMain.rtbCommands.SetFocus();
 }
 
 Dialogue::Sender Dialogue::TakeSender(std::u16string_view rtf) {

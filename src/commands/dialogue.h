@@ -21,8 +21,9 @@ class Dialogue {
 
   // Writes one line of rich text at the end of the dialogue pane, with stamp and nickname tag, and
   // hands it to the log. An empty text writes nothing. In every case the command pane is then
-  // emptied if asked, and gets the focus. Uses up AppState::RemoteMessage or else ForeignText. A
-  // failure is reported (207), not thrown; the command pane then keeps its text and gets the focus.
+  // emptied if asked, and gets the focus, unless the find bar has it. Uses up
+  // AppState::RemoteMessage or else ForeignText. A failure is reported (207), not thrown; the
+  // command pane then keeps its text and gets the focus.
   void WriteDialogueLine(std::u16string_view rtf, CommandPane commandPane);
 
   // The stamps of the lines written from now on.

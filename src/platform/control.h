@@ -85,6 +85,27 @@ class Button : public Control {
   std::function<void()> onClick;
 };
 
+// One line of plain text for the user to fill in.
+class TextField : public Control {
+ public:
+  virtual void SetText(std::u16string_view text) = 0;
+  virtual std::u16string Text() const = 0;
+  virtual void SelectAll() = 0;
+
+  // The user has changed the text.
+  std::function<void()> onChange;
+};
+
+// A part of a window that is there only while it is asked for. The window makes room for it.
+class Panel {
+ public:
+  virtual ~Panel() = default;
+  virtual void SetVisible(bool visible) = 0;
+  virtual bool Visible() const = 0;
+  // Whether one of its controls is the one of its window that keys go to.
+  virtual bool HasFocus() const = 0;
+};
+
 // One entry of a menu. Choosing it changes nothing by itself: the tick is set by the program.
 class MenuEntry {
  public:

@@ -7,6 +7,18 @@
 
 namespace verlume {
 
+// The bar below the dialogue pane that finds words in it. The keys: Enter in the text field and F3
+// anywhere in the window press cmdFindNext, with Shift cmdFindPrevious; Escape in the bar presses
+// cmdFindClose.
+struct FindBar {
+  Panel& fraFind;
+  TextField& txtFind;
+  Button& cmdFindPrevious;
+  Button& cmdFindNext;
+  Label& lblFindResult;
+  Button& cmdFindClose;
+};
+
 struct MainWindow {
   Window& window;
   LayoutControl& freeSizer1;
@@ -41,6 +53,7 @@ struct MainWindow {
   MenuEntry& mnuToolsNick;
   MenuEntry& mnuToolsSaveMacro;
   MenuEntry& mnuToolsEditMacros;
+  MenuEntry& mnuToolsFind;
   MenuEntry& mnuToolsClearDialogue;
   MenuEntry& mnuToolsClearCommands;
   MenuEntry& mnuToolsClearHistory;
@@ -57,6 +70,7 @@ struct MainWindow {
   RichTextBox& rtbData;      // the dialogue pane
   RichTextBox& rtbCommands;  // the command pane
   RichTextBox& rtbRemote;    // hidden: turns RTF into plain text
+  FindBar findBar;
 
   CheckBox& chkBold;
   CheckBox& chkItalics;

@@ -33,6 +33,9 @@ class Locale {
   virtual std::u16string GroupSeparator() const = 0;
   // Upper case; Greek letters keep their accents.
   virtual std::u16string UpperCase(std::u16string_view text) const = 0;
+  // What a letter has in common with its other forms: the letter without case and accents, a final
+  // sigma as any sigma. 0 for an accent that follows its letter; anything else is itself.
+  virtual char16_t BaseLetter(char16_t c) const = 0;
 };
 
 class Application {

@@ -30,8 +30,17 @@ void ProportionalLayout::Place(QWidget* widget, const QRect& design) {
     return;
   }
   addChildWidget(widget);
-  places_.push_back({std::make_unique<QWidgetItem>(widget), design});
+  places_.push_back({std::make_unique<QWidgetItem>(widget), design, nullptr});
   invalidate();
+}
+
+void ProportionalLayout::PlaceFoot(QWidget* owner, QWidget* foot) {
+  for (PlacedItem& place : places_) {
+    if (place.item->widget() != owner) continue;
+    addChildWidget(foot);
+    place.foot = std::make_unique<QWidgetItem>(foot);
+    invalidate();
+  }
 }
 
 QRect ProportionalLayout::DesignOf(const QWidget* widget) const {
@@ -42,7 +51,7 @@ QRect ProportionalLayout::DesignOf(const QWidget* widget) const {
 }
 
 void ProportionalLayout::addItem(QLayoutItem* item) {
-  places_.push_back({std::unique_ptr<QLayoutItem>(item), item->geometry()});
+  places_.push_back({std::unique_ptr<QLayoutItem>(item), item->geometry(), nullptr});
 }
 
 QLayoutItem* ProportionalLayout::itemAt(int index) const {
@@ -64,6 +73,10 @@ QSize ProportionalLayout::minimumSize() const {
   double across = 1;
   double down = 1;
   for (const PlacedItem& place : places_) {
+    // A hidden item is empty and needs nothing.
+    if (place.foot) {
+      across = std::max(across, double(place.foot->minimumSize().width()) / place.design.width());
+    }
     // A pane scrolls: it is never too small for what it holds.
     if (qobject_cast<QAbstractScrollArea*>(place.item->widget())) continue;
     const QSize needed = place.item->widget() ? place.item->widget()->minimumSizeHint() : QSize();
@@ -88,7 +101,14 @@ void ProportionalLayout::setGeometry(const QRect& area) {
     const int top = area.y() + int(std::lround(design.y() * down));
     const int right = area.x() + int(std::lround((design.x() + design.width()) * across));
     const int bottom = area.y() + int(std::lround((design.y() + design.height()) * down));
-    place.item->setGeometry(QRect(left, top, right - left, bottom - top));
+    QRect room(left, top, right - left, bottom - top);
+    if (place.foot && !place.foot->isEmpty()) {
+      QRect foot = room;
+      foot.setTop(bottom - place.foot->sizeHint().height());
+      place.foot->setGeometry(foot);
+      room.setBottom(foot.top() - 1);
+    }
+    place.item->setGeometry(room);
   }
 }
 

@@ -17,6 +17,8 @@ class ProportionalLayout : public QLayout {
   ~ProportionalLayout() override;
 
   void Place(QWidget* widget, const QRect& design);
+  // While it is shown, `foot` takes the bottom of the place of `owner`, at the height it needs.
+  void PlaceFoot(QWidget* owner, QWidget* foot);
   // The widget's rectangle in design units; empty for a widget that is not placed here.
   QRect DesignOf(const QWidget* widget) const;
 
@@ -34,6 +36,7 @@ class ProportionalLayout : public QLayout {
   struct PlacedItem {
     std::unique_ptr<QLayoutItem> item;
     QRect design;
+    std::unique_ptr<QLayoutItem> foot;  // usually none
   };
 
   QSize design_;

@@ -7,6 +7,7 @@ QtMainWindow::QtMainWindow(FileSystem& files)
       rtbCommands(form_.centralWidget(), files, Lines::Single),
       rtbRemote(form_.centralWidget(), files, Lines::Many) {
   form_.PlacePane(rtbData.widget(), "rtbData");
+  form_.PlaceFindBar(rtbData.widget());
   form_.PlacePane(rtbCommands.widget(), "rtbCommands");
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
   rtbRemote.widget()->hide();
@@ -19,6 +20,10 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   QWidget::setTabOrder(chkBold.widget(), chkItalics.widget());
   QWidget::setTabOrder(chkItalics.widget(), chkUnderline.widget());
   QWidget::setTabOrder(chkUnderline.widget(), rtbData.widget());
+  QWidget::setTabOrder(rtbData.widget(), txtFind.widget());
+  QWidget::setTabOrder(txtFind.widget(), cmdFindPrevious.widget());
+  QWidget::setTabOrder(cmdFindPrevious.widget(), cmdFindNext.widget());
+  QWidget::setTabOrder(cmdFindNext.widget(), cmdFindClose.widget());
   rtbCommands.widget()->setFocus();
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/main_window.h"
 #include "platform_qt/qt_controls.h"
+#include "platform_qt/qt_find_bar.h"
 #include "platform_qt/qt_main_window_form.h"
 #include "platform_qt/qt_rich_text_box.h"
 #include "platform_qt/qt_window.h"
@@ -53,6 +54,7 @@ class QtMainWindow {
   QtMenuEntry mnuToolsNick{form_.Find<QAction>("mnuToolsNick")};
   QtMenuEntry mnuToolsSaveMacro{form_.Find<QAction>("mnuToolsSaveMacro")};
   QtMenuEntry mnuToolsEditMacros{form_.Find<QAction>("mnuToolsEditMacros")};
+  QtMenuEntry mnuToolsFind{form_.Find<QAction>("mnuToolsFind")};
   QtMenuEntry mnuToolsClearDialogue{form_.Find<QAction>("mnuToolsClearDialogue")};
   QtMenuEntry mnuToolsClearCommands{form_.Find<QAction>("mnuToolsClearCommands")};
   QtMenuEntry mnuToolsClearHistory{form_.Find<QAction>("mnuToolsClearHistory")};
@@ -69,6 +71,13 @@ class QtMainWindow {
   QtRichTextBox rtbData;
   QtRichTextBox rtbCommands;
   QtRichTextBox rtbRemote;
+
+  QtPanel fraFind{form_.Find<QWidget>("fraFind")};
+  QtTextField txtFind{form_.Find<QLineEdit>("txtFind")};
+  QtButton cmdFindPrevious{form_.Find<QPushButton>("cmdFindPrevious")};
+  QtButton cmdFindNext{form_.Find<QPushButton>("cmdFindNext")};
+  QtLabel lblFindResult{form_.Find<ElidedLabel>("lblFindResult")};
+  QtButton cmdFindClose{form_.Find<QPushButton>("cmdFindClose")};
 
   QtCheckBox chkBold{form_.Find<QCheckBox>("chkBold")};
   QtCheckBox chkItalics{form_.Find<QCheckBox>("chkItalics")};
@@ -132,6 +141,7 @@ class QtMainWindow {
                       mnuToolsNick,
                       mnuToolsSaveMacro,
                       mnuToolsEditMacros,
+                      mnuToolsFind,
                       mnuToolsClearDialogue,
                       mnuToolsClearCommands,
                       mnuToolsClearHistory,
@@ -146,6 +156,7 @@ class QtMainWindow {
                       rtbData,
                       rtbCommands,
                       rtbRemote,
+                      {fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose},
                       chkBold,
                       chkItalics,
                       chkUnderline,

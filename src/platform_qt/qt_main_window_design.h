@@ -104,6 +104,7 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuTools", "mnuToolsNick"},
     {"mnuTools", "mnuToolsSaveMacro", false, true},
     {"mnuTools", "mnuToolsEditMacros"},
+    {"mnuTools", "mnuToolsFind", false, true},
     {"mnuTools", "mnuToolsClearDialogue", false, true},
     {"mnuTools", "mnuToolsClearCommands"},
     {"mnuTools", "mnuToolsClearHistory"},

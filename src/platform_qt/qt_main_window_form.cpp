@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "platform_qt/proportional_layout.h"
+#include "platform_qt/qt_find_bar.h"
 
 // Outside of any namespace, as Qt asks: the resources of a static library are not found otherwise.
 static void InitResources() {
@@ -37,7 +37,9 @@ QFrame* NewFrame(QWidget* parent) {
 }  // namespace
 
 MainForm::MainForm()
-    : area_(new QWidget(this)), layout_(new ProportionalLayout(area_, kDesignSize)) {
+    : area_(new QWidget(this)),
+      layout_(new ProportionalLayout(area_, kDesignSize)),
+      findBar_(NewFindBar(area_)) {
   InitResources();
   setObjectName(QStringLiteral("frmMain"));
   setWindowIcon(ProgramIcon());

@@ -5,12 +5,11 @@
 #include <QMenu>
 
 #include "platform/file_system.h"
+#include "platform_qt/proportional_layout.h"
 #include "platform_qt/qt_controls.h"
 #include "platform_qt/qt_main_window_design.h"
 
 namespace verlume::qt {
-
-class ProportionalLayout;
 
 class MainForm : public QMainWindow {
  public:
@@ -24,6 +23,8 @@ class MainForm : public QMainWindow {
 
   // Puts a pane where the design wants it, in the Tab order too.
   void PlacePane(QWidget* pane, const char* name);
+  // Puts the find bar below a pane that has its place.
+  void PlaceFindBar(QWidget* pane) { layout_->PlaceFoot(pane, findBar_); }
 
  private:
   void BuildMenus();
@@ -34,6 +35,7 @@ class MainForm : public QMainWindow {
 
   QWidget* area_;
   ProportionalLayout* layout_;
+  QWidget* findBar_;
 };
 
 }  // namespace verlume::qt

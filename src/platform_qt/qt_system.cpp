@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QRegularExpression>
 
+#include "platform_qt/qt_base_letters.h"
 #include "platform_qt/qt_text.h"
 
 namespace verlume::qt {
@@ -56,6 +57,10 @@ std::u16string QtLocale::GroupSeparator() const {
 
 std::u16string QtLocale::UpperCase(std::u16string_view text) const {
   return FromQt(ToQt(text).toUpper());
+}
+
+char16_t QtLocale::BaseLetter(char16_t c) const {
+  return BaseLetters()[c];
 }
 
 }  // namespace verlume::qt

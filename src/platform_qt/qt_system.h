@@ -25,6 +25,7 @@ class QtLocale : public Locale {
   std::u16string GroupSeparator() const override;
   // The same on every machine: command words must not depend on the user's language.
   std::u16string UpperCase(std::u16string_view text) const override;
+  char16_t BaseLetter(char16_t c) const override;
 
  private:
   QLocale locale_;

@@ -100,6 +100,7 @@ std::vector<FixedText> MenuAndToolTipTexts(const MainWindow& frmMain) {
       {Caption(frmMain.mnuToolsNick), {u"Nickname", u"Ψευδώνυμο"}},
       {Caption(frmMain.mnuToolsSaveMacro), {u"Save macro", u"Αποθήκευση μακροεντολής"}},
       {Caption(frmMain.mnuToolsEditMacros), {u"Edit macros", u"Επεξεργασία μακροεντολών"}},
+      {Caption(frmMain.mnuToolsFind), {u"Find in dialogue", u"Εύρεση στον διάλογο"}},
       {Caption(frmMain.mnuToolsClearDialogue), {u"Clear dialogue", u"Καθάρισμα διαλόγου"}},
       {Caption(frmMain.mnuToolsClearCommands), {u"Clear commands", u"Καθάρισμα εντολών"}},
       {Caption(frmMain.mnuToolsClearHistory), {u"Clear history", u"Καθάρισμα ιστορικού"}},
@@ -131,6 +132,17 @@ std::vector<FixedText> PanelTexts(const MainWindow& frmMain) {
       {AccessibleName(frmMain.picCopyright), {u"Copyright notice", u"Πνευματικά δικαιώματα"}},
       {Caption(frmMain.lblCopyright), kCopyrightNotice},
   };
+  const FindBar& bar = frmMain.findBar;
+  texts.push_back({AccessibleName(bar.txtFind), {u"Find in dialogue", u"Εύρεση στον διάλογο"}});
+  texts.push_back({ToolTip(bar.txtFind), {u"Words to be found", u"Λέξεις προς εύρεση"}});
+  texts.push_back({Caption(bar.cmdFindPrevious), {u"Previous", u"Προηγούμενο"}});
+  texts.push_back(
+      {ToolTip(bar.cmdFindPrevious), {u"Previous match (Shift+F3)", u"Προηγούμενο (Shift+F3)"}});
+  texts.push_back({Caption(bar.cmdFindNext), {u"Next", u"Επόμενο"}});
+  texts.push_back({ToolTip(bar.cmdFindNext), {u"Next match (F3)", u"Επόμενο (F3)"}});
+  texts.push_back({Caption(bar.cmdFindClose), {u"Close", u"Κλείσιμο"}});
+  texts.push_back(
+      {ToolTip(bar.cmdFindClose), {u"Close the find bar (Esc)", u"Κλείσιμο εύρεσης (Esc)"}});
   for (const auto& [value, caption, text] : PanelValues(frmMain)) {
     if (caption) texts.push_back({Caption(*caption), text});
     texts.push_back({AccessibleName(value), text});

@@ -56,6 +56,7 @@ enum class Procedure : int {
   cmdSaveAs_Click = 252,
   lblColour_MouseDown = 253,
   rtbMacroText_KeyPress = 254,
+  FindInDialogue = 255,
 };
 
 }  // namespace verlume

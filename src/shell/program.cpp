@@ -29,6 +29,7 @@ Program::Program(Platform& platform)
       socketEvents_(state_, platform, errors_, wire_, log_),
       history_(state_, platform, errors_),
       textFormat_(state_, platform, errors_, settings_, dialogue_),
+      find_(state_, platform, errors_),
       interpreter_(state_, platform, errors_,
                    {dialogue_, history_, textFormat_, connection_, wire_}),
       startUp_(state_, platform, errors_, settings_, language_,
@@ -41,6 +42,7 @@ Program::Program(Platform& platform)
   BindAbout();
   BindMenus();
   BindPanes();
+  BindFindBar();
   BindSocket();
   BindContextHelp(platform.frmMain);
 }
@@ -105,6 +107,7 @@ void Program::BindMenus() {
      &TextFormat::mnuFormatBackcolorDialogue_Click);
 
   On(frmMain.mnuToolsNick.onClick, connection_, &ConnectionActions::mnuToolsNick_Click);
+  On(frmMain.mnuToolsFind.onClick, find_, &FindInDialogue::mnuToolsFind_Click);
   On(frmMain.mnuToolsClearDialogue.onClick, dialogue_, &Dialogue::mnuToolsClearDialogue_Click);
   On(frmMain.mnuToolsClearCommands.onClick, history_, &CommandHistory::mnuToolsClearCommands_Click);
   On(frmMain.mnuToolsClearHistory.onClick, history_, &CommandHistory::mnuToolsClearHistory_Click);
@@ -125,6 +128,14 @@ void Program::BindPanes() {
   On(frmMain.chkItalics.onClick, textFormat_, &TextFormat::chkItalics_Click);
   On(frmMain.chkUnderline.onClick, textFormat_, &TextFormat::chkUnderline_Click);
   On(frmMain.lblColor.onMouseDown, textFormat_, &TextFormat::lblColor_MouseDown);
+}
+
+void Program::BindFindBar() {
+  FindBar& bar = platform_.frmMain.findBar;
+  On(bar.txtFind.onChange, find_, &FindInDialogue::txtFind_Change);
+  On(bar.cmdFindPrevious.onClick, find_, &FindInDialogue::cmdFindPrevious_Click);
+  On(bar.cmdFindNext.onClick, find_, &FindInDialogue::cmdFindNext_Click);
+  On(bar.cmdFindClose.onClick, find_, &FindInDialogue::cmdFindClose_Click);
 }
 
 void Program::BindSocket() {

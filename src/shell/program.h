@@ -3,6 +3,7 @@
 #pragma once
 
 #include "commands/dialogue.h"
+#include "commands/find_in_dialogue.h"
 #include "commands/history.h"
 #include "commands/interpreter.h"
 #include "commands/text_format.h"
@@ -44,6 +45,7 @@ class Program {
   void BindAbout();
   void BindMenus();
   void BindPanes();
+  void BindFindBar();
   void BindSocket();
 
   Platform& platform_;
@@ -62,6 +64,7 @@ class Program {
   SocketEvents socketEvents_;
   CommandHistory history_;
   TextFormat textFormat_;
+  FindInDialogue find_;
   CommandInterpreter interpreter_;
   StartUp startUp_;
   ShutDown shutDown_;

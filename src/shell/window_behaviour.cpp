@@ -31,7 +31,9 @@ void BindContextHelp(const MainWindow& frmMain) {
                    &frmMain.lblRemoteNickname, &frmMain.lblBytesSent, &frmMain.lblBytesReceived,
                    &frmMain.lblStatus, &frmMain.picShape, &frmMain.chkBold, &frmMain.chkItalics,
                    &frmMain.chkUnderline, &frmMain.lblColor, &frmMain.lblCopyright,
-                   &frmMain.picCopyright});
+                   &frmMain.picCopyright, &frmMain.findBar.cmdFindPrevious,
+                   &frmMain.findBar.cmdFindNext, &frmMain.findBar.lblFindResult,
+                   &frmMain.findBar.cmdFindClose});
 }
 
 }  // namespace verlume

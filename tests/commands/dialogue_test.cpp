@@ -313,5 +313,17 @@ TEST_F(DialogueTest, ClearingTheDialogueEmptiesThePaneAndLeavesTheLog) {
   EXPECT_EQ(pane.Text(), u"<Bob>two");
 }
 
+TEST_F(DialogueTest, LineLeavesTheFocusWithWhoeverTypesIntoTheFindBar) {
+  fake.window.fraFind.hasFocus = true;
+  commands.timesFocused = 0;
+  state.ForeignText = true;
+  Write(u"hello");
+  EXPECT_EQ(pane.Text(), u"<Νίκος>hello");
+  EXPECT_EQ(commands.timesFocused, 0);
+  fake.window.fraFind.hasFocus = false;
+  Write(u"hello");
+  EXPECT_EQ(commands.timesFocused, 1);
+}
+
 }  // namespace
 }  // namespace verlume

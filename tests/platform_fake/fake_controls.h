@@ -87,6 +87,32 @@ class FakeButton : public FakeControl<Button> {
   bool enabled = true;
 };
 
+class FakeTextField : public FakeControl<TextField> {
+ public:
+  void SetText(std::u16string_view value) override { text = value; }
+  std::u16string Text() const override { return text; }
+  void SelectAll() override { ++timesSelected; }
+
+  // As the user does it.
+  void Type(std::u16string_view value) {
+    text = value;
+    if (onChange) onChange();
+  }
+
+  std::u16string text;
+  int timesSelected = 0;
+};
+
+class FakePanel : public Panel {
+ public:
+  void SetVisible(bool value) override { visible = value; }
+  bool Visible() const override { return visible; }
+  bool HasFocus() const override { return hasFocus; }
+
+  bool visible = false;
+  bool hasFocus = false;
+};
+
 class FakeMenuEntry : public MenuEntry {
  public:
   void SetCaption(std::u16string_view text) override { caption = text; }

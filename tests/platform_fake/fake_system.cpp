@@ -16,4 +16,13 @@ std::u16string FakeLocale::UpperCase(std::u16string_view text) const {
   return upper;
 }
 
+char16_t FakeLocale::BaseLetter(char16_t c) const {
+  constexpr std::u16string_view kAccented = u"ΆΈΉΊΌΎΏΪΫÉé";
+  constexpr std::u16string_view kPlain = u"ΑΕΗΙΟΥΩΙΥEE";
+  if (c >= u'\u0300' && c <= u'\u036F') return 0;
+  const char16_t upper = UpperCase({&c, 1}).front();
+  const auto index = kAccented.find(upper);
+  return index == kAccented.npos ? upper : kPlain[index];
+}
+
 }  // namespace verlume::fake

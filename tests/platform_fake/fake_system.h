@@ -31,6 +31,7 @@ class FakeLocale : public Locale {
   }
   std::u16string GroupSeparator() const override { return u","; }
   std::u16string UpperCase(std::u16string_view text) const override;
+  char16_t BaseLetter(char16_t c) const override;
 };
 
 class FakeApplication : public Application {

@@ -74,6 +74,35 @@ TEST(QtLocale, UpperCaseKeepsGreekAccentsWhateverTheLocale) {
   }
 }
 
+TEST(QtLocale, BaseLetterHasNeitherCaseNorAccents) {
+  const QtLocale locale;
+  const auto base = [&](std::u16string_view text) {
+    std::u16string letters;
+    for (const char16_t c : text) {
+      if (const char16_t letter = locale.BaseLetter(c)) letters += letter;
+    }
+    return letters;
+  };
+  EXPECT_EQ(base(u"ΚΑΛΗΜΈΡΑ"), base(u"καλημέρα"));
+  EXPECT_EQ(base(u"Καλημέρα"), u"καλημερα");
+  EXPECT_EQ(base(u"ΠΡΟΪΌΝΤΟΣ"), base(u"προϊόντος"));
+  EXPECT_EQ(base(u"ΐΰ"), u"ιυ");
+  EXPECT_EQ(base(u"ᾄᾳ"), u"αα");
+  EXPECT_EQ(base(u"Éçñÿ"), u"ecny");
+  EXPECT_EQ(base(u"e\u0301α\u0301\u0345"), u"eα");
+  EXPECT_EQ(base(u"µ"), u"μ");
+  EXPECT_EQ(base(u"a\u00A0b"), u"a b");
+}
+
+TEST(QtLocale, BaseLetterLeavesWhatIsNoAccentedLetter) {
+  const QtLocale locale;
+  for (const char16_t c : std::u16string_view(u"1<>\n\\ ;·€あがक")) {
+    EXPECT_EQ(locale.BaseLetter(c), c) << static_cast<int>(c);
+  }
+  EXPECT_EQ(locale.BaseLetter(0xD83D), 0xD83D) << "half a pair";
+  EXPECT_EQ(locale.BaseLetter(0xFFFF), 0xFFFF);
+}
+
 TEST(QtLocale, LoneSurrogatesDoNotHurtUpperCase) {
   const std::u16string odd = {u'a', 0xD800, u'b', 0xDC00};
   EXPECT_EQ(QtLocale().UpperCase(odd), u"A\uFFFDB\uFFFD");

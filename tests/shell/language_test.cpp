@@ -38,12 +38,20 @@ void Collect(ShownTexts& texts, const fake::FakeCheckBox& box) {
   texts.push_back({"caption", box.caption});
   Collect<CheckBox>(texts, box);
 }
+void Collect(ShownTexts& texts, const fake::FakeButton& button) {
+  texts.push_back({"caption", button.caption});
+  Collect<Button>(texts, button);
+}
 void Collect(ShownTexts& texts, const fake::FakePicture& picture) {
   Collect<Picture>(texts, picture);
 }
 void Collect(ShownTexts& texts, const fake::FakeRichTextBox& box) {
   Collect<RichTextBox>(texts, box);
 }
+void Collect(ShownTexts& texts, const fake::FakeTextField& field) {
+  Collect<TextField>(texts, field);
+}
+void Collect(ShownTexts&, const fake::FakePanel&) {}
 void Collect(ShownTexts&, const fake::FakeLayoutControl&) {}
 void Collect(ShownTexts&, const fake::FakeTimer&) {}
 void Collect(ShownTexts&, const fake::FakeLamp&) {}
@@ -56,10 +64,11 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuFormatFontBold, mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize,
                mnuFormatFontColor, mnuFormatFontSettings, mnuFormatBackcolorCommands,
                mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro,
-               mnuToolsEditMacros, mnuToolsClearDialogue, mnuToolsClearCommands,
+               mnuToolsEditMacros, mnuToolsFind, mnuToolsClearDialogue, mnuToolsClearCommands,
                mnuToolsClearHistory, mnuToolsDate, mnuToolsTime, mnuToolsAlwaysOnTop,
                mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuHelp, mnuHelpDetailed,
-               mnuHelpAbout, rtbData, rtbCommands, rtbRemote, chkBold, chkItalics, chkUnderline,
+               mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind, cmdFindPrevious,
+               cmdFindNext, lblFindResult, cmdFindClose, chkBold, chkItalics, chkUnderline,
                lblColor, lblStatus, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration,
                lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
                lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
@@ -79,7 +88,8 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsClearDialogue,
           mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate, mnuToolsTime,
           mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuHelp,
-          mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, chkBold, chkItalics,
+          mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
+          cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, chkBold, chkItalics,
           chkUnderline, lblColor, lblStatus, lblCurrentDateTime, lblChatStartDateTime,
           lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
           lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
@@ -101,7 +111,7 @@ class LanguageTest : public ShellTest {
           &window.lblChatDuration, &window.lblLocalIP, &window.lblLocalPort,
           &window.lblLocalNickname, &window.lblRemoteIP, &window.lblRemotePort,
           &window.lblRemoteNickname, &window.lblBytesSent, &window.lblBytesReceived,
-          &window.lblColor}) {
+          &window.lblColor, &window.lblFindResult}) {
       label->caption = u"";
     }
   }

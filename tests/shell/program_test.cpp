@@ -320,5 +320,21 @@ TEST_F(ProgramTest, ElementsOfTheAboutBoxShowTheirContextHelp) {
         about.cmdOK, about.cmdSysInfo);
 }
 
+TEST_F(ProgramTest, FindBarIsBoundToTheDialogue) {
+  ann.Enter(u"Καλημέρα");
+  ann.Enter(u"καλημερα κι από μένα");
+  fake::FakeMainWindow& window = ann.platform.window;
+  window.mnuToolsFind.Click();
+  EXPECT_TRUE(window.fraFind.visible);
+  window.txtFind.Type(u"ΚΑΛΗΜΕΡΑ");
+  EXPECT_EQ(window.lblFindResult.caption, u"1 of 2");
+  window.cmdFindNext.Click();
+  EXPECT_EQ(window.lblFindResult.caption, u"2 of 2");
+  window.cmdFindPrevious.Click();
+  EXPECT_EQ(window.lblFindResult.caption, u"1 of 2");
+  window.cmdFindClose.Click();
+  EXPECT_FALSE(window.fraFind.visible);
+}
+
 }  // namespace
 }  // namespace verlume

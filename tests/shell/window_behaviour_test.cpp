@@ -55,7 +55,8 @@ TEST_F(WindowBehaviourTest, AReleaseOfAnyOtherButtonThanTheLeftShowsContextHelp)
         window.lblRemotePort, window.lblRemoteNickname, window.lblBytesSent,
         window.lblBytesReceived, window.lblStatus, window.picShape, window.chkBold,
         window.chkItalics, window.chkUnderline, window.lblColor, window.lblCopyright,
-        window.picCopyright);
+        window.picCopyright, window.cmdFindPrevious, window.cmdFindNext, window.lblFindResult,
+        window.cmdFindClose);
 }
 
 }  // namespace

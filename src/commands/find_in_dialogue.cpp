@@ -1,0 +1,100 @@
+#include "commands/find_in_dialogue.h"
+
+#include <string>
+
+#include "shell/text_pair.h"
+
+namespace verlume {
+namespace {
+
+constexpr TextPair kNotFound = {u"Not found", u"Δεν βρέθηκε"};
+constexpr TextPair kPlace = {u"%1 of %2", u"%1 από %2"};
+constexpr TextPair kPlaceFromTop = {u"%1 of %2, from the top", u"%1 από %2, από την αρχή"};
+constexpr TextPair kPlaceFromEnd = {u"%1 of %2, from the end", u"%1 από %2, από το τέλος"};
+
+}  // namespace
+
+void FindInDialogue::mnuToolsFind_Click() {
+  errors_.Guard(Procedure::FindInDialogue, [this] {
+    const MainWindow& frmMain = platform_.frmMain;
+    const FindBar& bar = frmMain.findBar;
+    if (!bar.fraFind.Visible()) {
+      bar.fraFind.SetVisible(true);
+      // From where the user has put the caret; at the end it is only where the last line left it.
+      const std::size_t caret = frmMain.rtbData.SelStart();
+      position_ = caret < frmMain.rtbData.TextLength() ? caret : 0;
+      Search(Step::Here);
+    }
+    bar.txtFind.SelectAll();
+    bar.txtFind.SetFocus();
+  });
+}
+
+void FindInDialogue::txtFind_Change() {
+  errors_.Guard(Procedure::FindInDialogue, [this] { Search(Step::Here); });
+}
+
+void FindInDialogue::cmdFindNext_Click() {
+  errors_.Guard(Procedure::FindInDialogue, [this] { Search(Step::Next); });
+}
+
+void FindInDialogue::cmdFindPrevious_Click() {
+  errors_.Guard(Procedure::FindInDialogue, [this] { Search(Step::Previous); });
+}
+
+void FindInDialogue::cmdFindClose_Click() {
+  errors_.Guard(Procedure::FindInDialogue, [this] {
+    platform_.frmMain.findBar.fraFind.SetVisible(false);
+    hasMatch_ = false;
+  });
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
+void FindInDialogue::Search(Step step) {
+  const TextSearch search(platform_.frmMain.findBar.txtFind.Text(), platform_.locale);
+  if (search.IsEmpty()) return ShowNothing(u"");
+  const std::size_t from = step == Step::Next && hasMatch_ ? position_ + 1 : position_;
+  const Places places = Survey(search, from);
+  if (places.count == 0) return ShowNothing(kNotFound.In(state_.IsGreek));
+  const bool isPrevious = step == Step::Previous;
+  const Place& wanted = isPrevious ? places.before : places.after;
+  const bool wrapped = wanted.number == 0;
+  const Place& other = isPrevious ? places.last : places.first;
+  ShowPlace(wrapped ? other : wanted, places.count, wrapped, step);
+}
+
+FindInDialogue::Places FindInDialogue::Survey(const TextSearch& search, std::size_t from) const {
+  const std::u16string text = platform_.frmMain.rtbData.Text();
+  Places places;
+  for (auto match = search.Find(text, 0); match;
+       match = search.Find(text, match->start + match->length)) {
+    places.last = {++places.count, *match};
+    if (places.count == 1) places.first = places.last;
+    if (match->start < from) {
+      places.before = places.last;
+    } else if (places.after.number == 0) {
+      places.after = places.last;
+    }
+  }
+  return places;
+}
+
+void FindInDialogue::ShowPlace(const Place& place, std::size_t count, bool wrapped, Step step) {
+  const TextPair& text = !wrapped ? kPlace : step == Step::Previous ? kPlaceFromEnd : kPlaceFromTop;
+  const auto decimal = [](std::size_t n) { return DecimalText(static_cast<long long>(n)); };
+  platform_.frmMain.findBar.lblFindResult.SetCaption(
+      text.Fill(state_.IsGreek, {decimal(place.number), decimal(count)}));
+  position_ = place.match.start;
+  hasMatch_ = true;
+  platform_.frmMain.rtbData.Select(place.match.start, place.match.length);
+}
+
+// The search goes on from the same place when the words change again.
+void FindInDialogue::ShowNothing(std::u16string_view result) {
+  platform_.frmMain.findBar.lblFindResult.SetCaption(result);
+  RichTextBox& rtbData = platform_.frmMain.rtbData;
+  if (hasMatch_ && rtbData.SelLength() > 0) rtbData.Select(position_, 0);
+  hasMatch_ = false;
+}
+
+}  // namespace verlume
