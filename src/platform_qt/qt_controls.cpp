@@ -82,7 +82,7 @@ QtButton::QtButton(QPushButton* widget) : QtControl(widget) {
 
 void QtButton::SetCaption(std::u16string_view text) {
   caption_ = text;
-  widget_->setText(EscapeMnemonics(text));
+  widget_->setText(WithMnemonic(ToQt(text), -1));
 }
 
 QtMenuEntry::QtMenuEntry(QAction* action) : action_(action) {
@@ -95,7 +95,7 @@ QtMenuEntry::QtMenuEntry(QAction* action) : action_(action) {
 
 void QtMenuEntry::SetCaption(std::u16string_view text) {
   caption_ = text;
-  action_->setText(EscapeMnemonics(text));
+  SetCaptionWithMnemonic(action_, ToQt(text));
 }
 
 void QtMenuEntry::SetToolTip(std::u16string_view text) {
@@ -111,7 +111,7 @@ void QtMenuEntry::SetChecked(bool checked) {
 
 void QtMenu::SetCaption(std::u16string_view text) {
   caption_ = text;
-  menu_->setTitle(EscapeMnemonics(text));
+  SetCaptionWithMnemonic(menu_->menuAction(), ToQt(text));
 }
 
 QtTimer::QtTimer(QObject* parent) : timer_(new QTimer(parent)) {

@@ -10,13 +10,9 @@
 
 #include "platform_qt/qt_control.h"
 #include "platform_qt/qt_controls_label.h"
+#include "platform_qt/qt_mnemonics.h"
 
 namespace verlume::qt {
-
-// "&" stands for itself in a caption; Qt would underline the letter behind it.
-inline QString EscapeMnemonics(std::u16string_view caption) {
-  return ToQt(caption).replace(u'&', QStringLiteral("&&"));
-}
 
 class QtLabel : public QtControl<Label, QLabel> {
  public:
@@ -87,7 +83,9 @@ class QtLamp : public Lamp {
 class QtCheckBox : public QtControl<CheckBox, QCheckBox> {
  public:
   explicit QtCheckBox(QCheckBox* widget);
-  void SetCaption(std::u16string_view text) override { widget_->setText(EscapeMnemonics(text)); }
+  void SetCaption(std::u16string_view text) override {
+    SetCaptionWithMnemonic(widget_, ToQt(text));
+  }
   void SetValue(int value) override { widget_->setChecked(value != 0); }
   int Value() const override { return widget_->isChecked() ? 1 : 0; }
 };

@@ -125,13 +125,15 @@ TEST_F(QtControlsTest, CutLabelKeepsAToolTipOfItsOwn) {
 }
 
 TEST_F(QtControlsTest, WrappedLabelShowsMoreThanOneLine) {
-  ElidedLabel label(nullptr);
+  ElidedLabel label(&form);
   label.setWordWrap(true);
   label.setText(QStringLiteral("one two three four"));
   const int line = label.fontMetrics().height();
   const int width = label.fontMetrics().horizontalAdvance(QStringLiteral("one two t"));
   label.resize(width, line);
-  label.show();
+  form.resize(600, 200);
+  form.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
   EXPECT_NE(ToolTipShownBy(label), "") << "one line is too little";
   label.resize(width + 10, 3 * line);
   EXPECT_EQ(ToolTipShownBy(label), "");
@@ -197,11 +199,11 @@ TEST_F(QtControlsTest, ButtonCaptionHasNoMnemonic) {
   EXPECT_EQ(button.widget()->text(), "R&&D");
 }
 
-TEST_F(QtControlsTest, CheckBoxCaptionHasNoMnemonic) {
+TEST_F(QtControlsTest, CheckBoxShowsTheAmpersandOfItsCaption) {
   QtCheckBox box(new QCheckBox(&form));
   box.SetCaption(u"B&W");
-  EXPECT_EQ(box.widget()->text(), "B&&W");
-  EXPECT_TRUE(box.widget()->shortcut().isEmpty());
+  EXPECT_EQ(box.widget()->text(), "&B&&W");
+  EXPECT_EQ(box.widget()->shortcut(), QKeySequence("Alt+B"));
 }
 
 TEST_F(QtControlsTest, ChoosingACheckableEntryTurnsNoTick) {
@@ -231,14 +233,14 @@ TEST_F(QtControlsTest, HandlerOfAnEntryMayTurnItsTick) {
   EXPECT_FALSE(action->isChecked());
 }
 
-TEST_F(QtControlsTest, MenuCaptionsHaveNoMnemonic) {
+TEST_F(QtControlsTest, MenusShowTheAmpersandsOfTheirCaptions) {
   QMenu qtMenu;
   QtMenu menu(&qtMenu);
   QtMenuEntry entry(qtMenu.addAction(QString()));
   menu.SetCaption(u"A&B");
   entry.SetCaption(u"C&D");
   EXPECT_EQ(qtMenu.title(), "A&&B");
-  EXPECT_EQ(qtMenu.actions().first()->text(), "C&&D");
+  EXPECT_EQ(qtMenu.actions().first()->text(), "&C&&D");
 }
 
 TEST_F(QtControlsTest, LampIsPaintedInItsColors) {
