@@ -79,23 +79,24 @@ struct MenuEntryDesign {
   const char* entry;
   bool tick = false;  // may carry a tick
   bool separatorBefore = false;
+  const char* keys = "";  // that choose it, as QKeySequence reads them
 };
 
 inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuFile", "mnuFileMacrosFolder"},
     {"mnuFile", "mnuFileLogFolder"},
     {"mnuFile", "mnuFileLogRecord", true, true},
-    {"mnuFile", "mnuFileLogOpen"},
-    {"mnuFile", "mnuFileLogSaveAs"},
-    {"mnuFile", "mnuFileExit", false, true},
+    {"mnuFile", "mnuFileLogOpen", false, false, "Ctrl+O"},
+    {"mnuFile", "mnuFileLogSaveAs", false, false, "Ctrl+S"},
+    {"mnuFile", "mnuFileExit", false, true, "Ctrl+Q"},
     {"mnuComm", "mnuCommWait"},
     {"mnuComm", "mnuCommCall"},
     {"mnuComm", "mnuCommCancel", false, true},
     {"mnuComm", "mnuCommClose"},
     {"mnuComm", "mnuCommRefresh", false, true},
-    {"mnuFormat", "mnuFormatFontBold", true},
-    {"mnuFormat", "mnuFormatFontItalics", true},
-    {"mnuFormat", "mnuFormatFontUnderline", true},
+    {"mnuFormat", "mnuFormatFontBold", true, false, "Ctrl+B"},
+    {"mnuFormat", "mnuFormatFontItalics", true, false, "Ctrl+I"},
+    {"mnuFormat", "mnuFormatFontUnderline", true, false, "Ctrl+U"},
     {"mnuFormat", "mnuFormatFontSize", false, true},
     {"mnuFormat", "mnuFormatFontColor"},
     {"mnuFormat", "mnuFormatFontSettings"},
@@ -104,7 +105,7 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuTools", "mnuToolsNick"},
     {"mnuTools", "mnuToolsSaveMacro", false, true},
     {"mnuTools", "mnuToolsEditMacros"},
-    {"mnuTools", "mnuToolsFind", false, true},
+    {"mnuTools", "mnuToolsFind", false, true, "Ctrl+F"},
     {"mnuTools", "mnuToolsClearDialogue", false, true},
     {"mnuTools", "mnuToolsClearCommands"},
     {"mnuTools", "mnuToolsClearHistory"},
@@ -113,7 +114,7 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuTools", "mnuToolsAlwaysOnTop", true},
     {"mnuTools", "mnuToolsLanguageEnglish", true, true},
     {"mnuTools", "mnuToolsLanguageGreek", true},
-    {"mnuHelp", "mnuHelpDetailed"},
+    {"mnuHelp", "mnuHelpDetailed", false, false, "F1"},
     {"mnuHelp", "mnuHelpAbout", false, true},
 });
 

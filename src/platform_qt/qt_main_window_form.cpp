@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <string_view>
 
 #include "platform_qt/qt_find_bar.h"
 
@@ -17,6 +18,8 @@ static void InitResources() {
 namespace verlume::qt {
 namespace {
 
+using namespace std::string_view_literals;
+
 constexpr QSize kUsualSize(900, 640);
 
 QIcon ProgramIcon() {
@@ -27,6 +30,9 @@ QIcon ProgramIcon() {
   }
   return icon;
 }
+
+// What a Greek keyboard has on the keys A to Z; 0 where that is no letter of its own.
+constexpr std::u16string_view kGreekKeys = u"ΑΒΨΔΕΦΓΗΙΞΚΛΜΝΟΠ\0ΡΣΤΘΩ\0ΧΥΖ"sv;
 
 QFrame* NewFrame(QWidget* parent) {
   auto* frame = new QFrame(parent);
@@ -62,6 +68,7 @@ void MainForm::BuildMenus() {
     QAction* entry = menu->addAction(QString());
     entry->setObjectName(QLatin1String(design.entry));
     entry->setCheckable(design.tick);
+    entry->setShortcut(QKeySequence(QLatin1String(design.keys)));
     // Captions that some desktops move to a menu of their own stay where they are.
     entry->setMenuRole(QAction::NoRole);
   }
@@ -117,6 +124,20 @@ void MainForm::RelateCaptions() {
     if (!name.endsWith(ending)) continue;
     label->setBuddy(findChild<QWidget*>(name.chopped(ending.size())));
   }
+}
+
+// Qt finds the Latin letter of a key by itself where the keyboard has a Latin layout beside the
+// Greek one. Where it has none, no shortcut takes the key, and it gets here. A second shortcut for
+// the Greek letter would not do: where there are both layouts Qt takes the two for ambiguous.
+void MainForm::keyPressEvent(QKeyEvent* event) {
+  const auto place = kGreekKeys.find(static_cast<char16_t>(event->key()));
+  if (place != kGreekKeys.npos && event->key() > 0xFF && event->key() <= 0xFFFF) {
+    const QKeyCombination latin(event->modifiers(), Qt::Key(Qt::Key_A + int(place)));
+    for (QAction* entry : findChildren<QAction*>()) {
+      if (entry->shortcut() == QKeySequence(latin)) return entry->trigger();
+    }
+  }
+  QMainWindow::keyPressEvent(event);
 }
 
 void MainForm::PlacePane(QWidget* pane, const char* name) {

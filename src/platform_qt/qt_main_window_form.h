@@ -26,6 +26,9 @@ class MainForm : public QMainWindow {
   // Puts the find bar below a pane that has its place.
   void PlaceFindBar(QWidget* pane) { layout_->PlaceFoot(pane, findBar_); }
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void BuildMenus();
   void BuildControls();

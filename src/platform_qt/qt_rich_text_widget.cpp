@@ -1,8 +1,10 @@
 #include "platform_qt/qt_rich_text_widget.h"
 
+#include <QAction>
 #include <QInputMethodEvent>
 #include <QPalette>
 #include <QScrollBar>
+#include <algorithm>
 
 #include "platform_qt/qt_key_codes.h"
 #include "platform_qt/qt_rich_text_mime.h"
@@ -21,6 +23,15 @@ QPalette ClassicPalette() {
   palette.setColor(QPalette::Highlight, QColor(0x30, 0x66, 0xB0));
   palette.setColor(QPalette::HighlightedText, Qt::white);
   return palette;
+}
+
+// Whether a menu of the widget's window has the keys.
+bool IsMenuKey(const QWidget& widget, const QKeyEvent& event) {
+  const QKeySequence keys(event.keyCombination());
+  const QList<QAction*> actions = widget.window()->findChildren<QAction*>();
+  return std::any_of(actions.begin(), actions.end(), [&](const QAction* action) {
+    return action->isEnabled() && action->shortcuts().contains(keys);
+  });
 }
 
 }  // namespace
@@ -56,6 +67,17 @@ bool RichTextWidget::Swallowed(int keyCode, int shift, int charCode) {
   if (charCode == 0) return false;
   if (events_ && events_->onKeyPress) events_->onKeyPress(charCode);
   return !self || charCode == 0;
+}
+
+bool RichTextWidget::event(QEvent* event) {
+  // A key of the menus is theirs, also where it would edit text: Ctrl+U deletes a line on some
+  // desktops.
+  if (event->type() == QEvent::ShortcutOverride &&
+      IsMenuKey(*this, *static_cast<QKeyEvent*>(event))) {
+    event->ignore();
+    return true;
+  }
+  return QPlainTextEdit::event(event);
 }
 
 void RichTextWidget::keyPressEvent(QKeyEvent* event) {
