@@ -1,6 +1,8 @@
 // The whole Qt platform, in one object that outlives the program.
 #pragma once
 
+#include <QDir>
+
 #include "platform/platform.h"
 #include "platform_qt/qt_about_window.h"
 #include "platform_qt/qt_common_dialog.h"
@@ -9,6 +11,7 @@
 #include "platform_qt/qt_main_window.h"
 #include "platform_qt/qt_socket.h"
 #include "platform_qt/qt_system.h"
+#include "platform_qt/qt_window_memory.h"
 
 namespace verlume::qt {
 
@@ -35,6 +38,8 @@ class QtPlatform {
   QtSystemTools tools_;
   QtMainWindow window_{files_};
   QtAboutWindow about_{&window_.form()};
+  QtWindowMemory windowMemory_{
+      &window_.form(), QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};
   QtSocket socket_;
   QtDialogs dialogs_{&window_.form()};
   QtCommonDialog commonDialog_{&window_.form()};
