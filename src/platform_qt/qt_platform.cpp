@@ -2,6 +2,8 @@
 
 #include <QApplication>
 
+#include "platform_qt/readable_style.h"
+
 namespace verlume::qt {
 
 void PrepareApplication() {
@@ -10,6 +12,10 @@ void PrepareApplication() {
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   // The program decides when it ends, not the last window.
   QApplication::setQuitOnLastWindowClosed(false);
+}
+
+QtPlatform::QtPlatform() {
+  QApplication::setStyle(new ReadableStyle);
 }
 
 }  // namespace verlume::qt

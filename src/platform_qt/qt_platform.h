@@ -20,7 +20,7 @@ void PrepareApplication();
 
 class QtPlatform {
  public:
-  QtPlatform() = default;
+  QtPlatform();
   QtPlatform(const QtPlatform&) = delete;
   QtPlatform& operator=(const QtPlatform&) = delete;
 
