@@ -250,6 +250,12 @@ TEST_F(LanguageTest, ASwitchChangesTextsOnly) {
   EXPECT_EQ(window.lblStatus.caption, u"Local port: 1. Waiting for an incoming call...");
 }
 
+TEST_F(LanguageTest, TheSwitchGivesTheFocusBackToTheCommandPane) {
+  language.mnuToolsLanguageGreek_Click();
+  language.mnuToolsLanguageEnglish_Click();
+  EXPECT_EQ(window.rtbCommands.timesFocused, 2);
+}
+
 TEST_F(LanguageTest, TheNextBoxSpeaksTheNewLanguage) {
   language.mnuToolsLanguageGreek_Click();
   fake.dialogs.answers = {Answer::No};

@@ -29,6 +29,11 @@ TEST_F(WindowBehaviourTest, TogglingTwiceReturnsToTheNormalBand) {
   EXPECT_EQ(Stored(), u"False");
 }
 
+TEST_F(WindowBehaviourTest, TheChoiceGivesTheFocusBackToTheCommandPane) {
+  behaviour.mnuToolsAlwaysOnTop_Click();
+  EXPECT_EQ(window.rtbCommands.timesFocused, 1);
+}
+
 TEST_F(WindowBehaviourTest, AChoiceThatCannotBeKeptIsReported) {
   fake.files.writesFail = FailureNumber::PermissionDenied;
   fake.dialogs.answers = {Answer::No};

@@ -1,0 +1,77 @@
+#include <gtest/gtest.h>
+
+#include "copy.h"
+
+namespace verlume::e2e {
+namespace {
+
+class OneWindow : public testing::Test {
+ protected:
+  // Whether a line typed now goes into the command pane: a command in it is carried out.
+  bool LineReachesTheCommandPane() {
+    const QString nickname = QString("Ann%1").arg(++lines_);
+    copy.TypeLine("/NICK " + nickname);
+    return WaitUntil([&] { return copy.Settings().contains("Nickname=" + nickname + "\r\n"); },
+                     10000);
+  }
+  // Puts the focus elsewhere and chooses a menu entry by its letters.
+  void ChooseFromElsewhere(const QString& menu, const QString& entry) {
+    copy.PressKeys("shift+Tab");
+    copy.PressKeys(menu);
+    copy.PressKeys(entry);
+  }
+
+  Copy copy{"Ann", false};
+
+ private:
+  int lines_ = 0;
+};
+
+TEST_F(OneWindow, FocusIsBackInTheCommandPaneAfterEveryDialog) {
+  ASSERT_TRUE(LineReachesTheCommandPane());
+  const struct {
+    const char* menu;
+    const char* entry;
+    const char* title;
+  } dialogs[] = {{"alt+o", "f", "Font size definition"},
+                 {"alt+o", "c", "Select Color"},
+                 {"alt+o", "s", "Select Font"},
+                 {"alt+t", "n", "Nickname definition"}};
+  for (const auto& [menu, entry, title] : dialogs) {
+    ChooseFromElsewhere(menu, entry);
+    ASSERT_TRUE(copy.AnswerBox(title, "Escape")) << title;
+    EXPECT_TRUE(LineReachesTheCommandPane()) << title;
+  }
+}
+
+TEST_F(OneWindow, FocusIsBackInTheCommandPaneAfterAMenu) {
+  ASSERT_TRUE(LineReachesTheCommandPane());
+  ChooseFromElsewhere("alt+t", "d");
+  EXPECT_TRUE(LineReachesTheCommandPane());
+  EXPECT_TRUE(copy.Settings().contains("DateStamp=True"));
+
+  copy.PressKeys("alt+f");
+  copy.PressKeys("Escape");
+  copy.PressKeys("Escape");
+  EXPECT_TRUE(LineReachesTheCommandPane()) << "left without a choice";
+}
+
+TEST_F(OneWindow, FindBarTakesTheKeysUntilEscape) {
+  ASSERT_TRUE(LineReachesTheCommandPane());
+  copy.PressKeys("ctrl+f");
+  copy.PressKeys("x");
+  copy.PressKeys("Return");
+  copy.PressKeys("Escape");
+  EXPECT_TRUE(LineReachesTheCommandPane());
+  EXPECT_EQ(copy.Dialogue().toStdString(), "") << "the x was no line";
+}
+
+TEST_F(OneWindow, KeysOfTheMenusWork) {
+  ASSERT_TRUE(LineReachesTheCommandPane());
+  copy.PressKeys("ctrl+q");
+  EXPECT_TRUE(copy.WaitForEnd());
+  EXPECT_EQ(copy.ExitCode(), 0);
+}
+
+}  // namespace
+}  // namespace verlume::e2e
