@@ -58,8 +58,13 @@ class Application {
 class HelpViewer {
  public:
   virtual ~HelpViewer() = default;
-  // The file that the help entry and the context help of every control open from now on.
-  virtual void SetHelpFile(std::u16string_view path) = 0;
+  // The file that the help entry and the context help of every control open from now on, and the
+  // language that it is in. An open help window goes on at the same topic of it. Never fails: that
+  // a file cannot be read is told in that language when help is asked for.
+  virtual void SetHelpFile(std::u16string_view path, bool isGreek) = 0;
+  // Opens the detailed help, in a window of its own beside the program's others, and returns at
+  // once; brings it to the front when it is open. Throws RunTimeFailure where it cannot be shown.
+  virtual void ShowContents() = 0;
 };
 
 class SystemTools {

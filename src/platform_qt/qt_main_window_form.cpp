@@ -72,6 +72,7 @@ void MainForm::BuildMenus() {
     // Captions that some desktops move to a menu of their own stay where they are.
     entry->setMenuRole(QAction::NoRole);
   }
+  Find<QAction>("mnuHelpDetailed")->setShortcut(QKeySequence::HelpContents);
 }
 
 void MainForm::BuildControls() {

@@ -8,6 +8,7 @@
 #include "platform_qt/qt_common_dialog.h"
 #include "platform_qt/qt_dialogs.h"
 #include "platform_qt/qt_file_system.h"
+#include "platform_qt/qt_help_viewer.h"
 #include "platform_qt/qt_main_window.h"
 #include "platform_qt/qt_socket.h"
 #include "platform_qt/qt_system.h"
@@ -34,9 +35,9 @@ class QtPlatform {
   QtClock clock_;
   QtLocale locale_;
   QtApplication application_;
-  QtHelpViewer help_;
   QtSystemTools tools_;
   QtMainWindow window_{files_};
+  QtHelpViewer help_{&window_.form()};
   QtAboutWindow about_{&window_.form()};
   QtWindowMemory windowMemory_{
       &window_.form(), QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};

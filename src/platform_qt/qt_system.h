@@ -1,5 +1,5 @@
-// The machine's clock and regional forms, the program's own place and event loop, the help file,
-// and other programs.
+// The machine's clock and regional forms, the program's own place and event loop, and other
+// programs.
 #pragma once
 
 #include <QLocale>
@@ -67,16 +67,6 @@ class QtSystemTools : public SystemTools {
   std::optional<std::u16string> LocalMachineText(std::u16string_view key,
                                                  std::u16string_view value) const override;
   bool StartProgram(std::u16string_view path) override;
-};
-
-class QtHelpViewer : public HelpViewer {
- public:
-  void SetHelpFile(std::u16string_view path) override { helpFile_ = path; }
-  // "" until one is set.
-  const std::u16string& HelpFile() const { return helpFile_; }
-
- private:
-  std::u16string helpFile_;
 };
 
 }  // namespace verlume::qt

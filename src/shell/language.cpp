@@ -18,7 +18,7 @@ void Language::ApplyLanguage() {
     frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);
     frmMain.mnuToolsLanguageGreek.SetChecked(isGreek);
     platform_.dialogs.SetLanguage(isGreek);
-    platform_.help.SetHelpFile(isGreek ? state_.HelpFileGreek : state_.HelpFileEnglish);
+    platform_.help.SetHelpFile(isGreek ? state_.HelpFileGreek : state_.HelpFileEnglish, isGreek);
     settings_.WriteSetting(u"General", u"Language", isGreek ? u"1" : u"0");
   });
 }

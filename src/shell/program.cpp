@@ -19,6 +19,7 @@ Program::Program(Platform& platform)
       settings_(state_, platform.files),
       statusPanel_(platform, errors_),
       language_(state_, platform, errors_, settings_),
+      help_(platform, errors_),
       windowBehaviour_(state_, platform, errors_, settings_),
       aboutBox_(state_, platform, errors_),
       log_(state_, platform, errors_, settings_),
@@ -117,6 +118,8 @@ void Program::BindMenus() {
      &WindowBehaviour::mnuToolsAlwaysOnTop_Click);
   On(frmMain.mnuToolsLanguageEnglish.onClick, language_, &Language::mnuToolsLanguageEnglish_Click);
   On(frmMain.mnuToolsLanguageGreek.onClick, language_, &Language::mnuToolsLanguageGreek_Click);
+
+  On(frmMain.mnuHelpDetailed.onClick, help_, &Help::mnuHelpDetailed_Click);
 }
 
 void Program::BindPanes() {

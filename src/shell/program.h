@@ -17,6 +17,7 @@
 #include "shell/about_box.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
+#include "shell/help.h"
 #include "shell/language.h"
 #include "shell/settings.h"
 #include "shell/shut_down.h"
@@ -54,6 +55,7 @@ class Program {
   Settings settings_;
   StatusPanel statusPanel_;
   Language language_;
+  Help help_;
   WindowBehaviour windowBehaviour_;
   AboutBox aboutBox_;
   DialogueLog log_;

@@ -55,6 +55,10 @@ Copy::Copy(const QString& nickname, bool isGreek) {
   folder.mkdir("macros");
   folder.mkdir("logs");
   QFile::copy(VERLUME_EXECUTABLE, folder.filePath("verlume"));
+  const QDir built = QFileInfo(VERLUME_EXECUTABLE).dir();
+  for (const QString& help : built.entryList({"*.hlp"})) {
+    QFile::copy(built.filePath(help), folder.filePath(help));
+  }
   QFile settings(folder.filePath("Verlume.ini"));
   if (settings.open(QIODevice::WriteOnly)) {
     settings.write(QString("[General]\r\nLanguage=%1\r\nNickname=%2\r\nDateStamp=False\r\n"

@@ -139,5 +139,12 @@ TEST(OneCopy, SettingsAreWrittenBesideTheProgramAtTheChange) {
   EXPECT_EQ(copy.ExitCode(), 0);
 }
 
+TEST(OneCopy, DetailedHelpOpensByCommandAndClosesByEscape) {
+  Copy copy("Ann", true);
+  copy.TypeLine("/HELPDETAILED");
+  EXPECT_TRUE(copy.AnswerBox("Βοήθεια του Verlume", "Escape"));
+  EXPECT_FALSE(copy.HasEnded());
+}
+
 }  // namespace
 }  // namespace verlume::e2e

@@ -4,9 +4,11 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
+#include "platform/run_time_failure.h"
 #include "platform/system.h"
 #include "shell/text_pair.h"
 
@@ -53,9 +55,20 @@ class FakeApplication : public Application {
 
 class FakeHelpViewer : public HelpViewer {
  public:
-  void SetHelpFile(std::u16string_view path) override { helpFile = path; }
+  void SetHelpFile(std::u16string_view path, bool isGreekFile) override {
+    helpFile = path;
+    isGreek = isGreekFile;
+  }
+  void ShowContents() override {
+    ++timesShown;
+    if (failure) throw RunTimeFailure(*failure);
+  }
 
   std::u16string helpFile;
+  bool isGreek = false;
+  int timesShown = 0;
+  // ShowContents fails with this while it is set.
+  std::optional<FailureNumber> failure;
 };
 
 // A registry that a test fills, and programs that never run.

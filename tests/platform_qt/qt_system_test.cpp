@@ -108,13 +108,6 @@ TEST(QtLocale, LoneSurrogatesDoNotHurtUpperCase) {
   EXPECT_EQ(QtLocale().UpperCase(odd), u"A\uFFFDB\uFFFD");
 }
 
-TEST(QtHelpViewer, KeepsTheHelpFile) {
-  QtHelpViewer viewer;
-  EXPECT_EQ(viewer.HelpFile(), u"");
-  viewer.SetHelpFile(u"/help/VerlumeUK.hlp");
-  EXPECT_EQ(viewer.HelpFile(), u"/help/VerlumeUK.hlp");
-}
-
 class QtApplicationFolders : public testing::Test {
  protected:
   QtApplicationFolders() {

@@ -220,9 +220,11 @@ TEST_F(LanguageTest, TicksTheLanguageInForce) {
 TEST_F(LanguageTest, TheHelpFileAndTheButtonsOfBoxesFollow) {
   language.mnuToolsLanguageGreek_Click();
   EXPECT_EQ(fake.help.helpFile, u"/verlume/VerlumeGR.hlp");
+  EXPECT_TRUE(fake.help.isGreek);
   EXPECT_EQ(fake.dialogs.isGreek, true);
   language.mnuToolsLanguageEnglish_Click();
   EXPECT_EQ(fake.help.helpFile, u"/verlume/VerlumeUK.hlp");
+  EXPECT_FALSE(fake.help.isGreek);
   EXPECT_EQ(fake.dialogs.isGreek, false);
 }
 

@@ -192,6 +192,13 @@ TEST_F(ProgramTest, RightClickShowsContextHelpAndLeftClickDoesNot) {
   EXPECT_EQ(ann.platform.window.lblStatus.timesHelpShown, 1);
 }
 
+TEST_F(ProgramTest, DetailedHelpOpensFromTheMenuAndByCommand) {
+  ann.platform.window.mnuHelpDetailed.Click();
+  EXPECT_EQ(ann.platform.help.timesShown, 1);
+  ann.Enter(u"/helpdetailed");
+  EXPECT_EQ(ann.platform.help.timesShown, 2);
+}
+
 TEST_F(ProgramTest, LinesThatArriveJoinedAreShownWhole) {
   Connect();
   network.joinArrivals = true;

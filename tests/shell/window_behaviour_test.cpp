@@ -58,7 +58,11 @@ TEST_F(WindowBehaviourTest, AReleaseOfAnyOtherButtonThanTheLeftShowsContextHelp)
   check(window.lblCurrentDateTime, window.lblChatStartDateTime, window.lblChatDuration,
         window.lblLocalIP, window.lblLocalPort, window.lblLocalNickname, window.lblRemoteIP,
         window.lblRemotePort, window.lblRemoteNickname, window.lblBytesSent,
-        window.lblBytesReceived, window.lblStatus, window.picShape, window.chkBold,
+        window.lblBytesReceived, window.lblCurrentDateTimeCaption,
+        window.lblChatStartDateTimeCaption, window.lblChatDurationCaption, window.lblLocalIPCaption,
+        window.lblLocalPortCaption, window.lblLocalNicknameCaption, window.lblRemoteIPCaption,
+        window.lblRemotePortCaption, window.lblRemoteNicknameCaption, window.lblBytesSentCaption,
+        window.lblBytesReceivedCaption, window.lblStatus, window.picShape, window.chkBold,
         window.chkItalics, window.chkUnderline, window.lblColor, window.lblCopyright,
         window.picCopyright, window.cmdFindPrevious, window.cmdFindNext, window.lblFindResult,
         window.cmdFindClose);
