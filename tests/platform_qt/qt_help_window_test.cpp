@@ -1,71 +1,9 @@
-#include "platform_qt/qt_help_window.h"
-
-#include <gtest/gtest.h>
-
-#include <QLineEdit>
-#include <QListWidget>
-#include <QScrollBar>
-#include <QTest>
-#include <QTreeWidget>
-
-#include "platform_fake/fake_file_system.h"
-#include "platform_qt/help_files.h"
-#include "platform_qt/modal_driver.h"
-#include "platform_qt/qt_dialogs.h"
-#include "platform_qt/qt_help_viewer.h"
-#include "platform_qt/qt_main_window.h"
-#include "platform_qt/qt_system.h"
+#include "platform_qt/help_window_fixture.h"
 
 namespace verlume::qt {
 namespace {
 
-class QtHelpWindowTest : public testing::Test {
- protected:
-  QtHelpWindowTest() { SetLanguage(false); }
-  void SetLanguage(bool isGreek) { viewer.SetHelpFile(FromQt(SmallHelpFile(isGreek)), isGreek); }
-
-  static QList<HelpForm*> Windows() {
-    QList<HelpForm*> windows;
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (window->objectName() == "frmHelp") windows.append(static_cast<HelpForm*>(window));
-    }
-    return windows;
-  }
-  void Open() {
-    viewer.ShowContents();
-    ASSERT_EQ(Windows().size(), 1);
-    form = Windows().first();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
-  }
-  template <class Widget>
-  Widget* Named(const char* name) {
-    return form->findChild<Widget*>(QLatin1String(name));
-  }
-  QTextBrowser* Topic() { return Named<QTextBrowser>("txtTopic"); }
-  QTreeWidget* Contents() { return Named<QTreeWidget>("tvwContents"); }
-  QListWidget* Results() { return Named<QListWidget>("lstResults"); }
-  QLineEdit* Search() { return Named<QLineEdit>("txtSearch"); }
-  QString Title() { return Topic()->document()->firstBlock().text().trimmed(); }
-  QString Marked() {
-    QStringList marked;
-    for (const auto& mark : Topic()->extraSelections()) marked.append(mark.cursor.selectedText());
-    return marked.join('|');
-  }
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(form->focusWidget() ? form->focusWidget() : form, key, modifiers);
-  }
-  // Follows the first link of the topic, as a user with a keyboard does.
-  void FollowLink() {
-    Topic()->setFocus();
-    Press(Qt::Key_Tab);
-    Press(Qt::Key_Return);
-  }
-
-  fake::FakeFileSystem files;
-  QtMainWindow frmMain{files};
-  QtHelpViewer viewer{&frmMain.form()};
-  QPointer<HelpForm> form;
-};
+using QtHelpWindowTest = HelpWindowFixture;
 
 TEST_F(QtHelpWindowTest, OpensAtTheFirstTopic) {
   Open();
@@ -77,43 +15,6 @@ TEST_F(QtHelpWindowTest, OpensAtTheFirstTopic) {
   EXPECT_EQ(Contents()->currentItem()->text(0), "Welcome");
   EXPECT_FALSE(Named<QToolButton>("cmdBack")->isEnabled());
   EXPECT_FALSE(Named<QToolButton>("cmdForward")->isEnabled());
-}
-
-TEST_F(QtHelpWindowTest, ThereIsOneWindow) {
-  Open();
-  Contents()->setFocus();
-  form->GoTo("panel");
-  viewer.ShowContents();
-  EXPECT_EQ(Windows().size(), 1);
-  EXPECT_EQ(Title(), "The panel");
-}
-
-TEST_F(QtHelpWindowTest, ChoosingItAgainBringsItToTheFront) {
-  frmMain.form().show();
-  Open();
-  frmMain.form().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&frmMain.form()));
-  viewer.ShowContents();
-  EXPECT_TRUE(QTest::qWaitForWindowActive(form));
-}
-
-TEST_F(QtHelpWindowTest, AChangeOfLanguageDoesNotBringItToTheFront) {
-  frmMain.form().show();
-  Open();
-  frmMain.form().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&frmMain.form()));
-  SetLanguage(true);
-  QCoreApplication::processEvents();
-  EXPECT_TRUE(frmMain.form().isActiveWindow());
-}
-
-TEST_F(QtHelpWindowTest, TheNextWindowBeginsAtTheBeginning) {
-  Open();
-  form->GoTo("panel");
-  Press(Qt::Key_Escape);
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !form; }, 10000));
-  Open();
-  EXPECT_EQ(Title(), "Welcome");
 }
 
 TEST_F(QtHelpWindowTest, AClickInTheContentsShowsTheTopic) {
@@ -264,28 +165,6 @@ TEST_F(QtHelpWindowTest, WithoutAQueryTheContentsAreBack) {
   EXPECT_EQ(Marked(), "");
 }
 
-TEST_F(QtHelpWindowTest, ALanguageSwitchStaysAtTheTopic) {
-  Open();
-  form->GoTo("waiting");
-  SetLanguage(true);
-  EXPECT_EQ(form->windowTitle(), "Βοήθεια του Verlume");
-  EXPECT_EQ(Title(), "Αναμονή");
-  EXPECT_EQ(Contents()->topLevelItem(1)->text(0), "Το παράθυρο");
-  EXPECT_EQ(Contents()->currentItem()->text(0), "Αναμονή");
-  Press(Qt::Key_Left, Qt::AltModifier);
-  EXPECT_EQ(Title(), "Καλώς ήλθατε");
-}
-
-TEST_F(QtHelpWindowTest, ALanguageSwitchSearchesAgain) {
-  Open();
-  Search()->setText("verlume zebra");
-  SetLanguage(true);
-  EXPECT_EQ(Results()->item(0)->text(), "Δεν βρέθηκε τίποτα");
-  Search()->setText("ΚΛΗΣΗ");
-  ASSERT_EQ(Results()->count(), 1);
-  EXPECT_TRUE(Results()->item(0)->text().startsWith("Καλώς ήλθατε\n"));
-}
-
 TEST_F(QtHelpWindowTest, EveryControlHasANameInBothLanguages) {
   Open();
   QStringList english;
@@ -308,27 +187,6 @@ TEST_F(QtHelpWindowTest, EveryControlHasANameInBothLanguages) {
   }
 }
 
-TEST_F(QtHelpWindowTest, AFileThatIsMissingIsToldOfInTheWindow) {
-  viewer.SetHelpFile(u"/nowhere/<i>.hlp", false);
-  Open();
-  EXPECT_TRUE(Topic()->toPlainText().startsWith("There is no help"));
-  EXPECT_TRUE(Topic()->toPlainText().endsWith("/nowhere/<i>.hlp"));
-  EXPECT_EQ(Contents()->topLevelItemCount(), 0);
-  viewer.SetHelpFile(u"/nowhere/<i>.hlp", true);
-  EXPECT_TRUE(Topic()->toPlainText().startsWith("Δεν υπάρχει βοήθεια"));
-  SetLanguage(true);
-  EXPECT_EQ(Title(), "Καλώς ήλθατε");
-}
-
-TEST_F(QtHelpWindowTest, AFileThatGoesBadIsToldOfInTheOpenWindow) {
-  Open();
-  form->GoTo("waiting");
-  viewer.SetHelpFile(u"/nowhere", true);
-  EXPECT_TRUE(Topic()->toPlainText().startsWith("Δεν υπάρχει βοήθεια"));
-  SetLanguage(true);
-  EXPECT_EQ(Title(), "Αναμονή");
-}
-
 TEST_F(QtHelpWindowTest, FitsInto640By480) {
   Open();
   EXPECT_LE(form->minimumSizeHint().width(), 620);
@@ -345,46 +203,6 @@ TEST_F(QtHelpWindowTest, LinksAreReadableOnADarkGround) {
   const QTextCursor link = Topic()->document()->find("Waiting");
   ASSERT_TRUE(link.charFormat().isAnchor());
   EXPECT_GT(link.charFormat().foreground().color().lightness(), 190);
-}
-
-TEST_F(QtHelpWindowTest, LiesAboveAMainWindowThatIsAlwaysOnTop) {
-  frmMain.View().window.SetTopMost(true);
-  Open();
-  EXPECT_TRUE(form->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-}
-
-TEST_F(QtHelpWindowTest, ABoxOfTheProgramIsAnsweredWhileItIsOpen) {
-  frmMain.form().show();
-  Open();
-  QtDialogs dialogs(&frmMain.form());
-  const ModalDriver driver([](QDialog& box) { box.reject(); });
-  EXPECT_EQ(dialogs.ShowMessage(Question(u"text", u"title", Answer::No)), Answer::No);
-  EXPECT_TRUE(form->isVisible());
-}
-
-TEST_F(QtHelpWindowTest, TheProgramsEndClosesItUnderABoxToo) {
-  QtApplication application;
-  frmMain.form().show();
-  Open();
-  QtDialogs dialogs(&frmMain.form());
-  bool isBack = false;
-  QTimer::singleShot(0, &application, [&] {
-    QTimer::singleShot(0, &application, [&] { application.End(); });
-    dialogs.ShowMessage(Question(u"text", u"title", Answer::No));
-    isBack = true;
-  });
-  application.Run();
-  EXPECT_TRUE(isBack);
-  EXPECT_FALSE(form->isVisible());
-}
-
-TEST_F(QtHelpWindowTest, F1OpensItFromTheMainWindow) {
-  frmMain.View().mnuHelpDetailed.onClick = [this] { viewer.ShowContents(); };
-  frmMain.form().show();
-  frmMain.form().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&frmMain.form()));
-  QTest::keyClick(frmMain.form().focusWidget(), Qt::Key_F1);
-  EXPECT_EQ(Windows().size(), 1);
 }
 
 }  // namespace
