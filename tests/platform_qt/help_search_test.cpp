@@ -44,7 +44,7 @@ TEST_F(HelpSearchTest, CommandsAreFoundAsTyped) {
 
 TEST_F(HelpSearchTest, EveryWordMustBeThere) {
   EXPECT_EQ(Found(english, "port lamp"), QStringList{"waiting"});
-  EXPECT_EQ(Found(english, "port computers"), QStringList{});
+  EXPECT_EQ(Found(english, "lamp computers"), QStringList{});
 }
 
 TEST_F(HelpSearchTest, ATopicWhoseTitleSaysItComesFirst) {
@@ -52,7 +52,8 @@ TEST_F(HelpSearchTest, ATopicWhoseTitleSaysItComesFirst) {
 }
 
 TEST_F(HelpSearchTest, AWordsStartCountsMoreThanItsInside) {
-  EXPECT_EQ(Found(english, "port"), (QStringList{"waiting", "panel"})) << "port, important";
+  EXPECT_EQ(Found(english, "port"), (QStringList{"waiting", "welcome", "panel"}))
+      << "port, unimportant, important";
 }
 
 TEST_F(HelpSearchTest, NothingIsFoundForNothing) {

@@ -40,6 +40,9 @@ class HelpWindowFixture : public testing::Test {
   }
   QTextBrowser* Topic() { return Named<QTextBrowser>("txtTopic"); }
   QTreeWidget* Contents() { return Named<QTreeWidget>("tvwContents"); }
+  QString CurrentLine() {
+    return Contents()->currentItem() ? Contents()->currentItem()->text(0) : QString();
+  }
   QListWidget* Results() { return Named<QListWidget>("lstResults"); }
   QLineEdit* Search() { return Named<QLineEdit>("txtSearch"); }
   QString Title() { return Topic()->document()->firstBlock().text().trimmed(); }
