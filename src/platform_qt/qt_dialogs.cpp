@@ -72,11 +72,6 @@ void KeepToOwnProgram(QWidget* box) {
                     QGuiApplication::applicationState() != Qt::ApplicationActive);
 }
 
-void FlagForAttention(QWidget* window) {
-  // Qt would flag the window under an active box, too.
-  if (QGuiApplication::applicationState() != Qt::ApplicationActive) QApplication::alert(window);
-}
-
 QtDialogs::QtDialogs(QWidget* mainWindow) : mainWindow_(mainWindow) {}
 
 void QtDialogs::SetLanguage(bool isGreek) {
@@ -111,7 +106,7 @@ Answer QtDialogs::ShowMessage(const Message& message) {
   KeepToOwnProgram(box);
   if (message.unexpected) {
     new KeyGuard(box);
-    if (mainWindow_) FlagForAttention(mainWindow_);
+    if (mainWindow_) QApplication::alert(mainWindow_);
   }
   box->exec();
   if (!box) return AnswerOfClosing(message.buttons);

@@ -18,10 +18,6 @@ QWidget* OwnerOfBoxes(QWidget* mainWindow);
 // windows, never from another program.
 void KeepToOwnProgram(QWidget* box);
 
-// Flags the task-bar entry of a window until the user returns to it, unless a window of this
-// program is active.
-void FlagForAttention(QWidget* window);
-
 class QtDialogs : public Dialogs {
  public:
   // `mainWindow` owns the boxes shown while no window of the program is active.

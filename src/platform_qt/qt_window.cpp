@@ -1,5 +1,6 @@
 #include "platform_qt/qt_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QWindow>
@@ -75,7 +76,8 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void QtWindow::FlagForAttention() {
-  qt::FlagForAttention(form_);
+  // Does nothing while the form or a box over it is active.
+  QApplication::alert(form_);
 }
 
 bool QtWindow::CanBeTopMost() const {
