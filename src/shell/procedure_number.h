@@ -17,6 +17,7 @@ enum class Procedure : int {
   sckControl_Close = 212,
   Form_QueryUnload = 213,
   mnuFileExit_Click = 214,
+  FindInDialogue = 215,
   CancelWaitOrCall = 216,
   CloseConnection = 217,
   ConfirmExit = 218,
@@ -56,7 +57,6 @@ enum class Procedure : int {
   cmdSaveAs_Click = 252,
   lblColour_MouseDown = 253,
   rtbMacroText_KeyPress = 254,
-  FindInDialogue = 255,
 };
 
 }  // namespace verlume

@@ -1,0 +1,150 @@
+#include "photographer.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+
+namespace verlume::gallery {
+namespace {
+
+constexpr int kStepMilliseconds = 150;
+constexpr int kStepsToSettle = 4;  // longer than a box ignores keys when it comes up by itself
+
+// Entries that only turn something on and off, or end the program.
+bool OpensABox(const QAction& entry) {
+  const bool asksFirst = entry.objectName() == QLatin1String("mnuFileLogRecord");
+  return !entry.isSeparator() && (!entry.isCheckable() || asksFirst) &&
+         entry.objectName() != QLatin1String("mnuFileExit");
+}
+
+void Press(QWidget* widget, int key, const QString& text = {}) {
+  QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+  QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+  QApplication::sendEvent(widget, &press);
+  QApplication::sendEvent(widget, &release);
+}
+
+}  // namespace
+
+Photographer::Photographer(const QString& folder) : folder_(folder) {
+  connect(&timer_, &QTimer::timeout, this, &Photographer::Step);
+  timer_.start(kStepMilliseconds);
+}
+
+void Photographer::Step() {
+  if (++idleSteps_ < kStepsToSettle) return;
+  idleSteps_ = 0;
+  if (TakeModal()) return;
+  if (!main_) return Begin();
+  TakeWindows();
+  if (next_ == scenes_.size()) return timer_.stop();
+  scene_ = scenes_[next_].name;
+  picturesOfScene_ = 0;
+  // Not from within the step: a scene may open a box, and a timer does not fire inside itself.
+  QMetaObject::invokeMethod(this, scenes_[next_++].enter, Qt::QueuedConnection);
+}
+
+void Photographer::Begin() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == QLatin1String("frmMain") && window->isVisible()) {
+      main_ = qobject_cast<QMainWindow*>(window);
+    }
+  }
+  if (!main_) return;
+  known_.insert(main_);
+  scenes_.push_back({QStringLiteral("main-window"), [this] {
+                       Take(main_, scene_);
+                       const QSize usual = main_->size();
+                       main_->resize(main_->minimumSizeHint());
+                       QApplication::processEvents();
+                       Take(main_, QStringLiteral("main-window-smallest"));
+                       main_->resize(usual);
+                     }});
+  AddTyped(QStringLiteral("dialogue"), QStringLiteral("Good morning. Καλημέρα."));
+  for (QAction* menu : main_->menuBar()->actions()) AddMenu(menu->menu());
+  for (QAction* menu : main_->menuBar()->actions()) {
+    for (QAction* entry : menu->menu()->actions()) {
+      if (OpensABox(*entry)) AddEntry(entry);
+    }
+  }
+  AddTyped(QStringLiteral("wait-wrong-port"), QStringLiteral("/WAIT nowhere"));
+  AddTyped(QStringLiteral("call-wrong-port"), QStringLiteral("/CALL localhost nowhere"));
+  AddTyped(QStringLiteral("error-report"), QStringLiteral("/CALL localhost 70000"));
+  AddTyped(QStringLiteral("size-out-of-range"), QStringLiteral("/SIZE 12"));
+  AddTyped(QStringLiteral("nickname-too-long"), QStringLiteral("/NICK ") + QString(40, u'n'));
+  AddTyped(QStringLiteral("waiting"), QStringLiteral("/WAIT"));
+  AddTyped(QStringLiteral("exit-while-waiting"), QStringLiteral("/EXIT"));
+  AddTyped(QStringLiteral("call-while-waiting"), QStringLiteral("/CALL localhost 1"));
+  scenes_.push_back({QStringLiteral("incoming-call"), [this] {
+                       const auto* port = main_->findChild<QLabel*>(QStringLiteral("lblLocalPort"));
+                       caller_.connectToHost(QStringLiteral("localhost"),
+                                             static_cast<quint16>(port->text().toInt()));
+                     }});
+  scenes_.push_back({QStringLiteral("end"), [] { QApplication::exit(); }});
+}
+
+void Photographer::AddMenu(QMenu* menu) {
+  scenes_.push_back({menu->objectName(), [this, menu] {
+                       menu->popup(main_->geometry().center());
+                       QApplication::processEvents();
+                       Take(menu, scene_);
+                       menu->hide();
+                     }});
+}
+
+void Photographer::AddEntry(QAction* entry) {
+  scenes_.push_back({entry->objectName(), [entry] { entry->trigger(); }});
+}
+
+void Photographer::AddTyped(const QString& name, const QString& line) {
+  scenes_.push_back({name, [this, line] { Type(line); }});
+}
+
+void Photographer::Type(const QString& line) {
+  auto* commands = main_->findChild<QPlainTextEdit*>(QStringLiteral("rtbCommands"));
+  Press(commands, Qt::Key_Escape);  // what a refused command has left there
+  for (const QChar character : line) Press(commands, 0, character);
+  Press(commands, Qt::Key_Return, QStringLiteral("\r"));
+}
+
+// A modal box: its picture first, its answer a step later.
+bool Photographer::TakeModal() {
+  QWidget* box = QApplication::activeModalWidget();
+  if (!box) {
+    taken_ = nullptr;
+    return false;
+  }
+  if (box != taken_) {
+    taken_ = box;
+    const QString number = picturesOfScene_ == 0 ? QString() : QStringLiteral("-%1");
+    Take(box, scene_ + (number.isEmpty() ? number : number.arg(picturesOfScene_ + 1)));
+    ++picturesOfScene_;
+  } else {
+    taken_ = nullptr;
+    Press(box, Qt::Key_Escape);
+  }
+  return true;
+}
+
+// Windows that stay beside the main one: their picture, and they go.
+void Photographer::TakeWindows() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (!window->isVisible() || known_.contains(window) || window->windowType() == Qt::ToolTip) {
+      continue;
+    }
+    Take(window, scene_);
+    known_.insert(window);
+    window->close();
+  }
+}
+
+void Photographer::Take(QWidget* window, const QString& name) {
+  window->grab().save(folder_ + u'/' + name + QStringLiteral(".png"));
+}
+
+}  // namespace verlume::gallery
