@@ -138,6 +138,7 @@ inline constexpr auto kFontDialogTexts = std::to_array<QtText>({
     {"Font st&yle", u"&Στυλ γραμματοσειράς"},
     {"&Size", u"&Μέγεθος"},
     {"Effects", u"Εφέ"},
+    {"Co&lor...", u"&Χρώμα..."},
     {"Stri&keout", u"&Διαγραμμένη"},
     {"&Underline", u"&Υπογραμμισμένη"},
     {"Sample", u"Δείγμα"},

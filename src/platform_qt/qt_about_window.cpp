@@ -42,7 +42,7 @@ QLabel* AboutForm::NewText(const char* name) {
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  // The right button asks for help here; a menu of its own would take its release.
+  // The menu of a text that can be selected is its own, and would take the right button's release.
   text->setContextMenuPolicy(Qt::PreventContextMenu);
   return text;
 }

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTreeView>
 
 #include "platform_qt/qt_text.h"
@@ -13,6 +14,7 @@ namespace verlume::qt {
 namespace {
 
 constexpr QSize kUsualSize(780, 480);
+constexpr QSize kWindowFrame(20, 50);  // what a window manager puts around it
 
 }  // namespace
 
@@ -55,7 +57,7 @@ FileDialog::FileDialog(QWidget* owner, const QString& title, std::u16string_view
 
 // Qt's own widths cut the type and the date; here the name takes what the others leave.
 void FileDialog::FitColumns() {
-  resize(kUsualSize);
+  resize(kUsualSize.boundedTo(screen()->availableSize() - kWindowFrame));
   const auto* details = findChild<QTreeView*>(QStringLiteral("treeView"));
   if (!details || details->header()->count() == 0) return;
   details->header()->setStretchLastSection(false);

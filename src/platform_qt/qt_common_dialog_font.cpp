@@ -1,9 +1,15 @@
 #include "platform_qt/qt_common_dialog_font.h"
 
 #include <QAbstractItemModel>
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QCoreApplication>
 #include <QIntValidator>
+#include <QLayout>
 #include <QLineEdit>
 #include <QListView>
+#include <QPointer>
+#include <QPushButton>
 #include <algorithm>
 #include <cmath>
 
@@ -23,6 +29,12 @@ QFont FontOf(const FontChoice& choice) {
   return font;
 }
 
+void ShowColorOn(QPushButton* button, Color color) {
+  QPixmap sample(button->iconSize());
+  sample.fill(ToQt(color));
+  button->setIcon(sample);
+}
+
 }  // namespace
 
 FontDialog::FontDialog(QWidget* owner, const FontChoice& start, double minimumSize,
@@ -34,6 +46,7 @@ FontDialog::FontDialog(QWidget* owner, const FontChoice& start, double minimumSi
   LimitSizes();
   setCurrentFont(FontOf(start_));
   shownFamily_ = currentFont().family();
+  AddColorButton();
 }
 
 // Qt gives no names to the parts of its dialog: the edit of the size is the one that takes numbers
@@ -63,6 +76,29 @@ void FontDialog::HideSizesOutside(QListView* sizes) const {
     const int size = model->index(row, 0).data().toString().toInt();
     sizes->setRowHidden(row, size < minimum_ || size > maximum_);
   }
+}
+
+// The colour stands with the effects, whose check boxes are the dialog's only ones.
+void FontDialog::AddColorButton() {
+  const auto* effect = findChild<QCheckBox*>();
+  QLayout* effects = effect ? effect->parentWidget()->layout() : layout();
+  auto* button = new QPushButton(QCoreApplication::translate("FontDialog", "Co&lor..."), this);
+  button->setObjectName(QStringLiteral("cmdColor"));
+  button->setAutoDefault(false);
+  ShowColorOn(button, start_.color);
+  connect(button, &QPushButton::clicked, this, [this, button] { ChooseColor(button); });
+  effects->addWidget(button);
+}
+
+void FontDialog::ChooseColor(QPushButton* button) {
+  const QPointer<QColorDialog> colors = new QColorDialog(ToQt(start_.color), this);
+  colors->setOption(QColorDialog::DontUseNativeDialog);
+  const bool accepted = colors->exec() == QDialog::Accepted;
+  // It goes with this dialog when the program ends under them.
+  if (!colors) return;
+  if (accepted) start_.color = FromQt(colors->selectedColor());
+  colors->deleteLater();
+  ShowColorOn(button, start_.color);
 }
 
 FontChoice FontDialog::Choice() const {

@@ -7,6 +7,7 @@
 
 class QLineEdit;
 class QListView;
+class QPushButton;
 
 namespace verlume::qt {
 
@@ -16,12 +17,14 @@ class FontDialog : public QFontDialog {
   FontDialog(QWidget* owner, const FontChoice& start, double minimumSize, double maximumSize);
 
   // The font chosen, its size within the limits. A font that is not installed stays chosen while
-  // the user chooses no other. The colour is the one it started with: the dialog has none.
+  // the user chooses no other.
   FontChoice Choice() const;
 
  private:
   void LimitSizes();
   void HideSizesOutside(QListView* sizes) const;
+  void AddColorButton();
+  void ChooseColor(QPushButton* button);
 
   FontChoice start_;
   QString shownFamily_;  // what stands for the font it started with

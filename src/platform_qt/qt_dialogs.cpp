@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <memory>
 
+#include "platform_qt/qt_dialogs_focus_refusal.h"
 #include "platform_qt/qt_dialogs_key_guard.h"
 #include "platform_qt/qt_text.h"
 
@@ -68,8 +69,9 @@ QWidget* OwnerOfBoxes(QWidget* mainWindow) {
 }
 
 void KeepToOwnProgram(QWidget* box) {
-  box->setAttribute(Qt::WA_ShowWithoutActivating,
-                    QGuiApplication::applicationState() != Qt::ApplicationActive);
+  const bool isActive = QGuiApplication::applicationState() == Qt::ApplicationActive;
+  box->setAttribute(Qt::WA_ShowWithoutActivating, !isActive);
+  if (!isActive) new FocusRefusal(box);
 }
 
 QtDialogs::QtDialogs(QWidget* mainWindow) : mainWindow_(mainWindow) {}

@@ -73,7 +73,17 @@ void HelpSidebar::SetBook(const HelpBook& book) {
   ListFindings();
 }
 
+bool HelpSidebar::ClearSearch() {
+  if (txtSearch_->text().isEmpty()) return false;
+  txtSearch_->clear();
+  return true;
+}
+
 void HelpSidebar::Select(const QString& topicId) {
+  for (int row = 0; row < lstResults_->count(); ++row) {
+    const bool isShown = lstResults_->item(row)->data(kIdRole) == topicId;
+    lstResults_->item(row)->setSelected(isShown);
+  }
   for (QTreeWidgetItemIterator line(tvwContents_); *line; ++line) {
     if (!(*line)->parent() || (*line)->data(0, kIdRole) != topicId) continue;
     tvwContents_->setCurrentItem(*line);

@@ -21,7 +21,10 @@ class HelpSidebar : public QWidget {
 
   // Shows the book's contents and what it has for the query. `book` is kept until the next.
   void SetBook(const HelpBook& book);
-  // The contents follow: the topic's line is opened, in sight and current.
+  // Empties the search; false when it was empty.
+  bool ClearSearch();
+  // The contents follow: the topic's line is opened, in sight and current. Of what was found, the
+  // topic is marked, if it is there.
   void Select(const QString& topicId);
 
   QString Query() const;

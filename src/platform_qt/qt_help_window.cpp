@@ -87,7 +87,9 @@ void HelpForm::BindKeys() {
   bind(QKeySequence::Find, [this] { sidebar_->FocusSearch(); });
   bind(QKeySequence(Qt::Key_Slash), [this] { sidebar_->FocusSearch(); });
   bind(QKeySequence::HelpContents, [this] { GoTo(txtTopic_->objectName()); });
-  bind(QKeySequence(Qt::Key_Escape), [this] { close(); });
+  bind(QKeySequence(Qt::Key_Escape), [this] {
+    if (!sidebar_->ClearSearch()) close();
+  });
 }
 
 template <class Widget>

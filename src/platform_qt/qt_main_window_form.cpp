@@ -97,8 +97,12 @@ QWidget* MainForm::Build(const ControlDesign& design) {
       inside->addWidget(lamp);
       return frame;
     }
-    case ControlKind::CheckBox:
-      return new QCheckBox(area_);
+    case ControlKind::CheckBox: {
+      auto* box = new QCheckBox(area_);
+      // A click, which may ask for help, leaves the keyboard where the user types.
+      box->setFocusPolicy(Qt::TabFocus);
+      return box;
+    }
     case ControlKind::Picture: {
       auto* picture = new PictureWidget(area_);
       picture->SetIcon(windowIcon());

@@ -22,13 +22,22 @@ bool BeginsWord(const QString& caption, qsizetype place) {
   return place == 0 || caption[place - 1].isSpace();
 }
 
+// How well a letter of the caption serves: the first letter of a word, any other, and last one of
+// another script than the caption's, which needs another keyboard.
+enum class Rank { BeginsWord, Inside, OtherScript };
+
+Rank RankOf(const QString& caption, qsizetype place) {
+  if (caption[place].script() != caption[0].script()) return Rank::OtherScript;
+  return BeginsWord(caption, place) ? Rank::BeginsWord : Rank::Inside;
+}
+
 // Where the caption could have its letter, the best places first.
-std::vector<qsizetype> PlacesOf(const QString& caption, const QString& taken) {
+std::vector<qsizetype> PlacesOf(const QString& caption, const QString& taken, Rank worst) {
   std::vector<qsizetype> places;
-  for (const bool firsts : {true, false}) {
-    for (qsizetype i = 0; i < caption.size(); ++i) {
+  for (const Rank rank : {Rank::BeginsWord, Rank::Inside, Rank::OtherScript}) {
+    for (qsizetype i = 0; rank <= worst && i < caption.size(); ++i) {
       const QChar key = KeyOf(caption[i]);
-      if (key.isNull() || taken.contains(key) || BeginsWord(caption, i) != firsts) continue;
+      if (key.isNull() || taken.contains(key) || RankOf(caption, i) != rank) continue;
       places.push_back(i);
     }
   }
@@ -42,9 +51,13 @@ class Chooser {
       : captions_(captions), taken_(taken), chosen_(captions.size(), -1) {}
 
   std::vector<qsizetype> Choose() {
-    for (std::size_t i = 0; i < chosen_.size(); ++i) {
-      tried_.clear();
-      Give(i);
+    // Who can have the first letter of a word has it before others take letters from within.
+    for (const Rank worst : {Rank::BeginsWord, Rank::Inside, Rank::OtherScript}) {
+      worst_ = worst;
+      for (std::size_t i = 0; i < chosen_.size(); ++i) {
+        tried_.clear();
+        if (chosen_[i] < 0) Give(i);
+      }
     }
     return chosen_;
   }
@@ -52,7 +65,7 @@ class Chooser {
  private:
   bool Give(std::size_t index) {
     const QString& caption = captions_[static_cast<qsizetype>(index)];
-    const std::vector<qsizetype> places = PlacesOf(caption, taken_);
+    const std::vector<qsizetype> places = PlacesOf(caption, taken_, worst_);
     for (const qsizetype place : places) {
       if (OwnerOf(KeyOf(caption[place])) < 0) return Take(index, place);
     }
@@ -82,6 +95,7 @@ class Chooser {
   const QString& taken_;
   std::vector<qsizetype> chosen_;
   QString tried_;
+  Rank worst_ = Rank::BeginsWord;
 };
 
 template <class Element>

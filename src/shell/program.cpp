@@ -78,7 +78,7 @@ void Program::BindAbout() {
   On(frmAbout.cmdOK.onClick, aboutBox_, &AboutBox::cmdOK_Click);
   On(frmAbout.cmdSysInfo.onClick, aboutBox_, &AboutBox::cmdSysInfo_Click);
   BindContextHelp({&frmAbout.lblTitle, &frmAbout.lblVersion, &frmAbout.lblDescription,
-                   &frmAbout.lblDisclaimer, &frmAbout.picIcon, &frmAbout.cmdOK,
+                   &frmAbout.lblDisclaimer, &frmAbout.lblCredit, &frmAbout.picIcon, &frmAbout.cmdOK,
                    &frmAbout.cmdSysInfo});
 }
 

@@ -32,6 +32,8 @@ class Copy {
   // Whether the active window is this copy's window of that title.
   bool IsActive(const QString& title = "Verlume") const;
 
+  bool HasWindow(const QString& title) const { return !FindWindow(title).isEmpty(); }
+
   // Presses a key in a box of that title until the box is gone; false when it never came or stays.
   bool AnswerBox(const QString& title, const QString& key);
 

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QProcess>
+#include <QTcpSocket>
 
 #include "copy.h"
 
@@ -75,6 +76,28 @@ TEST_F(TwoCopies, LineFlagsTheTaskBarEntryAndLeavesTheActiveWindowAlone) {
     ann.Activate();
     EXPECT_TRUE(WaitUntil([&] { return !ann.HasState("DEMANDS_ATTENTION"); })) << line;
   }
+}
+
+TEST_F(TwoCopies, CallLeavesTheActiveWindowAlone) {
+  // A program learns a moment later that the user has left it, and a call within that moment gets
+  // the keyboard: each attempt calls later than the one before.
+  int looks = 0;
+  EXPECT_TRUE(WaitUntil([&] {
+    const QString port = NextPort();
+    ann.TypeLine("/ΑΝΑΜΟΝΉ " + port);
+    bob.Activate();
+    looks += 20;
+    for (int look = 0; look < looks; ++look) EXPECT_TRUE(bob.IsActive());
+    QTcpSocket caller;
+    EXPECT_TRUE(WaitUntil([&] {
+      caller.connectToHost("127.0.0.1", static_cast<quint16>(port.toInt()));
+      return caller.waitForConnected(500);
+    }));
+    EXPECT_TRUE(WaitUntil([&] { return ann.HasWindow("Εισερχόμενη κλήση"); }));
+    const bool leftAlone = bob.IsActive();
+    EXPECT_TRUE(ann.AnswerBox("Εισερχόμενη κλήση", "Escape")) << "the user may go to it";
+    return leftAlone;
+  }));
 }
 
 TEST_F(TwoCopies, LineUnderAnActiveAboutBoxLeavesItTheKeyboard) {

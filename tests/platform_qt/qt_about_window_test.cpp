@@ -96,6 +96,23 @@ TEST_F(QtAboutWindowTest, EnterPressesOkAndEscapeClosesAsTheUser) {
   EXPECT_EQ(asked, (std::vector{pair[0], pair[1], pair[0], pair[1], pair[0], pair[1]}));
 }
 
+TEST_F(QtAboutWindowTest, RightButtonOpensNoMenuOfQts) {
+  ShowAnd([&] {
+    for (QWidget* element : form.findChildren<QWidget*>()) {
+      element->setWhatsThis("help");
+      const QPoint place = element->rect().center();
+      QContextMenuEvent menu(QContextMenuEvent::Mouse, place, element->mapToGlobal(place));
+      QTimer::singleShot(0, &form, [&] {
+        QWidget* popup = QApplication::activePopupWidget();
+        EXPECT_EQ(popup, nullptr) << element->objectName().toStdString();
+        if (popup) popup->close();
+      });
+      QApplication::sendEvent(element, &menu);
+      QApplication::processEvents();
+    }
+  });
+}
+
 TEST_F(QtAboutWindowTest, RefusedEscapeLeavesTheBox) {
   view.window.onQueryUnload = [](bool& cancel, UnloadMode mode) {
     cancel = mode == UnloadMode::User;

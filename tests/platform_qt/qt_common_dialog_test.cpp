@@ -292,6 +292,19 @@ TEST_F(FontDialogTest, ChosenStyleComesOut) {
   EXPECT_EQ(choice.size, 9);
 }
 
+TEST_F(FontDialogTest, ChosenColorComesOut) {
+  for (const bool accepted : {true, false}) {
+    const FontChoice choice = Ask([accepted](QFontDialog& fonts) {
+      const ModalDriver colors([accepted](QDialog& dialog) {
+        dynamic_cast<QColorDialog&>(dialog).setCurrentColor(Qt::red);
+        accepted ? dialog.accept() : dialog.reject();
+      });
+      fonts.findChild<QPushButton*>("cmdColor")->click();
+    });
+    EXPECT_EQ(choice.color, accepted ? 255 : 0x1234);
+  }
+}
+
 TEST_F(FontDialogTest, SizeIsHeldWithinItsLimits) {
   const auto sized = [this](int size) {
     return Ask([size](QFontDialog& fonts) {

@@ -151,6 +151,30 @@ TEST_F(QtHelpWindowTest, AClickOnAFindingShowsIt) {
   EXPECT_EQ(Title(), "Waiting");
 }
 
+TEST_F(QtHelpWindowTest, GoingBackMarksTheFindingThatIsShown) {
+  Open();
+  Search()->setText("port");
+  ASSERT_EQ(Results()->count(), 3);
+  for (const int row : {0, 2}) emit Results()->itemActivated(Results()->item(row));
+  EXPECT_TRUE(Results()->item(2)->isSelected());
+  Press(Qt::Key_Left, Qt::AltModifier);
+  EXPECT_TRUE(Results()->item(0)->isSelected());
+  EXPECT_FALSE(Results()->item(2)->isSelected());
+  Press(Qt::Key_Left, Qt::AltModifier);
+  EXPECT_FALSE(Results()->item(0)->isSelected());
+}
+
+TEST_F(QtHelpWindowTest, EscapeClearsTheSearchBeforeItCloses) {
+  Open();
+  Search()->setText("a");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Search()->text(), "");
+  ASSERT_EQ(Windows().size(), 1);
+  EXPECT_TRUE(form->isVisible());
+  Press(Qt::Key_Escape);
+  EXPECT_TRUE(QTest::qWaitFor([] { return Windows().isEmpty(); }));
+}
+
 TEST_F(QtHelpWindowTest, WithoutAQueryTheContentsAreBack) {
   Open();
   Search()->setText("zebra");

@@ -41,6 +41,14 @@ class MainWindowKeys : public testing::Test {
   QStringList chosen;
 };
 
+TEST_F(MainWindowKeys, StayWithThePaneWhenACheckBoxIsClicked) {
+  Pane()->setFocus();
+  for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
+    QTest::mouseClick(form.findChild<QWidget*>("chkBold"), button);
+    EXPECT_TRUE(Pane()->hasFocus()) << button;
+  }
+}
+
 TEST_F(MainWindowKeys, AreShownInTheMenus) {
   const std::pair<const char*, const char*> expected[] = {
       {"mnuFileLogOpen", "Ctrl+O"},       {"mnuFileLogSaveAs", "Ctrl+S"},

@@ -36,6 +36,15 @@ TEST(Mnemonics, CaptionGivesWayToOneThatHasNoOtherLetter) {
   EXPECT_THAT(ChooseMnemonics({"ab", "bc", "a"}), ElementsAre(1, 1, 0));
 }
 
+TEST(Mnemonics, FirstLettersOfLaterCaptionsGoBeforeOtherLettersOfEarlierOnes) {
+  EXPECT_THAT(ChooseMnemonics({"Edit", "English", "Greek", "Nickname"}), ElementsAre(0, 3, 0, 0));
+}
+
+TEST(Mnemonics, LettersOfAnotherScriptComeLast) {
+  EXPECT_THAT(ChooseMnemonics({"Αν IP", "Α"}), ElementsAre(1, 0));
+  EXPECT_THAT(ChooseMnemonics({"Α IP", "Α"}), ElementsAre(2, 0));
+}
+
 TEST(Mnemonics, TakenLettersAreLeftAlone) {
   EXPECT_THAT(ChooseMnemonics({"Bold", "B"}, "BO"), ElementsAre(2, -1));
 }

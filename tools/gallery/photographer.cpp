@@ -72,6 +72,15 @@ void Photographer::Begin() {
       if (OpensABox(*entry)) AddEntry(entry);
     }
   }
+  scenes_.push_back({QStringLiteral("find-bar"), [this] {
+                       auto* field = main_->findChild<QWidget*>(QStringLiteral("txtFind"));
+                       for (const QChar character : QStringLiteral("ΚΑΛΗΜΕΡΑ")) {
+                         Press(field, 0, character);
+                       }
+                       QApplication::processEvents();
+                       Take(main_, scene_);
+                       Press(field, Qt::Key_Escape);
+                     }});
   AddTyped(QStringLiteral("wait-wrong-port"), QStringLiteral("/WAIT nowhere"));
   AddTyped(QStringLiteral("call-wrong-port"), QStringLiteral("/CALL localhost nowhere"));
   AddTyped(QStringLiteral("error-report"), QStringLiteral("/CALL localhost 70000"));
