@@ -73,6 +73,7 @@ void Photographer::Begin() {
     }
   }
   scenes_.push_back({QStringLiteral("find-bar"), [this] {
+                       Type(QStringLiteral("Good morning. Καλημέρα."));
                        auto* field = main_->findChild<QWidget*>(QStringLiteral("txtFind"));
                        for (const QChar character : QStringLiteral("ΚΑΛΗΜΕΡΑ")) {
                          Press(field, 0, character);
