@@ -23,6 +23,7 @@ Program::Program(Platform& platform)
       windowBehaviour_(state_, platform, errors_, settings_),
       aboutBox_(state_, platform, errors_),
       log_(state_, platform, errors_, settings_),
+      dialogueFiles_(state_, platform, errors_),
       macroStore_(state_, platform, errors_, settings_),
       dialogue_(state_, platform, errors_, settings_, log_),
       wire_(state_, platform, errors_, {dialogue_, log_, statusPanel_}),
@@ -87,6 +88,8 @@ void Program::BindMenus() {
   On(frmMain.mnuFileMacrosFolder.onClick, macroStore_, &MacroStore::ChooseMacrosFolder);
   On(frmMain.mnuFileLogFolder.onClick, log_, &DialogueLog::mnuFileLogFolder_Click);
   On(frmMain.mnuFileLogRecord.onClick, log_, &DialogueLog::mnuFileLogRecord_Click);
+  On(frmMain.mnuFileLogOpen.onClick, dialogueFiles_, &DialogueFiles::mnuFileLogOpen_Click);
+  On(frmMain.mnuFileLogSaveAs.onClick, dialogueFiles_, &DialogueFiles::mnuFileLogSaveAs_Click);
   On(frmMain.mnuFileExit.onClick, shutDown_, &ShutDown::mnuFileExit_Click);
 
   On(frmMain.mnuCommWait.onClick, connection_, &ConnectionActions::mnuCommWait_Click);

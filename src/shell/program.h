@@ -13,6 +13,7 @@
 #include "connection/wire_protocol.h"
 #include "macros/macro_store.h"
 #include "platform/platform.h"
+#include "records/dialogue_files.h"
 #include "records/dialogue_log.h"
 #include "shell/about_box.h"
 #include "shell/app_state.h"
@@ -59,6 +60,7 @@ class Program {
   WindowBehaviour windowBehaviour_;
   AboutBox aboutBox_;
   DialogueLog log_;
+  DialogueFiles dialogueFiles_;
   MacroStore macroStore_;
   Dialogue dialogue_;
   WireProtocol wire_;
