@@ -9,6 +9,15 @@ bool StaysInFolder(std::u16string_view name, char16_t separator) {
   return name.find_first_of(u"/\\") == name.npos && name.find(separator) == name.npos;
 }
 
+// ".rtf" with a capital for each bit that is set.
+std::u16string ExtensionWith(unsigned capitals) {
+  std::u16string extension = u".rtf";
+  for (std::size_t i = 1; i < extension.size(); ++i, capitals >>= 1) {
+    if (capitals & 1) extension[i] = static_cast<char16_t>(extension[i] - u'a' + u'A');
+  }
+  return extension;
+}
+
 }  // namespace
 
 std::u16string WithTrailingSeparator(std::u16string_view path, char16_t separator) {
@@ -22,9 +31,13 @@ bool FolderExists(const FileSystem& files, std::u16string_view path) {
 }
 
 std::u16string MacroPath(const AppState& state, const FileSystem& files, std::u16string_view name) {
-  std::u16string path = WithTrailingSeparator(state.MacrosFolder, files.Separator());
-  path += name;
-  return path + u".rtf";
+  const std::u16string path =
+      WithTrailingSeparator(state.MacrosFolder, files.Separator()).append(name);
+  for (unsigned capitals = 0; capitals < 8; ++capitals) {
+    const std::u16string file = path + ExtensionWith(capitals);
+    if (files.IsFile(file)) return file;
+  }
+  return path + ExtensionWith(0);
 }
 
 bool MacroExists(const AppState& state, const FileSystem& files, std::u16string_view name) {

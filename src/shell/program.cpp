@@ -34,6 +34,7 @@ Program::Program(Platform& platform)
       find_(state_, platform, errors_),
       interpreter_(state_, platform, errors_,
                    {dialogue_, history_, textFormat_, connection_, wire_}),
+      macroSaving_(state_, platform, errors_, macroStore_),
       startUp_(state_, platform, errors_, settings_, language_,
                {[this] { ResetConnection(state_, platform_); }, BuildProtocolMarker,
                 [this] { textFormat_.ApplyCommandStyle(); }}),
@@ -42,6 +43,7 @@ Program::Program(Platform& platform)
           [this] { ResetConnection(state_, platform_); }) {
   BindWindow();
   BindAbout();
+  BindMacros();
   BindMenus();
   BindPanes();
   BindFindBar();
@@ -83,9 +85,14 @@ void Program::BindAbout() {
                    &frmAbout.cmdSysInfo});
 }
 
+void Program::BindMacros() {
+  const MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.mnuFileMacrosFolder.onClick, macroStore_, &MacroStore::ChooseMacrosFolder);
+  On(frmMain.mnuToolsSaveMacro.onClick, macroSaving_, &MacroSaving::SaveCommandPaneAsMacro);
+}
+
 void Program::BindMenus() {
   MainWindow& frmMain = platform_.frmMain;
-  On(frmMain.mnuFileMacrosFolder.onClick, macroStore_, &MacroStore::ChooseMacrosFolder);
   On(frmMain.mnuFileLogFolder.onClick, log_, &DialogueLog::mnuFileLogFolder_Click);
   On(frmMain.mnuFileLogRecord.onClick, log_, &DialogueLog::mnuFileLogRecord_Click);
   On(frmMain.mnuFileLogOpen.onClick, dialogueFiles_, &DialogueFiles::mnuFileLogOpen_Click);

@@ -11,6 +11,7 @@
 #include "connection/connection_state.h"
 #include "connection/socket_events.h"
 #include "connection/wire_protocol.h"
+#include "macros/macro_saving.h"
 #include "macros/macro_store.h"
 #include "platform/platform.h"
 #include "records/dialogue_files.h"
@@ -45,6 +46,7 @@ class Program {
   void EndChatAfterError();
   void BindWindow();
   void BindAbout();
+  void BindMacros();
   void BindMenus();
   void BindPanes();
   void BindFindBar();
@@ -70,6 +72,7 @@ class Program {
   TextFormat textFormat_;
   FindInDialogue find_;
   CommandInterpreter interpreter_;
+  MacroSaving macroSaving_;
   StartUp startUp_;
   ShutDown shutDown_;
 };

@@ -54,6 +54,18 @@ TEST_F(MacroFileTest, MacroExistsWhereItsFileIs) {
   EXPECT_FALSE(MacroExists(state, files, u"folder"));
 }
 
+TEST_F(MacroFileTest, ExtensionInCapitalsIsFoundWhereThereIsNoOther) {
+  files.files[u"/macros/loud.RTF"] = "{\\rtf1 loud}";
+  files.files[u"/macros/mixed.rTf"] = "{\\rtf1 mixed}";
+  files.files[u"/macros/both.RTF"] = "{\\rtf1 capitals}";
+  files.files[u"/macros/both.rtf"] = "{\\rtf1 small}";
+  EXPECT_TRUE(MacroExists(state, files, u"loud"));
+  EXPECT_EQ(MacroPath(state, files, u"loud"), u"/macros/loud.RTF");
+  EXPECT_EQ(MacroPath(state, files, u"mixed"), u"/macros/mixed.rTf");
+  EXPECT_EQ(MacroPath(state, files, u"both"), u"/macros/both.rtf");
+  EXPECT_EQ(MacroPath(state, files, u"new"), u"/macros/new.rtf");
+}
+
 TEST_F(MacroFileTest, NameThatWouldLeaveTheFolderHasNoFile) {
   for (const std::u16string name :
        {u"../secret", u"/secret", u"sub/secret", u"..\\secret", u"", u".", u".."}) {

@@ -73,7 +73,17 @@ bool FakeFileSystem::IsFolder(std::u16string_view path) const noexcept {
 }
 
 bool FakeFileSystem::IsFile(std::u16string_view path) const noexcept {
-  return files.contains(path);
+  return files.contains(Stored(path));
+}
+
+std::u16string_view FakeFileSystem::Stored(std::u16string_view path) const noexcept {
+  if (!ignoresCase || files.contains(path)) return path;
+  const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
+  const auto same = std::find_if(files.begin(), files.end(), [&](const auto& file) {
+    return std::equal(path.begin(), path.end(), file.first.begin(), file.first.end(),
+                      [&](char16_t a, char16_t b) { return lower(a) == lower(b); });
+  });
+  return same != files.end() ? same->first : path;
 }
 
 std::vector<std::u16string> FakeFileSystem::ListFiles(std::u16string_view folder,
@@ -93,8 +103,9 @@ std::u16string FakeFileSystem::ReadText(std::u16string_view path) const {
 }
 
 std::string FakeFileSystem::ReadBytes(std::u16string_view path) const {
+  if (readsFail) throw RunTimeFailure(*readsFail);
   CheckPath(path);
-  const auto file = files.find(path);
+  const auto file = files.find(Stored(path));
   if (file == files.end()) throw RunTimeFailure(FailureNumber::FileNotFound);
   return file->second;
 }
@@ -105,18 +116,18 @@ void FakeFileSystem::ReplaceText(std::u16string_view path, std::u16string_view t
 
 void FakeFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes) {
   CheckWrite(path);
-  files[std::u16string(path)] = bytes;
+  files[std::u16string(Stored(path))] = bytes;
 }
 
 void FakeFileSystem::AppendText(std::u16string_view path, std::u16string_view text) {
   CheckWrite(path);
-  files[std::u16string(path)] += Utf8(text);
+  files[std::u16string(Stored(path))] += Utf8(text);
 }
 
 void FakeFileSystem::Delete(std::u16string_view path) {
-  CheckPath(path);
+  CheckWrite(path);
   if (!IsFile(path)) throw RunTimeFailure(FailureNumber::FileNotFound);
-  files.erase(files.find(path));
+  files.erase(files.find(Stored(path)));
 }
 
 void FakeFileSystem::MakeFolder(std::u16string_view path) {

@@ -28,11 +28,15 @@ class FakeFileSystem : public FileSystem {
   void MakeFolder(std::u16string_view path);
   void RemoveFolder(std::u16string_view path);
 
-  // Every write fails with this while it is set.
+  // Every write, and every read, fails with this while it is set.
   std::optional<FailureNumber> writesFail;
+  std::optional<FailureNumber> readsFail;
+  // "A.rtf" and "a.rtf" name one file, under the name that it was made with.
+  bool ignoresCase = false;
   std::map<std::u16string, std::string, std::less<>> files;  // path -> bytes
 
  private:
+  std::u16string_view Stored(std::u16string_view path) const noexcept;
   void CheckPath(std::u16string_view path) const;
   void CheckWrite(std::u16string_view path) const;
 

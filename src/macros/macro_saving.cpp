@@ -1,0 +1,70 @@
+#include "macros/macro_saving.h"
+
+#include "macros/macro_saving_texts.h"
+
+namespace verlume {
+
+namespace texts = macro_saving_texts;
+
+void MacroSaving::SaveCommandPaneAsMacro() {
+  errors_.Guard(Procedure::SaveCommandPaneAsMacro, [this] {
+    if (!store_.EnsureMacrosFolder(texts::kNoFolder, texts::kTitle)) return;
+    if (platform_.frmMain.rtbCommands.TextLength() == 0) {
+      OfferTheEditor();
+    } else {
+      SaveUnderAName();
+    }
+  });
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
+void MacroSaving::SaveUnderAName() {
+  const std::u16string name = AskName();
+  if (name.empty()) return;
+  RichTextBox& pane = platform_.frmMain.rtbCommands;
+  pane.SaveFile(store_.MacroPath(name), TextFileFormat::RichText);
+  pane.SetText(u"");
+}
+
+void MacroSaving::OfferTheEditor() {
+  Message question = Question(texts::kNothingTyped.In(state_.IsGreek),
+                              texts::kTitle.In(state_.IsGreek), Answer::Yes);
+  question.icon = MessageIcon::Information;
+  if (platform_.dialogs.ShowMessage(question) != Answer::No) {
+    platform_.frmMain.mnuToolsEditMacros.Click();
+  }
+}
+
+// "" when the user gives up.
+std::u16string MacroSaving::AskName() {
+  const bool isGreek = state_.IsGreek;
+  std::u16string name;
+  while (!platform_.application.HasEnded()) {
+    name = platform_.dialogs.AskText(texts::kNamePrompt.In(isGreek), texts::kNameTitle.In(isGreek),
+                                     name);
+    if (name.empty()) {
+      if (GivesUpSaving()) return {};
+    } else if (!IsValidMacroName(name)) {
+      platform_.dialogs.ShowMessage(
+          Refusal(texts::kWrongName.In(isGreek), texts::kNameTitle.In(isGreek)));
+    } else if (!store_.MacroExists(name) || WantsToReplace(name)) {
+      return name;
+    }
+  }
+  return {};
+}
+
+bool MacroSaving::GivesUpSaving() {
+  const Message question =
+      Question(texts::kNoName.In(state_.IsGreek), texts::kTitle.In(state_.IsGreek), Answer::Yes);
+  return platform_.dialogs.ShowMessage(question) == Answer::Yes;
+}
+
+bool MacroSaving::WantsToReplace(std::u16string_view name) {
+  Message question = Question(texts::kReplace.Fill(state_.IsGreek, {name}),
+                              texts::kNameTitle.In(state_.IsGreek), Answer::No);
+  question.icon = MessageIcon::Stop;
+  return platform_.dialogs.ShowMessage(question) == Answer::Yes;
+}
+
+}  // namespace verlume
