@@ -1,22 +1,10 @@
 #include "commands/text_format.h"
 
+#include "shell/raised.h"
 #include "shell/settings_reader.h"
 
 namespace verlume {
 namespace {
-
-// Raises a flag for as long as it lives.
-class Raised {
- public:
-  explicit Raised(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
-  ~Raised() { flag_ = before_; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-
- private:
-  bool& flag_;
-  const bool before_;
-};
 
 SelectionFormat FormatOf(const AppState& state) {
   return {.fontName = state.FontName,

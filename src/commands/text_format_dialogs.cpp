@@ -7,23 +7,11 @@
 #include "commands/text_format.h"
 #include "connection/command_parts.h"
 #include "shell/conversions.h"
+#include "shell/font_size_texts.h"
 #include "shell/settings_reader.h"
-#include "shell/text_pair.h"
 
 namespace verlume {
 namespace {
-
-constexpr TextPair kSizeTitle = {u"Font size definition", u"Ορισμός μεγέθους γραμματοσειράς"};
-constexpr TextPair kSizePrompt = {
-    u"Type the font size."
-    u"\r\n\r\n"
-    u"You may type a number between 8 and 11 inclusive.",
-    u"Πληκτρολογήστε το μέγεθος που θέλετε να έχει η γραμματοσειρά."
-    u"\r\n\r\n"
-    u"Μπορείτε να πληκτρολογήσετε έναν αριθμό από το 8 μέχρι και το 11."};
-constexpr TextPair kSizeRange = {
-    u"The font size must be between 8 and 11 inclusive.",
-    u"Το μέγεθος της γραμματοσειράς πρέπει να είναι μεταξύ του 8 και του 11."};
 
 // The size that the text names: digits with at most one decimal mark, "." or ",", blanks around
 // them. None where it is no such number, or no size that is allowed.
@@ -48,9 +36,9 @@ void TextFormat::SetFontSize() {
     const std::vector<std::u16string> parts = CommandParts(state_.CommandLine, 2);
     std::u16string answer = parts.size() > 1 ? parts[1] : u"";
     if (answer.empty()) {
-      answer =
-          platform_.dialogs.AskText(kSizePrompt.In(state_.IsGreek), kSizeTitle.In(state_.IsGreek),
-                                    NumberText(state_.FontSize));
+      answer = platform_.dialogs.AskText(font_size_texts::kPrompt.In(state_.IsGreek),
+                                         font_size_texts::kTitle.In(state_.IsGreek),
+                                         NumberText(state_.FontSize));
     }
     if (answer.empty()) return;
     if (const std::optional<double> size = FontSizeOf(answer)) {
@@ -58,8 +46,8 @@ void TextFormat::SetFontSize() {
       ApplyCommandStyle();
       dialogue_.WriteDialogueLine(u"", CommandPane::Clear);
     } else {
-      platform_.dialogs.ShowMessage(
-          Note(kSizeRange.In(state_.IsGreek), kSizeTitle.In(state_.IsGreek)));
+      platform_.dialogs.ShowMessage(Note(font_size_texts::kRange.In(state_.IsGreek),
+                                         font_size_texts::kTitle.In(state_.IsGreek)));
     }
   });
   platform_.frmMain.rtbCommands.SetFocus();

@@ -96,6 +96,30 @@ class TextField : public Control {
   std::function<void()> onChange;
 };
 
+// A list of texts, of which the user selects one at a time. Items are counted from 0.
+class ListBox : public Control {
+ public:
+  virtual void Clear() = 0;
+  // Behind the last item. What is selected stays so.
+  virtual void Append(std::u16string_view text) = 0;
+  // When the item was the selected one, none is afterwards. Both do nothing where there is no such
+  // item; Item is "" there.
+  virtual void Remove(int index) = 0;
+  virtual int Count() const = 0;
+  virtual std::u16string Item(int index) const = 0;
+  // -1 is none, also to Select; an item that is not there is none.
+  virtual void Select(int index) = 0;
+  virtual int SelectedIndex() const = 0;
+  // Makes the item the uppermost one in view, or as near to it as the list is long.
+  virtual void ScrollToTop(int index) = 0;
+  // The spare text property: kept, never shown.
+  virtual void SetTag(std::u16string_view text) = 0;
+  virtual std::u16string Tag() const = 0;
+
+  // The user has selected an item, by the mouse or a key, or clicked the one that was selected.
+  std::function<void()> onClick;
+};
+
 // A part of a window that is there only while it is asked for. The window makes room for it.
 class Panel {
  public:

@@ -4,6 +4,7 @@
 #include "platform/about_window.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/macro_window.h"
 #include "platform/main_window.h"
 #include "platform/socket.h"
 #include "platform/system.h"
@@ -13,6 +14,7 @@ namespace verlume {
 struct Platform {
   MainWindow& frmMain;
   AboutWindow& frmAbout;
+  MacroWindow& frmMacros;
   Socket& sckControl;
   Dialogs& dialogs;
   CommonDialog& dlgControl;

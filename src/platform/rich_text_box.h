@@ -29,9 +29,9 @@ struct SelectionFormat {
 
 enum class TextFileFormat { RichText, PlainText };
 
-// Key codes of onKeyDown: only these keys raise it with a code of their own, others raise it with
-// 0.
+// Key codes of onKeyDown. A key that is not among them has kOther.
 namespace key_code {
+inline constexpr int kOther = -1;
 inline constexpr int kTab = 9;
 inline constexpr int kEscape = 27;
 inline constexpr int kPageUp = 33;
@@ -82,10 +82,10 @@ class RichTextBox : public Control {
   virtual Color BackColor() const = 0;
 
   // A key that types a character, before the box sees it: Enter is 13, Ctrl+Enter 10, Ctrl+A to
-  // Ctrl+Z 1 to 26. The handler sets the code to 0 to swallow it.
+  // Ctrl+Z 1 to 26, Tab 9. Shift+Tab types none. The handler sets the code to 0 to swallow it.
   std::function<void(int& charCode)> onKeyPress;
   // Any key going down, before onKeyPress. `shift` is 0 without modifiers (Shift 1, Ctrl 2, Alt 4).
-  // The handler sets the code to 0 to swallow a key that has a code.
+  // The handler sets the code to 0 to swallow the key.
   std::function<void(int& keyCode, int shift)> onKeyDown;
   // The selection, or the format at the insertion point, may have changed: by the user or by a
   // program's Select, SetText, SetRtf, LoadFile. Never by SetSelFormat.

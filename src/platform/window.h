@@ -22,7 +22,8 @@ class Window {
   // Shows the window and keeps the user from every other window of the program until it has been
   // unloaded, then returns; timer and socket events are let through meanwhile. It may be shown so
   // again and again, each time of the size that its controls want and in the middle of the window
-  // that it belongs to. Returns at once when the program ends, and while the window is shown.
+  // that it belongs to, or of the screen where that is its place. Returns at once when the program
+  // ends, and while the window is shown.
   virtual void ShowModal() = 0;
   // Closes the window: raises onQueryUnload with UnloadMode::Code and, unless that cancels,
   // onUnload. Does nothing once the window has been unloaded.

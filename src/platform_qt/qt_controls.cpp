@@ -82,7 +82,7 @@ QtButton::QtButton(QPushButton* widget) : QtControl(widget) {
 
 void QtButton::SetCaption(std::u16string_view text) {
   caption_ = text;
-  widget_->setText(WithMnemonic(ToQt(text), -1));
+  SetCaptionWithMnemonic(widget_, ToQt(text));
 }
 
 QtMenuEntry::QtMenuEntry(QAction* action) : action_(action) {

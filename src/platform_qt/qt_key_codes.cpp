@@ -1,9 +1,16 @@
 #include "platform_qt/qt_key_codes.h"
 
+#include <string_view>
+
 #include "platform/rich_text_box.h"
 
 namespace verlume::qt {
 namespace {
+
+using namespace std::string_view_literals;
+
+// What a Greek keyboard has on the keys A to Z; 0 where that is no letter of its own.
+constexpr std::u16string_view kGreekKeys = u"ΑΒΨΔΕΦΓΗΙΞΚΛΜΝΟΠ\0ΡΣΤΘΩ\0ΧΥΖ"sv;
 
 constexpr int kLineFeed = 10;
 constexpr int kReturn = 13;
@@ -27,7 +34,7 @@ int KeyCodeOf(const QKeyEvent& event) {
     case Qt::Key_PageDown:
       return key_code::kPageDown;
     default:
-      return 0;
+      return key_code::kOther;
   }
 }
 
@@ -38,14 +45,22 @@ int ShiftOf(const QKeyEvent& event) {
 }
 
 int CharCodeOf(const QKeyEvent& event) {
-  const int key = event.key();
+  if (event.key() == Qt::Key_Backtab) return 0;
   if (IsEnter(event)) return HoldsControlAlone(event) ? kLineFeed : kReturn;
   if (HoldsControlAlone(event)) {
+    const int key = LatinKeyOf(event);
     return key >= Qt::Key_A && key <= Qt::Key_Z ? key - Qt::Key_A + 1 : 0;
   }
   const QString text = event.text();
   if (text.isEmpty() || text.front() == QChar(kDelete)) return 0;
   return text.front().unicode();
+}
+
+Qt::Key LatinKeyOf(const QKeyEvent& event) {
+  const int key = event.key();
+  if (key <= 0xFF || key > 0xFFFF) return Qt::Key(key);
+  const std::size_t place = kGreekKeys.find(static_cast<char16_t>(key));
+  return place == kGreekKeys.npos ? Qt::Key(key) : Qt::Key(Qt::Key_A + int(place));
 }
 
 bool IsEnter(const QKeyEvent& event) {

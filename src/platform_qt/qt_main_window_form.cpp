@@ -6,9 +6,9 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <string_view>
 
 #include "platform_qt/qt_find_bar.h"
+#include "platform_qt/qt_key_codes.h"
 
 // Outside of any namespace, as Qt asks: the resources of a static library are not found otherwise.
 static void InitResources() {
@@ -17,8 +17,6 @@ static void InitResources() {
 
 namespace verlume::qt {
 namespace {
-
-using namespace std::string_view_literals;
 
 constexpr QSize kUsualSize(900, 640);
 
@@ -30,9 +28,6 @@ QIcon ProgramIcon() {
   }
   return icon;
 }
-
-// What a Greek keyboard has on the keys A to Z; 0 where that is no letter of its own.
-constexpr std::u16string_view kGreekKeys = u"ΑΒΨΔΕΦΓΗΙΞΚΛΜΝΟΠ\0ΡΣΤΘΩ\0ΧΥΖ"sv;
 
 QFrame* NewFrame(QWidget* parent) {
   auto* frame = new QFrame(parent);
@@ -135,9 +130,8 @@ void MainForm::RelateCaptions() {
 // Greek one. Where it has none, no shortcut takes the key, and it gets here. A second shortcut for
 // the Greek letter would not do: where there are both layouts Qt takes the two for ambiguous.
 void MainForm::keyPressEvent(QKeyEvent* event) {
-  const auto place = kGreekKeys.find(static_cast<char16_t>(event->key()));
-  if (place != kGreekKeys.npos && event->key() > 0xFF && event->key() <= 0xFFFF) {
-    const QKeyCombination latin(event->modifiers(), Qt::Key(Qt::Key_A + int(place)));
+  if (const Qt::Key key = LatinKeyOf(*event); key != event->key()) {
+    const QKeyCombination latin(event->modifiers(), key);
     for (QAction* entry : findChildren<QAction*>()) {
       if (entry->shortcut() == QKeySequence(latin)) return entry->trigger();
     }

@@ -1,7 +1,9 @@
 #include "platform_qt/qt_mnemonics.h"
 
+#include <QCheckBox>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <algorithm>
 
 namespace verlume::qt {
@@ -119,15 +121,22 @@ QString SetTexts(const QList<Element*>& elements, const QString& taken) {
 }
 
 // What Alt and a letter reach in a window: the menus of its bar, and what they leave to check
-// boxes.
+// boxes. Where there is no bar the buttons have letters too, before the check boxes.
 void SetTextsOfWindow(QWidget* window) {
-  QList<QAction*> menus;
+  QList<QAbstractButton*> elements;
+  const auto add = [&](const auto& found) {
+    for (auto* one : found) {
+      if (one->window() == window && one->property(kCaption).isValid()) elements.append(one);
+    }
+  };
+  QString taken;
   if (const auto* bar = window->findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly)) {
-    menus = bar->actions();
+    taken = SetTexts(bar->actions(), taken);
+  } else {
+    add(window->findChildren<QPushButton*>());
   }
-  QList<QCheckBox*> boxes = window->findChildren<QCheckBox*>();
-  boxes.removeIf([window](const QCheckBox* box) { return box->window() != window; });
-  SetTexts(boxes, SetTexts(menus, QString()));
+  add(window->findChildren<QCheckBox*>());
+  SetTexts(elements, taken);
 }
 
 }  // namespace
@@ -159,9 +168,10 @@ void SetCaptionWithMnemonic(QAction* action, const QString& caption) {
   action->setText(WithMnemonic(caption, -1));
 }
 
-void SetCaptionWithMnemonic(QCheckBox* box, const QString& caption) {
-  box->setProperty(kCaption, caption);
-  SetTextsOfWindow(box->window());
+void SetCaptionWithMnemonic(QAbstractButton* button, const QString& caption) {
+  button->setProperty(kCaption, caption);
+  button->setText(WithMnemonic(caption, -1));
+  SetTextsOfWindow(button->window());
 }
 
 }  // namespace verlume::qt

@@ -1,9 +1,9 @@
-// The underlined letters of menus and check boxes. They are chosen from the captions of the
-// language in force, each letter once where it has to lead to one thing.
+// The underlined letters of menus, check boxes and buttons. They are chosen from the captions of
+// the language in force, each letter once where it has to lead to one thing.
 #pragma once
 
+#include <QAbstractButton>
 #include <QAction>
-#include <QCheckBox>
 #include <QStringList>
 #include <vector>
 
@@ -19,8 +19,9 @@ std::vector<qsizetype> ChooseMnemonics(const QStringList& captions, const QStrin
 QString WithMnemonic(const QString& caption, qsizetype place);
 
 // Gives an entry of a menu, or a menu of the menu bar, its caption; every entry beside it gets its
-// letter anew. A menu bar's letters are not left to the check boxes of its window.
+// letter anew. A menu bar's letters are not left to the check boxes of its window, and its window's
+// push buttons have none: they come and go.
 void SetCaptionWithMnemonic(QAction* action, const QString& caption);
-void SetCaptionWithMnemonic(QCheckBox* box, const QString& caption);
+void SetCaptionWithMnemonic(QAbstractButton* button, const QString& caption);
 
 }  // namespace verlume::qt

@@ -9,6 +9,7 @@
 #include "platform_qt/qt_dialogs.h"
 #include "platform_qt/qt_file_system.h"
 #include "platform_qt/qt_help_viewer.h"
+#include "platform_qt/qt_macro_window.h"
 #include "platform_qt/qt_main_window.h"
 #include "platform_qt/qt_socket.h"
 #include "platform_qt/qt_system.h"
@@ -39,14 +40,16 @@ class QtPlatform {
   QtMainWindow window_{files_};
   QtHelpViewer help_{&window_.form()};
   QtAboutWindow about_{&window_.form()};
+  QtMacroWindow macros_{&window_.form(), files_};
   QtWindowMemory windowMemory_{
       &window_.form(), QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};
   QtSocket socket_;
   QtDialogs dialogs_{&window_.form()};
   QtCommonDialog commonDialog_{&window_.form()};
 
-  Platform view_ = {window_.View(), about_.View(), socket_,      dialogs_, commonDialog_, files_,
-                    clock_,         locale_,       application_, help_,    tools_};
+  Platform view_ = {window_.View(), about_.View(), macros_.View(), socket_,
+                    dialogs_,       commonDialog_, files_,         clock_,
+                    locale_,        application_,  help_,          tools_};
 };
 
 }  // namespace verlume::qt

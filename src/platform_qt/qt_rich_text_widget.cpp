@@ -63,7 +63,7 @@ bool RichTextWidget::Swallowed(int keyCode, int shift, int charCode) {
   const QPointer<RichTextWidget> self(this);
   int code = keyCode;
   if (events_ && events_->onKeyDown) events_->onKeyDown(code, shift);
-  if (!self || (keyCode != 0 && code == 0)) return true;
+  if (!self || code == 0) return true;
   if (charCode == 0) return false;
   if (events_ && events_->onKeyPress) events_->onKeyPress(charCode);
   return !self || charCode == 0;
@@ -109,7 +109,7 @@ void RichTextWidget::TypeText(const QString& text) {
 void RichTextWidget::inputMethodEvent(QInputMethodEvent* event) {
   const UserChange change(*this);
   QString commit = SafeText(FromQt(event->commitString()), lines_);
-  if (!commit.isEmpty() && Swallowed(0, 0, commit.front().unicode())) commit.clear();
+  if (!commit.isEmpty() && Swallowed(key_code::kOther, 0, commit.front().unicode())) commit.clear();
   QInputMethodEvent safe(event->preeditString(), event->attributes());
   safe.setCommitString(commit, event->replacementStart(), event->replacementLength());
   QPlainTextEdit::inputMethodEvent(&safe);

@@ -67,8 +67,8 @@ struct AppState {
 
   // Macros.
   std::u16string MacrosFolder;
-  std::u16string MacroToRun;  // rich text that the macro editor hands over
-  std::int16_t MacroIndex = -1;
+  std::u16string MacroToRun;     // rich text that the macro editor hands over
+  std::int32_t MacroIndex = -1;  // of the macro shown or edited in the macro editor, -1 for none
 
   // The local text style.
   std::u16string FontName;

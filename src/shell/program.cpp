@@ -34,6 +34,8 @@ Program::Program(Platform& platform)
       find_(state_, platform, errors_),
       interpreter_(state_, platform, errors_,
                    {dialogue_, history_, textFormat_, connection_, wire_}),
+      macroStyle_(state_, platform, errors_),
+      macroEditor_(state_, platform, errors_, macroStore_, macroStyle_),
       macroSaving_(state_, platform, errors_, macroStore_),
       startUp_(state_, platform, errors_, settings_, language_,
                {[this] { ResetConnection(state_, platform_); }, BuildProtocolMarker,
@@ -89,6 +91,32 @@ void Program::BindMacros() {
   const MainWindow& frmMain = platform_.frmMain;
   On(frmMain.mnuFileMacrosFolder.onClick, macroStore_, &MacroStore::ChooseMacrosFolder);
   On(frmMain.mnuToolsSaveMacro.onClick, macroSaving_, &MacroSaving::SaveCommandPaneAsMacro);
+  On(frmMain.mnuToolsEditMacros.onClick, macroEditor_, &MacroEditor::OpenMacroEditor);
+
+  const MacroWindow& frmMacros = platform_.frmMacros;
+  On(frmMacros.window.onQueryUnload, macroEditor_, &MacroEditor::Form_QueryUnload);
+  On(frmMacros.lstMacroNames.onClick, macroEditor_, &MacroEditor::lstMacroNames_Click);
+  On(frmMacros.rtbMacroText.onGotFocus, macroEditor_, &MacroEditor::rtbMacroText_GotFocus);
+  On(frmMacros.rtbMacroText.onKeyDown, macroEditor_, &MacroEditor::rtbMacroText_KeyDown);
+  On(frmMacros.rtbMacroText.onKeyPress, macroStyle_, &MacroStyle::rtbMacroText_KeyPress);
+  On(frmMacros.rtbMacroText.onSelChange, macroStyle_, &MacroStyle::rtbMacroText_SelChange);
+  On(frmMacros.cmdAdd.onClick, macroEditor_, &MacroEditor::cmdAdd_Click);
+  On(frmMacros.cmdEdit.onClick, macroEditor_, &MacroEditor::cmdEdit_Click);
+  On(frmMacros.cmdSave.onClick, macroEditor_, &MacroEditor::cmdSave_Click);
+  On(frmMacros.cmdSaveAs.onClick, macroEditor_, &MacroEditor::cmdSaveAs_Click);
+  On(frmMacros.cmdCancel.onClick, macroEditor_, &MacroEditor::cmdCancel_Click);
+  On(frmMacros.cmdDelete.onClick, macroEditor_, &MacroEditor::cmdDelete_Click);
+  On(frmMacros.cmdRun.onClick, macroEditor_, &MacroEditor::cmdRun_Click);
+  On(frmMacros.cmdClose.onClick, macroEditor_, &MacroEditor::cmdClose_Click);
+  On(frmMacros.chkBold.onClick, macroStyle_, &MacroStyle::chkBold_Click);
+  On(frmMacros.chkItalics.onClick, macroStyle_, &MacroStyle::chkItalics_Click);
+  On(frmMacros.chkUnderlined.onClick, macroStyle_, &MacroStyle::chkUnderlined_Click);
+  On(frmMacros.lblColour.onMouseDown, macroStyle_, &MacroStyle::lblColour_MouseDown);
+  BindContextHelp({&frmMacros.chkBold, &frmMacros.chkItalics, &frmMacros.chkUnderlined,
+                   &frmMacros.lblColour, &frmMacros.lstMacroNames, &frmMacros.cmdAdd,
+                   &frmMacros.cmdEdit, &frmMacros.cmdSave, &frmMacros.cmdSaveAs,
+                   &frmMacros.cmdCancel, &frmMacros.cmdDelete, &frmMacros.cmdRun,
+                   &frmMacros.cmdClose});
 }
 
 void Program::BindMenus() {

@@ -11,8 +11,10 @@
 #include "connection/connection_state.h"
 #include "connection/socket_events.h"
 #include "connection/wire_protocol.h"
+#include "macros/macro_editor.h"
 #include "macros/macro_saving.h"
 #include "macros/macro_store.h"
+#include "macros/macro_style.h"
 #include "platform/platform.h"
 #include "records/dialogue_files.h"
 #include "records/dialogue_log.h"
@@ -72,6 +74,8 @@ class Program {
   TextFormat textFormat_;
   FindInDialogue find_;
   CommandInterpreter interpreter_;
+  MacroStyle macroStyle_;
+  MacroEditor macroEditor_;
   MacroSaving macroSaving_;
   StartUp startUp_;
   ShutDown shutDown_;

@@ -183,14 +183,24 @@ TYPED_TEST_P(RichTextBoxText, TheTagAndTheGroundAreKept) {
 TYPED_TEST_P(RichTextBoxText, KeysPassTheHandlersBeforeTheBox) {
   RichTextBox& box = *this->single;
   std::vector<int> seen;
-  box.onKeyDown = [&](int& code, int shift) { seen.insert(seen.end(), {-code, shift}); };
+  box.onKeyDown = [&](int& code, int shift) { seen.insert(seen.end(), {code, shift}); };
   box.onKeyPress = [&](int& code) {
     seen.push_back(code);
     if (code == 13 || code == u'y') code = 0;
   };
   this->platform.Type(box, u"xyz\r");
   EXPECT_EQ(box.Text(), u"xz");
-  EXPECT_EQ(seen, (std::vector<int>{0, 0, u'x', 0, 0, u'y', 0, 0, u'z', 0, 0, 13}));
+  EXPECT_EQ(seen, (std::vector<int>{-1, 0, u'x', -1, 0, u'y', -1, 0, u'z', -1, 0, 13}));
+}
+
+TYPED_TEST_P(RichTextBoxText, AKeySwallowedOnItsWayDownTypesNothing) {
+  RichTextBox& box = *this->single;
+  int pressed = 0;
+  box.onKeyDown = [](int& code, int) { code = 0; };
+  box.onKeyPress = [&](int&) { ++pressed; };
+  this->platform.Type(box, u"x\r");
+  EXPECT_EQ(box.Text(), u"");
+  EXPECT_EQ(pressed, 0);
 }
 
 TYPED_TEST_P(RichTextBoxText, TheProgramsChangesOfTheSelectionAreTold) {
@@ -220,7 +230,7 @@ REGISTER_TYPED_TEST_SUITE_P(RichTextBoxText, ABoxBeginsEmpty, LineBreaksAreOneUn
                             WhatIsNoRtfIsPlainText, RichTextSurvivesSettingItAgain,
                             FilesAreLoadedInBothFormats, FilesAreSavedInBothFormats,
                             AFailureLeavesTheBoxAndTheFile, TheTagAndTheGroundAreKept,
-                            KeysPassTheHandlersBeforeTheBox,
+                            KeysPassTheHandlersBeforeTheBox, AKeySwallowedOnItsWayDownTypesNothing,
                             TheProgramsChangesOfTheSelectionAreTold);
 
 }  // namespace verlume

@@ -4,6 +4,8 @@
 
 #include <optional>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "platform/control.h"
 #include "platform/run_time_failure.h"
@@ -101,6 +103,44 @@ class FakeTextField : public FakeControl<TextField> {
 
   std::u16string text;
   int timesSelected = 0;
+};
+
+class FakeListBox : public FakeControl<ListBox> {
+ public:
+  void Clear() override {
+    items.clear();
+    selected = -1;
+  }
+  void Append(std::u16string_view text) override { items.emplace_back(text); }
+  void Remove(int index) override {
+    if (!Has(index)) return;
+    items.erase(items.begin() + index);
+    if (index == selected) selected = -1;
+    if (index < selected) --selected;
+  }
+  int Count() const override { return static_cast<int>(items.size()); }
+  std::u16string Item(int index) const override {
+    return Has(index) ? items[static_cast<std::size_t>(index)] : std::u16string();
+  }
+  void Select(int index) override { selected = Has(index) ? index : -1; }
+  int SelectedIndex() const override { return selected; }
+  void ScrollToTop(int index) override { top = index; }
+  void SetTag(std::u16string_view text) override { tag = text; }
+  std::u16string Tag() const override { return tag; }
+
+  // As the user does it.
+  void Choose(int index) {
+    selected = index;
+    if (onClick) onClick();
+  }
+
+  std::vector<std::u16string> items;
+  int selected = -1;
+  int top = -1;
+  std::u16string tag;
+
+ private:
+  bool Has(int index) const { return index >= 0 && index < Count(); }
 };
 
 class FakePanel : public Panel {

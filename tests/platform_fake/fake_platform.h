@@ -5,6 +5,7 @@
 #include "platform_fake/fake_about_window.h"
 #include "platform_fake/fake_dialogs.h"
 #include "platform_fake/fake_file_system.h"
+#include "platform_fake/fake_macro_window.h"
 #include "platform_fake/fake_main_window.h"
 #include "platform_fake/fake_socket.h"
 #include "platform_fake/fake_system.h"
@@ -20,6 +21,7 @@ struct FakePlatform {
   FakeFileSystem files;
   FakeMainWindow window;
   FakeAboutWindow about;
+  FakeMacroWindow macros{files};
   FakeSocket socket;
   FakeDialogs dialogs;
   FakeCommonDialog commonDialog;
@@ -29,8 +31,9 @@ struct FakePlatform {
   FakeHelpViewer help;
   FakeSystemTools tools;
 
-  Platform platform = {window.frmMain, about.frmAbout, socket,      dialogs, commonDialog, files,
-                       clock,          locale,         application, help,    tools};
+  Platform platform = {
+      window.frmMain, about.frmAbout, macros.frmMacros, socket,      dialogs, commonDialog,
+      files,          clock,          locale,           application, help,    tools};
 };
 
 }  // namespace verlume::fake

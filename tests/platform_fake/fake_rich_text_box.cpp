@@ -104,6 +104,7 @@ SelectionFormat FakeRichTextBox::SelFormat() const {
 }
 
 void FakeRichTextBox::SetSelFormat(const SelectionFormat& format) {
+  if (formatFails) throw RunTimeFailure(*formatFails);
   const auto apply = [&format](Look& look) {
     look.fontName = format.fontName.value_or(look.fontName);
     look.fontSize = format.fontSize.value_or(look.fontSize);
@@ -177,7 +178,7 @@ void FakeRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) 
 
 void FakeRichTextBox::Type(std::u16string_view keys) {
   for (const char16_t key : keys) {
-    if (!PressKey(0)) continue;
+    if (!PressKey(key_code::kOther)) continue;
     int charCode = key;
     if (onKeyPress) onKeyPress(charCode);
     if (charCode == 0 || locked) continue;
@@ -190,7 +191,7 @@ void FakeRichTextBox::Type(std::u16string_view keys) {
 bool FakeRichTextBox::PressKey(int keyCode, int shift) {
   int code = keyCode;
   if (onKeyDown) onKeyDown(code, shift);
-  return code != 0 || keyCode == 0;
+  return code != 0;
 }
 
 }  // namespace verlume::fake

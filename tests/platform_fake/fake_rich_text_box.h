@@ -47,7 +47,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   bool locked = false;
   std::u16string tag;
   Color backColor = 0xFFFFFF;
-  bool formatIsMixed = false;  // SelFormat reads as undetermined
+  bool formatIsMixed = false;                // SelFormat reads as undetermined
+  std::optional<FailureNumber> formatFails;  // SetSelFormat fails with this
 
  private:
   struct Look {

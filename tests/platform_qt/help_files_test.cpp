@@ -9,6 +9,7 @@
 
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/qt_help_window.h"
+#include "platform_qt/qt_macro_window.h"
 #include "platform_qt/qt_main_window.h"
 
 namespace verlume::qt {
@@ -121,6 +122,14 @@ TEST_F(HelpFilesTest, ExplainEveryControlAndMenuEntryOfTheMainWindow) {
   EXPECT_GT(NamesToExplain(frmMain.form()).size(), 60);
   EXPECT_EQ(NotExplained(english, frmMain.form()), "");
   EXPECT_EQ(NotExplained(greek, frmMain.form()), "");
+}
+
+TEST_F(HelpFilesTest, ExplainEveryControlOfTheMacroEditor) {
+  fake::FakeFileSystem files;
+  QtMacroWindow frmMacros(nullptr, files);
+  EXPECT_EQ(NamesToExplain(frmMacros.form()).size(), 14);
+  EXPECT_EQ(NotExplained(english, frmMacros.form()), "");
+  EXPECT_EQ(NotExplained(greek, frmMacros.form()), "");
 }
 
 TEST_F(HelpFilesTest, ExplainEveryControlOfTheHelpWindow) {

@@ -193,10 +193,15 @@ TEST_F(QtControlsTest, ButtonOfADisabledWindowIsEnabledAllTheSame) {
   EXPECT_FALSE(button.Enabled());
 }
 
-TEST_F(QtControlsTest, ButtonCaptionHasNoMnemonic) {
+TEST_F(QtControlsTest, ButtonHasALetterWhereNoMenuBarHas) {
   QtButton button(new QPushButton(&form));
   button.SetCaption(u"R&D");
-  EXPECT_EQ(button.widget()->text(), "R&&D");
+  EXPECT_EQ(button.widget()->text(), "&R&&D");
+  QMainWindow window;
+  window.menuBar()->addMenu("File");
+  QtButton other(new QPushButton(&window));
+  other.SetCaption(u"R&D");
+  EXPECT_EQ(other.widget()->text(), "R&&D");
 }
 
 TEST_F(QtControlsTest, CheckBoxShowsTheAmpersandOfItsCaption) {

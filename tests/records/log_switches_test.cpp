@@ -105,10 +105,10 @@ TEST_F(LogFolderTest, ConversationThatBeginsUnderTheDialogKeepsItsFolder) {
     std::function<void()> whileOpen;
   } dialog;
   dialog.whileOpen = [this] { state.LogOpen = true; };
-  Platform platform = {
-      fake.window.frmMain, fake.about.frmAbout, fake.socket, fake.dialogs,     dialog,
-      fake.files,          fake.clock,          fake.locale, fake.application, fake.help,
-      fake.tools};
+  Platform platform = {fake.window.frmMain, fake.about.frmAbout, fake.macros.frmMacros,
+                       fake.socket,         fake.dialogs,        dialog,
+                       fake.files,          fake.clock,          fake.locale,
+                       fake.application,    fake.help,           fake.tools};
   DialogueLog logUnderDialog{state, platform, errors, settings};
   state.LogFolder = u"/old/";
   state.LogDialogue = true;

@@ -343,5 +343,115 @@ TEST_F(ProgramTest, FindBarIsBoundToTheDialogue) {
   EXPECT_FALSE(window.fraFind.visible);
 }
 
+TEST_F(ProgramTest, MacroWrittenInTheEditorIsRunFromIt) {
+  Connect();
+  fake::FakeMacroWindow& editor = ann.platform.macros;
+  editor.window.whileModal = [&] {
+    ann.platform.dialogs.typed = {u"greet"};
+    editor.cmdAdd.Click();
+    editor.rtbMacroText.Type(u"Good \x02morning\r, $r");
+    editor.cmdSave.Click();
+    editor.cmdRun.Click();
+  };
+  ann.Enter(u"/editmacros");
+  network.RunUntilIdle();
+  EXPECT_EQ(ann.Dialogue(), u"<Άννα>Good morning, Bob");
+  EXPECT_EQ(bob.Dialogue(), ann.Dialogue());
+  EXPECT_TRUE(ann.platform.files.files.contains(u"/macros/greet.rtf"));
+  EXPECT_EQ(ann.platform.window.rtbCommands.Text(), u"");
+
+  ann.Enter(u"/greet");
+  EXPECT_EQ(ann.Dialogue(), u"<Άννα>Good morning, Bob\n<Άννα>Good morning, Bob");
+}
+
+TEST_F(ProgramTest, MacroThatHoldsACommandIsCarriedOut) {
+  ann.platform.files.files[u"/macros/name.rtf"] = "/NICK Zoe";
+  fake::FakeMacroWindow& editor = ann.platform.macros;
+  editor.window.whileModal = [&] {
+    editor.lstMacroNames.Choose(0);
+    editor.cmdRun.Click();
+  };
+  ann.platform.window.mnuToolsEditMacros.Click();
+  EXPECT_EQ(ann.program.State().Nickname, u"Zoe");
+}
+
+TEST_F(ProgramTest, CommandPaneIsSavedAsAMacro) {
+  ann.platform.window.rtbCommands.Type(u"Good morning, $r");
+  ann.platform.dialogs.typed = {u"greet"};
+  ann.platform.window.mnuToolsSaveMacro.Click();
+  EXPECT_EQ(ann.platform.window.rtbCommands.Text(), u"");
+  ann.Enter(u"/greet");
+  EXPECT_EQ(ann.Dialogue(), u"<Άννα>Good morning, $r");
+}
+
+TEST_F(ProgramTest, NothingToSaveLeadsToTheEditor) {
+  ann.platform.dialogs.answers = {Answer::Yes};
+  ann.platform.macros.window.whileModal = [&] { ann.platform.macros.cmdClose.Click(); };
+  ann.platform.window.mnuToolsSaveMacro.Click();
+  EXPECT_EQ(ann.platform.macros.window.timesShownModal, 1);
+}
+
+TEST_F(ProgramTest, CloseBoxOfTheMacroEditorIsRefused) {
+  fake::FakeMacroWindow& editor = ann.platform.macros;
+  editor.window.whileModal = [&] {
+    editor.window.Close(UnloadMode::User);
+    EXPECT_FALSE(editor.window.unloaded);
+    editor.cmdClose.Click();
+  };
+  ann.platform.window.mnuToolsEditMacros.Click();
+  EXPECT_EQ(ann.platform.dialogs.messages.back().title, u"Close macros editing form");
+}
+
+TEST_F(ProgramTest, EverythingOfTheMacroEditorIsBound) {
+  fake::FakeMacroWindow& editor = ann.platform.macros;
+  editor.window.whileModal = [&] {
+    EXPECT_EQ(editor.chkBold.value, 0);
+    ann.platform.files.files[u"/macros/x.rtf"] = "";
+    editor.chkBold.SetValue(1);
+    editor.chkItalics.SetValue(1);
+    editor.chkUnderlined.SetValue(1);
+    EXPECT_TRUE(ann.program.State().MacroBold && ann.program.State().MacroItalic &&
+                ann.program.State().MacroUnderline);
+    ann.platform.commonDialog.colors = {Color(255)};
+    editor.lblColour.onMouseDown(MouseButton::Left);
+    EXPECT_EQ(ann.program.State().MacroColor, 255);
+    editor.rtbMacroText.onGotFocus();
+    EXPECT_FALSE(editor.rtbMacroText.PressKey(key_code::kOther));
+    EXPECT_EQ(editor.lstMacroNames.timesFocused, 3);
+
+    ann.platform.dialogs.typed = {u"one", u"two"};
+    editor.cmdAdd.Click();
+    editor.rtbMacroText.Type(u"x");
+    editor.cmdSave.Click();
+    editor.cmdEdit.Click();
+    editor.cmdSaveAs.Click();
+    EXPECT_TRUE(ann.platform.files.files.contains(u"/macros/two.rtf"));
+    editor.cmdEdit.Click();
+    ann.platform.dialogs.answers = {Answer::Yes, Answer::Yes};
+    editor.cmdCancel.Click();
+    editor.cmdDelete.Click();
+    EXPECT_FALSE(ann.platform.files.files.contains(u"/macros/two.rtf"));
+    editor.cmdClose.Click();
+  };
+  ann.platform.window.mnuToolsEditMacros.Click();
+  EXPECT_THAT(ann.platform.dialogs.typed, testing::IsEmpty());
+}
+
+TEST_F(ProgramTest, RightClicksInTheMacroEditorShowHelp) {
+  fake::FakeMacroWindow& editor = ann.platform.macros;
+  const auto helps = [](auto& control) {
+    control.onMouseUp(MouseButton::Left);
+    control.onMouseUp(MouseButton::Right);
+    control.onMouseUp(MouseButton::Other);
+    return control.timesHelpShown == 2;
+  };
+  EXPECT_TRUE(helps(editor.chkBold) && helps(editor.chkItalics) && helps(editor.chkUnderlined));
+  EXPECT_TRUE(helps(editor.lblColour) && helps(editor.lstMacroNames));
+  for (auto* button : {&editor.cmdAdd, &editor.cmdEdit, &editor.cmdSave, &editor.cmdSaveAs,
+                       &editor.cmdCancel, &editor.cmdDelete, &editor.cmdRun, &editor.cmdClose}) {
+    EXPECT_TRUE(helps(*button));
+  }
+}
+
 }  // namespace
 }  // namespace verlume

@@ -193,9 +193,10 @@ class LongNamedSocket : public fake::FakeSocket {
 
 TEST_F(StartUpTest, ALongHostNameIsCutToANickname) {
   LongNamedSocket socket(network);
-  Platform other = {window.frmMain,    fake.about.frmAbout, socket,     fake.dialogs,
-                    fake.commonDialog, fake.files,          fake.clock, fake.locale,
-                    fake.application,  fake.help,           fake.tools};
+  Platform other = {window.frmMain,   fake.about.frmAbout, fake.macros.frmMacros,
+                    socket,           fake.dialogs,        fake.commonDialog,
+                    fake.files,       fake.clock,          fake.locale,
+                    fake.application, fake.help,           fake.tools};
   StartUp longNamed(state, other, errors, settings, language,
                     {[] {}, [] { return std::u16string(); }, [] {}});
   longNamed.Form_Load();

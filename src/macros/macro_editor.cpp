@@ -1,0 +1,162 @@
+#include "macros/macro_editor.h"
+
+#include <utility>
+
+#include "macros/macro_editor_states.h"
+#include "macros/macro_editor_texts.h"
+
+namespace verlume {
+
+namespace texts = macro_editor_texts;
+
+void MacroEditor::OpenMacroEditor() {
+  if (store_.EnsureMacrosFolder(texts::kNoFolder, texts::kNoFolderTitle)) {
+    // What a failure leaves unset is missing in the window.
+    errors_.Guard(Procedure::frmMacros_Load, [this] { Load(); });
+    if (platform_.application.HasEnded()) return;
+    platform_.frmMacros.window.ShowModal();
+    if (platform_.application.HasEnded()) return;
+    Run();
+  }
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
+void MacroEditor::Load() {
+  const MacroWindow& frmMacros = platform_.frmMacros;
+  state_.MacroToRun.clear();
+  frmMacros.lstMacroNames.Clear();
+  frmMacros.lblColour.SetCaption(u"");
+  ShowNothing();
+  SetCaptions();
+  style_.TakeCommandStyle();
+  for (const std::u16string& name : store_.ListMacroNames()) frmMacros.lstMacroNames.Append(name);
+  EnterState(frmMacros, MacroEditorState::Empty);
+  frmMacros.lstMacroNames.SetFocus();
+}
+
+void MacroEditor::SetCaptions() {
+  namespace captions = texts::captions;
+  const MacroWindow& frmMacros = platform_.frmMacros;
+  const bool isGreek = state_.IsGreek;
+  frmMacros.window.SetTitle(captions::kWindow.In(isGreek));
+  const std::pair<Button*, const TextPair*> buttons[] = {
+      {&frmMacros.cmdAdd, &captions::kAdd},       {&frmMacros.cmdEdit, &captions::kEdit},
+      {&frmMacros.cmdSave, &captions::kSave},     {&frmMacros.cmdSaveAs, &captions::kSaveAs},
+      {&frmMacros.cmdCancel, &captions::kCancel}, {&frmMacros.cmdDelete, &captions::kDelete},
+      {&frmMacros.cmdRun, &captions::kRun},       {&frmMacros.cmdClose, &captions::kClose}};
+  for (const auto& [button, caption] : buttons) button->SetCaption(caption->In(isGreek));
+  const std::pair<CheckBox*, const TextPair*> boxes[] = {
+      {&frmMacros.chkBold, &captions::kBold},
+      {&frmMacros.chkItalics, &captions::kItalics},
+      {&frmMacros.chkUnderlined, &captions::kUnderlined}};
+  for (const auto& [box, text] : boxes) {
+    box->SetCaption(text->In(isGreek));
+    box->SetToolTip(text->In(isGreek));
+  }
+  const std::pair<Control*, const TextPair*> others[] = {
+      {&frmMacros.lstMacroNames, &captions::kNames},
+      {&frmMacros.rtbMacroText, &captions::kText},
+      {&frmMacros.lblColour, &captions::kColour}};
+  for (const auto& [control, text] : others) {
+    control->SetToolTip(text->In(isGreek));
+    control->SetAccessibleName(text->In(isGreek));
+  }
+}
+
+void MacroEditor::Run() {
+  const std::u16string macro = std::exchange(state_.MacroToRun, {});
+  if (macro.empty()) return;
+  RichTextBox& pane = platform_.frmMain.rtbCommands;
+  pane.SetRtf(macro);
+  int enter = 13;
+  if (pane.onKeyPress) pane.onKeyPress(enter);
+}
+
+void MacroEditor::Form_QueryUnload(bool& cancel, UnloadMode mode) {
+  if (mode == UnloadMode::Code) return;
+  cancel = true;
+  platform_.dialogs.ShowMessage(Note(texts::close::kOnlyByButton.In(state_.IsGreek),
+                                     texts::close::kTitle.In(state_.IsGreek)));
+  platform_.frmMacros.rtbMacroText.SetFocus();
+}
+
+void MacroEditor::lstMacroNames_Click() {
+  const MacroWindow& frmMacros = platform_.frmMacros;
+  if (SaysNo(frmMacros.lstMacroNames.Tag()) && state_.MacroIndex >= 0) {
+    frmMacros.lstMacroNames.Select(state_.MacroIndex);
+    return frmMacros.rtbMacroText.SetFocus();
+  }
+  const int chosen = frmMacros.lstMacroNames.SelectedIndex();
+  const std::u16string name = frmMacros.lstMacroNames.Item(chosen);
+  if (errors_.Guard(Procedure::lstMacroNames_Click, [this, chosen] { Show(chosen); })) return;
+  // The text of another macro must not stand under this name.
+  if (!store_.MacroExists(name)) frmMacros.lstMacroNames.Remove(chosen);
+  ShowNothing();
+}
+
+// Nothing changes where the file cannot be read.
+void MacroEditor::Show(int index) {
+  const MacroWindow& frmMacros = platform_.frmMacros;
+  const std::u16string path = store_.MacroPath(frmMacros.lstMacroNames.Item(index));
+  frmMacros.rtbMacroText.LoadFile(path, TextFileFormat::RichText);
+  state_.MacroIndex = index;
+  EnterState(frmMacros, MacroEditorState::Showing);
+  style_.rtbMacroText_SelChange();
+}
+
+void MacroEditor::ShowNothing() {
+  const MacroWindow& frmMacros = platform_.frmMacros;
+  state_.MacroIndex = -1;
+  frmMacros.lstMacroNames.Select(-1);
+  frmMacros.rtbMacroText.SetText(u"");
+  EnterState(frmMacros, MacroEditorState::Empty);
+}
+
+void MacroEditor::rtbMacroText_GotFocus() {
+  if (IsBrowsing()) platform_.frmMacros.lstMacroNames.SetFocus();
+}
+
+void MacroEditor::rtbMacroText_KeyDown(int& keyCode, int shift) {
+  if (IsBrowsing()) {
+    keyCode = 0;
+    platform_.frmMacros.lstMacroNames.SetFocus();
+  } else if (keyCode == key_code::kEscape && shift == 0) {
+    keyCode = 0;
+    platform_.frmMacros.rtbMacroText.SetText(u"");
+  }
+}
+
+void MacroEditor::cmdRun_Click() {
+  state_.MacroToRun = platform_.frmMacros.rtbMacroText.Rtf();
+  platform_.frmMacros.cmdClose.Click();
+}
+
+void MacroEditor::cmdClose_Click() {
+  platform_.frmMacros.window.Unload();
+}
+
+std::u16string MacroEditor::CurrentName() const {
+  return platform_.frmMacros.lstMacroNames.Item(state_.MacroIndex);
+}
+
+void MacroEditor::SelectName(std::u16string_view name) {
+  ListBox& names = platform_.frmMacros.lstMacroNames;
+  if (!IsListed(name)) names.Append(name);
+  state_.MacroIndex = IndexOf(name);
+  names.ScrollToTop(state_.MacroIndex);
+  names.Select(state_.MacroIndex);
+}
+
+int MacroEditor::IndexOf(std::u16string_view name) const {
+  const ListBox& names = platform_.frmMacros.lstMacroNames;
+  for (int i = 0; i < names.Count(); ++i) {
+    if (names.Item(i) == name) return i;
+  }
+  return -1;
+}
+
+bool MacroEditor::IsBrowsing() const {
+  return SaysNo(platform_.frmMacros.rtbMacroText.Tag());
+}
+
+}  // namespace verlume

@@ -1,0 +1,134 @@
+// The buttons of the macro editor that change macros.
+#include "macros/macro_editor.h"
+#include "macros/macro_editor_states.h"
+#include "macros/macro_editor_texts.h"
+
+namespace verlume {
+
+namespace texts = macro_editor_texts;
+
+void MacroEditor::cmdAdd_Click() {
+  errors_.Guard(Procedure::cmdAdd_Click, [this] {
+    const std::u16string name = AskNewName();
+    if (name.empty()) return;
+    if (store_.MacroExists(name)) {
+      platform_.dialogs.ShowMessage(Refusal(texts::add::kExists.Fill(state_.IsGreek, {name}),
+                                            texts::add::kTitle.In(state_.IsGreek)));
+    } else {
+      Begin(name);
+    }
+  });
+}
+
+// No file is written yet.
+void MacroEditor::Begin(std::u16string_view name) {
+  EnterState(platform_.frmMacros, MacroEditorState::New);
+  SelectName(name);
+  style_.StartEmptyText();
+}
+
+void MacroEditor::cmdEdit_Click() {
+  RichTextBox& text = platform_.frmMacros.rtbMacroText;
+  EnterState(platform_.frmMacros, MacroEditorState::Editing);
+  text.Select(text.TextLength(), 0);
+  text.SetFocus();
+}
+
+void MacroEditor::cmdSave_Click() {
+  errors_.Guard(Procedure::cmdSave_Click, [this] {
+    if (!TellsNothingToSave(texts::save::kTitle)) Save(CurrentName());
+  });
+  platform_.frmMacros.rtbMacroText.SetFocus();
+}
+
+void MacroEditor::cmdSaveAs_Click() {
+  errors_.Guard(Procedure::cmdSaveAs_Click, [this] {
+    if (TellsNothingToSave(texts::save_as::kTitle)) return;
+    const std::u16string name = AskOtherName(CurrentName());
+    if (!name.empty()) Save(name);
+  });
+  platform_.frmMacros.rtbMacroText.SetFocus();
+}
+
+// Nothing changes where the file cannot be written: what was typed can be saved again.
+void MacroEditor::Save(std::u16string_view name) {
+  platform_.frmMacros.rtbMacroText.SaveFile(store_.MacroPath(name), TextFileFormat::RichText);
+  if (name != CurrentName()) SelectName(name);
+  EnterState(platform_.frmMacros, MacroEditorState::Showing);
+}
+
+void MacroEditor::cmdCancel_Click() {
+  errors_.Guard(Procedure::cmdCancel_Click, [this] {
+    const std::u16string name = CurrentName();
+    if (!Confirms(texts::cancel::kQuestion, texts::cancel::kTitle, name)) return;
+    if (store_.MacroExists(name)) return Show(state_.MacroIndex);
+    platform_.frmMacros.lstMacroNames.Remove(state_.MacroIndex);
+    ShowNothing();
+  });
+  platform_.frmMacros.rtbMacroText.SetFocus();
+}
+
+void MacroEditor::cmdDelete_Click() {
+  errors_.Guard(Procedure::cmdDelete_Click, [this] {
+    const std::u16string name = CurrentName();
+    if (!Confirms(texts::remove::kQuestion, texts::remove::kTitle, name)) return;
+    platform_.files.Delete(store_.MacroPath(name));
+    platform_.frmMacros.lstMacroNames.Remove(state_.MacroIndex);
+    ShowNothing();
+  });
+  platform_.frmMacros.rtbMacroText.SetFocus();
+}
+
+// A name that could be a macro's, or "" when the user gives up.
+std::u16string MacroEditor::AskNewName() {
+  std::u16string name;
+  while (AsksForAName(texts::add::kTitle, texts::add::kPrompt.In(state_.IsGreek), name)) {
+    if (IsValidMacroName(name)) return name;
+  }
+  return {};
+}
+
+// The name of a macro that is not there, may be replaced, or is the current one; "" when the user
+// gives up.
+std::u16string MacroEditor::AskOtherName(std::u16string_view current) {
+  const std::u16string prompt = texts::save_as::kPrompt.Fill(state_.IsGreek, {current});
+  std::u16string name;
+  while (AsksForAName(texts::save_as::kTitle, prompt, name)) {
+    if (!IsValidMacroName(name)) continue;
+    if (name == current || !store_.MacroExists(name)) return name;
+    if (Confirms(texts::save_as::kReplace, texts::save_as::kTitle, name)) {
+      return store_.StoredName(name);
+    }
+  }
+  return {};
+}
+
+// Asks once, proposing the name, and tells where the answer is no macro's name. False when the user
+// gives up.
+bool MacroEditor::AsksForAName(const TextPair& title, std::u16string_view prompt,
+                               std::u16string& name) {
+  if (platform_.application.HasEnded()) return false;
+  name = platform_.dialogs.AskText(prompt, title.In(state_.IsGreek), name);
+  if (name.empty()) return false;
+  if (!IsValidMacroName(name)) {
+    platform_.dialogs.ShowMessage(
+        Refusal(texts::kWrongName.In(state_.IsGreek), title.In(state_.IsGreek)));
+  }
+  return true;
+}
+
+bool MacroEditor::TellsNothingToSave(const TextPair& title) {
+  if (platform_.frmMacros.rtbMacroText.TextLength() > 0) return false;
+  platform_.dialogs.ShowMessage(
+      Note(texts::save::kNothing.In(state_.IsGreek), title.In(state_.IsGreek)));
+  return true;
+}
+
+bool MacroEditor::Confirms(const TextPair& question, const TextPair& title,
+                           std::u16string_view name) {
+  const Message box =
+      Question(question.Fill(state_.IsGreek, {name}), title.In(state_.IsGreek), Answer::No);
+  return platform_.dialogs.ShowMessage(box) == Answer::Yes;
+}
+
+}  // namespace verlume

@@ -1,0 +1,111 @@
+// What the tests of the macro editor stand on: its window in memory, bound as in the program, over
+// a folder of three macros.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "macros/macro_editor.h"
+#include "macros/room_test.h"
+#include "richtext/rtf_reader.h"
+
+namespace verlume {
+
+class MacroEditorTest : public RoomTest {
+ protected:
+  MacroEditorTest() {
+    fake.files.MakeFolder(u"/macros");
+    state.MacrosFolder = u"/macros/";
+    state.FontName = u"Arial";
+    state.FontSize = 10;
+    fake.files.files[u"/macros/bye.rtf"] = "{\\rtf1 See you}";
+    fake.files.files[u"/macros/hello.rtf"] = "{\\rtf1{\\colortbl;\\red255;}\\b\\cf1 Good morning}";
+    fake.files.files[u"/macros/plain.rtf"] = "no rich text";
+
+    window.window.onQueryUnload = [this](bool& cancel, UnloadMode mode) {
+      editor.Form_QueryUnload(cancel, mode);
+    };
+    list.onClick = [this] { editor.lstMacroNames_Click(); };
+    text.onGotFocus = [this] { editor.rtbMacroText_GotFocus(); };
+    text.onKeyDown = [this](int& code, int shift) { editor.rtbMacroText_KeyDown(code, shift); };
+    text.onKeyPress = [this](int& code) { style.rtbMacroText_KeyPress(code); };
+    text.onSelChange = [this] { style.rtbMacroText_SelChange(); };
+    window.cmdAdd.onClick = [this] { editor.cmdAdd_Click(); };
+    window.cmdEdit.onClick = [this] { editor.cmdEdit_Click(); };
+    window.cmdSave.onClick = [this] { editor.cmdSave_Click(); };
+    window.cmdSaveAs.onClick = [this] { editor.cmdSaveAs_Click(); };
+    window.cmdCancel.onClick = [this] { editor.cmdCancel_Click(); };
+    window.cmdDelete.onClick = [this] { editor.cmdDelete_Click(); };
+    window.cmdRun.onClick = [this] { editor.cmdRun_Click(); };
+    window.cmdClose.onClick = [this] { editor.cmdClose_Click(); };
+    window.chkBold.onClick = [this] { style.chkBold_Click(); };
+    window.chkItalics.onClick = [this] { style.chkItalics_Click(); };
+    window.chkUnderlined.onClick = [this] { style.chkUnderlined_Click(); };
+    window.lblColour.onMouseDown = [this](MouseButton b) { style.lblColour_MouseDown(b); };
+  }
+
+  // Opens the editor, does the act in it and closes it, in whatever state it is.
+  void Open(const std::function<void()>& act) {
+    window.window.whileModal = [this, act] {
+      act();
+      window.window.Unload();
+    };
+    editor.OpenMacroEditor();
+  }
+
+  // What a user does.
+  void Choose(const std::u16string& name) {
+    for (int i = 0; i < list.Count(); ++i) {
+      if (list.Item(i) == name) return list.Choose(i);
+    }
+    ADD_FAILURE() << "no such macro: " << testing::PrintToString(name);
+  }
+  void Add(const std::u16string& name) {
+    fake.dialogs.typed = {name};
+    window.cmdAdd.Click();
+  }
+  void Edit(const std::u16string& name) {
+    Choose(name);
+    window.cmdEdit.Click();
+  }
+
+  // The state as the user meets it; "none" where the window is in no state of the table.
+  std::string StateName() const {
+    const std::vector<bool> buttons = {window.cmdAdd.enabled,    window.cmdEdit.enabled,
+                                       window.cmdSave.enabled,   window.cmdSaveAs.enabled,
+                                       window.cmdCancel.enabled, window.cmdDelete.enabled,
+                                       window.cmdRun.enabled,    window.cmdClose.enabled};
+    const bool isBrowsing = text.locked && text.tag == u"no";
+    const bool isEditing = !text.locked && text.tag.empty() && list.tag == u"no";
+    const bool listFollows = list.tag == (list.items.empty() ? u"no" : u"");
+    if (isBrowsing && listFollows && state.MacroIndex == -1 && text.Text().empty() &&
+        buttons == std::vector<bool>{1, 0, 0, 0, 0, 0, 0, 1}) {
+      return "Empty";
+    }
+    if (isBrowsing && list.tag.empty() && state.MacroIndex == list.selected &&
+        buttons == std::vector<bool>{1, 1, 0, 0, 0, 1, 1, 1}) {
+      return "Showing";
+    }
+    if (isEditing && buttons == std::vector<bool>{0, 0, 1, 0, 1, 0, 0, 0}) return "New";
+    if (isEditing && buttons == std::vector<bool>{0, 0, 1, 1, 1, 0, 0, 0}) return "Editing";
+    return "none";
+  }
+
+  // The text of a macro's file.
+  std::u16string Saved(const std::u16string& name) const {
+    const auto file = fake.files.files.find(u"/macros/" + name + u".rtf");
+    return file == fake.files.files.end() ? u"no file" : richtext::ReadRtf(file->second).text;
+  }
+  std::u16string Chosen() const { return list.Item(list.selected); }
+
+  fake::FakeMacroWindow& window = fake.macros;
+  fake::FakeListBox& list = fake.macros.lstMacroNames;
+  fake::FakeRichTextBox& text = fake.macros.rtbMacroText;
+  fake::FakeRichTextBox& pane = fake.window.rtbCommands;
+  MacroStore store{state, fake.platform, errors, settings};
+  MacroStyle style{state, fake.platform, errors};
+  MacroEditor editor{state, fake.platform, errors, store, style};
+};
+
+}  // namespace verlume

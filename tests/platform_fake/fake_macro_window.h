@@ -1,0 +1,36 @@
+// The macro editor's window in memory.
+#pragma once
+
+#include "platform/macro_window.h"
+#include "platform_fake/fake_controls.h"
+#include "platform_fake/fake_rich_text_box.h"
+
+namespace verlume::fake {
+
+struct FakeMacroWindow {
+  explicit FakeMacroWindow(FakeFileSystem& files)
+      : rtbMacroText(files, FakeRichTextBox::Lines::Single) {}
+
+  FakeWindow window;
+  FakeListBox lstMacroNames;
+  FakeRichTextBox rtbMacroText;
+  FakeButton cmdAdd;
+  FakeButton cmdEdit;
+  FakeButton cmdSave;
+  FakeButton cmdSaveAs;
+  FakeButton cmdCancel;
+  FakeButton cmdDelete;
+  FakeButton cmdRun;
+  FakeButton cmdClose;
+  FakeLabel lblColour;
+  FakeCheckBox chkBold;
+  FakeCheckBox chkItalics;
+  FakeCheckBox chkUnderlined;
+
+  // What the logic sees of it.
+  MacroWindow frmMacros = {window,   lstMacroNames, rtbMacroText, cmdAdd,     cmdEdit,
+                           cmdSave,  cmdSaveAs,     cmdCancel,    cmdDelete,  cmdRun,
+                           cmdClose, lblColour,     chkBold,      chkItalics, chkUnderlined};
+};
+
+}  // namespace verlume::fake
