@@ -21,7 +21,6 @@ class Counted {
 ListWidget::ListWidget(QWidget* parent) : QListWidget(parent) {
   setSelectionMode(QAbstractItemView::SingleSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
-  setUniformItemSizes(true);
 }
 
 void ListWidget::mousePressEvent(QMouseEvent* event) {

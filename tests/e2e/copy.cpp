@@ -130,6 +130,13 @@ bool Copy::AnswerBox(const QString& title, const QString& key) {
   });
 }
 
+bool Copy::TypeInto(const QString& title, const QString& text) {
+  QString box;
+  if (!WaitUntil([&] { return !(box = FindWindow(title)).isEmpty(); })) return false;
+  Run("xdotool", {"windowactivate", "--sync", box, "type", "--delay", "10", "--", text});
+  return true;
+}
+
 void Copy::ClickAt(double across, double down) {
   Activate();
   int width = 0;
@@ -159,6 +166,10 @@ QString Copy::Log(const QString& partner) const {
 
 QString Copy::Settings() const {
   return ReadFile(folder_.filePath("Verlume.ini"));
+}
+
+QString Copy::Macro(const QString& name) const {
+  return ReadFile(folder_.filePath("macros/" + name + ".rtf"));
 }
 
 }  // namespace verlume::e2e

@@ -37,12 +37,17 @@ class Copy {
   // Presses a key in a box of that title until the box is gone; false when it never came or stays.
   bool AnswerBox(const QString& title, const QString& key);
 
+  // Waits for a window of that title and types into it, ASCII only; false when it never came.
+  bool TypeInto(const QString& title, const QString& text);
+  bool Shows(const QString& title) const { return !FindWindow(title).isEmpty(); }
+
   // Clicks in the window, at parts of its width and height.
   void ClickAt(double across, double down);
 
   QString Dialogue();  // what the dialogue pane shows, read as a user would copy it
   QString Log(const QString& partner) const;
   QString Settings() const;
+  QString Macro(const QString& name) const;  // the rich text of its file
   const QString& Window() const { return window_; }
   bool HasEnded() { return program_.state() == QProcess::NotRunning; }
   bool WaitForEnd() { return program_.waitForFinished(10000); }

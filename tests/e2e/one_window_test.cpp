@@ -66,6 +66,33 @@ TEST_F(OneWindow, FindBarTakesTheKeysUntilEscape) {
   EXPECT_EQ(copy.Dialogue().toStdString(), "") << "the x was no line";
 }
 
+TEST_F(OneWindow, MacroIsAddedInTheEditorAndRun) {
+  ASSERT_TRUE(LineReachesTheCommandPane());
+  copy.TypeLine("/EDITMACROS");
+  ASSERT_TRUE(WaitUntil([&] { return copy.IsActive("Macros"); }));
+  copy.PressKeys("alt+F4");
+  ASSERT_TRUE(copy.AnswerBox("Close macros editing form", "Return"));
+  ASSERT_TRUE(WaitUntil([&] { return copy.IsActive("Macros"); })) << "it stays";
+
+  copy.PressKeys("alt+a");
+  ASSERT_TRUE(copy.TypeInto("New macro name", "greet"));
+  copy.PressKeys("Return");
+  ASSERT_TRUE(WaitUntil([&] { return copy.IsActive("Macros"); }));
+  ASSERT_TRUE(copy.TypeInto("Macros", "Good morning"));
+  copy.PressKeys("ctrl+b");
+  ASSERT_TRUE(copy.TypeInto("Macros", ", all"));
+  copy.PressKeys("Return");
+  copy.PressKeys("alt+s");
+  ASSERT_TRUE(WaitUntil([&] { return copy.Macro("greet").contains("Good morning"); }));
+  EXPECT_TRUE(copy.Macro("greet").contains("\\b"));
+
+  copy.PressKeys("alt+r");
+  ASSERT_TRUE(WaitUntil([&] { return !copy.Shows("Macros"); }));
+  EXPECT_TRUE(WaitUntil([&] { return copy.Dialogue() == "<Ann1>Good morning, all"; }))
+      << copy.Dialogue().toStdString();
+  EXPECT_TRUE(LineReachesTheCommandPane());
+}
+
 TEST_F(OneWindow, KeysOfTheMenusWork) {
   ASSERT_TRUE(LineReachesTheCommandPane());
   copy.PressKeys("ctrl+q");
