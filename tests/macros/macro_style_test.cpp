@@ -112,6 +112,7 @@ TEST_F(MacroStyleTest, StyleChosenBeforeAddIsKept) {
     Choose(u"hello");
     text.Select(text.TextLength(), 0);
     window.chkItalics.SetValue(1);
+    text.Select(0, 4);
     Add(u"new");
     EXPECT_EQ(text.SelFormat().italic, true);
     EXPECT_EQ(text.SelFormat().bold, true) << "from the text of hello, under the caret";

@@ -72,6 +72,7 @@ TEST_F(QtListBoxTest, FocusAloneSelectsNothing) {
 TEST_F(QtListBoxTest, NothingButAnotherItemTakesTheSelection) {
   Click(1, Qt::LeftButton);
   Click(1, Qt::LeftButton, Qt::ControlModifier);
+  EXPECT_EQ(list.SelectedIndex(), 1);
   QTest::keyClick(widget, Qt::Key_Space, Qt::ControlModifier);
   EXPECT_EQ(list.SelectedIndex(), 1);
   Click(2, Qt::LeftButton, Qt::ControlModifier);
