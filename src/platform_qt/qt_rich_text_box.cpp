@@ -71,9 +71,13 @@ void QtRichTextBox::ReplaceAll(const std::function<void(QTextCursor&)>& fill) {
 }
 
 std::u16string QtRichTextBox::Rtf() const {
+  return richtext::WriteRtf(Content());
+}
+
+richtext::Document QtRichTextBox::Content() const {
   QTextCursor cursor(widget_->document());
   cursor.select(QTextCursor::Document);
-  return richtext::WriteRtf(SelectedDocument(cursor, view_->Charset()));
+  return SelectedDocument(cursor, view_->Charset());
 }
 
 std::size_t QtRichTextBox::SelStart() const {
@@ -140,7 +144,8 @@ void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
 }
 
 void QtRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) const {
-  files_.ReplaceText(path, format == TextFileFormat::PlainText ? Text() : Rtf());
+  const bool isPlain = format == TextFileFormat::PlainText;
+  files_.ReplaceText(path, isPlain ? Text() : richtext::WriteRtfFile(Content()));
 }
 
 void QtRichTextBox::SetLocked(bool locked) {

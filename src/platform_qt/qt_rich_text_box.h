@@ -50,6 +50,7 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
  private:
   QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines);
 
+  richtext::Document Content() const;
   void ReplaceAll(const richtext::Document& document);
   void ReplaceAll(const std::function<void(QTextCursor&)>& fill);
   void FollowTo(const QTextCursor& cursor);

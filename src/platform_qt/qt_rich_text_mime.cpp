@@ -53,7 +53,7 @@ QStringList RichTextMimeData::formats() const {
 QVariant RichTextMimeData::retrieveData(const QString& type, QMetaType) const {
   if (type == "text/plain") return ToQt(document_.text);
   if (!formats().contains(type)) return {};
-  return ToQt(richtext::WriteRtf(document_)).toLatin1();
+  return ToQt(richtext::WriteRtfFile(document_)).toLatin1();
 }
 
 bool HoldsText(const QMimeData& source) {

@@ -31,7 +31,8 @@ class RtfWriter {
  public:
   explicit RtfWriter(const Document& document);
 
-  std::u16string Write();
+  // `settings` are control words for the whole document.
+  std::u16string Write(std::u16string_view settings);
 
  private:
   const Font& FontOf(std::size_t index) const;
@@ -58,13 +59,15 @@ RtfWriter::RtfWriter(const Document& document) : document_(document) {
   if (document.runs.empty()) fonts_.Use(0);
 }
 
-std::u16string RtfWriter::Write() {
+std::u16string RtfWriter::Write(std::u16string_view settings) {
   constexpr std::size_t kHeaderSize = 256;
   rtf_.reserve(kHeaderSize + document_.text.size() * 3);
   rtf_ += u"{\\rtf1\\ansi\\ansicpg1253\\deff0";
   WriteFontTable();
   WriteColorTable();
-  rtf_ += u"\\viewkind4\\uc1\\pard";
+  rtf_ += u"\\viewkind4\\uc1";
+  rtf_ += settings;
+  rtf_ += u"\\pard";
   std::u16string_view text = document_.text;
   for (const Run& run : document_.runs) {
     WriteRun(run, text.substr(0, run.length));
@@ -147,7 +150,11 @@ void RtfWriter::WriteSwitch(std::u16string_view word, std::u16string_view offWor
 }  // namespace
 
 std::u16string WriteRtf(const Document& document) {
-  return RtfWriter(document).Write();
+  return RtfWriter(document).Write(u"");
+}
+
+std::u16string WriteRtfFile(const Document& document) {
+  return RtfWriter(document).Write(u"\\dntblnsbdb");
 }
 
 std::u16string EscapeForRtf(std::u16string_view text) {

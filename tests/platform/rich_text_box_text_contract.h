@@ -161,6 +161,14 @@ TYPED_TEST_P(RichTextBoxText, FilesAreSavedInBothFormats) {
   EXPECT_EQ(box.Rtf(), saved);
 }
 
+TYPED_TEST_P(RichTextBoxText, SavedRichTextIsForWordProcessorsToo) {
+  RichTextBox& box = *this->many;
+  box.SetText(u"two  blanks");
+  box.SaveFile(u"/a.rtf", TextFileFormat::RichText);
+  EXPECT_NE(this->platform.files.files[u"/a.rtf"].find("\\dntblnsbdb\\pard"), std::string::npos);
+  EXPECT_EQ(box.Rtf().find(u"\\dntblnsbdb"), std::u16string::npos);
+}
+
 TYPED_TEST_P(RichTextBoxText, AFailureLeavesTheBoxAndTheFile) {
   RichTextBox& box = *this->many;
   box.SetText(u"kept");
@@ -229,8 +237,9 @@ REGISTER_TYPED_TEST_SUITE_P(RichTextBoxText, ABoxBeginsEmpty, LineBreaksAreOneUn
                             PuttingInReplacesTheSelection, ALockedBoxIsChangedByTheProgramAlone,
                             WhatIsNoRtfIsPlainText, RichTextSurvivesSettingItAgain,
                             FilesAreLoadedInBothFormats, FilesAreSavedInBothFormats,
-                            AFailureLeavesTheBoxAndTheFile, TheTagAndTheGroundAreKept,
-                            KeysPassTheHandlersBeforeTheBox, AKeySwallowedOnItsWayDownTypesNothing,
+                            SavedRichTextIsForWordProcessorsToo, AFailureLeavesTheBoxAndTheFile,
+                            TheTagAndTheGroundAreKept, KeysPassTheHandlersBeforeTheBox,
+                            AKeySwallowedOnItsWayDownTypesNothing,
                             TheProgramsChangesOfTheSelectionAreTold);
 
 }  // namespace verlume

@@ -173,7 +173,8 @@ void FakeRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) 
 }
 
 void FakeRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) const {
-  files_.ReplaceText(path, format == TextFileFormat::PlainText ? Text() : Rtf());
+  const bool isPlain = format == TextFileFormat::PlainText;
+  files_.ReplaceText(path, isPlain ? Text() : richtext::WriteRtfFile(richtext::ReadRtf(Rtf())));
 }
 
 void FakeRichTextBox::Type(std::u16string_view keys) {

@@ -157,6 +157,7 @@ TEST_F(QtRichTextBoxTest, CopyOffersRtfAndPlainTextOnly) {
     ASSERT_TRUE(content->hasFormat(type));
     EXPECT_TRUE(content->data(type).startsWith("{\\rtf1"));
     EXPECT_TRUE(content->data(type).contains("\\b"));
+    EXPECT_TRUE(content->data(type).contains("\\dntblnsbdb")) << "word processors read it";
   }
 }
 

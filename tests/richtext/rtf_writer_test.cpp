@@ -34,6 +34,15 @@ TEST(RtfWriterTest, DocumentIsWrittenAsARichTextBoxWritesIt) {
             u"\\viewkind4\\uc1\\pard\\f0\\fs16\\'ea\\'e1 \\cf1\\b b\\cf0\\b0\\par\r\nc\\par\r\n}");
 }
 
+TEST(RtfWriterTest, AFileTellsWordProcessorsToLeaveBlanksAsTheyAre) {
+  // Without it some widen blanks that stand together, by characters of their own.
+  const Document document = OneRun(u"two  blanks");
+  const std::u16string rtf = WriteRtfFile(document);
+  EXPECT_EQ(BodyOf(rtf), u"\\dntblnsbdb\\pard\\f0\\fs24 two  blanks\\par\r\n}");
+  EXPECT_EQ(ReadRtf(rtf), document);
+  EXPECT_EQ(BodyOf(WriteRtf(document)), u"\\pard\\f0\\fs24 two  blanks\\par\r\n}");
+}
+
 TEST(RtfWriterTest, NeighboursOfOneFormatHaveNothingBetweenThem) {
   EXPECT_NE(WriteRtf(OneRun(u"x $τ $Τ $l")).find(u"x $\\'f4 $\\'d4 $l\\par"), std::u16string::npos);
 }
