@@ -36,6 +36,17 @@ constexpr ControlWord kControlWords[] = {
     {"cf", Action::kColor},
     {"plain", Action::kPlain},
 
+    // What kind of script follows, and its formats. \af is not among them: a run has one font, and
+    // whoever shows it finds another for letters that it lacks.
+    {"dbch", Action::kEastAsianText},
+    {"hich", Action::kOtherText},
+    {"loch", Action::kOtherText},
+    {"ltrch", Action::kOtherText},
+    {"rtlch", Action::kOtherText},
+    {"ab", Action::kAssociatedBold},
+    {"ai", Action::kAssociatedItalic},
+    {"afs", Action::kAssociatedFontSize},
+
     // Characters that have a name.
     {"tab", Action::kCharacter, u'\t'},
     {"cell", Action::kCharacter, u'\t'},

@@ -23,6 +23,12 @@ enum class Action : std::uint8_t {
   kFontSize,
   kColor,
   kPlain,
+  // What kind of script follows, and formats that only text of that kind takes.
+  kEastAsianText,
+  kOtherText,
+  kAssociatedBold,
+  kAssociatedItalic,
+  kAssociatedFontSize,
   // Text. The value is the character that stands for the word.
   kCharacter,
   kBreak,

@@ -16,6 +16,11 @@ bool IsOn(const ControlToken& token) {
   return token.ParameterOr(1) != 0;
 }
 
+std::uint16_t HalfPoints(const ControlToken& token) {
+  return static_cast<std::uint16_t>(std::clamp(token.ParameterOr(kDefaultHalfPoints),
+                                               limits::kMinHalfPoints, limits::kMaxHalfPoints));
+}
+
 }  // namespace
 
 RtfContent::RtfContent(std::size_t expectedLength) : builder_(expectedLength) {
@@ -39,7 +44,7 @@ void RtfContent::CloseGroup() {
   if (ended_) return;
   state_ = outerGroups_.back();
   outerGroups_.pop_back();
-  builder_.SetFormat(state_.format);
+  builder_.SetFormat(FormatInForce());
 }
 
 void RtfContent::AppendCodePoint(char32_t codePoint) {
@@ -87,7 +92,7 @@ void RtfContent::Apply(const ControlToken& token) {
     return;
   }
   if (ApplyFormat(token)) {
-    builder_.SetFormat(state_.format);
+    builder_.SetFormat(FormatInForce());
   } else {
     ApplyToDocument(token);
   }
@@ -95,35 +100,60 @@ void RtfContent::Apply(const ControlToken& token) {
 
 // True when the word is one of format.
 bool RtfContent::ApplyFormat(const ControlToken& token) {
-  CharFormat& format = state_.format;
   switch (token.word->action) {
     case Action::kBold:
-      format.bold = IsOn(token);
+      Set(&CharFormat::bold, IsOn(token));
       return true;
     case Action::kItalic:
-      format.italic = IsOn(token);
+      Set(&CharFormat::italic, IsOn(token));
       return true;
     case Action::kUnderline:
-      format.underline = IsOn(token);
+      Set(&CharFormat::underline, IsOn(token));
       return true;
     case Action::kNoUnderline:
-      format.underline = false;
+      Set(&CharFormat::underline, false);
       return true;
     case Action::kStrikethrough:
-      format.strikethrough = IsOn(token);
+      Set(&CharFormat::strikethrough, IsOn(token));
       return true;
     case Action::kFont:
-      format.font = fonts_.IndexOf(token.parameter);
+      Set(&CharFormat::font, fonts_.IndexOf(token.parameter));
       return true;
     case Action::kFontSize:
-      format.halfPoints = static_cast<std::uint16_t>(std::clamp(
-          token.ParameterOr(kDefaultHalfPoints), limits::kMinHalfPoints, limits::kMaxHalfPoints));
+      Set(&CharFormat::halfPoints, HalfPoints(token));
       return true;
     case Action::kColor:
-      format.color = ColorOf(token.parameter);
+      Set(&CharFormat::color, ColorOf(token.parameter));
       return true;
     case Action::kPlain:
-      format = {};
+      state_.format = state_.eastAsianFormat = {};
+      return true;
+    default:
+      return ApplyAssociated(token);
+  }
+}
+
+// Word processors say format twice: for the text of most scripts, and, with words of their own
+// behind \dbch, for East Asian text. The same words behind \rtlch are for text from right to left,
+// which has no format of its own here.
+bool RtfContent::ApplyAssociated(const ControlToken& token) {
+  CharFormat ignored;
+  CharFormat& format = state_.isEastAsian ? state_.eastAsianFormat : ignored;
+  switch (token.word->action) {
+    case Action::kEastAsianText:
+      state_.isEastAsian = true;
+      return true;
+    case Action::kOtherText:
+      state_.isEastAsian = false;
+      return true;
+    case Action::kAssociatedBold:
+      format.bold = IsOn(token);
+      return true;
+    case Action::kAssociatedItalic:
+      format.italic = IsOn(token);
+      return true;
+    case Action::kAssociatedFontSize:
+      format.halfPoints = HalfPoints(token);
       return true;
     default:
       return false;

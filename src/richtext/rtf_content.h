@@ -18,7 +18,9 @@ enum class Destination : std::uint8_t { kBody, kFontTable, kColorTable };
 
 // What a group inherits from the one around it and loses at its end.
 struct GroupState {
-  CharFormat format;  // its font is an index of FontTable
+  CharFormat format;           // its font is an index of FontTable
+  CharFormat eastAsianFormat;  // of text behind \dbch; it differs where associated words say so
+  bool isEastAsian = false;    // such text follows
   Destination destination = Destination::kBody;
   std::uint8_t fallbackCount = 1;  // \uc: how many characters stand behind \u for older readers
 };
@@ -67,6 +69,15 @@ class RtfContent {
   bool InBody() const { return state_.destination == Destination::kBody; }
   void AppendToTable(char16_t unit);
   bool ApplyFormat(const ControlToken& token);
+  bool ApplyAssociated(const ControlToken& token);
+  template <typename T>
+  void Set(T CharFormat::*member, T value) {
+    state_.format.*member = value;
+    state_.eastAsianFormat.*member = value;
+  }
+  const CharFormat& FormatInForce() const {
+    return state_.isEastAsian ? state_.eastAsianFormat : state_.format;
+  }
   void ApplyToDocument(const ControlToken& token);
   void ApplyToFonts(const ControlToken& token);
   void ApplyToColors(const ControlToken& token);

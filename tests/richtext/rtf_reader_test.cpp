@@ -107,6 +107,30 @@ TEST(RtfReaderTest, FormatsApplyFromTheirWordToTheEndOfTheGroup) {
   EXPECT_EQ(ReadRuns(R"(a\b\b0 b)"), "Tahoma/161 8 auto -|ab\n");
 }
 
+TEST(RtfReaderTest, EastAsianTextHasTheFormatThatIsMeantForIt) {
+  // As word processors write it: associated words behind \dbch are for what stands behind \dbch.
+  EXPECT_EQ(
+      ReadRuns(R"(\fs24{\cf2\fs20\i\loch a}{\cf2\f1\dbch\afs20\ab\i\dbch \u26085?}{\fs19\loch b})"),
+      "Tahoma/161 10 #0000ff i|a\n"
+      "Arial/0 10 #0000ff bi|日\n"
+      "Tahoma/161 9.5 auto -|b\n");
+  EXPECT_EQ(
+      ReadRuns(R"(\fs22\dbch\afs28\ai{\loch a}{\dbch \u26085?}{\hich b}{\ltrch c}\afs30 \u26085?)"),
+      "Tahoma/161 11 auto -|a\n"
+      "Tahoma/161 14 auto i|日\n"
+      "Tahoma/161 11 auto -|bc\n"
+      "Tahoma/161 15 auto i|日\n");
+}
+
+TEST(RtfReaderTest, FormatsMeantForOtherScriptsChangeNothing) {
+  EXPECT_EQ(ReadRuns(R"(\rtlch\afs60\ab\ai\af1 \ltrch\fs18 a{\afs60\ab\ai b}\dbch\af1 c)"),
+            "Tahoma/161 9 auto -|abc\n");
+  EXPECT_EQ(ReadRuns(R"(\dbch\afs60\rtlch\ab\afs50\ltrch a\dbch\fs18 b\ab0\b c)"),
+            "Tahoma/161 8 auto -|a\nTahoma/161 9 auto -|b\nTahoma/161 9 auto b|c\n");
+  EXPECT_EQ(ReadRuns(R"(\dbch\afs60\ab x\plain y\dbch z)"),
+            "Tahoma/161 30 auto b|x\nTahoma/161 12 auto -|yz\n");
+}
+
 TEST(RtfReaderTest, TheFontsCharsetDecidesTheCodePage) {
   EXPECT_EQ(ReadText(R"(\f0\'e1\f1\'e1\f2\'e1)"), "αáα");
   EXPECT_EQ(ReadText("\\f0 \xe1\\f1 \xe1\\f2 \xe1"), "αáα");
