@@ -70,6 +70,10 @@ class RichTextBox : public Control {
 
   // Whole files. Throw RunTimeFailure (53, 61, 70, 75, 76) and leave box and file as they were. A
   // file that is no RTF loads as plain text. Saving replaces the file in one step.
+  //
+  // A long file is read at once but comes into the box piece by piece, while events are handled.
+  // Text, Rtf and SaveFile wait for the rest; SetText, SetRtf and LoadFile abandon it; what is
+  // written behind it stays behind it.
   virtual void LoadFile(std::u16string_view path, TextFileFormat format) = 0;
   virtual void SaveFile(std::u16string_view path, TextFileFormat format) const = 0;
 
@@ -91,6 +95,9 @@ class RichTextBox : public Control {
   // program's Select, SetText, SetRtf, LoadFile. Never by SetSelFormat.
   std::function<void()> onSelChange;
   std::function<void()> onGotFocus;
+  // How much of a long file is in the box by now, from 1 to 100: each value at most once, and 100
+  // last, also when the rest is abandoned. A short file raises none.
+  std::function<void(int percent)> onLoadProgress;
 };
 
 }  // namespace verlume

@@ -1,11 +1,13 @@
 #include "platform_qt/qt_rich_text_box.h"
 
-#include <QTextDocument>
+#include <QTextBlock>
 #include <algorithm>
+#include <utility>
 
 #include "platform_qt/qt_rich_text_widget.h"
 #include "platform_qt/qt_text.h"
 #include "platform_qt/qt_text_format.h"
+#include "platform_qt/qt_text_loading.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 
@@ -19,7 +21,7 @@ QtRichTextBox::QtRichTextBox(QWidget* parent, FileSystem& files, Lines lines)
 QtRichTextBox::QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines)
     : QtControl(widget), view_(widget), files_(files), lines_(lines) {
   SetLocked(false);
-  ReplaceAll([](QTextCursor& cursor) { KeepFormatIfEmpty(cursor, OwnFormat()); });
+  Clear(OwnFormat());
   widget->SetEvents(this);
 }
 
@@ -28,46 +30,7 @@ QtRichTextBox::~QtRichTextBox() {
 }
 
 std::u16string QtRichTextBox::Text() const {
-  // Not toPlainText(), which makes blanks of no-break spaces.
-  return FromQt(widget_->document()->toRawText().replace(QChar::ParagraphSeparator, u'\n'));
-}
-
-std::size_t QtRichTextBox::TextLength() const {
-  // The document counts a separator behind its last line.
-  return static_cast<std::size_t>(widget_->document()->characterCount() - 1);
-}
-
-void QtRichTextBox::SetText(std::u16string_view text) {
-  const QTextCharFormat format = FormatOfFirst(widget_->textCursor());
-  ReplaceAll([&](QTextCursor& cursor) {
-    KeepFormatIfEmpty(cursor, format);
-    InsertText(cursor, text, lines_);
-  });
-}
-
-void QtRichTextBox::SetRtf(std::u16string_view rtf) {
-  ReplaceAll(richtext::ReadRtf(rtf));
-}
-
-void QtRichTextBox::ReplaceAll(const richtext::Document& document) {
-  const QTextCharFormat format = FormatOfFirst(widget_->textCursor());
-  ReplaceAll([&](QTextCursor& cursor) {
-    KeepFormatIfEmpty(cursor, format);
-    InsertDocument(cursor, document, lines_);
-  });
-}
-
-void QtRichTextBox::ReplaceAll(const std::function<void(QTextCursor&)>& fill) {
-  {
-    const ProgramChange change(*view_);
-    QTextCursor cursor(widget_->document());
-    cursor.beginEditBlock();
-    widget_->document()->clear();
-    fill(cursor);
-    cursor.endEditBlock();
-    widget_->document()->clearUndoRedoStacks();
-  }
-  Select(0, 0);
+  return SelectedText(Everything(), lines_);
 }
 
 std::u16string QtRichTextBox::Rtf() const {
@@ -75,18 +38,72 @@ std::u16string QtRichTextBox::Rtf() const {
 }
 
 richtext::Document QtRichTextBox::Content() const {
+  return SelectedDocument(Everything(), view_->Charset(), lines_);
+}
+
+QTextCursor QtRichTextBox::Everything() const {
+  if (loading_) loading_->Finish();
   QTextCursor cursor(widget_->document());
   cursor.select(QTextCursor::Document);
-  return SelectedDocument(cursor, view_->Charset());
+  return cursor;
+}
+
+std::size_t QtRichTextBox::TextLength() const {
+  // The document counts a separator behind its last line.
+  return TextPosition(widget_->document()->characterCount() - 1);
+}
+
+std::size_t QtRichTextBox::TextPosition(int position) const {
+  const bool counts = lines_ == Lines::Many;
+  const int blocks = counts ? 0 : widget_->document()->findBlock(position).blockNumber();
+  return static_cast<std::size_t>(position - blocks);
+}
+
+int QtRichTextBox::DocumentPosition(std::size_t position) const {
+  int rest = static_cast<int>(position);
+  if (lines_ == Lines::Many) return rest;
+  QTextBlock block = widget_->document()->begin();
+  for (; rest >= block.length() && block.next().isValid(); block = block.next()) {
+    rest -= block.length() - 1;
+  }
+  return block.position() + rest;
+}
+
+void QtRichTextBox::SetText(std::u16string_view text) {
+  ReplaceAll(FormattedText(text, FormatOfFirst(widget_->textCursor()), lines_));
+}
+
+void QtRichTextBox::SetRtf(std::u16string_view rtf) {
+  ReplaceAll(FormattedText(richtext::ReadRtf(rtf), lines_));
+}
+
+void QtRichTextBox::ReplaceAll(FormattedText text) {
+  Clear(FormatOfFirst(widget_->textCursor()));
+  {
+    const ProgramChange change(*view_);
+    QTextCursor cursor(widget_->document());
+    Insert(cursor, std::move(text), lines_);
+    widget_->document()->clearUndoRedoStacks();
+  }
+  Select(0, 0);
+}
+
+void QtRichTextBox::Clear(const QTextCharFormat& format) {
+  if (loading_) loading_->Abandon();
+  loading_.reset();
+  const ProgramChange change(*view_);
+  widget_->document()->clear();
+  QTextCursor cursor(widget_->document());
+  KeepFormatIfEmpty(cursor, format);
 }
 
 std::size_t QtRichTextBox::SelStart() const {
-  return static_cast<std::size_t>(widget_->textCursor().selectionStart());
+  return TextPosition(widget_->textCursor().selectionStart());
 }
 
 std::size_t QtRichTextBox::SelLength() const {
   const QTextCursor cursor = widget_->textCursor();
-  return static_cast<std::size_t>(cursor.selectionEnd() - cursor.selectionStart());
+  return TextPosition(cursor.selectionEnd()) - TextPosition(cursor.selectionStart());
 }
 
 void QtRichTextBox::Select(std::size_t start, std::size_t length) {
@@ -95,8 +112,8 @@ void QtRichTextBox::Select(std::size_t start, std::size_t length) {
     const std::size_t from = std::min(start, TextLength());
     const std::size_t to = from + std::min(length, TextLength() - from);
     QTextCursor cursor(widget_->document());
-    cursor.setPosition(static_cast<int>(from));
-    cursor.setPosition(static_cast<int>(to), QTextCursor::KeepAnchor);
+    cursor.setPosition(DocumentPosition(from));
+    cursor.setPosition(DocumentPosition(to), QTextCursor::KeepAnchor);
     widget_->setTextCursor(cursor);
     widget_->ensureCursorVisible();
   }
@@ -139,8 +156,16 @@ void QtRichTextBox::SetFontCharset(int charset) {
 }
 
 void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
-  if (format == TextFileFormat::PlainText) return SetText(files_.ReadText(path));
-  ReplaceAll(richtext::ReadRtf(files_.ReadBytes(path)));
+  const QTextCharFormat before = FormatOfFirst(widget_->textCursor());
+  FormattedText text = format == TextFileFormat::PlainText
+                           ? FormattedText(files_.ReadText(path), before, lines_)
+                           : FormattedText(richtext::ReadRtf(files_.ReadBytes(path)), lines_);
+  Clear(before);
+  loading_ = std::make_unique<TextLoading>(*view_, QTextCursor(widget_->document()),
+                                           std::move(text), [this](int percent) {
+                                             if (onLoadProgress) onLoadProgress(percent);
+                                           });
+  Select(0, 0);
 }
 
 void QtRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) const {

@@ -4,16 +4,18 @@
 
 #include <QPlainTextEdit>
 #include <QPointer>
-#include <functional>
+#include <memory>
 
 #include "platform/file_system.h"
 #include "platform/rich_text_box.h"
 #include "platform_qt/qt_control.h"
 #include "platform_qt/qt_rich_text.h"
+#include "platform_qt/qt_text_insertion.h"
 
 namespace verlume::qt {
 
 class RichTextWidget;
+class TextLoading;
 
 // Undo is there for the user of a single-line box that is not locked. Ground and letters are the
 // classic white and black whatever the desktop's theme.
@@ -51,14 +53,21 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines);
 
   richtext::Document Content() const;
-  void ReplaceAll(const richtext::Document& document);
-  void ReplaceAll(const std::function<void(QTextCursor&)>& fill);
+  // What is put in afterwards is in this format, until another is set.
+  void Clear(const QTextCharFormat& format);
+  void ReplaceAll(FormattedText text);
+  // With all of a file that is still coming in.
+  QTextCursor Everything() const;
   void FollowTo(const QTextCursor& cursor);
+  // A position in the text, and in the document: they differ in a long single line.
+  std::size_t TextPosition(int position) const;
+  int DocumentPosition(std::size_t position) const;
 
   QPointer<RichTextWidget> view_;
   FileSystem& files_;
   Lines lines_;
   std::u16string tag_;
+  std::unique_ptr<TextLoading> loading_;  // the last one, done or not
 };
 
 }  // namespace verlume::qt

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform_qt/qt_text.h"
+#include "platform_qt/qt_text_insertion.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 

@@ -10,6 +10,7 @@
 #include "platform_qt/qt_rich_text_mime.h"
 #include "platform_qt/qt_text.h"
 #include "platform_qt/qt_text_format.h"
+#include "platform_qt/qt_text_insertion.h"
 
 namespace verlume::qt {
 namespace {
@@ -139,7 +140,7 @@ bool RichTextWidget::canInsertFromMimeData(const QMimeData* source) const {
 }
 
 QMimeData* RichTextWidget::createMimeDataFromSelection() const {
-  return new RichTextMimeData(SelectedDocument(textCursor(), charset_));
+  return new RichTextMimeData(SelectedDocument(textCursor(), charset_, lines_));
 }
 
 void RichTextWidget::insertFromMimeData(const QMimeData* source) {

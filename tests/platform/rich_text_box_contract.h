@@ -11,6 +11,7 @@
 #include "platform/rich_text_box.h"
 #include "platform/run_time_failure.h"
 #include "platform_fake/fake_file_system.h"
+#include "richtext/rtf_reader.h"
 
 namespace verlume {
 

@@ -230,8 +230,30 @@ TYPED_TEST_P(RichTextBoxText, TheProgramsChangesOfTheSelectionAreTold) {
   EXPECT_EQ(tells([&] { this->platform.Type(box, u"x"); }), 1);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(RichTextBoxText, ABoxBeginsEmpty, LineBreaksAreOneUnit,
-                            LineBreaksBecomeBlanksInASingleLine,
+TYPED_TEST_P(RichTextBoxText, ALongTextIsOneTextInAnyBox) {
+  std::u16string text;
+  while (text.size() < 20'000) text += u"words and \U0001F600 and more ";
+  text += std::u16string(9'000, u'w');
+  for (RichTextBox* box : {this->many.get(), this->single.get()}) {
+    box->SetText(text);
+    EXPECT_TRUE(box->Text() == text);
+    EXPECT_EQ(box->TextLength(), text.size());
+    EXPECT_TRUE(richtext::ReadRtf(box->Rtf()).text == text);
+    box->Select(text.size(), 0);
+    EXPECT_EQ(box->SelStart(), text.size());
+    for (const std::size_t start : {0u, 4'000u, 4'096u, 8'200u}) {
+      box->Select(start, 8'192);
+      EXPECT_EQ(box->SelStart(), start);
+      EXPECT_EQ(box->SelLength(), 8'192u);
+    }
+    box->SetSelText(u"X");
+    EXPECT_TRUE(box->Text() == text.substr(0, 8'200) + u"X" + text.substr(8'200 + 8'192));
+    EXPECT_EQ(box->SelStart(), 8'201u);
+  }
+}
+
+REGISTER_TYPED_TEST_SUITE_P(RichTextBoxText, ALongTextIsOneTextInAnyBox, ABoxBeginsEmpty,
+                            LineBreaksAreOneUnit, LineBreaksBecomeBlanksInASingleLine,
                             SeparatorsAndObjectMarksAreHarmless, NoBreakSpacesAndSurrogatesStay,
                             SettingTextPutsTheInsertionPointAtTheStart, ASelectionIsCutToTheText,
                             PuttingInReplacesTheSelection, ALockedBoxIsChangedByTheProgramAlone,

@@ -4,39 +4,11 @@
 
 #include <QTextDocument>
 
-#include "platform_qt/qt_text.h"
+#include "platform_qt/qt_text_insertion.h"
 #include "richtext/rtf_limits.h"
 
 namespace verlume::qt {
 namespace {
-
-TEST(QtRichText, ReturnsAndLineFeedsBecomeOneBreakEach) {
-  EXPECT_EQ(FromQt(SafeText(u"a\r\nb\rc\nd\r\r\ne", Lines::Many)), u"a\nb\nc\nd\n\ne");
-}
-
-TEST(QtRichText, BreaksOfAnyKindBecomeBlanksInASingleLine) {
-  EXPECT_EQ(FromQt(SafeText(u"a\r\nb\rc\nd\u2028e\u2029f", Lines::Single)), u"a b c d e f");
-}
-
-TEST(QtRichText, SeparatorsBecomeLineBreaks) {
-  EXPECT_EQ(FromQt(SafeText(u"a\u2028b\u2029c", Lines::Many)), u"a\nb\nc");
-}
-
-TEST(QtRichText, UnitsThatQtGivesAMeaningBecomeReplacementCharacters) {
-  using namespace std::string_view_literals;
-  EXPECT_EQ(FromQt(SafeText(u"a\0b\uFFFC"sv, Lines::Many)), u"a\uFFFDb\uFFFD");
-  const std::u16string frame = {0xFDD0, u'x', 0xFDD1, 0xFDEF};
-  EXPECT_EQ(FromQt(SafeText(frame, Lines::Many)), u"\uFFFDx\uFFFD\uFFFD");
-}
-
-TEST(QtRichText, ByteOrderMarksAreCharactersLikeOthers) {
-  for (const std::u16string text : {u"\uFEFFab", u"\uFFFEab"}) EXPECT_EQ(FromQt(ToQt(text)), text);
-}
-
-TEST(QtRichText, LoneSurrogatesAndNoBreakSpacesStay) {
-  const std::u16string odd = {0xD800, u'a', 0xDC00, 0x00A0};
-  EXPECT_EQ(FromQt(SafeText(odd, Lines::Many)), odd);
-}
 
 TEST(QtRichText, ADocumentComesOutAsItWentIn) {
   richtext::Document document;
@@ -49,7 +21,7 @@ TEST(QtRichText, ADocumentComesOutAsItWentIn) {
   QTextCursor cursor(&shown);
   InsertDocument(cursor, document, Lines::Many);
   cursor.select(QTextCursor::Document);
-  EXPECT_EQ(SelectedDocument(cursor, 161), document);
+  EXPECT_EQ(SelectedDocument(cursor, 161, Lines::Many), document);
 }
 
 TEST(QtRichText, APartOfADocumentComesOutWithItsFormats) {
@@ -62,7 +34,7 @@ TEST(QtRichText, APartOfADocumentComesOutWithItsFormats) {
   InsertDocument(cursor, document, Lines::Many);
   cursor.setPosition(1);
   cursor.setPosition(5, QTextCursor::KeepAnchor);
-  const richtext::Document part = SelectedDocument(cursor, 161);
+  const richtext::Document part = SelectedDocument(cursor, 161, Lines::Many);
   EXPECT_EQ(part.text, u"bc\nd");
   EXPECT_EQ(part.runs, (std::vector<richtext::Run>{{1, {.bold = true}}, {3, {}}}));
 }
@@ -76,7 +48,7 @@ TEST(QtRichText, FontsBeyondTheLimitOfADocumentTakeItsFirst) {
     cursor.insertText(QStringLiteral("x"), format);
   }
   cursor.select(QTextCursor::Document);
-  const richtext::Document document = SelectedDocument(cursor, 161);
+  const richtext::Document document = SelectedDocument(cursor, 161, Lines::Many);
   EXPECT_EQ(document.fonts.size(), richtext::limits::kMaxFonts);
   EXPECT_EQ(document.runs.back().format.font, 0);
 }

@@ -1,0 +1,151 @@
+#include "platform_qt/qt_text_insertion.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+#include <utility>
+
+#include "platform_qt/qt_text.h"
+#include "platform_qt/qt_text_format.h"
+
+namespace verlume::qt {
+namespace {
+
+// A block is laid out as a whole, with every key that changes it.
+constexpr qsizetype kLongestBlock = 4096;
+// How far back from the end of a block a blank is looked for, to end it there.
+constexpr qsizetype kLongestWord = 256;
+
+// Qt ends blocks, frames and tables with these and puts U+FFFC for objects.
+char16_t SafeUnit(char16_t unit, Lines lines) {
+  switch (unit) {
+    case u'\n':
+    case u'\r':
+    case u'\u2028':
+    case u'\u2029':
+      return lines == Lines::Single ? u' ' : u'\n';
+    case u'\0':
+    case u'\uFFFC':
+      return u'\uFFFD';
+    default:
+      return unit >= 0xFDD0 && unit <= 0xFDEF ? u'\uFFFD' : unit;
+  }
+}
+
+// The run model counts every unit, so here none is dropped.
+QString SafeUnits(std::u16string_view text, Lines lines) {
+  QString safe = ToQt(text);
+  for (QChar& c : safe) c = SafeUnit(c.unicode(), lines);
+  return safe;
+}
+
+// A format of a long document is made once, not with each of its runs.
+class FormatCache {
+ public:
+  explicit FormatCache(const std::vector<richtext::Font>& fonts) : fonts_(fonts) {}
+
+  const QTextCharFormat& Of(const richtext::CharFormat& format) {
+    const Key key(format.font, format.halfPoints, format.color, format.bold, format.italic,
+                  format.underline, format.strikethrough);
+    const auto known = made_.find(key);
+    return known != made_.end() ? known->second
+                                : made_.emplace(key, ToQt(format, fonts_)).first->second;
+  }
+
+ private:
+  using Key = std::tuple<int, int, Color, bool, bool, bool, bool>;
+
+  const std::vector<richtext::Font>& fonts_;
+  std::map<Key, QTextCharFormat> made_;
+};
+
+}  // namespace
+
+QString SafeText(std::u16string_view text, Lines lines) {
+  std::u16string joined;
+  joined.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool first = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
+    if (!first) joined += text[i];
+  }
+  return SafeUnits(joined, lines);
+}
+
+FormattedText::FormattedText(std::u16string_view plain, const QTextCharFormat& format, Lines lines)
+    : text(SafeText(plain, lines)), pieces{{text.size(), format}} {}
+
+FormattedText::FormattedText(const richtext::Document& document, Lines lines)
+    : text(SafeUnits(document.text, lines)) {
+  FormatCache formats(document.fonts);
+  pieces.reserve(document.runs.size());
+  for (const richtext::Run& run : document.runs) {
+    pieces.push_back({static_cast<qsizetype>(run.length), formats.Of(run.format)});
+  }
+}
+
+TextInsertion::TextInsertion(const QTextCursor& cursor, FormattedText text, Lines lines)
+    : cursor_(cursor), text_(std::move(text)), lines_(lines) {
+  cursor_.removeSelectedText();
+  cursor_.setKeepPositionOnInsert(true);
+}
+
+int TextInsertion::Percent() const {
+  return IsDone() ? 100 : static_cast<int>(at_ * 100 / text_.text.size());
+}
+
+void TextInsertion::PutIn(qsizetype units) {
+  const qsizetype end = std::min(at_ + units, text_.text.size());
+  cursor_.setKeepPositionOnInsert(false);
+  // The anchor has gone on with what was written there.
+  cursor_.clearSelection();
+  cursor_.beginEditBlock();
+  while (at_ < end) PutInPiece(end);
+  cursor_.endEditBlock();
+  cursor_.setKeepPositionOnInsert(true);
+}
+
+void TextInsertion::PutInPiece(qsizetype end) {
+  const FormattedText::Piece& piece = text_.pieces[piece_];
+  const qsizetype rest = std::min(piece.length - inPiece_, end - at_);
+  const qsizetype room = lines_ == Lines::Single ? kLongestBlock - cursor_.positionInBlock() : rest;
+  const qsizetype length = rest > room ? LengthOfCut(room) : rest;
+  cursor_.insertText(text_.text.mid(at_, length), piece.format);
+  if (length < rest) cursor_.insertBlock(cursor_.blockFormat(), piece.format);
+  at_ += length;
+  inPiece_ += length;
+  if (inPiece_ < piece.length) return;
+  ++piece_;
+  inPiece_ = 0;
+}
+
+// How much of a text that is longer than the room goes into it: the words that fit.
+qsizetype TextInsertion::LengthOfCut(qsizetype room) const {
+  if (room <= 0) return 0;
+  const qsizetype blank = text_.text.lastIndexOf(u' ', at_ + room - 1);
+  if (blank >= at_ && blank >= at_ + room - kLongestWord) return blank + 1 - at_;
+  if (room < kLongestWord) return 0;
+  return text_.text[at_ + room - 1].isHighSurrogate() ? room - 1 : room;
+}
+
+void Insert(QTextCursor& cursor, FormattedText text, Lines lines) {
+  const qsizetype length = text.text.size();
+  cursor.beginEditBlock();
+  TextInsertion insertion(cursor, std::move(text), lines);
+  insertion.PutIn(length);
+  cursor.endEditBlock();
+  cursor.setPosition(insertion.cursor().position());
+}
+
+void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines) {
+  const QTextCharFormat format = FormatOfFirst(cursor);
+  Insert(cursor, FormattedText(text, format, lines), lines);
+  KeepFormatIfEmpty(cursor, format);
+}
+
+void InsertDocument(QTextCursor& cursor, const richtext::Document& document, Lines lines) {
+  const QTextCharFormat before = FormatOfFirst(cursor);
+  Insert(cursor, FormattedText(document, lines), lines);
+  KeepFormatIfEmpty(cursor, before);
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,61 @@
+#include "platform_qt/qt_text_loading.h"
+
+#include <QElapsedTimer>
+#include <utility>
+
+namespace verlume::qt {
+namespace {
+
+// Shorter than a frame of the screen, so that no key or click waits for long.
+constexpr qint64 kTurnMilliseconds = 10;
+constexpr qsizetype kUnitsPerStep = 4096;
+constexpr qsizetype kUnitsAtOnce = 64 * 1024;
+constexpr int kAll = 100;
+
+}  // namespace
+
+TextLoading::TextLoading(RichTextWidget& widget, const QTextCursor& cursor, FormattedText text,
+                         std::function<void(int percent)> onProgress)
+    : widget_(widget),
+      insertion_(cursor, std::move(text), widget.lines()),
+      onProgress_(std::move(onProgress)) {
+  PutIn(kUnitsAtOnce);
+  if (insertion_.IsDone()) {
+    told_ = kAll;
+    return;
+  }
+  QObject::connect(&next_, &QTimer::timeout, &next_, [this] { Continue(); });
+  next_.start(0);
+}
+
+void TextLoading::Finish() {
+  if (!insertion_.IsDone()) PutIn(insertion_.UnitsToCome());
+  Abandon();
+}
+
+void TextLoading::Abandon() {
+  next_.stop();
+  Tell(kAll);
+}
+
+void TextLoading::PutIn(qsizetype units) {
+  const RichTextWidget::ProgramChange change(widget_);
+  insertion_.PutIn(units);
+  widget_.document()->clearUndoRedoStacks();
+}
+
+void TextLoading::Continue() {
+  QElapsedTimer turn;
+  turn.start();
+  while (!insertion_.IsDone() && turn.elapsed() < kTurnMilliseconds) PutIn(kUnitsPerStep);
+  if (insertion_.IsDone()) next_.stop();
+  Tell(insertion_.Percent());
+}
+
+void TextLoading::Tell(int percent) {
+  if (percent <= told_) return;
+  told_ = percent;
+  onProgress_(percent);
+}
+
+}  // namespace verlume::qt
