@@ -120,6 +120,15 @@ class ListBox : public Control {
   std::function<void()> onClick;
 };
 
+// How far something has come, in per cent. It is there only while there is something to tell of.
+class ProgressBar : public Control {
+ public:
+  virtual void SetValue(int percent) = 0;
+  virtual int Value() const = 0;
+  virtual void SetVisible(bool visible) = 0;
+  virtual bool Visible() const = 0;
+};
+
 // A part of a window that is there only while it is asked for. The window makes room for it.
 class Panel {
  public:

@@ -79,6 +79,7 @@ struct MainWindow {
 
   // The values of the status panel, and the caption beside each.
   Label& lblStatus;
+  ProgressBar& prgStatus;  // at the foot of lblStatus
   Label& lblCurrentDateTime;
   Label& lblChatStartDateTime;
   Label& lblChatDuration;

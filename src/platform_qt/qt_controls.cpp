@@ -85,6 +85,13 @@ void QtButton::SetCaption(std::u16string_view text) {
   SetCaptionWithMnemonic(widget_, ToQt(text));
 }
 
+QtProgressBar::QtProgressBar(QProgressBar* widget) : QtControl(widget) {
+  widget->setRange(0, 100);
+  widget->setValue(0);
+  widget->setTextVisible(false);
+  widget->hide();
+}
+
 QtMenuEntry::QtMenuEntry(QAction* action) : action_(action) {
   QObject::connect(action, &QAction::triggered, action, [this] {
     // Qt has turned the tick of a checkable entry; the program alone sets it.

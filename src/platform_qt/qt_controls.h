@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QIcon>
 #include <QMenu>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
 
@@ -101,6 +102,16 @@ class QtButton : public QtControl<Button, QPushButton> {
 
  private:
   std::u16string caption_;
+};
+
+class QtProgressBar : public QtControl<ProgressBar, QProgressBar> {
+ public:
+  // Hidden, and at 0.
+  explicit QtProgressBar(QProgressBar* widget);
+  void SetValue(int percent) override { widget_->setValue(percent); }
+  int Value() const override { return widget_->value(); }
+  void SetVisible(bool visible) override { widget_->setVisible(visible); }
+  bool Visible() const override { return !widget_->isHidden(); }
 };
 
 class QtMenuEntry : public MenuEntry {

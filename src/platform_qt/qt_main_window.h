@@ -84,6 +84,7 @@ class QtMainWindow {
   QtCheckBox chkUnderline{form_.Find<QCheckBox>("chkUnderline")};
   QtLabel lblColor{form_.Find<ElidedLabel>("lblColor")};
   QtLabel lblStatus{form_.Find<ElidedLabel>("lblStatus")};
+  QtProgressBar prgStatus{form_.Find<QProgressBar>("prgStatus")};
   QtLabel lblCurrentDateTime{form_.Find<ElidedLabel>("lblCurrentDateTime")};
   QtLabel lblChatStartDateTime{form_.Find<ElidedLabel>("lblChatStartDateTime")};
   QtLabel lblChatDuration{form_.Find<ElidedLabel>("lblChatDuration")};
@@ -162,6 +163,7 @@ class QtMainWindow {
                       chkUnderline,
                       lblColor,
                       lblStatus,
+                      prgStatus,
                       lblCurrentDateTime,
                       lblChatStartDateTime,
                       lblChatDuration,

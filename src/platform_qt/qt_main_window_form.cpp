@@ -47,6 +47,7 @@ MainForm::MainForm()
   setCentralWidget(area_);
   BuildMenus();
   BuildControls();
+  PlaceProgressBar();
   RelateCaptions();
   resize(kUsualSize.boundedTo(screen()->availableSize()));
 }
@@ -114,6 +115,13 @@ QWidget* MainForm::BuildLabel(const ControlDesign& design) {
   label->setWordWrap(design.kind == ControlKind::Wrapped);
   if (design.kind == ControlKind::Swatch) label->setFrameShape(QFrame::Box);
   return label;
+}
+
+void MainForm::PlaceProgressBar() {
+  auto* bar = new QProgressBar(area_);
+  bar->setObjectName(QStringLiteral("prgStatus"));
+  bar->setFixedHeight(fontMetrics().height() / 2);
+  layout_->PlaceFoot(Find<QWidget>("lblStatus"), bar);
 }
 
 // Assistive tools read a value with its caption.

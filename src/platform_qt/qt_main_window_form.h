@@ -34,6 +34,7 @@ class MainForm : public QMainWindow {
   void BuildControls();
   QWidget* Build(const ControlDesign& design);
   QWidget* BuildLabel(const ControlDesign& design);
+  void PlaceProgressBar();
   void RelateCaptions();
 
   QWidget* area_;

@@ -47,6 +47,12 @@ void DialogueFiles::mnuFileLogSaveAs_Click() {
   platform_.frmMain.rtbCommands.SetFocus();
 }
 
+void DialogueFiles::rtbData_LoadProgress(int percent) {
+  ProgressBar& bar = platform_.frmMain.prgStatus;
+  bar.SetValue(percent);
+  bar.SetVisible(percent < 100);
+}
+
 void DialogueFiles::LoadDialogueAs(std::u16string_view extension) {
   const std::u16string title =
       kLoadDialogTitle.Fill(state_.IsGreek, {platform_.locale.UpperCase(extension)});

@@ -22,6 +22,9 @@ class DialogueFiles {
   // file that cannot be written stays as it was.
   void mnuFileLogSaveAs_Click();
 
+  // Shows how much of a long file is in the dialogue pane, as long as not all of it is.
+  void rtbData_LoadProgress(int percent);
+
  private:
   // `extension` is "rtf" or "txt" in any letter case; it decides the format.
   void LoadDialogueAs(std::u16string_view extension);

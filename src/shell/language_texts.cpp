@@ -127,6 +127,8 @@ std::vector<FixedText> PanelTexts(const MainWindow& frmMain) {
       {ToolTip(frmMain.chkUnderline), {u"Underlined", u"Υπογραμμισμένη γραφή"}},
       {ToolTip(frmMain.lblColor), {u"Font color", u"Χρώμα γραμματοσειράς"}},
       {AccessibleName(frmMain.lblColor), {u"Font color", u"Χρώμα γραμματοσειράς"}},
+      {ToolTip(frmMain.prgStatus), {u"Load dialogue", u"Φόρτωμα διαλόγου"}},
+      {AccessibleName(frmMain.prgStatus), {u"Load dialogue", u"Φόρτωμα διαλόγου"}},
       {AccessibleName(frmMain.rtbData), {u"Dialogue", u"Διάλογος"}},
       {AccessibleName(frmMain.rtbCommands), {u"Commands", u"Εντολές"}},
       {AccessibleName(frmMain.picCopyright), {u"Copyright notice", u"Πνευματικά δικαιώματα"}},

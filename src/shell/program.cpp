@@ -162,6 +162,7 @@ void Program::BindMenus() {
 
 void Program::BindPanes() {
   MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.rtbData.onLoadProgress, dialogueFiles_, &DialogueFiles::rtbData_LoadProgress);
   On(frmMain.rtbCommands.onKeyPress, interpreter_, &CommandInterpreter::rtbCommands_KeyPress);
   On(frmMain.rtbCommands.onKeyDown, history_, &CommandHistory::rtbCommands_KeyDown);
   On(frmMain.rtbCommands.onSelChange, textFormat_, &TextFormat::rtbCommands_SelChange);

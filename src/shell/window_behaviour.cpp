@@ -48,6 +48,7 @@ void BindContextHelp(const MainWindow& frmMain) {
                    &frmMain.lblBytesSentCaption,
                    &frmMain.lblBytesReceivedCaption,
                    &frmMain.lblStatus,
+                   &frmMain.prgStatus,
                    &frmMain.picShape,
                    &frmMain.chkBold,
                    &frmMain.chkItalics,

@@ -143,6 +143,17 @@ class FakeListBox : public FakeControl<ListBox> {
   bool Has(int index) const { return index >= 0 && index < Count(); }
 };
 
+class FakeProgressBar : public FakeControl<ProgressBar> {
+ public:
+  void SetValue(int percent) override { value = percent; }
+  int Value() const override { return value; }
+  void SetVisible(bool isVisible) override { visible = isVisible; }
+  bool Visible() const override { return visible; }
+
+  int value = 0;
+  bool visible = false;
+};
+
 class FakePanel : public Panel {
  public:
   void SetVisible(bool value) override { visible = value; }

@@ -66,6 +66,7 @@ struct FakeMainWindow {
   FakeCheckBox chkUnderline;
   FakeLabel lblColor;
   FakeLabel lblStatus;
+  FakeProgressBar prgStatus;
   FakeLabel lblCurrentDateTime;
   FakeLabel lblChatStartDateTime;
   FakeLabel lblChatDuration;
@@ -145,6 +146,7 @@ struct FakeMainWindow {
       chkUnderline,
       lblColor,
       lblStatus,
+      prgStatus,
       lblCurrentDateTime,
       lblChatStartDateTime,
       lblChatDuration,

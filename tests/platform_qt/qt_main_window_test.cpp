@@ -46,6 +46,23 @@ TEST_F(QtMainWindowTest, EveryControlOfTheDesignBearsItsNameOnce) {
   for (const char* name : {"rtbRemote", "shpStatus"}) EXPECT_NE(Named(name), nullptr) << name;
 }
 
+TEST_F(QtMainWindowTest, ProgressStandsAtTheFootOfTheStatusLineWhileItIsShown) {
+  Show();
+  const QWidget* bar = Named("prgStatus");
+  const QRect wholeLine = Named("lblStatus")->geometry();
+  EXPECT_FALSE(bar->isVisible());
+  view.prgStatus.SetValue(40);
+  view.prgStatus.SetVisible(true);
+  form.centralWidget()->layout()->activate();
+  EXPECT_TRUE(bar->isVisible());
+  EXPECT_TRUE(wholeLine.contains(bar->geometry()));
+  EXPECT_FALSE(bar->geometry().intersects(Named("lblStatus")->geometry()));
+  EXPECT_GE(Named("lblStatus")->height(), form.fontMetrics().height());
+  view.prgStatus.SetVisible(false);
+  form.centralWidget()->layout()->activate();
+  EXPECT_EQ(Named("lblStatus")->geometry(), wholeLine);
+}
+
 TEST_F(QtMainWindowTest, MenusStandInTheirOrder) {
   QStringList names;
   for (QAction* action : form.menuBar()->actions()) names.append(action->menu()->objectName());

@@ -267,5 +267,18 @@ TEST_F(DialogueFilesTest, CommandPaneGetsTheFocusBack) {
   EXPECT_EQ(fake.window.rtbCommands.timesFocused, 2);
 }
 
+TEST_F(DialogueFilesTest, ProgressIsShownUntilAllOfTheDialogueIsThere) {
+  const fake::FakeProgressBar& bar = fake.window.prgStatus;
+  EXPECT_FALSE(bar.visible);
+  dialogueFiles.rtbData_LoadProgress(1);
+  EXPECT_TRUE(bar.visible);
+  EXPECT_EQ(bar.value, 1);
+  dialogueFiles.rtbData_LoadProgress(99);
+  EXPECT_TRUE(bar.visible);
+  EXPECT_EQ(bar.value, 99);
+  dialogueFiles.rtbData_LoadProgress(100);
+  EXPECT_FALSE(bar.visible);
+}
+
 }  // namespace
 }  // namespace verlume

@@ -51,6 +51,9 @@ void Collect(ShownTexts& texts, const fake::FakeRichTextBox& box) {
 void Collect(ShownTexts& texts, const fake::FakeTextField& field) {
   Collect<TextField>(texts, field);
 }
+void Collect(ShownTexts& texts, const fake::FakeProgressBar& bar) {
+  Collect<ProgressBar>(texts, bar);
+}
 void Collect(ShownTexts&, const fake::FakePanel&) {}
 void Collect(ShownTexts&, const fake::FakeLayoutControl&) {}
 void Collect(ShownTexts&, const fake::FakeTimer&) {}
@@ -69,11 +72,11 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuHelp, mnuHelpDetailed,
                mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind, cmdFindPrevious,
                cmdFindNext, lblFindResult, cmdFindClose, chkBold, chkItalics, chkUnderline,
-               lblColor, lblStatus, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration,
-               lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
-               lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
-               lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalIPCaption,
-               lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption,
+               lblColor, lblStatus, prgStatus, lblCurrentDateTime, lblChatStartDateTime,
+               lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP,
+               lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
+               lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
+               lblLocalIPCaption, lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption,
                lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
                lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright, frmMain] =
       mainWindow;
@@ -85,12 +88,12 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuCommCall, mnuCommCancel, mnuCommClose, mnuCommRefresh, mnuFormat, mnuFormatFontBold,
           mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize, mnuFormatFontColor,
           mnuFormatFontSettings, mnuFormatBackcolorCommands, mnuFormatBackcolorDialogue, mnuTools,
-          mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsClearDialogue,
+          mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsClearDialogue,
           mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate, mnuToolsTime,
           mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuHelp,
           mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
           cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, chkBold, chkItalics,
-          chkUnderline, lblColor, lblStatus, lblCurrentDateTime, lblChatStartDateTime,
+          chkUnderline, lblColor, lblStatus, prgStatus, lblCurrentDateTime, lblChatStartDateTime,
           lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
           lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
           lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalIPCaption,
