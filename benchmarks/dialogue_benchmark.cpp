@@ -1,13 +1,18 @@
 // What a line of conversation costs in the dialogue pane, when the dialogue is short and when it is
-// long, and what a long dialogue costs in memory and when its window changes size.
+// long, and what a long dialogue costs: in memory, when its window changes size, when it is saved
+// and when it is loaded. Beside these, what a long macro costs.
 #include <benchmark/benchmark.h>
 #include <unistd.h>
 
 #include <QApplication>
+#include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <fstream>
 #include <map>
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "platform_qt/qt_rich_text_box.h"
 
@@ -16,8 +21,8 @@ namespace {
 using verlume::SelectionFormat;
 using verlume::qt::QtRichTextBox;
 
-// The pane is never loaded from a file here.
-class NoFiles : public verlume::FileSystem {
+// One file, whatever its path.
+class OneFile : public verlume::FileSystem {
  public:
   bool IsFolder(std::u16string_view) const noexcept override { return false; }
   bool IsFile(std::u16string_view) const noexcept override { return false; }
@@ -25,12 +30,16 @@ class NoFiles : public verlume::FileSystem {
     return {};
   }
   std::u16string ReadText(std::u16string_view) const override { return {}; }
-  std::string ReadBytes(std::u16string_view) const override { return {}; }
-  void ReplaceText(std::u16string_view, std::u16string_view) override {}
+  std::string ReadBytes(std::u16string_view) const override { return bytes; }
+  void ReplaceText(std::u16string_view, std::u16string_view text) override {
+    bytes.assign(text.begin(), text.end());
+  }
   void ReplaceBytes(std::u16string_view, std::string_view) override {}
   void AppendText(std::u16string_view, std::u16string_view) override {}
   void Delete(std::u16string_view) override {}
   char16_t Separator() const override { return u'/'; }
+
+  std::string bytes;
 };
 
 constexpr std::u16string_view kMessage =
@@ -40,8 +49,8 @@ constexpr std::u16string_view kMessage =
 
 class Pane {
  public:
-  Pane() {
-    box_ = std::make_unique<QtRichTextBox>(&window_, files_, QtRichTextBox::Lines::Many);
+  explicit Pane(QtRichTextBox::Lines lines = QtRichTextBox::Lines::Many) {
+    box_ = std::make_unique<QtRichTextBox>(&window_, files_, lines);
     box_->SetLocked(true);
     box_->widget()->setGeometry(0, 0, 600, 400);
     window_.resize(600, 400);
@@ -65,6 +74,28 @@ class Pane {
     QApplication::processEvents();
   }
 
+  const std::string& Save() {
+    box_->SaveFile(u"", verlume::TextFileFormat::RichText);
+    return files_.bytes;
+  }
+
+  // How long the window did not answer at worst, in seconds.
+  double Load(const std::string& rtf) {
+    using Clock = std::chrono::steady_clock;
+    files_.bytes = rtf;
+    bool loading = true;
+    box_->onLoadProgress = [&loading](int percent) { loading = percent < 100; };
+    std::chrono::duration<double> worst{};
+    Clock::time_point before = Clock::now();
+    box_->LoadFile(u"", verlume::TextFileFormat::RichText);
+    while (loading) {
+      QApplication::processEvents();
+      worst = std::max<std::chrono::duration<double>>(worst, Clock::now() - before);
+      before = Clock::now();
+    }
+    return worst.count();
+  }
+
   void Resize(int width, int height) {
     box_->widget()->resize(width, height);
     QApplication::processEvents();
@@ -78,7 +109,7 @@ class Pane {
     box_->SetSelText(text);
   }
 
-  NoFiles files_;
+  OneFile files_;
   QWidget window_;
   std::unique_ptr<QtRichTextBox> box_;
 };
@@ -130,5 +161,45 @@ void BM_ResizeDialogue(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_ResizeDialogue)->Arg(100)->Arg(100'000)->Iterations(20)->Unit(benchmark::kMillisecond);
+
+// What is between the pane and the file; the disk comes on top.
+void BM_SaveDialogue(benchmark::State& state) {
+  Pane& pane = PaneOf(state.range(0)).pane;
+  for (auto _ : state) benchmark::DoNotOptimize(pane.Save());
+  state.counters["bytes"] = static_cast<double>(pane.Save().size());
+}
+BENCHMARK(BM_SaveDialogue)->Arg(100'000)->Iterations(5)->Unit(benchmark::kMillisecond);
+
+void BM_LoadDialogue(benchmark::State& state) {
+  const std::string saved = PaneOf(state.range(0)).pane.Save();
+  double worst = 0;
+  for (auto _ : state) {
+    Pane pane;
+    worst = std::max(worst, pane.Load(saved));
+  }
+  state.counters["worst_answer_s"] = worst;
+}
+BENCHMARK(BM_LoadDialogue)->Arg(100'000)->Iterations(5)->Unit(benchmark::kMillisecond);
+
+// A macro of so many bytes, which is one line: of words, or of one word without end.
+void BM_LoadMacro(benchmark::State& state, std::string_view word) {
+  std::string macro = "{\\rtf1\\ansi ";
+  while (macro.size() < static_cast<std::size_t>(state.range(0))) macro += word;
+  macro += '}';
+  double worst = 0;
+  for (auto _ : state) {
+    Pane pane(QtRichTextBox::Lines::Single);
+    worst = std::max(worst, pane.Load(macro));
+  }
+  state.counters["worst_answer_s"] = worst;
+}
+BENCHMARK_CAPTURE(BM_LoadMacro, words, "some words and \\b bold\\b0  ones ")
+    ->Arg(5'000'000)
+    ->Iterations(3)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_LoadMacro, one_word, "x")
+    ->Arg(5'000'000)
+    ->Iterations(3)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
