@@ -36,6 +36,8 @@ inline constexpr int kTab = 9;
 inline constexpr int kEscape = 27;
 inline constexpr int kPageUp = 33;
 inline constexpr int kPageDown = 34;
+inline constexpr int kUp = 38;
+inline constexpr int kDown = 40;
 }  // namespace key_code
 
 class RichTextBox : public Control {
@@ -94,10 +96,16 @@ class RichTextBox : public Control {
   // The selection, or the format at the insertion point, may have changed: by the user or by a
   // program's Select, SetText, SetRtf, LoadFile. Never by SetSelFormat.
   std::function<void()> onSelChange;
+  // The text has changed, by the user or by a program's SetText, SetRtf, LoadFile, SetSelText,
+  // SetSelRtf, which tell it also where the text is what it was. Once a change, after its
+  // onSelChange. Never by SetSelFormat.
+  std::function<void()> onChange;
   std::function<void()> onGotFocus;
   // How much of a long file is in the box by now, from 1 to 100: each value at most once, and 100
   // last, also when the rest is abandoned. A short file raises none.
   std::function<void(int percent)> onLoadProgress;
+  // The keyboard went elsewhere, to another window or to a menu as well.
+  std::function<void()> onLostFocus;
 };
 
 }  // namespace verlume

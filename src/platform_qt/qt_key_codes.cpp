@@ -33,6 +33,10 @@ int KeyCodeOf(const QKeyEvent& event) {
       return key_code::kPageUp;
     case Qt::Key_PageDown:
       return key_code::kPageDown;
+    case Qt::Key_Up:
+      return key_code::kUp;
+    case Qt::Key_Down:
+      return key_code::kDown;
     default:
       return key_code::kOther;
   }

@@ -86,6 +86,7 @@ void QtRichTextBox::ReplaceAll(FormattedText text) {
     widget_->document()->clearUndoRedoStacks();
   }
   Select(0, 0);
+  RaiseChange();
 }
 
 void QtRichTextBox::Clear(const QTextCharFormat& format) {
@@ -132,17 +133,23 @@ void QtRichTextBox::SetSelFormat(const SelectionFormat& format) {
 }
 
 void QtRichTextBox::SetSelText(std::u16string_view text) {
-  const ProgramChange change(*view_);
-  QTextCursor cursor = widget_->textCursor();
-  InsertText(cursor, text, lines_);
-  FollowTo(cursor);
+  {
+    const ProgramChange change(*view_);
+    QTextCursor cursor = widget_->textCursor();
+    InsertText(cursor, text, lines_);
+    FollowTo(cursor);
+  }
+  RaiseChange();
 }
 
 void QtRichTextBox::SetSelRtf(std::u16string_view rtf) {
-  const ProgramChange change(*view_);
-  QTextCursor cursor = widget_->textCursor();
-  InsertDocument(cursor, richtext::ReadRtf(rtf), lines_);
-  FollowTo(cursor);
+  {
+    const ProgramChange change(*view_);
+    QTextCursor cursor = widget_->textCursor();
+    InsertDocument(cursor, richtext::ReadRtf(rtf), lines_);
+    FollowTo(cursor);
+  }
+  RaiseChange();
 }
 
 void QtRichTextBox::FollowTo(const QTextCursor& cursor) {
@@ -166,6 +173,7 @@ void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
                                              if (onLoadProgress) onLoadProgress(percent);
                                            });
   Select(0, 0);
+  RaiseChange();
 }
 
 void QtRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) const {

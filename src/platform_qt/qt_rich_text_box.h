@@ -62,6 +62,9 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   // A position in the text, and in the document: they differ in a long single line.
   std::size_t TextPosition(int position) const;
   int DocumentPosition(std::size_t position) const;
+  void RaiseChange() {
+    if (onChange) onChange();
+  }
 
   QPointer<RichTextWidget> view_;
   FileSystem& files_;

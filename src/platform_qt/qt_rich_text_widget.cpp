@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "platform_qt/qt_key_codes.h"
 #include "platform_qt/qt_rich_text_mime.h"
@@ -57,7 +58,7 @@ RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
   const auto note = [this] { NoteSelChange(); };
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, note);
   connect(this, &QPlainTextEdit::selectionChanged, this, note);
-  connect(document(), &QTextDocument::contentsChanged, this, note);
+  connect(document(), &QTextDocument::contentsChanged, this, [this] { NoteChange(); });
 }
 
 bool RichTextWidget::Swallowed(int keyCode, int shift, int charCode) {
@@ -122,6 +123,11 @@ void RichTextWidget::focusInEvent(QFocusEvent* event) {
   if (events_ && events_->onGotFocus) events_->onGotFocus();
 }
 
+void RichTextWidget::focusOutEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusOutEvent(event);
+  if (events_ && events_->onLostFocus) events_->onLostFocus();
+}
+
 void RichTextWidget::resizeEvent(QResizeEvent* event) {
   QTextCursor end(document());
   end.movePosition(QTextCursor::End);
@@ -158,6 +164,11 @@ void RichTextWidget::NoteSelChange() {
   if (userDepth_ == 0) SettleSelChange();
 }
 
+void RichTextWidget::NoteChange() {
+  if (programDepth_ == 0) changed_ = true;
+  NoteSelChange();
+}
+
 void RichTextWidget::SettleSelChange() {
   if (!selChanged_) return KeepInsertionFormat();
   selChanged_ = false;
@@ -168,7 +179,10 @@ void RichTextWidget::SettleSelChange() {
     setTextCursor(cursor);
   }
   lastFormat_ = textCursor().charFormat();
+  const QPointer<RichTextWidget> self(this);
   if (events_ && events_->onSelChange) events_->onSelChange();
+  if (!self || !std::exchange(changed_, false)) return;
+  if (events_ && events_->onChange) events_->onChange();
 }
 
 // A caret key that moves nothing makes Qt forget the format that was set for what is typed next.

@@ -37,6 +37,7 @@ class RichTextWidget : public QPlainTextEdit {
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
@@ -62,6 +63,7 @@ class RichTextWidget : public QPlainTextEdit {
   void PerformKey(QKeyEvent* event);
   void TypeText(const QString& text);
   void NoteSelChange();
+  void NoteChange();
   void SettleSelChange();
   void KeepInsertionFormat();
 
@@ -71,6 +73,7 @@ class RichTextWidget : public QPlainTextEdit {
   int programDepth_ = 0;
   int userDepth_ = 0;
   bool selChanged_ = false;
+  bool changed_ = false;
   QTextCharFormat lastFormat_;  // of the insertion point, when its box last came to rest
 };
 

@@ -252,16 +252,45 @@ TYPED_TEST_P(RichTextBoxText, ALongTextIsOneTextInAnyBox) {
   }
 }
 
-REGISTER_TYPED_TEST_SUITE_P(RichTextBoxText, ALongTextIsOneTextInAnyBox, ABoxBeginsEmpty,
-                            LineBreaksAreOneUnit, LineBreaksBecomeBlanksInASingleLine,
-                            SeparatorsAndObjectMarksAreHarmless, NoBreakSpacesAndSurrogatesStay,
-                            SettingTextPutsTheInsertionPointAtTheStart, ASelectionIsCutToTheText,
-                            PuttingInReplacesTheSelection, ALockedBoxIsChangedByTheProgramAlone,
-                            WhatIsNoRtfIsPlainText, RichTextSurvivesSettingItAgain,
-                            FilesAreLoadedInBothFormats, FilesAreSavedInBothFormats,
-                            SavedRichTextIsForWordProcessorsToo, AFailureLeavesTheBoxAndTheFile,
-                            TheTagAndTheGroundAreKept, KeysPassTheHandlersBeforeTheBox,
-                            AKeySwallowedOnItsWayDownTypesNothing,
-                            TheProgramsChangesOfTheSelectionAreTold);
+TYPED_TEST_P(RichTextBoxText, AChangedTextIsToldOnceWhoeverChangedIt) {
+  RichTextBox& box = *this->single;
+  this->platform.files.files[u"/a.rtf"] = "{\\rtf1 a}";
+  std::vector<std::u16string> told;
+  box.onChange = [&] { told.push_back(box.Text()); };
+  box.SetText(u"abc");
+  box.Select(3, 0);
+  box.SetSelText(u"d");
+  box.SetSelRtf(u"{\\rtf1 e}");
+  box.SetSelFormat(Fancy());
+  this->platform.Type(box, u"fg");
+  box.SetRtf(kBoldRtf);
+  box.LoadFile(u"/a.rtf", TextFileFormat::RichText);
+  box.SetText(u"");
+  box.Select(0, 0);
+  EXPECT_EQ(told, (std::vector<std::u16string>{u"abc", u"abcd", u"abcde", u"abcdef", u"abcdefg",
+                                               u"one two", u"a", u""}));
+}
+
+TYPED_TEST_P(RichTextBoxText, AChangedTextIsToldBehindItsSelection) {
+  RichTextBox& box = *this->single;
+  std::string told;
+  box.onSelChange = [&] { told += 's'; };
+  box.onChange = [&] { told += 'c'; };
+  this->platform.Type(box, u"x");
+  EXPECT_EQ(told, "sc");
+  box.SetText(u"abc");
+  EXPECT_EQ(told, "scsc");
+}
+
+REGISTER_TYPED_TEST_SUITE_P(
+    RichTextBoxText, ABoxBeginsEmpty, LineBreaksAreOneUnit, LineBreaksBecomeBlanksInASingleLine,
+    SeparatorsAndObjectMarksAreHarmless, NoBreakSpacesAndSurrogatesStay,
+    SettingTextPutsTheInsertionPointAtTheStart, ASelectionIsCutToTheText,
+    PuttingInReplacesTheSelection, ALockedBoxIsChangedByTheProgramAlone, WhatIsNoRtfIsPlainText,
+    RichTextSurvivesSettingItAgain, FilesAreLoadedInBothFormats, FilesAreSavedInBothFormats,
+    AFailureLeavesTheBoxAndTheFile, TheTagAndTheGroundAreKept, KeysPassTheHandlersBeforeTheBox,
+    AKeySwallowedOnItsWayDownTypesNothing, TheProgramsChangesOfTheSelectionAreTold,
+    AChangedTextIsToldOnceWhoeverChangedIt, AChangedTextIsToldBehindItsSelection,
+    ALongTextIsOneTextInAnyBox, SavedRichTextIsForWordProcessorsToo);
 
 }  // namespace verlume

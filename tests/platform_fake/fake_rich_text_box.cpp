@@ -38,6 +38,7 @@ void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells) {
   selStart_ = selLength_ = 0;
   if (!cells_.empty()) insertionLook_ = cells_.front().look;
   RaiseSelChange();
+  RaiseChange();
 }
 
 std::u16string FakeRichTextBox::Rtf() const {
@@ -120,10 +121,12 @@ void FakeRichTextBox::SetSelFormat(const SelectionFormat& format) {
 
 void FakeRichTextBox::SetSelText(std::u16string_view text) {
   Insert(CellsOf(text));
+  RaiseChange();
 }
 
 void FakeRichTextBox::SetSelRtf(std::u16string_view rtf) {
   Insert(CellsOf(richtext::ReadRtf(rtf)));
+  RaiseChange();
 }
 
 void FakeRichTextBox::Insert(const std::vector<Cell>& cells) {
@@ -184,8 +187,9 @@ void FakeRichTextBox::Type(std::u16string_view keys) {
     if (onKeyPress) onKeyPress(charCode);
     if (charCode == 0 || locked) continue;
     const char16_t typed[] = {static_cast<char16_t>(charCode)};
-    SetSelText({typed, 1});
+    Insert(CellsOf({typed, 1}));
     RaiseSelChange();
+    RaiseChange();
   }
 }
 

@@ -74,6 +74,9 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   void RaiseSelChange() {
     if (onSelChange) onSelChange();
   }
+  void RaiseChange() {
+    if (onChange) onChange();
+  }
 
   FakeFileSystem& files_;
   Lines lines_;

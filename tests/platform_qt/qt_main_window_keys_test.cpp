@@ -92,11 +92,12 @@ TEST_F(MainWindowKeys, KeysOfTheCommandPaneAreItsOwn) {
     if (code != key_code::kOther) codes.push_back(code);
     code = 0;
   };
-  for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Escape, Qt::Key_PageUp, Qt::Key_PageDown}) {
+  for (const Qt::Key key :
+       {Qt::Key_Tab, Qt::Key_Escape, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Up, Qt::Key_Down}) {
     QTest::keyClick(Pane(), key);
   }
   EXPECT_EQ(codes, (std::vector<int>{key_code::kTab, key_code::kEscape, key_code::kPageUp,
-                                     key_code::kPageDown}));
+                                     key_code::kPageDown, key_code::kUp, key_code::kDown}));
   EXPECT_EQ(chosen, QStringList());
 }
 

@@ -210,6 +210,40 @@ TEST_F(QtRichTextBoxTest, LongWordsWrapAtAnyWidth) {
   EXPECT_GT(many.widget()->document()->firstBlock().lineCount(), 10);
 }
 
+TEST_F(QtRichTextBoxTest, EveryRoadOfTheUserToAnotherTextIsTold) {
+  std::vector<std::u16string> told;
+  single.SetText(u"abc");
+  single.onChange = [&] { told.push_back(single.Text()); };
+  Press(single, Qt::Key_Delete);
+  Press(single, Qt::Key_Z, Qt::ControlModifier);
+  Commit(single, "x");
+  Paste(single, PlainText("y"));
+  single.widget()->selectAll();
+  single.widget()->cut();
+  EXPECT_EQ(told, (std::vector<std::u16string>{u"bc", u"abc", u"axbc", u"axybc", u""}));
+}
+
+TEST_F(QtRichTextBoxTest, KeysThatChangeNothingTellOfNoChange) {
+  int told = 0;
+  single.SetText(u"abc");
+  single.onChange = [&] { ++told; };
+  Press(single, Qt::Key_Right);
+  Press(single, Qt::Key_A, Qt::ControlModifier);
+  Press(single, Qt::Key_Shift, Qt::ShiftModifier);
+  EXPECT_EQ(told, 0);
+}
+
+TEST_F(QtRichTextBoxTest, LossOfTheFocusIsTold) {
+  int lost = 0;
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  single.onLostFocus = [&] { ++lost; };
+  single.SetFocus();
+  EXPECT_EQ(lost, 0);
+  many.SetFocus();
+  EXPECT_EQ(lost, 1);
+}
+
 TEST_F(QtRichTextBoxTest, UndoIsForTheUserOfASingleLine) {
   single.SetText(u"set");
   EXPECT_FALSE(single.widget()->document()->isUndoAvailable());
