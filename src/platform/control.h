@@ -129,7 +129,7 @@ class ProgressBar : public Control {
   virtual bool Visible() const = 0;
 };
 
-// A part of a window that is there only while it is asked for. The window makes room for it.
+// A part of a window that is there only while it is asked for.
 class Panel {
  public:
   virtual ~Panel() = default;

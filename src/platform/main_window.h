@@ -19,6 +19,12 @@ struct FindBar {
   Button& cmdFindClose;
 };
 
+// The list that lies over the window below the command pane. It never takes the keyboard focus.
+struct CompletionList {
+  Panel& fraCompletions;  // with the list in it
+  ListBox& lstCompletions;
+};
+
 struct MainWindow {
   Window& window;
   LayoutControl& freeSizer1;
@@ -54,6 +60,7 @@ struct MainWindow {
   MenuEntry& mnuToolsSaveMacro;
   MenuEntry& mnuToolsEditMacros;
   MenuEntry& mnuToolsFind;
+  MenuEntry& mnuToolsCompletions;
   MenuEntry& mnuToolsClearDialogue;
   MenuEntry& mnuToolsClearCommands;
   MenuEntry& mnuToolsClearHistory;
@@ -71,6 +78,7 @@ struct MainWindow {
   RichTextBox& rtbCommands;  // the command pane
   RichTextBox& rtbRemote;    // hidden: turns RTF into plain text
   FindBar findBar;
+  CompletionList completionList;
 
   CheckBox& chkBold;
   CheckBox& chkItalics;

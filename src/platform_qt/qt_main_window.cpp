@@ -9,6 +9,7 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   form_.PlacePane(rtbData.widget(), "rtbData");
   form_.PlaceFindBar(rtbData.widget());
   form_.PlacePane(rtbCommands.widget(), "rtbCommands");
+  form_.PlaceCompletionList(rtbCommands.widget());
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
   rtbRemote.widget()->hide();
   rtbData.SetLocked(true);

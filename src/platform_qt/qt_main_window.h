@@ -4,6 +4,7 @@
 #include "platform/main_window.h"
 #include "platform_qt/qt_controls.h"
 #include "platform_qt/qt_find_bar.h"
+#include "platform_qt/qt_list_box.h"
 #include "platform_qt/qt_main_window_form.h"
 #include "platform_qt/qt_rich_text_box.h"
 #include "platform_qt/qt_window.h"
@@ -55,6 +56,7 @@ class QtMainWindow {
   QtMenuEntry mnuToolsSaveMacro{form_.Find<QAction>("mnuToolsSaveMacro")};
   QtMenuEntry mnuToolsEditMacros{form_.Find<QAction>("mnuToolsEditMacros")};
   QtMenuEntry mnuToolsFind{form_.Find<QAction>("mnuToolsFind")};
+  QtMenuEntry mnuToolsCompletions{form_.Find<QAction>("mnuToolsCompletions")};
   QtMenuEntry mnuToolsClearDialogue{form_.Find<QAction>("mnuToolsClearDialogue")};
   QtMenuEntry mnuToolsClearCommands{form_.Find<QAction>("mnuToolsClearCommands")};
   QtMenuEntry mnuToolsClearHistory{form_.Find<QAction>("mnuToolsClearHistory")};
@@ -78,6 +80,9 @@ class QtMainWindow {
   QtButton cmdFindNext{form_.Find<QPushButton>("cmdFindNext")};
   QtLabel lblFindResult{form_.Find<ElidedLabel>("lblFindResult")};
   QtButton cmdFindClose{form_.Find<QPushButton>("cmdFindClose")};
+
+  QtPanel fraCompletions{form_.Find<QWidget>("fraCompletions")};
+  QtListBox lstCompletions{form_.Find<ListWidget>("lstCompletions")};
 
   QtCheckBox chkBold{form_.Find<QCheckBox>("chkBold")};
   QtCheckBox chkItalics{form_.Find<QCheckBox>("chkItalics")};
@@ -143,6 +148,7 @@ class QtMainWindow {
                       mnuToolsSaveMacro,
                       mnuToolsEditMacros,
                       mnuToolsFind,
+                      mnuToolsCompletions,
                       mnuToolsClearDialogue,
                       mnuToolsClearCommands,
                       mnuToolsClearHistory,
@@ -158,6 +164,7 @@ class QtMainWindow {
                       rtbCommands,
                       rtbRemote,
                       {fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose},
+                      {fraCompletions, lstCompletions},
                       chkBold,
                       chkItalics,
                       chkUnderline,

@@ -106,6 +106,7 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuTools", "mnuToolsSaveMacro", false, true},
     {"mnuTools", "mnuToolsEditMacros"},
     {"mnuTools", "mnuToolsFind", false, true, "Ctrl+F"},
+    {"mnuTools", "mnuToolsCompletions", true},
     {"mnuTools", "mnuToolsClearDialogue", false, true},
     {"mnuTools", "mnuToolsClearCommands"},
     {"mnuTools", "mnuToolsClearHistory"},

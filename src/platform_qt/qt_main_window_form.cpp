@@ -40,7 +40,8 @@ QFrame* NewFrame(QWidget* parent) {
 MainForm::MainForm()
     : area_(new QWidget(this)),
       layout_(new ProportionalLayout(area_, kDesignSize)),
-      findBar_(NewFindBar(area_)) {
+      findBar_(NewFindBar(area_)),
+      completions_(new CompletionFrame(area_)) {
   InitResources();
   setObjectName(QStringLiteral("frmMain"));
   setWindowIcon(ProgramIcon());

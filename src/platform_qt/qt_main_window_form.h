@@ -6,6 +6,7 @@
 
 #include "platform/file_system.h"
 #include "platform_qt/proportional_layout.h"
+#include "platform_qt/qt_completion_list.h"
 #include "platform_qt/qt_controls.h"
 #include "platform_qt/qt_main_window_design.h"
 
@@ -25,6 +26,8 @@ class MainForm : public QMainWindow {
   void PlacePane(QWidget* pane, const char* name);
   // Puts the find bar below a pane that has its place.
   void PlaceFindBar(QWidget* pane) { layout_->PlaceFoot(pane, findBar_); }
+  // The same for the list of completions, which lies over the window there.
+  void PlaceCompletionList(QWidget* pane) { completions_->StandBelow(pane); }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -40,6 +43,7 @@ class MainForm : public QMainWindow {
   QWidget* area_;
   ProportionalLayout* layout_;
   QWidget* findBar_;
+  CompletionFrame* completions_;
 };
 
 }  // namespace verlume::qt

@@ -53,6 +53,9 @@ struct AppState {
   bool DateStamp = true;
   bool TimeStamp = true;
 
+  // A list below the command pane shows what a "/" word can become.
+  bool SuggestCommands = true;
+
   // The command history: element 0 holds the number of lines as text, 1 is the oldest line.
   std::array<std::u16string, kHistoryCapacity + 1> History;
   std::int16_t HistoryUp = 1;     // Page Up shows the line before this one

@@ -101,6 +101,7 @@ std::vector<FixedText> MenuAndToolTipTexts(const MainWindow& frmMain) {
       {Caption(frmMain.mnuToolsSaveMacro), {u"Save macro", u"Αποθήκευση μακροεντολής"}},
       {Caption(frmMain.mnuToolsEditMacros), {u"Edit macros", u"Επεξεργασία μακροεντολών"}},
       {Caption(frmMain.mnuToolsFind), {u"Find in dialogue", u"Εύρεση στον διάλογο"}},
+      {Caption(frmMain.mnuToolsCompletions), {u"Suggest commands", u"Πρόταση εντολών"}},
       {Caption(frmMain.mnuToolsClearDialogue), {u"Clear dialogue", u"Καθάρισμα διαλόγου"}},
       {Caption(frmMain.mnuToolsClearCommands), {u"Clear commands", u"Καθάρισμα εντολών"}},
       {Caption(frmMain.mnuToolsClearHistory), {u"Clear history", u"Καθάρισμα ιστορικού"}},
@@ -145,6 +146,9 @@ std::vector<FixedText> PanelTexts(const MainWindow& frmMain) {
   texts.push_back({Caption(bar.cmdFindClose), {u"Close", u"Κλείσιμο"}});
   texts.push_back(
       {ToolTip(bar.cmdFindClose), {u"Close the find bar (Esc)", u"Κλείσιμο εύρεσης (Esc)"}});
+  texts.push_back(
+      {AccessibleName(frmMain.completionList.lstCompletions),
+       {u"Commands and macros that match", u"Εντολές και μακροεντολές που ταιριάζουν"}});
   for (const auto& [value, caption, text] : PanelValues(frmMain)) {
     if (caption) texts.push_back({Caption(*caption), text});
     texts.push_back({AccessibleName(value), text});

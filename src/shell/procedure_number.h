@@ -57,6 +57,8 @@ enum class Procedure : int {
   cmdSaveAs_Click = 252,
   lblColour_MouseDown = 253,
   rtbMacroText_KeyPress = 254,
+  CommandCompletion = 255,
+  mnuToolsCompletions_Click = 256,
 };
 
 }  // namespace verlume

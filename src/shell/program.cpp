@@ -30,6 +30,7 @@ Program::Program(Platform& platform)
       connection_(state_, platform, errors_, {settings_, dialogue_, log_, statusPanel_, wire_}),
       socketEvents_(state_, platform, errors_, wire_, log_),
       history_(state_, platform, errors_),
+      completion_(state_, platform, errors_, settings_, macroStore_),
       textFormat_(state_, platform, errors_, settings_, dialogue_),
       find_(state_, platform, errors_),
       interpreter_(state_, platform, errors_,
@@ -147,6 +148,8 @@ void Program::BindMenus() {
 
   On(frmMain.mnuToolsNick.onClick, connection_, &ConnectionActions::mnuToolsNick_Click);
   On(frmMain.mnuToolsFind.onClick, find_, &FindInDialogue::mnuToolsFind_Click);
+  On(frmMain.mnuToolsCompletions.onClick, completion_,
+     &CommandCompletion::mnuToolsCompletions_Click);
   On(frmMain.mnuToolsClearDialogue.onClick, dialogue_, &Dialogue::mnuToolsClearDialogue_Click);
   On(frmMain.mnuToolsClearCommands.onClick, history_, &CommandHistory::mnuToolsClearCommands_Click);
   On(frmMain.mnuToolsClearHistory.onClick, history_, &CommandHistory::mnuToolsClearHistory_Click);
@@ -164,7 +167,14 @@ void Program::BindPanes() {
   MainWindow& frmMain = platform_.frmMain;
   On(frmMain.rtbData.onLoadProgress, dialogueFiles_, &DialogueFiles::rtbData_LoadProgress);
   On(frmMain.rtbCommands.onKeyPress, interpreter_, &CommandInterpreter::rtbCommands_KeyPress);
-  On(frmMain.rtbCommands.onKeyDown, history_, &CommandHistory::rtbCommands_KeyDown);
+  frmMain.rtbCommands.onKeyDown = [this](int& keyCode, int shift) {
+    completion_.rtbCommands_KeyDown(keyCode, shift);
+    if (keyCode != 0) history_.rtbCommands_KeyDown(keyCode, shift);
+  };
+  On(frmMain.rtbCommands.onChange, completion_, &CommandCompletion::rtbCommands_Change);
+  On(frmMain.rtbCommands.onLostFocus, completion_, &CommandCompletion::rtbCommands_LostFocus);
+  On(frmMain.completionList.lstCompletions.onClick, completion_,
+     &CommandCompletion::lstCompletions_Click);
   On(frmMain.rtbCommands.onSelChange, textFormat_, &TextFormat::rtbCommands_SelChange);
   On(frmMain.chkBold.onClick, textFormat_, &TextFormat::chkBold_Click);
   On(frmMain.chkItalics.onClick, textFormat_, &TextFormat::chkItalics_Click);

@@ -2,6 +2,7 @@
 // platform to its procedure.
 #pragma once
 
+#include "commands/completion.h"
 #include "commands/dialogue.h"
 #include "commands/find_in_dialogue.h"
 #include "commands/history.h"
@@ -71,6 +72,7 @@ class Program {
   ConnectionActions connection_;
   SocketEvents socketEvents_;
   CommandHistory history_;
+  CommandCompletion completion_;
   TextFormat textFormat_;
   FindInDialogue find_;
   CommandInterpreter interpreter_;

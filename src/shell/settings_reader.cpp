@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "platform/run_time_failure.h"
 #include "shell/conversions.h"
 #include "shell/text_pair.h"
 
@@ -34,6 +35,15 @@ void SetSwitch(bool& field, bool on, MenuEntry& entry) {
 
 void TakeSwitch(Value value, bool& field, MenuEntry& entry) {
   SetSwitch(field, value ? BooleanOf(*value) : field, entry);
+}
+
+// Nobody is to be told at a start that a convenience is spelt wrong.
+bool IsNotOff(Value value) {
+  try {
+    return !value || BooleanOf(*value);
+  } catch (const RunTimeFailure&) {
+    return true;
+  }
 }
 
 std::optional<Color> ColorOf(Value value) {
@@ -111,6 +121,10 @@ constexpr Key kKeys[] = {
      }},
     {kGeneral, u"Macrosfolder", 1024, u"",
      [](Value value, Target to) { TakeText(value, to.state.MacrosFolder); }},
+    {kGeneral, u"Suggestcommands", 20, kNull,
+     [](Value value, Target to) {
+       SetSwitch(to.state.SuggestCommands, IsNotOff(value), to.frmMain.mnuToolsCompletions);
+     }},
 };
 
 bool IsMissing(std::u16string_view value, std::u16string_view missingMarker) {
@@ -140,6 +154,7 @@ void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
   SetSwitch(state.TimeStamp, true, frmMain.mnuToolsTime);
   SetSwitch(state.AlwaysOnTop, false, frmMain.mnuToolsAlwaysOnTop);
   SetSwitch(state.LogDialogue, false, frmMain.mnuFileLogRecord);
+  SetSwitch(state.SuggestCommands, true, frmMain.mnuToolsCompletions);
 }
 
 void ReadLanguage(AppState& state, const Settings& settings) {

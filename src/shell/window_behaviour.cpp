@@ -59,7 +59,8 @@ void BindContextHelp(const MainWindow& frmMain) {
                    &frmMain.findBar.cmdFindPrevious,
                    &frmMain.findBar.cmdFindNext,
                    &frmMain.findBar.lblFindResult,
-                   &frmMain.findBar.cmdFindClose});
+                   &frmMain.findBar.cmdFindClose,
+                   &frmMain.completionList.lstCompletions});
 }
 
 }  // namespace verlume

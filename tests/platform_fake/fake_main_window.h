@@ -41,6 +41,7 @@ struct FakeMainWindow {
   FakeMenuEntry mnuToolsSaveMacro;
   FakeMenuEntry mnuToolsEditMacros;
   FakeMenuEntry mnuToolsFind;
+  FakeMenuEntry mnuToolsCompletions;
   FakeMenuEntry mnuToolsClearDialogue;
   FakeMenuEntry mnuToolsClearCommands;
   FakeMenuEntry mnuToolsClearHistory;
@@ -61,6 +62,8 @@ struct FakeMainWindow {
   FakeButton cmdFindNext;
   FakeLabel lblFindResult;
   FakeButton cmdFindClose;
+  FakePanel fraCompletions;
+  FakeListBox lstCompletions;
   FakeCheckBox chkBold;
   FakeCheckBox chkItalics;
   FakeCheckBox chkUnderline;
@@ -126,6 +129,7 @@ struct FakeMainWindow {
       mnuToolsSaveMacro,
       mnuToolsEditMacros,
       mnuToolsFind,
+      mnuToolsCompletions,
       mnuToolsClearDialogue,
       mnuToolsClearCommands,
       mnuToolsClearHistory,
@@ -141,6 +145,7 @@ struct FakeMainWindow {
       rtbCommands,
       rtbRemote,
       {fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose},
+      {fraCompletions, lstCompletions},
       chkBold,
       chkItalics,
       chkUnderline,

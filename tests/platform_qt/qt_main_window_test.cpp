@@ -88,10 +88,9 @@ TEST_F(QtMainWindowTest, TheTickedEntriesAreCheckable) {
     if (action->isCheckable()) checkable.append(action->objectName());
   }
   checkable.sort();
-  QStringList expected{"mnuFileLogRecord",     "mnuFormatFontBold",
-                       "mnuFormatFontItalics", "mnuFormatFontUnderline",
-                       "mnuToolsDate",         "mnuToolsTime",
-                       "mnuToolsAlwaysOnTop",  "mnuToolsLanguageEnglish",
+  QStringList expected{"mnuFileLogRecord",       "mnuFormatFontBold",   "mnuFormatFontItalics",
+                       "mnuFormatFontUnderline", "mnuToolsCompletions", "mnuToolsDate",
+                       "mnuToolsTime",           "mnuToolsAlwaysOnTop", "mnuToolsLanguageEnglish",
                        "mnuToolsLanguageGreek"};
   expected.sort();
   EXPECT_EQ(checkable, expected);

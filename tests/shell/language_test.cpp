@@ -54,6 +54,9 @@ void Collect(ShownTexts& texts, const fake::FakeTextField& field) {
 void Collect(ShownTexts& texts, const fake::FakeProgressBar& bar) {
   Collect<ProgressBar>(texts, bar);
 }
+void Collect(ShownTexts& texts, const fake::FakeListBox& list) {
+  Collect<ListBox>(texts, list);
+}
 void Collect(ShownTexts&, const fake::FakePanel&) {}
 void Collect(ShownTexts&, const fake::FakeLayoutControl&) {}
 void Collect(ShownTexts&, const fake::FakeTimer&) {}
@@ -67,19 +70,19 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuFormatFontBold, mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize,
                mnuFormatFontColor, mnuFormatFontSettings, mnuFormatBackcolorCommands,
                mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro,
-               mnuToolsEditMacros, mnuToolsFind, mnuToolsClearDialogue, mnuToolsClearCommands,
-               mnuToolsClearHistory, mnuToolsDate, mnuToolsTime, mnuToolsAlwaysOnTop,
-               mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuHelp, mnuHelpDetailed,
-               mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind, cmdFindPrevious,
-               cmdFindNext, lblFindResult, cmdFindClose, chkBold, chkItalics, chkUnderline,
-               lblColor, lblStatus, prgStatus, lblCurrentDateTime, lblChatStartDateTime,
-               lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP,
-               lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
-               lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
-               lblLocalIPCaption, lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption,
-               lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
-               lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright, frmMain] =
-      mainWindow;
+               mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue,
+               mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate, mnuToolsTime,
+               mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuHelp,
+               mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
+               cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions,
+               lstCompletions, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus,
+               lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
+               lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
+               lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
+               lblChatDurationCaption, lblLocalIPCaption, lblLocalPortCaption,
+               lblLocalNicknameCaption, lblRemoteIPCaption, lblRemotePortCaption,
+               lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
+               shpStatus, lblCopyright, picCopyright, frmMain] = mainWindow;
   (void)frmMain;
   ShownTexts texts;
   const auto collect = [&texts](const auto&... elements) { (Collect(texts, elements), ...); };
@@ -88,18 +91,18 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuCommCall, mnuCommCancel, mnuCommClose, mnuCommRefresh, mnuFormat, mnuFormatFontBold,
           mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize, mnuFormatFontColor,
           mnuFormatFontSettings, mnuFormatBackcolorCommands, mnuFormatBackcolorDialogue, mnuTools,
-          mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsClearDialogue,
-          mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate, mnuToolsTime,
-          mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuHelp,
-          mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
-          cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, chkBold, chkItalics,
-          chkUnderline, lblColor, lblStatus, prgStatus, lblCurrentDateTime, lblChatStartDateTime,
-          lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
-          lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
-          lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalIPCaption,
-          lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption, lblRemotePortCaption,
-          lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
-          shpStatus, lblCopyright, picCopyright);
+          mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
+          mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
+          mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
+          mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
+          cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions, lstCompletions,
+          chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblCurrentDateTime,
+          lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname,
+          lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
+          lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
+          lblLocalIPCaption, lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption,
+          lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
+          lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright);
   return texts;
 }
 
@@ -196,6 +199,13 @@ TEST_F(LanguageTest, WhatShowsAValueHasAName) {
   EXPECT_NE(window.picShape.accessibleName, u"");
   EXPECT_NE(window.picCopyright.accessibleName, u"");
   EXPECT_NE(window.chkBold.toolTip, u"");
+}
+
+TEST_F(LanguageTest, TheListOfCompletionsHasANameInBothLanguages) {
+  language.ApplyLanguage();
+  EXPECT_EQ(window.lstCompletions.accessibleName, u"Commands and macros that match");
+  language.mnuToolsLanguageGreek_Click();
+  EXPECT_EQ(window.lstCompletions.accessibleName, u"Εντολές και μακροεντολές που ταιριάζουν");
 }
 
 TEST_F(LanguageTest, AlwaysOnTopSaysWhereItCannotBe) {

@@ -44,6 +44,8 @@ class MenuCaptionsTest : public ShellTest {
       {window.mnuToolsNick.caption, {u"Nickname", u"Ψευδώνυμο"}},
       {window.mnuToolsSaveMacro.caption, {u"Save macro", u"Αποθήκευση μακροεντολής"}},
       {window.mnuToolsEditMacros.caption, {u"Edit macros", u"Επεξεργασία μακροεντολών"}},
+      {window.mnuToolsFind.caption, {u"Find in dialogue", u"Εύρεση στον διάλογο"}},
+      {window.mnuToolsCompletions.caption, {u"Suggest commands", u"Πρόταση εντολών"}},
       {window.mnuToolsClearDialogue.caption, {u"Clear dialogue", u"Καθάρισμα διαλόγου"}},
       {window.mnuToolsClearCommands.caption, {u"Clear commands", u"Καθάρισμα εντολών"}},
       {window.mnuToolsClearHistory.caption, {u"Clear history", u"Καθάρισμα ιστορικού"}},

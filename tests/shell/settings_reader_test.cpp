@@ -77,7 +77,7 @@ TEST_F(SettingsReaderTest, WithoutAFileTheLocalFontIsTheDialoguePanes) {
 TEST_F(SettingsReaderTest, ReadsEveryKey) {
   Read(
       "[General]\nLanguage=1\nNickname=Bob\nDateStamp=False\nTimeStamp=0\nAlwaysOnTop=true\n"
-      "Macrosfolder=/macros/\n"
+      "Macrosfolder=/macros/\nSuggestcommands=False\n"
       "[FontLocal]\nName=Times\nBold=True\nItalic=-1\nStrikethrough=TRUE\nUnderline=1\n"
       "Forecolor=255\nSize=10.5\n"
       "[BackColor]\nCommands=65535\nDialogue=65280\n"
@@ -105,6 +105,25 @@ TEST_F(SettingsReaderTest, ReadsEveryKey) {
   EXPECT_EQ(state.LogFolder, u"/logs/");
   EXPECT_TRUE(state.LogDialogue);
   EXPECT_TRUE(window.mnuFileLogRecord.checked);
+  EXPECT_FALSE(state.SuggestCommands);
+  EXPECT_FALSE(window.mnuToolsCompletions.checked);
+}
+
+TEST_F(SettingsReaderTest, CommandsAreSuggestedUnlessTheFileClearlySaysNo) {
+  for (const char* value : {"True", "1", "maybe", "", "NULL", "99999999999999999999", "of"}) {
+    state.SuggestCommands = false;
+    Read(std::string("[General]\nSuggestcommands=") + value + "\n");
+    EXPECT_TRUE(state.SuggestCommands) << value;
+    EXPECT_TRUE(window.mnuToolsCompletions.checked) << value;
+  }
+  for (const char* value : {"False", "false", "0"}) {
+    Read(std::string("[General]\nSuggestcommands=") + value + "\n");
+    EXPECT_FALSE(state.SuggestCommands) << value;
+    EXPECT_FALSE(window.mnuToolsCompletions.checked) << value;
+  }
+  Read("[General]\nNickname=Bob\n");
+  EXPECT_TRUE(state.SuggestCommands);
+  EXPECT_EQ(fake.files.ReadText(kIniFile).find(u"Suggest"), std::u16string::npos);
 }
 
 TEST_F(SettingsReaderTest, AValueThatStartsWithNullCountsAsMissing) {

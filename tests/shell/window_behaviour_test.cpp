@@ -65,7 +65,7 @@ TEST_F(WindowBehaviourTest, AReleaseOfAnyOtherButtonThanTheLeftShowsContextHelp)
         window.lblBytesReceivedCaption, window.lblStatus, window.picShape, window.chkBold,
         window.chkItalics, window.chkUnderline, window.lblColor, window.lblCopyright,
         window.picCopyright, window.cmdFindPrevious, window.cmdFindNext, window.lblFindResult,
-        window.cmdFindClose);
+        window.cmdFindClose, window.lstCompletions);
 }
 
 }  // namespace

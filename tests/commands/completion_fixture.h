@@ -1,0 +1,43 @@
+// A command pane with its list of completions, bound as in the program.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include "commands/completion.h"
+#include "commands/typing_side.h"
+
+namespace verlume::fake {
+
+class CompletionSide : public TypingSide {
+ protected:
+  CompletionSide() {
+    state.MacrosFolder = u"/macros/";
+    fake.files.MakeFolder(u"/macros");
+    pane.onKeyDown = [this](int& code, int shift) {
+      completion.rtbCommands_KeyDown(code, shift);
+      if (code != 0) history.rtbCommands_KeyDown(code, shift);
+    };
+    pane.onChange = [this] { completion.rtbCommands_Change(); };
+    pane.onLostFocus = [this] { completion.rtbCommands_LostFocus(); };
+    window.lstCompletions.onClick = [this] { completion.lstCompletions_Click(); };
+    textFormat.ApplyCommandStyle();
+  }
+
+  bool IsOpen() const { return window.fraCompletions.visible; }
+  const std::vector<std::u16string>& Rows() const { return window.lstCompletions.items; }
+  int Selected() const { return window.lstCompletions.selected; }
+  void MakeMacro(std::u16string_view name, std::string rtf = "{\\rtf1 waves}") {
+    fake.files.files[u"/macros/" + std::u16string(name) + u".rtf"] = rtf;
+  }
+  // What stands in the pane afterwards; the key is the list's.
+  std::u16string Press(int key) {
+    EXPECT_FALSE(pane.PressKey(key));
+    return pane.Text();
+  }
+
+  FakeRichTextBox& pane = window.rtbCommands;
+  MacroStore macroStore{state, fake.platform, errors, settings};
+  CommandCompletion completion{state, fake.platform, errors, settings, macroStore};
+};
+
+}  // namespace verlume::fake
