@@ -94,13 +94,18 @@ void Copy::Activate() {
 void Copy::TypeLine(const QString& line) {
   Activate();
   if (std::all_of(line.begin(), line.end(), [](QChar c) { return c.unicode() < 0x80; })) {
-    Run("xdotool", {"type", "--delay", "10", "--", line});
+    Type(line);
   } else {
     // The X server here has no keys for it: it comes by the clipboard.
     PutOnClipboard(line);
     PressKeys("ctrl+v");
   }
   PressKeys("Return");
+}
+
+void Copy::Type(const QString& text) {
+  Activate();
+  Run("xdotool", {"type", "--delay", "10", "--", text});
 }
 
 void Copy::TypeLineInBackground(const QString& line) {

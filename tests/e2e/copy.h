@@ -20,6 +20,8 @@ class Copy {
 
   // Types into the command pane, key by key where the line is ASCII, and presses Enter.
   void TypeLine(const QString& line);
+  // The same without Enter. ASCII only.
+  void Type(const QString& text);
   void PressKeys(const QString& keys);  // as xdotool names them: "Return", "ctrl+a"
 
   // The same by keys sent to the window alone, wherever the keyboard focus is. ASCII only.

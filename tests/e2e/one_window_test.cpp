@@ -66,6 +66,21 @@ TEST_F(OneWindow, FindBarTakesTheKeysUntilEscape) {
   EXPECT_EQ(copy.Dialogue().toStdString(), "") << "the x was no line";
 }
 
+TEST_F(OneWindow, DownTakesACommandFromTheListAndEnterRunsIt) {
+  ASSERT_TRUE(LineReachesTheCommandPane());
+  copy.Type("/da");
+  copy.PressKeys("Down");
+  copy.PressKeys("Return");
+  EXPECT_TRUE(WaitUntil([&] { return copy.Settings().contains("DateStamp=True"); }));
+  EXPECT_EQ(copy.Dialogue().toStdString(), "") << "nothing was sent as text";
+
+  copy.Type("/wa");
+  copy.PressKeys("Down");
+  copy.PressKeys("Return");
+  copy.TypeLine("/EXIT");
+  EXPECT_TRUE(copy.AnswerBox("Command '/EXIT'", "Return")) << "it waits for a call";
+}
+
 TEST_F(OneWindow, MacroIsAddedInTheEditorAndRun) {
   ASSERT_TRUE(LineReachesTheCommandPane());
   copy.TypeLine("/EDITMACROS");
