@@ -82,6 +82,8 @@ void Photographer::Begin() {
                        Take(main_, scene_);
                        Press(field, Qt::Key_Escape);
                      }});
+  AddCompletions(QStringLiteral("completions"), QStringLiteral("/"));
+  AddCompletions(QStringLiteral("completions-macro"), QStringLiteral("/h"));
   AddTyped(QStringLiteral("wait-wrong-port"), QStringLiteral("/WAIT nowhere"));
   AddTyped(QStringLiteral("call-wrong-port"), QStringLiteral("/CALL localhost nowhere"));
   AddTyped(QStringLiteral("error-report"), QStringLiteral("/CALL localhost 70000"));
@@ -111,15 +113,29 @@ void Photographer::AddEntry(QAction* entry) {
   scenes_.push_back({entry->objectName(), [entry] { entry->trigger(); }});
 }
 
+void Photographer::AddCompletions(const QString& name, const QString& word) {
+  scenes_.push_back({name, [this, word] {
+                       QWidget* commands = TypeAfresh(word);
+                       Press(commands, Qt::Key_Down);
+                       QApplication::processEvents();
+                       Take(main_, scene_);
+                       Press(commands, Qt::Key_Escape);
+                     }});
+}
+
 void Photographer::AddTyped(const QString& name, const QString& line) {
   scenes_.push_back({name, [this, line] { Type(line); }});
 }
 
 void Photographer::Type(const QString& line) {
+  Press(TypeAfresh(line), Qt::Key_Return, QStringLiteral("\r"));
+}
+
+QWidget* Photographer::TypeAfresh(const QString& text) {
   auto* commands = main_->findChild<QPlainTextEdit*>(QStringLiteral("rtbCommands"));
   Press(commands, Qt::Key_Escape);  // what a refused command has left there
-  for (const QChar character : line) Press(commands, 0, character);
-  Press(commands, Qt::Key_Return, QStringLiteral("\r"));
+  for (const QChar character : text) Press(commands, 0, character);
+  return commands;
 }
 
 // A modal box: its picture first, its answer a step later.

@@ -31,11 +31,14 @@ class Photographer : public QObject {
   void Begin();
   void AddMenu(QMenu* menu);
   void AddEntry(QAction* entry);
+  void AddCompletions(const QString& name, const QString& word);
   void AddTyped(const QString& name, const QString& line);
   bool TakeModal();
   void TakeWindows();
   void Take(QWidget* window, const QString& name);
   void Type(const QString& line);
+  // Without Enter; gives the command pane.
+  QWidget* TypeAfresh(const QString& text);
 
   QString folder_;
   QMainWindow* main_ = nullptr;
