@@ -57,6 +57,9 @@ TEST_F(QtTextLoadingTest, TheProgressRisesToAHundredAndIsToldOnce) {
   EXPECT_GT(told.size(), 2u);
   EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
   EXPECT_EQ(std::adjacent_find(told.begin(), told.end()), told.end());
+  const std::size_t tellings = told.size();
+  box.SetText(u"other");
+  EXPECT_EQ(told.size(), tellings);
 }
 
 TEST_F(QtTextLoadingTest, AShortFileIsInAtOnceAndTellsNothing) {
