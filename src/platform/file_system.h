@@ -1,5 +1,5 @@
 // Files and folders. Paths are absolute. Local text is UTF-8; bytes that are not valid UTF-8 are
-// read as Windows-1253.
+// read as Windows-1253, and a byte order mark is no part of a text that is read.
 //
 // Failures are RunTimeFailures: 53 no such file, 61 disk full, 70 permission denied, 75 the path is
 // not a file of that use (a folder, say), 76 no such folder.

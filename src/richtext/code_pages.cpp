@@ -136,6 +136,8 @@ std::u16string DecodeGreek(std::string_view bytes) {
 }
 
 std::u16string DecodeUtf8OrGreek(std::string_view bytes) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
   std::u16string text;
   text.reserve(bytes.size());
   while (!bytes.empty()) {

@@ -29,7 +29,8 @@ int CodePageOfCharset(int charset);
 std::string EncodeGreek(std::u16string_view text);
 std::u16string DecodeGreek(std::string_view bytes);
 
-// UTF-8 -> text; bytes that are not valid UTF-8 are taken, each, as Windows-1253.
+// UTF-8 -> text; bytes that are not valid UTF-8 are taken, each, as Windows-1253. A byte order mark
+// at the start is no part of the text.
 std::u16string DecodeUtf8OrGreek(std::string_view bytes);
 
 }  // namespace verlume::richtext

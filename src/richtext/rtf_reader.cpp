@@ -42,10 +42,7 @@ Document ReadRtf(std::u16string_view rtf) {
 }
 
 Document ReadRtf(std::string_view bytes) {
-  if (LooksLikeRtf(bytes)) return ReadMarkup(bytes);
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
-  return ReadPlainText(DecodeUtf8OrGreek(bytes));
+  return LooksLikeRtf(bytes) ? ReadMarkup(bytes) : ReadPlainText(DecodeUtf8OrGreek(bytes));
 }
 
 }  // namespace verlume::richtext

@@ -68,6 +68,12 @@ TYPED_TEST_P(FileSystemContract, BytesThatAreNoUtf8AreReadAsGreek) {
   EXPECT_EQ(this->files.ReadText(this->Path(u"old")), u"αβγ");
 }
 
+TYPED_TEST_P(FileSystemContract, ByteOrderMarkIsNoPartOfTheText) {
+  this->files.ReplaceBytes(this->Path(u"marked"), "\xEF\xBB\xBFone");
+  EXPECT_EQ(this->files.ReadText(this->Path(u"marked")), u"one");
+  EXPECT_EQ(this->files.ReadBytes(this->Path(u"marked")), "\xEF\xBB\xBFone");
+}
+
 TYPED_TEST_P(FileSystemContract, LoneSurrogatesAreWrittenAsSomethingReadable) {
   const std::u16string odd = {u'a', 0xD800, u'b', 0xDC00};
   this->files.ReplaceText(this->Path(u"a"), odd);
@@ -153,6 +159,7 @@ TYPED_TEST_P(FileSystemContract, FoldersAreNoFiles) {
 
 REGISTER_TYPED_TEST_SUITE_P(FileSystemContract, TellsFilesFromFolders, TextComesBackAsItWasWritten,
                             TextIsUtf8, BytesThatAreNoUtf8AreReadAsGreek,
+                            ByteOrderMarkIsNoPartOfTheText,
                             LoneSurrogatesAreWrittenAsSomethingReadable,
                             APathThatIsNoTextNamesNothing, BytesComeBackAsTheyWereWritten,
                             AppendingMakesTheFileAndKeepsWhatItHolds, DeletedFilesAreGone,

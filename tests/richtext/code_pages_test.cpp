@@ -88,6 +88,12 @@ TEST(CodePagesTest, ValidUtf8IsDecoded) {
   EXPECT_EQ(DecodeUtf8OrGreek("\xCE\xB1\xE2\x82\xAC\xF0\x9F\x98\x80"), u"α€😀");
 }
 
+TEST(CodePagesTest, ByteOrderMarkIsDroppedAtTheStartAlone) {
+  EXPECT_EQ(DecodeUtf8OrGreek("\xEF\xBB\xBFone\xEF\xBB\xBF"), u"one\uFEFF");
+  EXPECT_EQ(DecodeUtf8OrGreek("\xEF\xBB\xBF"), u"");
+  EXPECT_EQ(DecodeUtf8OrGreek("\xEF\xBB"), u"ο»");
+}
+
 TEST(CodePagesTest, BytesThatAreNotUtf8AreGreek) {
   EXPECT_EQ(DecodeUtf8OrGreek("\xEA\xE1\xEB\xE7"), u"καλη");
   EXPECT_EQ(DecodeUtf8OrGreek("\xCE\xB1\xE1"), u"αα");
