@@ -61,7 +61,7 @@ void CommandInterpreter::RunTypedLine() {
 
 // "/" + a macro's name puts the macro in the place of the line.
 void CommandInterpreter::LoadMacroNamedBy(std::u16string_view line) {
-  if (!line.starts_with(u'/') || state_.MacrosFolder.empty()) return;
+  if (!line.starts_with(u'/')) return;
   const std::u16string_view name = line.substr(1);
   if (!MacroExists(state_, platform_.files, name)) return;
   platform_.frmMain.rtbCommands.LoadFile(MacroPath(state_, platform_.files, name),

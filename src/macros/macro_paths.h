@@ -15,10 +15,20 @@ std::u16string WithTrailingSeparator(std::u16string_view path, char16_t separato
 // True when a directory of that path is found; "" never exists. Never fails.
 bool FolderExists(const FileSystem& files, std::u16string_view path);
 
-// The file of a macro, and whether it is there. The extension is ".rtf", or written otherwise where
-// only such a file is there (".RTF"). A name that would leave the macros folder (it holds a
-// separator, or is "", "." or "..") has no file, and while no folder is chosen none has.
+// What a macro's file has behind the name.
+inline constexpr std::u16string_view kMacroExtension = u".rtf";
+
+// Whether a file in the macros folder may be a macro of that name: the name would not leave the
+// folder (it holds no separator), and is neither empty nor that of a hidden file (it begins with a
+// dot).
+bool CanNameAMacro(std::u16string_view name, char16_t separator);
+
+// The file of a macro. The extension is ".rtf", or written otherwise where only such a file is
+// there
+// (".RTF"). The name is not looked at: MacroExists does that, and IsValidMacroName for a new one.
 std::u16string MacroPath(const AppState& state, const FileSystem& files, std::u16string_view name);
+// Whether that file is there. Never for a name that can name no macro, nor while no folder is
+// chosen.
 bool MacroExists(const AppState& state, const FileSystem& files, std::u16string_view name);
 
 }  // namespace verlume

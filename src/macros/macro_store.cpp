@@ -12,8 +12,6 @@ constexpr TextPair kMacrosFolderDialogTitle = {
     u"Select the folder that will hold your macros",
     u"Επιλέξτε τον φάκελλο που θα περιέχει τις μακροεντολές σας"};
 
-constexpr std::u16string_view kExtension = u".rtf";
-
 }  // namespace
 
 bool IsValidMacroName(std::u16string_view name) {
@@ -48,9 +46,11 @@ bool MacroStore::EnsureMacrosFolder(const TextPair& refusalText, const TextPair&
 }
 
 std::vector<std::u16string> MacroStore::ListMacroNames() const {
+  const char16_t separator = platform_.files.Separator();
   std::vector<std::u16string> names = platform_.files.ListFiles(
-      WithTrailingSeparator(state_.MacrosFolder, platform_.files.Separator()), kExtension);
-  for (std::u16string& name : names) name.resize(name.size() - kExtension.size());
+      WithTrailingSeparator(state_.MacrosFolder, separator), kMacroExtension);
+  for (std::u16string& name : names) name.resize(name.size() - kMacroExtension.size());
+  std::erase_if(names, [&](const std::u16string& name) { return !CanNameAMacro(name, separator); });
   return names;
 }
 

@@ -30,8 +30,9 @@ class MacroStore {
   // is none for the rest of the run, which the refusal tells.
   bool EnsureMacrosFolder(const TextPair& refusalText, const TextPair& refusalTitle);
 
-  // The names of all macros in the folder, in the order in which the system gives them. Throws
-  // RunTimeFailure where the folder cannot be read.
+  // The names of all macros in the folder, in the order in which the system gives them; a file that
+  // can be no macro's (CanNameAMacro) is left out. Throws RunTimeFailure where the folder cannot be
+  // read.
   std::vector<std::u16string> ListMacroNames() const;
   bool MacroExists(std::u16string_view name) const;
   std::u16string MacroPath(std::u16string_view name) const;

@@ -74,6 +74,11 @@ TEST_F(MacroFileTest, NameThatWouldLeaveTheFolderHasNoFile) {
   }
 }
 
+TEST_F(MacroFileTest, HiddenFileIsNoMacro) {
+  files.files[u"/macros/.hidden.rtf"] = "";
+  EXPECT_FALSE(MacroExists(state, files, u".hidden"));
+}
+
 TEST_F(MacroFileTest, NoMacroExistsWhileNoFolderIsChosen) {
   state.MacrosFolder = u"";
   files.files[u"/hello.rtf"] = "";

@@ -93,6 +93,15 @@ TEST_F(MacroStoreTest, NamesAreTheFilesWithoutTheirExtension) {
   EXPECT_THAT(store.ListMacroNames(), testing::UnorderedElementsAre(u"b", u"A", u"γεια"));
 }
 
+TEST_F(MacroStoreTest, FilesThatNoNameLeadsToAreNotListed) {
+  state.MacrosFolder = u"/macros/";
+  for (const char16_t* file :
+       {u".rtf", u"..rtf", u"...rtf", u"a\\b.rtf", u".hidden.rtf", u"a.b.rtf"}) {
+    fake.files.files[std::u16string(u"/macros/") + file] = "";
+  }
+  EXPECT_THAT(store.ListMacroNames(), ElementsAre(u"a.b"));
+}
+
 TEST_F(MacroStoreTest, NamesOfAVanishedFolderAreAFailure) {
   state.MacrosFolder = u"/vanished/";
   EXPECT_THROW(store.ListMacroNames(), RunTimeFailure);
