@@ -1,6 +1,9 @@
 #include "platform_qt/qt_list_box.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <algorithm>
+#include <utility>
 
 namespace verlume::qt {
 namespace {
@@ -16,11 +19,62 @@ class Counted {
   int& depth_;
 };
 
+// The row that a key selects while nothing is: the focus alone has made one the current row, which
+// Qt's own keys go on from. -1 for a key that selects none.
+int FirstRowOf(int key, const QListWidget& list) {
+  switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+      return std::max(list.currentRow(), 0);
+    case Qt::Key_Home:
+      return 0;
+    case Qt::Key_End:
+      return list.count() - 1;
+    default:
+      return -1;
+  }
+}
+
 }  // namespace
 
 ListWidget::ListWidget(QWidget* parent) : QListWidget(parent) {
   setSelectionMode(QAbstractItemView::SingleSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
+void ListWidget::TellChosen() {
+  hasChosen_ = true;
+  if (eventDepth_ == 0) EndEvent();
+}
+
+void ListWidget::EndEvent() {
+  if (eventDepth_ == 0 && std::exchange(hasChosen_, false) && onChosen) onChosen();
+}
+
+bool ListWidget::event(QEvent* event) {
+  const bool isDealtWith = [&] {
+    const Counted handling(eventDepth_);
+    return QListWidget::event(event);
+  }();
+  EndEvent();
+  return isDealtWith;
+}
+
+bool ListWidget::viewportEvent(QEvent* event) {
+  const bool isDealtWith = [&] {
+    const Counted handling(eventDepth_);
+    return QListWidget::viewportEvent(event);
+  }();
+  EndEvent();
+  return isDealtWith;
+}
+
+void ListWidget::keyPressEvent(QKeyEvent* event) {
+  const int row = IsNothingSelected() ? FirstRowOf(event->key(), *this) : -1;
+  if (row < 0 || count() == 0) return QListWidget::keyPressEvent(event);
+  setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
 }
 
 void ListWidget::mousePressEvent(QMouseEvent* event) {
@@ -29,7 +83,7 @@ void ListWidget::mousePressEvent(QMouseEvent* event) {
   const QListWidgetItem* pressed = itemAt(event->position().toPoint());
   const bool again = pressed && pressed->isSelected();
   QListWidget::mousePressEvent(event);
-  if (again && onChosenAgain) onChosenAgain();
+  if (again) TellChosen();
 }
 
 QItemSelectionModel::SelectionFlags ListWidget::selectionCommand(const QModelIndex& index,
@@ -42,12 +96,12 @@ QItemSelectionModel::SelectionFlags ListWidget::selectionCommand(const QModelInd
 
 QtListBox::QtListBox(ListWidget* widget) : QtControl(widget) {
   // What is selected, not what is current: the focus alone makes the first item the current one.
-  QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [this] { RaiseClick(); });
-  widget->onChosenAgain = [this] { RaiseClick(); };
-}
-
-void QtListBox::RaiseClick() {
-  if (programDepth_ == 0 && SelectedIndex() >= 0 && onClick) onClick();
+  QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [this] {
+    if (programDepth_ == 0) widget_->TellChosen();
+  });
+  widget->onChosen = [this] {
+    if (SelectedIndex() >= 0 && onClick) onClick();
+  };
 }
 
 void QtListBox::Clear() {

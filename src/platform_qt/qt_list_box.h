@@ -14,13 +14,25 @@ class ListWidget : public QListWidget {
  public:
   explicit ListWidget(QWidget* parent);
 
-  // The user has clicked the item that was selected.
-  std::function<void()> onChosenAgain;
+  // The user has selected an item, or clicked the one that was selected. It is told once the key or
+  // button that did it has been dealt with: what its handler selects stays selected then.
+  std::function<void()> onChosen;
+  void TellChosen();
 
  protected:
+  bool event(QEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
+
+ private:
+  bool IsNothingSelected() const { return selectedIndexes().isEmpty(); }
+  void EndEvent();
+
+  int eventDepth_ = 0;
+  bool hasChosen_ = false;  // since the event began
 };
 
 class QtListBox : public QtControl<ListBox, ListWidget> {
@@ -39,8 +51,6 @@ class QtListBox : public QtControl<ListBox, ListWidget> {
   std::u16string Tag() const override { return tag_; }
 
  private:
-  void RaiseClick();
-
   std::u16string tag_;
   int programDepth_ = 0;  // the program changes the list: that is no click
 };

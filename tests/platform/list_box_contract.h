@@ -1,5 +1,6 @@
 // What the list box of every platform does. A suite is made from a maker: a default constructible
-// class with list() and Choose(index), which does what a user's click on that item does.
+// class with list(), and with Choose(index) and PressDown(), which do what a user's click on that
+// item and the Down key do.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -101,6 +102,36 @@ TYPED_TEST_P(ListBoxContract, HandlerMayRemoveTheItem) {
   EXPECT_EQ(this->list.SelectedIndex(), -1);
 }
 
+TYPED_TEST_P(ListBoxContract, DownKeySelectsTheFirstItemAndThenTheNextAndTells) {
+  for (int i = 0; i < 4; ++i) this->maker.PressDown();
+  EXPECT_EQ(this->clicked, (std::vector<int>{0, 1, 2}));
+}
+
+TYPED_TEST_P(ListBoxContract, KeyGoesOnFromTheItemThatTheHandlerSelected) {
+  this->list.Select(0);
+  this->list.onClick = [this] {
+    this->clicked.push_back(this->list.SelectedIndex());
+    this->list.Select(0);
+  };
+  this->maker.PressDown();
+  EXPECT_EQ(this->list.SelectedIndex(), 0);
+  this->maker.PressDown();
+  EXPECT_EQ(this->clicked, (std::vector<int>{1, 1}));
+}
+
+TYPED_TEST_P(ListBoxContract, KeyBeginsAtTheFirstItemAfterTheHandlerRemovedItsOwn) {
+  this->list.Select(0);
+  this->list.onClick = [this] {
+    this->clicked.push_back(this->list.SelectedIndex());
+    this->list.Remove(this->list.SelectedIndex());
+  };
+  this->maker.PressDown();
+  EXPECT_EQ(this->list.Count(), 2);
+  EXPECT_EQ(this->list.SelectedIndex(), -1);
+  this->maker.PressDown();
+  EXPECT_EQ(this->clicked, (std::vector<int>{1, 0}));
+}
+
 TYPED_TEST_P(ListBoxContract, TagIsKept) {
   EXPECT_EQ(this->list.Tag(), u"");
   this->list.SetTag(u"no");
@@ -111,6 +142,9 @@ REGISTER_TYPED_TEST_SUITE_P(ListBoxContract, KeepsItsItemsInOrderAndAsGiven,
                             ProgramsSelectionIsNoClick, ItemThatIsNotThereIsEmpty,
                             RemovalOfAnItemLeavesTheSelectionOnItsOwn,
                             RemovalOfTheSelectedItemSelectsNone, UsersClickIsToldOnceEachTime,
-                            HandlerMaySelectAnotherItem, HandlerMayRemoveTheItem, TagIsKept);
+                            HandlerMaySelectAnotherItem, HandlerMayRemoveTheItem,
+                            DownKeySelectsTheFirstItemAndThenTheNextAndTells,
+                            KeyGoesOnFromTheItemThatTheHandlerSelected,
+                            KeyBeginsAtTheFirstItemAfterTheHandlerRemovedItsOwn, TagIsKept);
 
 }  // namespace verlume

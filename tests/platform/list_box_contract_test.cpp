@@ -10,6 +10,7 @@ class FakeListMaker {
  public:
   ListBox& list() { return list_; }
   void Choose(int index) { list_.Choose(index); }
+  void PressDown() { list_.PressDown(); }
 
  private:
   fake::FakeListBox list_;

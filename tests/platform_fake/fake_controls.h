@@ -13,19 +13,40 @@
 
 namespace verlume::fake {
 
+// The keyboard focus: one control of the whole screen has it at a time.
+class Focus {
+ public:
+  static void GiveTo(const void* control) { owner_ = control; }
+  static void Leave(const void* control) {
+    if (IsOn(control)) owner_ = nullptr;
+  }
+  static bool IsOn(const void* control) { return owner_ == control; }
+
+ private:
+  inline static const void* owner_ = nullptr;
+};
+
 // The part that every control shares.
 template <class Role>
 class FakeControl : public Role {
  public:
+  ~FakeControl() override { Focus::Leave(this); }
+
   void SetToolTip(std::u16string_view text) override { toolTip = text; }
   std::u16string ToolTip() const override { return toolTip; }
   void SetAccessibleName(std::u16string_view name) override { accessibleName = name; }
-  void SetFocus() override { ++timesFocused; }
+  void SetFocus() override {
+    if (focusFails) throw RunTimeFailure(*focusFails);
+    ++timesFocused;
+    Focus::GiveTo(this);
+  }
+  bool HasFocus() const { return Focus::IsOn(this); }
   void ShowContextHelp() override { ++timesHelpShown; }
 
   std::u16string toolTip;
   std::u16string accessibleName;
   int timesFocused = 0;
+  std::optional<FailureNumber> focusFails;
   int timesHelpShown = 0;
 };
 
@@ -132,6 +153,9 @@ class FakeListBox : public FakeControl<ListBox> {
   void Choose(int index) {
     selected = index;
     if (onClick) onClick();
+  }
+  void PressDown() {
+    if (selected + 1 < Count()) Choose(selected + 1);
   }
 
   std::vector<std::u16string> items;

@@ -1,6 +1,7 @@
 // Qt's list box keeps the list box's contract; and what only a real list has.
 #include "platform_qt/qt_list_box.h"
 
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
 
@@ -23,6 +24,7 @@ class QtListMaker {
     const QPoint place = widget_->visualItemRect(widget_->item(index)).center();
     QTest::mouseClick(widget_->viewport(), Qt::LeftButton, {}, place);
   }
+  void PressDown() { QTest::keyClick(widget_, Qt::Key_Down); }
 
  private:
   QWidget form_;
@@ -48,7 +50,21 @@ class QtListBoxTest : public testing::Test {
     QTest::mouseClick(widget->viewport(), button, held, place);
   }
 
+  // Items of which none is selected yet, in a list that has not had the focus since.
+  void Fill(int count) {
+    before->setFocus();
+    list.Clear();
+    for (int i = 0; i < count; ++i) list.Append(u"item " + FromQt(QString::number(i)));
+    clicked.clear();
+  }
+  void FocusByTab() {
+    QTest::keyClick(before, Qt::Key_Tab);
+    ASSERT_TRUE(widget->hasFocus());
+    ASSERT_TRUE(clicked.empty());
+  }
+
   QWidget form;
+  QLineEdit* before = new QLineEdit(&form);
   ListWidget* widget = new ListWidget(&form);
   QtListBox list{widget};
   std::vector<int> clicked;
@@ -67,6 +83,57 @@ TEST_F(QtListBoxTest, FocusAloneSelectsNothing) {
   ASSERT_TRUE(widget->hasFocus());
   EXPECT_EQ(list.SelectedIndex(), -1);
   EXPECT_TRUE(clicked.empty());
+}
+
+TEST_F(QtListBoxTest, AnyKeyThatMovesSelectsTheFirstItemWhenNothingIs) {
+  for (const int count : {3, 1}) {
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_PageUp,
+                              Qt::Key_PageDown, Qt::Key_Space}) {
+      Fill(count);
+      FocusByTab();
+      QTest::keyClick(widget, key);
+      EXPECT_EQ(clicked, std::vector<int>{0}) << count << " items, key " << key;
+      EXPECT_EQ(list.SelectedIndex(), 0);
+    }
+  }
+}
+
+TEST_F(QtListBoxTest, EndSelectsTheLastItemWhenNothingIs) {
+  for (const int count : {3, 1}) {
+    Fill(count);
+    FocusByTab();
+    QTest::keyClick(widget, Qt::Key_End);
+    EXPECT_EQ(clicked, std::vector<int>{count - 1});
+  }
+}
+
+TEST_F(QtListBoxTest, LetterSelectsTheFirstItemThatBeginsWithItWhenNothingIs) {
+  Fill(1);
+  list.Append(u"other");
+  FocusByTab();
+  QTest::keyClick(widget, 'i');
+  EXPECT_EQ(clicked, std::vector<int>{0});
+}
+
+TEST_F(QtListBoxTest, KeysInAnEmptyListTellNothing) {
+  Fill(0);
+  FocusByTab();
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End}) QTest::keyClick(widget, key);
+  EXPECT_TRUE(clicked.empty());
+}
+
+TEST_F(QtListBoxTest, DragOverTheItemsStaysOnTheOneThatTheHandlerSelects) {
+  list.Select(0);
+  list.onClick = [this] { list.Select(0); };
+  const auto place = [this](int index) {
+    return widget->visualItemRect(widget->item(index)).center();
+  };
+  QTest::mousePress(widget->viewport(), Qt::LeftButton, {}, place(1));
+  QTest::mouseMove(widget->viewport(), place(2));
+  QTest::mouseMove(widget->viewport(), place(3));
+  QTest::mouseRelease(widget->viewport(), Qt::LeftButton, {}, place(3));
+  EXPECT_EQ(list.SelectedIndex(), 0);
+  EXPECT_EQ(widget->currentRow(), 0);
 }
 
 TEST_F(QtListBoxTest, NothingButAnotherItemTakesTheSelection) {
