@@ -51,7 +51,8 @@ class Dialogs {
   virtual void SetLanguage(bool isGreek) = 0;
   // Closing the box without a button answers Cancel where there is one, else No, else Ok.
   virtual Answer ShowMessage(const Message& message) = 0;
-  // An input box. Empty when the user cancels.
+  // An input box for one line: a line break or another control character that is pasted comes back
+  // as a blank, half a surrogate pair as U+FFFD. Empty when the user cancels.
   virtual std::u16string AskText(std::u16string_view prompt, std::u16string_view title,
                                  std::u16string_view defaultText) = 0;
 };
@@ -63,6 +64,8 @@ inline constexpr std::uint32_t kHideReadOnly = 0x4;
 inline constexpr std::uint32_t kExtensionDifferent = 0x400;
 inline constexpr std::uint32_t kPathMustExist = 0x800;
 inline constexpr std::uint32_t kFileMustExist = 0x1000;
+// A file that is there and may not be written is refused in the dialog.
+inline constexpr std::uint32_t kNoReadOnlyReturn = 0x8000;
 }  // namespace dialog_flag
 
 struct FileChoice {

@@ -100,6 +100,8 @@ inline constexpr auto kFileQuestionTexts = std::to_array<QtText>({
      u"%1\nΟ φάκελλος δεν βρέθηκε.\nΒεβαιωθείτε ότι δόθηκε το σωστό όνομα φακέλλου."},
     {"%1\nFile not found.\nPlease verify the correct file name was given.",
      u"%1\nΤο αρχείο δεν βρέθηκε.\nΒεβαιωθείτε ότι δόθηκε το σωστό όνομα αρχείου."},
+    {"Existing file %1 is not writable",
+     u"Στο αρχείο %1, που υπάρχει ήδη, δεν επιτρέπεται η εγγραφή"},
     {"%1 already exists.\nDo you want to replace it?",
      u"Το αρχείο %1 υπάρχει ήδη.\nΘέλετε να αντικατασταθεί;"},
     {"'%1' is write protected.\nDo you want to delete it anyway?",

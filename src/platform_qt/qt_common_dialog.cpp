@@ -71,6 +71,7 @@ FileChoice QtCommonDialog::ShowSave(const FileChoice& start) {
   dialog->setFileMode(QFileDialog::AnyFile);
   dialog->setOption(QFileDialog::DontConfirmOverwrite,
                     !(start.flags & dialog_flag::kOverwritePrompt));
+  if (start.flags & dialog_flag::kNoReadOnlyReturn) dialog->RefuseReadOnly();
   if (!start.fileName.empty()) dialog->selectFile(ProposedName(start));
   return Ask(dialog, [&start](const FileDialog& done) { return Chosen(done, start); });
 }

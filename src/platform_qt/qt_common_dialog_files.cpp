@@ -67,20 +67,28 @@ void FileDialog::FitColumns() {
 
 void FileDialog::accept() {
   const QStringList files = selectedFiles();
-  if (requireFolder_ && !files.isEmpty()) {
-    const QString folder = QFileInfo(files.first()).absolutePath();
-    if (!QFileInfo(folder).isDir()) {
-      QMessageBox refusal(QMessageBox::Warning, windowTitle(), QString(), QMessageBox::Ok, this);
-      refusal.setTextFormat(Qt::PlainText);
-      // Qt's own words, so that they come in the interface language as its others do.
-      refusal.setText(QFileDialog::tr("%1\nDirectory not found.\nPlease verify the "
-                                      "correct directory name was given.")
-                          .arg(QDir::toNativeSeparators(folder)));
-      refusal.exec();
-      return;
-    }
+  const QString refusal = files.isEmpty() ? QString() : RefusalOf(files.first());
+  if (refusal.isEmpty()) return QFileDialog::accept();
+  QMessageBox box(QMessageBox::Warning, windowTitle(), QString(), QMessageBox::Ok, this);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(refusal);
+  box.exec();
+}
+
+// In Qt's own words, so that they come in the interface language as its others do.
+QString FileDialog::RefusalOf(const QString& path) const {
+  const QFileInfo file(path);
+  const QString folder = file.absolutePath();
+  if (requireFolder_ && !QFileInfo(folder).isDir()) {
+    return QFileDialog::tr(
+               "%1\nDirectory not found.\nPlease verify the correct directory name was given.")
+        .arg(QDir::toNativeSeparators(folder));
   }
-  QFileDialog::accept();
+  if (refuseReadOnly_ && file.isFile() && !file.isWritable()) {
+    return QCoreApplication::translate("QSaveFile", "Existing file %1 is not writable")
+        .arg(QDir::toNativeSeparators(path));
+  }
+  return {};
 }
 
 }  // namespace verlume::qt

@@ -33,14 +33,19 @@ class FileDialog : private FileTypesHolder, public QFileDialog {
 
   // Refuses a name in a folder that is not there.
   void RequireFolder() { requireFolder_ = true; }
+  // Refuses a file that is there and may not be written.
+  void RefuseReadOnly() { refuseReadOnly_ = true; }
 
  protected:
   void accept() override;
 
  private:
   void FitColumns();
+  // Why the path may not be chosen; empty where it may.
+  QString RefusalOf(const QString& path) const;
 
   bool requireFolder_ = false;
+  bool refuseReadOnly_ = false;
 };
 
 }  // namespace verlume::qt

@@ -110,6 +110,11 @@ TEST_F(GreekTranslatorTest, FileDialogsAreGreek) {
   ExpectGreek([&] { common.ChooseFolder(u"Φάκελλος", start.initialFolder); });
 }
 
+TEST_F(GreekTranslatorTest, RefusalsOfFilesAreGreek) {
+  EXPECT_EQ(QCoreApplication::translate("QSaveFile", "Existing file %1 is not writable"),
+            "Στο αρχείο %1, που υπάρχει ήδη, δεν επιτρέπεται η εγγραφή");
+}
+
 TEST_F(GreekTranslatorTest, DescriptionsOfFilesAreGreek) {
   FileChoice start;
   start.title = u"Φόρτωμα";

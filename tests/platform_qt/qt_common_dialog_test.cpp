@@ -20,6 +20,7 @@
 #include "platform_qt/qt_common_dialog_files.h"
 #include "platform_qt/qt_dialogs.h"
 #include "platform_qt/qt_text.h"
+#include "platform_qt/unprivileged.h"
 
 namespace verlume::qt {
 namespace {
@@ -37,6 +38,15 @@ class QtCommonDialogTest : public testing::Test {
     QFile file(folder.filePath(QLatin1String(name)));
     ASSERT_TRUE(file.open(QFile::WriteOnly));
   }
+  // For whoever is no administrator, who may look into the folder all the same.
+  void ForbidWriting(const char* name) {
+    ASSERT_TRUE(QFile::setPermissions(folder.filePath(QLatin1String(name)), kReadable));
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), kReadable | kSearchable));
+  }
+  static constexpr QFile::Permissions kReadable =
+      QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+  static constexpr QFile::Permissions kSearchable =
+      QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
   std::u16string PathOf(const char* name) { return FromQt(folder.filePath(QLatin1String(name))); }
   FileChoice Start(std::uint32_t flags) {
     FileChoice start;
@@ -179,6 +189,32 @@ TEST_F(QtCommonDialogTest, SaveRefusesAFolderThatMustExist) {
     Type(dialog, folder.path() + "/inner/x.rtf");
   });
   EXPECT_EQ(dialogs.ShowSave(Start(dialog_flag::kPathMustExist)).fileName, PathOf("inner/x.rtf"));
+}
+
+TEST_F(QtCommonDialogTest, SaveRefusesAFileThatMayNotBeWritten) {
+  ForbidWriting("dialogue.rtf");
+  const Unprivileged user;
+  const ModalDriver driver([this](QDialog& dialog) {
+    {
+      const ModalDriver refusal([this](QDialog& box) {
+        EXPECT_EQ(dynamic_cast<QMessageBox&>(box).text(),
+                  "Existing file " + folder.filePath("dialogue.rtf") + " is not writable");
+        box.reject();
+      });
+      Type(dialog, "dialogue.rtf");
+    }
+    EXPECT_TRUE(dialog.isVisible());
+    dialog.reject();
+  });
+  const std::uint32_t flags = dialog_flag::kOverwritePrompt | dialog_flag::kNoReadOnlyReturn;
+  EXPECT_EQ(FailureOf([&] { dialogs.ShowSave(Start(flags)); }), FailureNumber::Cancelled);
+}
+
+TEST_F(QtCommonDialogTest, SaveWithoutTheFlagReturnsAFileThatMayNotBeWritten) {
+  ForbidWriting("dialogue.rtf");
+  const Unprivileged user;
+  const ModalDriver driver([](QDialog& dialog) { Type(dialog, "dialogue.rtf"); });
+  EXPECT_EQ(dialogs.ShowSave(Start(0)).fileName, PathOf("dialogue.rtf"));
 }
 
 TEST_F(QtCommonDialogTest, FolderEndsInASeparator) {
