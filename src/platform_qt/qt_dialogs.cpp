@@ -60,6 +60,28 @@ QString WithLineBreaks(std::u16string_view text) {
   return ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
 
+bool IsLineBreakOrControl(QChar unit) {
+  return unit.category() == QChar::Other_Control || unit == QChar::LineSeparator ||
+         unit == QChar::ParagraphSeparator;
+}
+
+// One line of text, whatever was pasted: a blank for every line break and control character. Half
+// a surrogate pair becomes the replacement character.
+std::u16string AsOneLine(QString text) {
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    const bool isPair =
+        text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+    if (isPair) {
+      ++i;
+    } else if (text[i].isSurrogate()) {
+      text[i] = QChar::ReplacementCharacter;
+    } else if (IsLineBreakOrControl(text[i])) {
+      text[i] = u' ';
+    }
+  }
+  return FromQt(text);
+}
+
 }  // namespace
 
 QWidget* OwnerOfBoxes(QWidget* mainWindow) {
@@ -138,7 +160,7 @@ std::u16string QtDialogs::AskText(std::u16string_view prompt, std::u16string_vie
   const bool accepted = box->exec() == QDialog::Accepted;
   if (!box) return {};
   const std::unique_ptr<QInputDialog> owned(box.data());
-  return accepted ? FromQt(owned->textValue()) : std::u16string();
+  return accepted ? AsOneLine(owned->textValue()) : std::u16string();
 }
 
 }  // namespace verlume::qt

@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include "platform_qt/modal_driver.h"
+#include "platform_qt/qt_text.h"
 
 namespace verlume::qt {
 namespace {
@@ -207,6 +208,18 @@ TEST_F(InputBoxTest, ProposesAndReturnsTheText) {
     box.accept();
   });
   EXPECT_EQ(dialogs.AskText(u"Type it.", u"Nickname", u"ann"), u"Άννα <3");
+}
+
+TEST_F(InputBoxTest, ControlCharactersBecomeBlanksAndALoneSurrogateItsMark) {
+  const std::u16string typed = {u'a',   u'\n',  u'b',   u'\r',  u'\t',  0,    u'\u007F', u'\u0085',
+                                0x2028, 0x2029, 0xD83D, 0xDE00, 0xD800, u'c', 0xDC00};
+  const ModalDriver driver([&](QDialog& box) {
+    Edit(box)->setText(ToQt(typed));
+    box.accept();
+  });
+  EXPECT_EQ(dialogs.AskText(u"Type it.", u"Name", u""),
+            u"a b       \xD83D\xDE00\uFFFD"
+            u"c\uFFFD");
 }
 
 TEST_F(InputBoxTest, CancelIsEmpty) {
