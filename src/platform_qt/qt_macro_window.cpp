@@ -93,10 +93,19 @@ void MacroForm::PlaceText(QWidget* text) {
 }
 
 void MacroForm::showEvent(QShowEvent* event) {
-  const QScreen* screen = parentWidget() ? parentWidget()->screen() : this->screen();
-  const QSize free = screen->size() - frameSize();
-  move(screen->geometry().topLeft() + QPoint(free.width(), free.height()) / 2);
+  if (!event->spontaneous()) Centre();
   ModalForm::showEvent(event);
+}
+
+void MacroForm::Centre() {
+  const QWidget* mainWindow = parentWidget() ? parentWidget()->window() : this;
+  // The frame is not there yet; that of the main window is alike.
+  const QRect inner = mainWindow->geometry();
+  const QRect outer = mainWindow->frameGeometry();
+  const QRect screen = mainWindow->screen()->geometry();
+  const QSize free = (screen.size() - size() - (outer.size() - inner.size())).expandedTo({0, 0});
+  const QPoint corner = screen.topLeft() + QPoint(free.width(), free.height()) / 2;
+  setGeometry(QRect(corner + (inner.topLeft() - outer.topLeft()), size()));
 }
 
 void MacroForm::keyPressEvent(QKeyEvent* event) {

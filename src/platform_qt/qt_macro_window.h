@@ -34,8 +34,11 @@ class MacroForm : public ModalForm {
   // Puts the text box beside the list.
   void PlaceText(QWidget* text);
 
+  // Escape does nothing here: it empties the text while that is edited.
+  void reject() override {}
+
  protected:
-  // In the middle of the screen.
+  // In the middle of the screen, but where the user left it when it comes back from the task bar.
   void showEvent(QShowEvent* event) override;
   // Enter presses the button that has the focus, and no other.
   void keyPressEvent(QKeyEvent* event) override;
@@ -45,6 +48,7 @@ class MacroForm : public ModalForm {
   QPushButton* NewButton(const char* name);
   ElidedLabel* NewColour();
   void LayOut();
+  void Centre();
 
   QVBoxLayout* textSide_ = nullptr;
 };
