@@ -10,15 +10,18 @@ namespace verlume {
 namespace texts = macro_editor_texts;
 
 void MacroEditor::OpenMacroEditor() {
-  if (store_.EnsureMacrosFolder(texts::kNoFolder, texts::kNoFolderTitle)) {
-    // What a failure leaves unset is missing in the window.
-    errors_.Guard(Procedure::frmMacros_Load, [this] { Load(); });
-    if (platform_.application.HasEnded()) return;
-    platform_.frmMacros.window.ShowModal();
-    if (platform_.application.HasEnded()) return;
-    Run();
-  }
-  platform_.frmMain.rtbCommands.SetFocus();
+  errors_.Guard(Procedure::frmMacros_Load, [this] {
+    if (store_.EnsureMacrosFolder(texts::kNoFolder, texts::kNoFolderTitle)) ShowWindow();
+  });
+  if (!platform_.application.HasEnded()) platform_.frmMain.rtbCommands.SetFocus();
+}
+
+void MacroEditor::ShowWindow() {
+  // What a failure leaves unset is missing in the window.
+  errors_.Guard(Procedure::frmMacros_Load, [this] { Load(); });
+  if (platform_.application.HasEnded()) return;
+  platform_.frmMacros.window.ShowModal();
+  if (!platform_.application.HasEnded()) HandOver();
 }
 
 void MacroEditor::Load() {
@@ -63,7 +66,7 @@ void MacroEditor::SetCaptions() {
   }
 }
 
-void MacroEditor::Run() {
+void MacroEditor::HandOver() {
   const std::u16string macro = std::exchange(state_.MacroToRun, {});
   if (macro.empty()) return;
   RichTextBox& pane = platform_.frmMain.rtbCommands;
@@ -75,9 +78,11 @@ void MacroEditor::Run() {
 void MacroEditor::Form_QueryUnload(bool& cancel, UnloadMode mode) {
   if (mode == UnloadMode::Code) return;
   cancel = true;
-  platform_.dialogs.ShowMessage(Note(texts::close::kOnlyByButton.In(state_.IsGreek),
-                                     texts::close::kTitle.In(state_.IsGreek)));
-  platform_.frmMacros.rtbMacroText.SetFocus();
+  errors_.Guard(Procedure::frmMacros_Load, [this] {
+    platform_.dialogs.ShowMessage(Note(texts::close::kOnlyByButton.In(state_.IsGreek),
+                                       texts::close::kTitle.In(state_.IsGreek)));
+    FocusTextOrList();
+  });
 }
 
 void MacroEditor::lstMacroNames_Click() {
@@ -90,8 +95,8 @@ void MacroEditor::lstMacroNames_Click() {
   const std::u16string name = frmMacros.lstMacroNames.Item(chosen);
   if (errors_.Guard(Procedure::lstMacroNames_Click, [this, chosen] { Show(chosen); })) return;
   // The text of another macro must not stand under this name.
-  if (!store_.MacroExists(name)) frmMacros.lstMacroNames.Remove(chosen);
-  ShowNothing();
+  if (store_.MacroExists(name)) return ShowNothing();
+  TakeFromList(chosen);
 }
 
 // Nothing changes where the file cannot be read.
@@ -101,7 +106,7 @@ void MacroEditor::Show(int index) {
   frmMacros.rtbMacroText.LoadFile(path, TextFileFormat::RichText);
   state_.MacroIndex = index;
   EnterState(frmMacros, MacroEditorState::Showing);
-  style_.rtbMacroText_SelChange();
+  style_.TakeStyleAtCaret();
 }
 
 void MacroEditor::ShowNothing() {
@@ -112,23 +117,39 @@ void MacroEditor::ShowNothing() {
   EnterState(frmMacros, MacroEditorState::Empty);
 }
 
+void MacroEditor::TakeFromList(int index) {
+  platform_.frmMacros.lstMacroNames.Remove(index);
+  ShowNothing();
+}
+
+void MacroEditor::FocusTextOrList() {
+  const MacroWindow& frmMacros = platform_.frmMacros;
+  IsBrowsing() ? frmMacros.lstMacroNames.SetFocus() : frmMacros.rtbMacroText.SetFocus();
+}
+
 void MacroEditor::rtbMacroText_GotFocus() {
-  if (IsBrowsing()) platform_.frmMacros.lstMacroNames.SetFocus();
+  errors_.Guard(Procedure::frmMacros_Load, [this] {
+    if (IsBrowsing()) FocusTextOrList();
+  });
 }
 
 void MacroEditor::rtbMacroText_KeyDown(int& keyCode, int shift) {
-  if (IsBrowsing()) {
-    keyCode = 0;
-    platform_.frmMacros.lstMacroNames.SetFocus();
-  } else if (keyCode == key_code::kEscape && shift == 0) {
-    keyCode = 0;
-    platform_.frmMacros.rtbMacroText.SetText(u"");
-  }
+  errors_.Guard(Procedure::frmMacros_Load, [this, &keyCode, shift] {
+    if (IsBrowsing()) {
+      keyCode = 0;
+      FocusTextOrList();
+    } else if (keyCode == key_code::kEscape && shift == 0) {
+      keyCode = 0;
+      platform_.frmMacros.rtbMacroText.SetText(u"");
+    }
+  });
 }
 
 void MacroEditor::cmdRun_Click() {
-  state_.MacroToRun = platform_.frmMacros.rtbMacroText.Rtf();
-  platform_.frmMacros.cmdClose.Click();
+  errors_.Guard(Procedure::frmMacros_Load, [this] {
+    state_.MacroToRun = platform_.frmMacros.rtbMacroText.Rtf();
+    platform_.frmMacros.cmdClose.Click();
+  });
 }
 
 void MacroEditor::cmdClose_Click() {

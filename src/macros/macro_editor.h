@@ -41,19 +41,22 @@ class MacroEditor {
   void cmdClose_Click();
 
  private:
+  void ShowWindow();
   void Load();
   void SetCaptions();
-  void Run();
+  void HandOver();
 
   void Show(int index);
   void ShowNothing();
-  void Begin(std::u16string_view name);
+  void TakeFromList(int index);
+  // Where the keyboard belongs: to the text while it is edited, else to the list. The text alone
+  // would not pass it on when it has it already.
+  void FocusTextOrList();
+  void BeginNew(std::u16string_view name);
   // Writes the text under the name, which becomes the one shown.
   void Save(std::u16string_view name);
 
-  std::u16string AskNewName();
   std::u16string AskOtherName(std::u16string_view current);
-  bool AsksForAName(const TextPair& title, std::u16string_view prompt, std::u16string& name);
   bool TellsNothingToSave(const TextPair& title);
   bool Confirms(const TextPair& question, const TextPair& title, std::u16string_view name);
 

@@ -2,6 +2,8 @@
 #include "macros/macro_editor.h"
 #include "macros/macro_editor_states.h"
 #include "macros/macro_editor_texts.h"
+#include "macros/macro_name_question.h"
+#include "macros/macro_name_texts.h"
 
 namespace verlume {
 
@@ -9,36 +11,40 @@ namespace texts = macro_editor_texts;
 
 void MacroEditor::cmdAdd_Click() {
   errors_.Guard(Procedure::cmdAdd_Click, [this] {
-    const std::u16string name = AskNewName();
+    const std::u16string name = AskMacroName(state_, platform_, texts::add::kTitle,
+                                             texts::add::kPrompt.In(state_.IsGreek), u"");
     if (name.empty()) return;
     if (store_.MacroExists(name)) {
       platform_.dialogs.ShowMessage(Refusal(texts::add::kExists.Fill(state_.IsGreek, {name}),
                                             texts::add::kTitle.In(state_.IsGreek)));
     } else {
-      Begin(name);
+      BeginNew(name);
     }
   });
 }
 
-// No file is written yet.
-void MacroEditor::Begin(std::u16string_view name) {
+// No file is written yet. Where the style fails the macro is there all the same, to be written
+// without it.
+void MacroEditor::BeginNew(std::u16string_view name) {
   EnterState(platform_.frmMacros, MacroEditorState::New);
   SelectName(name);
   style_.StartEmptyText();
 }
 
 void MacroEditor::cmdEdit_Click() {
-  RichTextBox& text = platform_.frmMacros.rtbMacroText;
-  EnterState(platform_.frmMacros, MacroEditorState::Editing);
-  text.Select(text.TextLength(), 0);
-  text.SetFocus();
+  errors_.Guard(Procedure::frmMacros_Load, [this] {
+    RichTextBox& text = platform_.frmMacros.rtbMacroText;
+    EnterState(platform_.frmMacros, MacroEditorState::Editing);
+    text.Select(text.TextLength(), 0);
+    text.SetFocus();
+  });
 }
 
 void MacroEditor::cmdSave_Click() {
   errors_.Guard(Procedure::cmdSave_Click, [this] {
     if (!TellsNothingToSave(texts::save::kTitle)) Save(CurrentName());
   });
-  platform_.frmMacros.rtbMacroText.SetFocus();
+  FocusTextOrList();
 }
 
 void MacroEditor::cmdSaveAs_Click() {
@@ -47,7 +53,7 @@ void MacroEditor::cmdSaveAs_Click() {
     const std::u16string name = AskOtherName(CurrentName());
     if (!name.empty()) Save(name);
   });
-  platform_.frmMacros.rtbMacroText.SetFocus();
+  FocusTextOrList();
 }
 
 // Nothing changes where the file cannot be written: what was typed can be saved again.
@@ -61,31 +67,25 @@ void MacroEditor::cmdCancel_Click() {
   errors_.Guard(Procedure::cmdCancel_Click, [this] {
     const std::u16string name = CurrentName();
     if (!Confirms(texts::cancel::kQuestion, texts::cancel::kTitle, name)) return;
-    if (store_.MacroExists(name)) return Show(state_.MacroIndex);
-    platform_.frmMacros.lstMacroNames.Remove(state_.MacroIndex);
-    ShowNothing();
+    if (store_.MacroExists(name)) {
+      Show(state_.MacroIndex);
+    } else {
+      TakeFromList(state_.MacroIndex);
+    }
   });
-  platform_.frmMacros.rtbMacroText.SetFocus();
+  FocusTextOrList();
 }
 
 void MacroEditor::cmdDelete_Click() {
-  errors_.Guard(Procedure::cmdDelete_Click, [this] {
-    const std::u16string name = CurrentName();
+  const std::u16string name = CurrentName();
+  const bool isDone = errors_.Guard(Procedure::cmdDelete_Click, [this, &name] {
     if (!Confirms(texts::remove::kQuestion, texts::remove::kTitle, name)) return;
     platform_.files.Delete(store_.MacroPath(name));
-    platform_.frmMacros.lstMacroNames.Remove(state_.MacroIndex);
-    ShowNothing();
+    TakeFromList(state_.MacroIndex);
   });
-  platform_.frmMacros.rtbMacroText.SetFocus();
-}
-
-// A name that could be a macro's, or "" when the user gives up.
-std::u16string MacroEditor::AskNewName() {
-  std::u16string name;
-  while (AsksForAName(texts::add::kTitle, texts::add::kPrompt.In(state_.IsGreek), name)) {
-    if (IsValidMacroName(name)) return name;
-  }
-  return {};
+  // What has gone already is not there to be shown either.
+  if (!isDone && !store_.MacroExists(name)) TakeFromList(state_.MacroIndex);
+  FocusTextOrList();
 }
 
 // The name of a macro that is not there, may be replaced, or is the current one; "" when the user
@@ -93,28 +93,14 @@ std::u16string MacroEditor::AskNewName() {
 std::u16string MacroEditor::AskOtherName(std::u16string_view current) {
   const std::u16string prompt = texts::save_as::kPrompt.Fill(state_.IsGreek, {current});
   std::u16string name;
-  while (AsksForAName(texts::save_as::kTitle, prompt, name)) {
-    if (!IsValidMacroName(name)) continue;
-    if (name == current || !store_.MacroExists(name)) return name;
-    if (Confirms(texts::save_as::kReplace, texts::save_as::kTitle, name)) {
+  while (!platform_.application.HasEnded()) {
+    name = AskMacroName(state_, platform_, texts::save_as::kTitle, prompt, name);
+    if (name.empty() || name == current || !store_.MacroExists(name)) return name;
+    if (Confirms(macro_name_texts::kReplace, texts::save_as::kTitle, name)) {
       return store_.StoredName(name);
     }
   }
   return {};
-}
-
-// Asks once, proposing the name, and tells where the answer is no macro's name. False when the user
-// gives up.
-bool MacroEditor::AsksForAName(const TextPair& title, std::u16string_view prompt,
-                               std::u16string& name) {
-  if (platform_.application.HasEnded()) return false;
-  name = platform_.dialogs.AskText(prompt, title.In(state_.IsGreek), name);
-  if (name.empty()) return false;
-  if (!IsValidMacroName(name)) {
-    platform_.dialogs.ShowMessage(
-        Refusal(texts::kWrongName.In(state_.IsGreek), title.In(state_.IsGreek)));
-  }
-  return true;
 }
 
 bool MacroEditor::TellsNothingToSave(const TextPair& title) {

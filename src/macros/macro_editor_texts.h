@@ -1,4 +1,4 @@
-// What the macro editor shows, asks and tells.
+// What the macro editor shows, asks and tells, besides macro_name_texts.h.
 #pragma once
 
 #include "shell/text_pair.h"
@@ -39,20 +39,10 @@ inline constexpr TextPair kOnlyByButton = {
     u"«Κλείσιμο»."};
 }  // namespace close
 
-inline constexpr TextPair kWrongName = {u"The name you typed is incorrect.",
-                                        u"Το όνομα που πληκτρολογήσατε είναι λανθασμένο."};
-
 namespace add {
 inline constexpr TextPair kTitle = {u"New macro name", u"Όνομα νέας μακροεντολής"};
-inline constexpr TextPair kPrompt = {
-    u"Type the name of the new macro."
-    u"\r\n\r\n"
-    u"Avoid using the characters"
-    u"  \\  /  :  *  ?  \"  <  >  |  .  and the space.",
-    u"Πληκτρολογήστε το όνομα της νέας μακροεντολής."
-    u"\r\n\r\n"
-    u"Αποφύγετε την χρήση των χαρακτήρων"
-    u"  \\  /  :  *  ?  \"  <  >  |  .  και το κενό."};
+inline constexpr TextPair kPrompt = {u"Type the name of the new macro.",
+                                     u"Πληκτρολογήστε το όνομα της νέας μακροεντολής."};
 inline constexpr TextPair kExists = {u"A macro named '%1' already exists.",
                                      u"Υπάρχει ήδη μακροεντολή με το όνομα «%1»."};
 }  // namespace add
@@ -65,23 +55,9 @@ inline constexpr TextPair kNothing = {u"There is nothing to save.",
 
 namespace save_as {
 inline constexpr TextPair kTitle = {u"Save macro as", u"Αποθήκευση μακροεντολής ως"};
-inline constexpr TextPair kPrompt = {
-    u"Type the new name under which macro '%1' will be saved."
-    u"\r\n\r\n"
-    u"Avoid using the characters"
-    u"  \\  /  :  *  ?  \"  <  >  |  .  and the space.",
-    u"Πληκτρολογήστε το νέο όνομα με το οποίο θέλετε να "
-    u"αποθηκευθεί η μακροεντολή «%1»."
-    u"\r\n\r\n"
-    u"Αποφύγετε την χρήση των χαρακτήρων"
-    u"  \\  /  :  *  ?  \"  <  >  |  .  και το κενό."};
-inline constexpr TextPair kReplace = {
-    u"A macro named '%1', already exists."
-    u"\r\n\r\n"
-    u"Would you like to replace it?",
-    u"Υπάρχει ήδη μακροεντολή με το όνομα «%1»."
-    u"\r\n\r\n"
-    u"Μήπως θέλετε να την αντικαταστήσετε;"};
+inline constexpr TextPair kPrompt = {u"Type the new name under which macro '%1' will be saved.",
+                                     u"Πληκτρολογήστε το νέο όνομα με το οποίο θέλετε να "
+                                     u"αποθηκευθεί η μακροεντολή «%1»."};
 }  // namespace save_as
 
 namespace cancel {

@@ -1,5 +1,7 @@
 #include "macros/macro_saving.h"
 
+#include "macros/macro_name_question.h"
+#include "macros/macro_name_texts.h"
 #include "macros/macro_saving_texts.h"
 
 namespace verlume {
@@ -37,16 +39,12 @@ void MacroSaving::OfferTheEditor() {
 
 // "" when the user gives up.
 std::u16string MacroSaving::AskName() {
-  const bool isGreek = state_.IsGreek;
   std::u16string name;
   while (!platform_.application.HasEnded()) {
-    name = platform_.dialogs.AskText(texts::kNamePrompt.In(isGreek), texts::kNameTitle.In(isGreek),
-                                     name);
+    name = AskMacroName(state_, platform_, texts::kNameTitle, texts::kNamePrompt.In(state_.IsGreek),
+                        name);
     if (name.empty()) {
-      if (GivesUpSaving()) return {};
-    } else if (!IsValidMacroName(name)) {
-      platform_.dialogs.ShowMessage(
-          Refusal(texts::kWrongName.In(isGreek), texts::kNameTitle.In(isGreek)));
+      if (platform_.application.HasEnded() || GivesUpSaving()) return {};
     } else if (!store_.MacroExists(name) || WantsToReplace(name)) {
       return name;
     }
@@ -61,7 +59,7 @@ bool MacroSaving::GivesUpSaving() {
 }
 
 bool MacroSaving::WantsToReplace(std::u16string_view name) {
-  Message question = Question(texts::kReplace.Fill(state_.IsGreek, {name}),
+  Message question = Question(macro_name_texts::kReplace.Fill(state_.IsGreek, {name}),
                               texts::kNameTitle.In(state_.IsGreek), Answer::No);
   question.icon = MessageIcon::Stop;
   return platform_.dialogs.ShowMessage(question) == Answer::Yes;

@@ -1,4 +1,4 @@
-// What is asked and told when the command pane is saved as a macro.
+// What is asked and told when the command pane is saved as a macro, besides macro_name_texts.h.
 #pragma once
 
 #include "shell/text_pair.h"
@@ -17,15 +17,9 @@ inline constexpr TextPair kNothingTyped = {
     u"Μήπως θέλετε να επεξεργασθείτε τις μακροεντολές σας;"};
 inline constexpr TextPair kNameTitle = {u"Macro name", u"Όνομα μακροεντολής"};
 inline constexpr TextPair kNamePrompt = {
-    u"Type the name under which this macro will be saved."
-    u"\r\n\r\n"
-    u"Avoid using the characters"
-    u"  \\  /  :  *  ?  \"  <  >  |  .  and the space.",
+    u"Type the name under which this macro will be saved.",
     u"Πληκτρολογήστε το όνομα με το οποίο θέλετε να αποθηκευθεί "
-    u"αυτή η μακροεντολή."
-    u"\r\n\r\n"
-    u"Αποφύγετε την χρήση των χαρακτήρων"
-    u"  \\  /  :  *  ?  \"  <  >  |  .  και το κενό."};
+    u"αυτή η μακροεντολή."};
 inline constexpr TextPair kNoName = {
     u"You didn't type the name under which this macro will "
     u"be saved."
@@ -36,14 +30,5 @@ inline constexpr TextPair kNoName = {
     u"\r\n\r\n"
     u"Θέλετε πράγματι να ακυρώσετε την αποθήκευση αυτής "
     u"της μακροεντολής;"};
-inline constexpr TextPair kWrongName = {u"The name you typed is incorrect.",
-                                        u"Το όνομα που πληκτρολογήσατε είναι λανθασμένο."};
-inline constexpr TextPair kReplace = {
-    u"A macro named '%1', already exists."
-    u"\r\n\r\n"
-    u"Would you like to replace it?",
-    u"Υπάρχει ήδη μακροεντολή με το όνομα «%1»."
-    u"\r\n\r\n"
-    u"Μήπως θέλετε να την αντικαταστήσετε;"};
 
 }  // namespace verlume::macro_saving_texts

@@ -37,7 +37,7 @@ void MacroStyle::TakeCommandStyle() {
   state_.MacroColor = state_.FontColor;
   state_.MacroFontSize = state_.FontSize;
   ApplyToText();
-  rtbMacroText_SelChange();
+  TakeStyleAtCaret();
 }
 
 void MacroStyle::StartEmptyText() {
@@ -62,6 +62,10 @@ void MacroStyle::ApplyToText() {
 }
 
 void MacroStyle::rtbMacroText_SelChange() {
+  errors_.Guard(Procedure::frmMacros_Load, [this] { TakeStyleAtCaret(); });
+}
+
+void MacroStyle::TakeStyleAtCaret() {
   const RichTextBox& text = platform_.frmMacros.rtbMacroText;
   if (settling_ || text.SelLength() > 0) return;
   const SelectionFormat format = text.SelFormat();

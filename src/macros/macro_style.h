@@ -26,6 +26,7 @@ class MacroStyle {
   void chkUnderlined_Click();
   void lblColour_MouseDown(MouseButton button);
   // The style at the insertion point becomes the macro style, and is shown.
+  void TakeStyleAtCaret();
   void rtbMacroText_SelChange();
   // The keys that set the style; Enter is swallowed too.
   void rtbMacroText_KeyPress(int& charCode);

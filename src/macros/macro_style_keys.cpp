@@ -96,7 +96,7 @@ void MacroStyle::ChooseFont() {
   state_.MacroColor = chosen.color;
   state_.MacroFontSize = chosen.size;
   ApplyMacroStyle();
-  rtbMacroText_SelChange();
+  TakeStyleAtCaret();
 }
 
 void MacroStyle::AskFontSize() {

@@ -48,7 +48,7 @@ enum class Procedure : int {
   mnuToolsAlwaysOnTop_Click = 243,
   ChooseMacrosFolder = 244,
   SaveCommandPaneAsMacro = 245,
-  frmMacros_Load = 246,
+  frmMacros_Load = 246,  // and whatever of frmMacros has no number below
   cmdAdd_Click = 247,
   cmdCancel_Click = 248,
   lstMacroNames_Click = 249,

@@ -1,5 +1,6 @@
 // Adding, changing, saving, giving up and deleting macros.
 #include "macros/macro_editor_fixture.h"
+#include "macros/macro_editor_states.h"
 
 namespace verlume {
 namespace {
@@ -277,6 +278,7 @@ TEST_F(MacroEditorButtonsTest, ReplaceQuestionSpeaksGreek) {
   EXPECT_EQ(fake.dialogs.messages[0].text,
             u"Υπάρχει ήδη μακροεντολή με το όνομα «bye».\r\n\r\nΜήπως θέλετε να την "
             u"αντικαταστήσετε;");
+  EXPECT_EQ(fake.dialogs.messages[0].title, u"Αποθήκευση μακροεντολής ως");
 }
 
 TEST_F(MacroEditorButtonsTest, SaveAsInAnotherLetterCaseTakesTheNameOnDisk) {
@@ -441,6 +443,115 @@ TEST_F(MacroEditorButtonsTest, FailedDeleteIsReportedAndTheMacroStays) {
   });
 }
 
+TEST_F(MacroEditorButtonsTest, DeleteOfAMacroThatVanishedIsReportedAndTakesItsName) {
+  Open([this] {
+    Choose(u"hello");
+    fake.files.files.erase(u"/macros/hello.rtf");
+    fake.dialogs.answers = {Answer::Yes, Answer::No};
+    window.cmdDelete.Click();
+    ExpectReported(u"53", u"Verlume, 250.");
+    EXPECT_EQ(StateName(), "Empty");
+    EXPECT_THAT(list.items, ElementsAre(u"bye", u"plain"));
+    EXPECT_EQ(list.selected, -1);
+  });
+}
+
+TEST_F(MacroEditorButtonsTest, NoToTheDeletionOfAVanishedMacroKeepsItShown) {
+  Open([this] {
+    Choose(u"hello");
+    fake.files.files.erase(u"/macros/hello.rtf");
+    fake.dialogs.answers = {Answer::No};
+    window.cmdDelete.Click();
+    EXPECT_EQ(StateName(), "Showing");
+    EXPECT_EQ(list.Count(), 3);
+  });
+}
+
+TEST_F(MacroEditorButtonsTest, KeyboardGoesToTheListOnceNothingIsEdited) {
+  Open([this] {
+    Edit(u"hello");
+    EXPECT_TRUE(text.HasFocus());
+    window.cmdSave.Click();
+    EXPECT_TRUE(list.HasFocus()) << "Save";
+    window.cmdEdit.Click();
+    fake.dialogs.typed = {u"copy"};
+    window.cmdSaveAs.Click();
+    EXPECT_TRUE(list.HasFocus()) << "Save as";
+    window.cmdEdit.Click();
+    fake.dialogs.answers = {Answer::Yes, Answer::No, Answer::Yes};
+    window.cmdCancel.Click();
+    EXPECT_TRUE(list.HasFocus()) << "Cancel";
+    window.cmdDelete.SetFocus();
+    window.cmdDelete.Click();
+    EXPECT_TRUE(list.HasFocus()) << "no to Delete";
+    window.cmdDelete.SetFocus();
+    window.cmdDelete.Click();
+    EXPECT_TRUE(list.HasFocus()) << "Delete";
+  });
+}
+
+TEST_F(MacroEditorButtonsTest, KeyboardGoesBackToATextThatIsStillEdited) {
+  Open([this] {
+    Edit(u"hello");
+    window.cmdCancel.SetFocus();
+    fake.dialogs.answers = {Answer::No};
+    window.cmdCancel.Click();
+    EXPECT_TRUE(text.HasFocus()) << "no to Cancel";
+    window.cmdSaveAs.SetFocus();
+    fake.dialogs.typed = {u""};
+    window.cmdSaveAs.Click();
+    EXPECT_TRUE(text.HasFocus()) << "Save as without a name";
+    text.SetText(u"");
+    window.cmdSave.SetFocus();
+    window.cmdSave.Click();
+    EXPECT_TRUE(text.HasFocus()) << "Save of nothing";
+  });
+}
+
+TEST_F(MacroEditorButtonsTest, AddThatFailsIsReportedAndTheMacroCanBeWritten) {
+  Open([this] {
+    text.formatFails = FailureNumber::InternalError;
+    AnswerNoToErrors();
+    Add(u"new");
+    ExpectReported(u"51", u"Verlume, 247.");
+    EXPECT_EQ(StateName(), "New");
+    text.formatFails.reset();
+    text.Type(u"fresh");
+    window.cmdSave.Click();
+  });
+  EXPECT_EQ(Saved(u"new"), u"fresh");
+}
+
+TEST_F(MacroEditorButtonsTest, SaveAsOverAFileThatIsNotListedListsIt) {
+  Open([this] {
+    Edit(u"hello");
+    fake.files.files[u"/macros/late.rtf"] = "{\\rtf1 came later}";
+    fake.dialogs.typed = {u"late"};
+    fake.dialogs.answers = {Answer::Yes};
+    window.cmdSaveAs.Click();
+    EXPECT_EQ(StateName(), "Showing");
+    EXPECT_EQ(Chosen(), u"late");
+    EXPECT_THAT(list.items, ElementsAre(u"bye", u"hello", u"plain", u"late"));
+  });
+  EXPECT_EQ(Saved(u"late"), u"Good morning");
+}
+
+TEST_F(MacroEditorButtonsTest, WrongNameIsToldInGreek) {
+  state.IsGreek = true;
+  Open([this] {
+    fake.dialogs.typed = {u"a b", u""};
+    window.cmdAdd.Click();
+    Edit(u"hello");
+    fake.dialogs.typed = {u"a b", u""};
+    window.cmdSaveAs.Click();
+  });
+  EXPECT_THAT(Titles(), ElementsAre(u"Όνομα νέας μακροεντολής", u"Αποθήκευση μακροεντολής ως"));
+  for (const Message& refusal : fake.dialogs.messages) {
+    EXPECT_EQ(refusal.text, u"Το όνομα που πληκτρολογήσατε είναι λανθασμένο.");
+    EXPECT_EQ(refusal.icon, MessageIcon::Stop);
+  }
+}
+
 TEST_F(MacroEditorButtonsTest, NameIsNoPattern) {
   Open([this] {
     Add(u"%1'%2");
@@ -458,6 +569,40 @@ TEST_F(MacroEditorButtonsTest, AddStopsAskingWhenTheProgramEndsUnderTheBox) {
     window.cmdAdd.Click();
   });
   EXPECT_EQ(fake.dialogs.asked.size(), 1u);
+}
+
+// A box that goes with the program answers as one that is closed.
+TEST_F(MacroEditorButtonsTest, NothingIsDoneWhenTheProgramEndsUnderAQuestion) {
+  Open([this] {
+    Edit(u"hello");
+    text.Type(u"!");
+    fake.dialogs.whileOpen = [this] { fake.application.End(); };
+    fake.dialogs.typed = {u""};
+    window.cmdSaveAs.Click();
+    fake.dialogs.answers = {Answer::No, Answer::No};
+    window.cmdCancel.Click();
+    EXPECT_EQ(StateName(), "Editing");
+    EXPECT_EQ(text.Text(), u"Good morning!");
+    EnterState(window.frmMacros, MacroEditorState::Showing);
+    window.cmdDelete.Click();
+    EXPECT_EQ(list.Count(), 3);
+  });
+  EXPECT_EQ(Saved(u"hello"), u"Good morning");
+  EXPECT_THAT(Titles(), ElementsAre(u"Cancel modifications", u"Delete macro"));
+}
+
+TEST_F(MacroEditorButtonsTest, SaveAsStopsAskingWhenTheProgramEndsUnderItsReplaceQuestion) {
+  Open([this] {
+    Edit(u"hello");
+    fake.dialogs.whileOpen = [this] {
+      if (!fake.dialogs.messages.empty()) fake.application.End();
+    };
+    fake.dialogs.typed = {u"bye", u"copy"};
+    fake.dialogs.answers = {Answer::No};
+    window.cmdSaveAs.Click();
+  });
+  EXPECT_EQ(fake.dialogs.asked.size(), 1u);
+  EXPECT_EQ(Saved(u"copy"), u"no file");
 }
 
 }  // namespace

@@ -196,12 +196,12 @@ TEST_F(MacroEditorTest, ListStaysOnTheMacroThatIsEdited) {
 TEST_F(MacroEditorTest, TextPassesTheFocusOnWhileMacrosAreLookedThrough) {
   Open([this] {
     Choose(u"hello");
-    const int focused = list.timesFocused;
-    text.onGotFocus();
-    EXPECT_EQ(list.timesFocused, focused + 1);
+    text.SetFocus();
+    EXPECT_TRUE(list.HasFocus());
     window.cmdEdit.Click();
-    text.onGotFocus();
-    EXPECT_EQ(list.timesFocused, focused + 1);
+    list.SetFocus();
+    text.SetFocus();
+    EXPECT_TRUE(text.HasFocus());
   });
 }
 
@@ -236,14 +236,16 @@ TEST_F(MacroEditorTest, EscapeEmptiesTheTextWhileItIsEdited) {
 
 TEST_F(MacroEditorTest, OnlyTheProgramClosesIt) {
   Open([this] {
-    const int focused = text.timesFocused;
+    window.cmdAdd.SetFocus();
     window.window.Close(UnloadMode::User);
     EXPECT_FALSE(window.window.unloaded) << "also while nothing is edited";
-    EXPECT_EQ(text.timesFocused, focused + 1);
+    EXPECT_TRUE(list.HasFocus());
     state.IsGreek = true;
     Edit(u"hello");
+    window.cmdSave.SetFocus();
     window.window.Close(UnloadMode::User);
     EXPECT_FALSE(window.window.unloaded);
+    EXPECT_TRUE(text.HasFocus());
   });
   EXPECT_EQ(fake.dialogs.messages[0].text,
             u"You may close the macros editing form, ONLY by clicking on the button titled "
@@ -312,6 +314,46 @@ TEST_F(MacroEditorTest, NothingIsRunWhenTheProgramEndsUnderIt) {
   });
   EXPECT_EQ(pressed, 0);
   EXPECT_EQ(pane.timesFocused, 0);
+}
+
+TEST_F(MacroEditorTest, FailureOfAnyHandlerIsReported) {
+  Open([this] {
+    Choose(u"hello");
+    const auto expectReported = [this](const std::function<void()>& act) {
+      AnswerNoToErrors();
+      act();
+      ExpectReported(u"51", u"Verlume, 246.");
+      fake.dialogs.messages.clear();
+      text.focusFails = list.focusFails = text.rtfFails = text.formatReadFails = std::nullopt;
+    };
+    text.rtfFails = FailureNumber::InternalError;
+    expectReported([this] { window.cmdRun.Click(); });
+    EXPECT_FALSE(window.window.unloaded);
+    list.focusFails = FailureNumber::InternalError;
+    expectReported([this] { text.onGotFocus(); });
+    list.focusFails = FailureNumber::InternalError;
+    expectReported([this] { EXPECT_FALSE(text.PressKey(key_code::kOther)); });
+    list.focusFails = FailureNumber::InternalError;
+    expectReported([this] { window.window.Close(UnloadMode::User); });
+    EXPECT_FALSE(window.window.unloaded);
+    text.formatReadFails = FailureNumber::InternalError;
+    expectReported([this] { text.onSelChange(); });
+    text.focusFails = FailureNumber::InternalError;
+    expectReported([this] { window.cmdEdit.Click(); });
+    EXPECT_EQ(StateName(), "Editing");
+  });
+}
+
+TEST_F(MacroEditorTest, FailureToHandTheMacroOverIsReported) {
+  AnswerNoToErrors();
+  Open([this] {
+    Choose(u"hello");
+    window.cmdRun.Click();
+    pane.rtfFails = FailureNumber::InternalError;
+  });
+  ExpectReported(u"51", u"Verlume, 246.");
+  EXPECT_EQ(state.MacroToRun, u"");
+  EXPECT_TRUE(pane.HasFocus());
 }
 
 }  // namespace

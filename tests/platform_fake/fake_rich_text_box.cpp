@@ -30,6 +30,7 @@ void FakeRichTextBox::SetText(std::u16string_view text) {
 }
 
 void FakeRichTextBox::SetRtf(std::u16string_view rtf) {
+  if (rtfFails) throw RunTimeFailure(*rtfFails);
   ReplaceAll(CellsOf(richtext::ReadRtf(rtf)));
 }
 
@@ -42,6 +43,7 @@ void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells) {
 }
 
 std::u16string FakeRichTextBox::Rtf() const {
+  if (rtfFails) throw RunTimeFailure(*rtfFails);
   richtext::Document document;
   const auto indexOf = [&document, this](const std::u16string& name) {
     const auto same = [&](const richtext::Font& font) { return font.name == name; };
@@ -86,6 +88,7 @@ void FakeRichTextBox::TakeInsertionLook() {
 }
 
 SelectionFormat FakeRichTextBox::SelFormat() const {
+  if (formatReadFails) throw RunTimeFailure(*formatReadFails);
   if (formatIsMixed) return {};
   const Look& first = selLength_ > 0 ? cells_[selStart_].look : insertionLook_;
   const auto shown = [](Color color) { return std::max<Color>(color, 0); };

@@ -16,6 +16,12 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   explicit FakeRichTextBox(FakeFileSystem& files, Lines lines = Lines::Many)
       : files_(files), lines_(lines) {}
 
+  // A box that has the focus already is not told so again.
+  void SetFocus() override {
+    const bool hadFocus = HasFocus();
+    FakeControl::SetFocus();
+    if (!hadFocus && onGotFocus) onGotFocus();
+  }
   std::u16string Text() const override;
   std::size_t TextLength() const override { return cells_.size(); }
   void SetText(std::u16string_view text) override;
@@ -47,8 +53,10 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   bool locked = false;
   std::u16string tag;
   Color backColor = 0xFFFFFF;
-  bool formatIsMixed = false;                // SelFormat reads as undetermined
-  std::optional<FailureNumber> formatFails;  // SetSelFormat fails with this
+  bool formatIsMixed = false;                    // SelFormat reads as undetermined
+  std::optional<FailureNumber> formatFails;      // SetSelFormat fails with this
+  std::optional<FailureNumber> formatReadFails;  // SelFormat does
+  std::optional<FailureNumber> rtfFails;         // Rtf and SetRtf do
 
  private:
   struct Look {

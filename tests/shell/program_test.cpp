@@ -402,6 +402,44 @@ TEST_F(ProgramTest, CloseBoxOfTheMacroEditorIsRefused) {
   EXPECT_EQ(ann.platform.dialogs.messages.back().title, u"Close macros editing form");
 }
 
+TEST_F(ProgramTest, ConversationGoesOnUnderTheMacroEditor) {
+  Connect();
+  ann.platform.files.files[u"/macros/hello.rtf"] = "{\\rtf1 Good morning}";
+  fake::FakeMacroWindow& editor = ann.platform.macros;
+  editor.window.whileModal = [&] {
+    editor.lstMacroNames.Choose(0);
+    editor.cmdEdit.Click();
+    editor.rtbMacroText.Type(u"!");
+    bob.Enter(u"hello");
+    network.RunUntilIdle();
+    EXPECT_EQ(ann.Dialogue(), u"<Bob>hello");
+    bob.Enter(u"/CLOSE");
+    network.RunUntilIdle();
+    EXPECT_THAT(ann.Status(), EndsIn(u"Disconnected."));
+    EXPECT_EQ(editor.rtbMacroText.Text(), u"Good morning!");
+    EXPECT_TRUE(editor.cmdSave.enabled) << "the macro is edited on";
+    editor.cmdSave.Click();
+    editor.cmdRun.Click();
+  };
+  ann.Enter(u"/EDITMACROS");
+  EXPECT_THAT(ann.Dialogue(), EndsIn(u"<Άννα>Good morning!"));
+}
+
+TEST_F(ProgramTest, CallIsTakenUnderTheMacroEditor) {
+  fake::FakeMacroWindow& editor = ann.platform.macros;
+  editor.window.whileModal = [&] {
+    bob.Enter(u"/call ann 4000");
+    ann.platform.dialogs.answers = {Answer::Yes};
+    network.RunUntilIdle();
+    EXPECT_TRUE(ann.program.State().IsConnected);
+    EXPECT_FALSE(editor.window.unloaded);
+    editor.cmdClose.Click();
+  };
+  ann.Enter(u"/WAIT 4000");
+  ann.Enter(u"/EDITMACROS");
+  EXPECT_TRUE(bob.program.State().IsConnected);
+}
+
 TEST_F(ProgramTest, EverythingOfTheMacroEditorIsBound) {
   fake::FakeMacroWindow& editor = ann.platform.macros;
   editor.window.whileModal = [&] {
@@ -415,9 +453,11 @@ TEST_F(ProgramTest, EverythingOfTheMacroEditorIsBound) {
     ann.platform.commonDialog.colors = {Color(255)};
     editor.lblColour.onMouseDown(MouseButton::Left);
     EXPECT_EQ(ann.program.State().MacroColor, 255);
-    editor.rtbMacroText.onGotFocus();
+    editor.rtbMacroText.SetFocus();
+    EXPECT_TRUE(editor.lstMacroNames.HasFocus());
+    editor.cmdAdd.SetFocus();
     EXPECT_FALSE(editor.rtbMacroText.PressKey(key_code::kOther));
-    EXPECT_EQ(editor.lstMacroNames.timesFocused, 3);
+    EXPECT_TRUE(editor.lstMacroNames.HasFocus());
 
     ann.platform.dialogs.typed = {u"one", u"two"};
     editor.cmdAdd.Click();

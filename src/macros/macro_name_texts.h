@@ -1,0 +1,26 @@
+// What is asked and told about the name of a macro, wherever one is typed.
+#pragma once
+
+#include "shell/text_pair.h"
+
+namespace verlume::macro_name_texts {
+
+// Behind whatever a name is asked for.
+inline constexpr TextPair kAvoid = {
+    u"\r\n\r\n"
+    u"Avoid using the characters"
+    u"  \\  /  :  *  ?  \"  <  >  |  .  and the space.",
+    u"\r\n\r\n"
+    u"Αποφύγετε την χρήση των χαρακτήρων"
+    u"  \\  /  :  *  ?  \"  <  >  |  .  και το κενό."};
+inline constexpr TextPair kWrongName = {u"The name you typed is incorrect.",
+                                        u"Το όνομα που πληκτρολογήσατε είναι λανθασμένο."};
+inline constexpr TextPair kReplace = {
+    u"A macro named '%1', already exists."
+    u"\r\n\r\n"
+    u"Would you like to replace it?",
+    u"Υπάρχει ήδη μακροεντολή με το όνομα «%1»."
+    u"\r\n\r\n"
+    u"Μήπως θέλετε να την αντικαταστήσετε;"};
+
+}  // namespace verlume::macro_name_texts
