@@ -1,4 +1,5 @@
-// The rich-text box: the command pane, the dialogue pane and the hidden box are each one.
+// The rich-text box: the command pane, the dialogue pane, the hidden box and the macro text are
+// each one.
 //
 // Positions and lengths are UTF-16 units. A line break is one unit, u'\n', in Text and in every
 // position; "\r\n" and "\r" that are put in become one. In a single-line box a line break that is
