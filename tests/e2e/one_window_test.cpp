@@ -106,6 +106,15 @@ TEST_F(OneWindow, MacroIsAddedInTheEditorAndRun) {
   EXPECT_TRUE(WaitUntil([&] { return copy.Dialogue() == "<Ann1>Good morning, all"; }))
       << copy.Dialogue().toStdString();
   EXPECT_TRUE(LineReachesTheCommandPane());
+
+  copy.TypeLine("/EDITMACROS");
+  ASSERT_TRUE(WaitUntil([&] { return copy.IsActive("Macros"); }));
+  copy.PressKeys("Escape");
+  copy.PressKeys("Down");
+  copy.PressKeys("alt+r");
+  ASSERT_TRUE(WaitUntil([&] { return !copy.Shows("Macros"); })) << "chosen by key, and run";
+  EXPECT_TRUE(WaitUntil([&] { return copy.Dialogue().endsWith("<Ann2>Good morning, all"); }))
+      << copy.Dialogue().toStdString();
 }
 
 TEST_F(OneWindow, KeysOfTheMenusWork) {

@@ -220,7 +220,12 @@ TEST_F(DialogueFilesTest, SaveAsksForTheFormat) {
             u"κειμένου.\r\n\r\nΠατήστε το «Όχι» για να αποθηκεύσετε τον διάλογο σε αρχείο μορφής "
             u"απλού κειμένου.\r\n\r\nΠατήστε το «Άκυρο» για να ακυρώσετε την διαδικασία της "
             u"αποθηκεύσεως.");
-  EXPECT_EQ(fake.dialogs.messages.at(1).buttons, MessageButtons::YesNoCancel);
+  for (const Message& question : fake.dialogs.messages) {
+    EXPECT_EQ(question.icon, MessageIcon::Question);
+    EXPECT_EQ(question.buttons, MessageButtons::YesNoCancel);
+    EXPECT_EQ(question.defaultAnswer, Answer::Yes);
+  }
+  EXPECT_THAT(Titles(), ElementsAre(u"Save dialogue as", u"Αποθήκευση διαλόγου ως"));
   EXPECT_THAT(fake.commonDialog.filesShown, IsEmpty());
 }
 
@@ -238,6 +243,35 @@ TEST_F(DialogueFilesTest, NoSavesTheVisibleCharactersOnly) {
   rtbData.SetRtf(u"{\\rtf1 [10:00:00]<Bob>\\b hello}");
   Save(Answer::No, u"/logs/a.txt");
   EXPECT_EQ(disk[u"/logs/a.txt"], "[10:00:00]<Bob>hello");
+}
+
+TEST_F(DialogueFilesTest, LinesAreSavedAsPlainTextWithALineFeedBetweenAndLoadBackSo) {
+  rtbData.SetText(u"<Bob>one\r\n<Ann>two");
+  Save(Answer::No, u"/logs/a.txt");
+  EXPECT_EQ(disk[u"/logs/a.txt"], "<Bob>one\n<Ann>two");
+  rtbData.SetText(u"");
+  Load(Answer::No, u"/logs/a.txt");
+  EXPECT_EQ(rtbData.Text(), u"<Bob>one\n<Ann>two");
+}
+
+TEST_F(DialogueFilesTest, PlainTextSavesUnderItsOwnTitleFilterAndExtension) {
+  rtbData.SetText(u"line");
+  Save(Answer::No, u"/logs/a.txt");
+  EXPECT_EQ(Dialog().title, u"Save dialogue as TXT");
+  EXPECT_EQ(Dialog().filter, u"Text document (*.txt)|*.txt|");
+  EXPECT_EQ(Dialog().defaultExtension, u"txt");
+}
+
+TEST_F(DialogueFilesTest, DialogsOfSavingSpeakGreek) {
+  state.IsGreek = true;
+  rtbData.SetText(u"line");
+  Save(Answer::Yes, u"/logs/a.rtf");
+  Save(Answer::No, u"/logs/a.txt");
+  const std::vector<FileChoice>& shown = fake.commonDialog.filesShown;
+  EXPECT_EQ(shown.at(0).title, u"Αποθήκευση διαλόγου ως RTF");
+  EXPECT_EQ(shown.at(0).filter, u"Μορφή εμπλουτισμένου κειμένου (*.rtf)|*.rtf");
+  EXPECT_EQ(shown.at(1).title, u"Αποθήκευση διαλόγου ως TXT");
+  EXPECT_EQ(shown.at(1).filter, u"Έγγραφο κειμένου (*.txt)|*.txt");
 }
 
 TEST_F(DialogueFilesTest, SaveDialogProposesThePartnersName) {
@@ -258,6 +292,41 @@ TEST_F(DialogueFilesTest, FullDiskIsReportedAndTheOldFileStays) {
   Save(Answer::Yes, u"/logs/a.rtf");
   ExpectReported(u"61", u"Verlume, 241.");
   EXPECT_EQ(disk[u"/logs/a.rtf"], "the old file");
+}
+
+TEST_F(DialogueFilesTest, NothingIsLoadedOrSavedWhenTheProgramEndsUnderTheQuestion) {
+  rtbData.SetText(u"line");
+  fake.dialogs.whileOpen = [this] { fake.application.End(); };
+  // A box that goes with the program answers as one that is closed.
+  fake.dialogs.answers = {Answer::Cancel, Answer::Cancel};
+  dialogueFiles.mnuFileLogOpen_Click();
+  dialogueFiles.mnuFileLogSaveAs_Click();
+  EXPECT_THAT(fake.commonDialog.filesShown, IsEmpty());
+  EXPECT_EQ(rtbData.Text(), u"line");
+  EXPECT_THAT(disk, IsEmpty());
+}
+
+TEST_F(DialogueFilesTest, CommandPaneGetsTheFocusBackAfterACancelAndARefusal) {
+  rtbData.SetText(u"line");
+  fake::FakeRichTextBox& pane = fake.window.rtbCommands;
+  const auto expectFocus = [&pane](const std::function<void()>& act) {
+    const int before = pane.timesFocused;
+    act();
+    EXPECT_EQ(pane.timesFocused, before + 1);
+  };
+  for (const bool save : {false, true}) {
+    const auto choose = [&] {
+      save ? dialogueFiles.mnuFileLogSaveAs_Click() : dialogueFiles.mnuFileLogOpen_Click();
+    };
+    fake.dialogs.answers = {Answer::Cancel};
+    expectFocus(choose);
+    fake.dialogs.answers = {Answer::Yes};
+    fake.commonDialog.files = {std::nullopt};
+    expectFocus(choose);
+    fake.dialogs.answers = {Answer::Yes};
+    fake.commonDialog.files = {Chosen(u"/logs/a.txt", dialog_flag::kExtensionDifferent)};
+    expectFocus(choose);
+  }
 }
 
 TEST_F(DialogueFilesTest, CommandPaneGetsTheFocusBack) {
