@@ -14,8 +14,9 @@ foreach(file start_up shut_down program)
   set("floor_shell/${file}" 7)
 endforeach()
 set("floor_commands/dialogue" 4)
-foreach(file macro_editor macro_editor_buttons macro_editor_states macro_editor_texts macro_saving
-    macro_saving_texts macro_style macro_style_keys)
+foreach(file macro_editor macro_editor_buttons macro_editor_states macro_editor_texts
+    macro_name_question macro_name_texts macro_saving macro_saving_texts macro_style
+    macro_style_keys)
   set("floor_macros/${file}" 6)
 endforeach()
 set("floor_main" 8)
