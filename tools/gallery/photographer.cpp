@@ -2,12 +2,12 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <utility>
 
 namespace verlume::gallery {
 namespace {
@@ -20,13 +20,6 @@ bool OpensABox(const QAction& entry) {
   const bool asksFirst = entry.objectName() == QLatin1String("mnuFileLogRecord");
   return !entry.isSeparator() && (!entry.isCheckable() || asksFirst) &&
          entry.objectName() != QLatin1String("mnuFileExit");
-}
-
-void Press(QWidget* widget, int key, const QString& text = {}) {
-  QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-  QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
-  QApplication::sendEvent(widget, &press);
-  QApplication::sendEvent(widget, &release);
 }
 
 }  // namespace
@@ -43,10 +36,15 @@ void Photographer::Step() {
   if (!main_) return Begin();
   TakeWindows();
   if (next_ == scenes_.size()) return timer_.stop();
-  scene_ = scenes_[next_].name;
-  picturesOfScene_ = 0;
+  BeginScene(scenes_[next_].name, scenes_[next_].answers);
   // Not from within the step: a scene may open a box, and a timer does not fire inside itself.
   QMetaObject::invokeMethod(this, scenes_[next_++].enter, Qt::QueuedConnection);
+}
+
+void Photographer::BeginScene(const QString& name, const Answers& answers) {
+  scene_ = name;
+  answers_ = answers;
+  boxesOfScene_ = 0;
 }
 
 void Photographer::Begin() {
@@ -73,7 +71,7 @@ void Photographer::Begin() {
     }
   }
   scenes_.push_back({QStringLiteral("find-bar"), [this] {
-                       Type(QStringLiteral("Good morning. Καλημέρα."));
+                       Enter(QStringLiteral("Good morning. Καλημέρα."));
                        auto* field = main_->findChild<QWidget*>(QStringLiteral("txtFind"));
                        for (const QChar character : QStringLiteral("ΚΑΛΗΜΕΡΑ")) {
                          Press(field, 0, character);
@@ -84,6 +82,9 @@ void Photographer::Begin() {
                      }});
   AddCompletions(QStringLiteral("completions"), QStringLiteral("/"));
   AddCompletions(QStringLiteral("completions-macro"), QStringLiteral("/h"));
+  AddSaving(QStringLiteral("save-macro"), {Escape(), Yes()});
+  AddSaving(QStringLiteral("save-macro-existing"),
+            {FillIn(QStringLiteral("goodbye")), Escape(), Escape(), Yes()});
   AddTyped(QStringLiteral("wait-wrong-port"), QStringLiteral("/WAIT nowhere"));
   AddTyped(QStringLiteral("call-wrong-port"), QStringLiteral("/CALL localhost nowhere"));
   AddTyped(QStringLiteral("error-report"), QStringLiteral("/CALL localhost 70000"));
@@ -115,7 +116,7 @@ void Photographer::AddEntry(QAction* entry) {
 
 void Photographer::AddCompletions(const QString& name, const QString& word) {
   scenes_.push_back({name, [this, word] {
-                       QWidget* commands = TypeAfresh(word);
+                       QWidget* commands = Type(word);
                        Press(commands, Qt::Key_Down);
                        QApplication::processEvents();
                        Take(main_, scene_);
@@ -124,37 +125,62 @@ void Photographer::AddCompletions(const QString& name, const QString& word) {
 }
 
 void Photographer::AddTyped(const QString& name, const QString& line) {
-  scenes_.push_back({name, [this, line] { Type(line); }});
+  scenes_.push_back({name, [this, line] { Enter(line); }});
 }
 
-void Photographer::Type(const QString& line) {
-  Press(TypeAfresh(line), Qt::Key_Return, QStringLiteral("\r"));
+void Photographer::AddSaving(const QString& name, Answers answers) {
+  scenes_.push_back({name,
+                     [this] {
+                       Type(QStringLiteral("Hello, $r!"));
+                       main_->findChild<QAction*>(QStringLiteral("mnuToolsSaveMacro"))->trigger();
+                     },
+                     std::move(answers)});
 }
 
-QWidget* Photographer::TypeAfresh(const QString& text) {
+QWidget* Photographer::Type(const QString& text) {
   auto* commands = main_->findChild<QPlainTextEdit*>(QStringLiteral("rtbCommands"));
   Press(commands, Qt::Key_Escape);  // what a refused command has left there
   for (const QChar character : text) Press(commands, 0, character);
   return commands;
 }
 
-// A modal box: its picture first, its answer a step later.
+void Photographer::Enter(const QString& line) {
+  Press(Type(line), Qt::Key_Return, QStringLiteral("\r"));
+}
+
 bool Photographer::TakeModal() {
   QWidget* box = QApplication::activeModalWidget();
   if (!box) {
     taken_ = nullptr;
-    return false;
+  } else if (box->objectName() == QLatin1String("frmMacros")) {
+    TakeEditor(box);
+  } else {
+    TakeBox(box);
   }
+  return box;
+}
+
+// Its picture first, its answer a step later.
+void Photographer::TakeBox(QWidget* box) {
   if (box != taken_) {
     taken_ = box;
-    const QString number = picturesOfScene_ == 0 ? QString() : QStringLiteral("-%1");
-    Take(box, scene_ + (number.isEmpty() ? number : number.arg(picturesOfScene_ + 1)));
-    ++picturesOfScene_;
-  } else {
-    taken_ = nullptr;
-    Press(box, Qt::Key_Escape);
+    const QString number = boxesOfScene_ == 0 ? QString() : QStringLiteral("-%1");
+    Take(box, scene_ + (number.isEmpty() ? number : number.arg(boxesOfScene_ + 1)));
+    return;
   }
-  return true;
+  taken_ = nullptr;
+  const auto turn = static_cast<std::size_t>(boxesOfScene_++);
+  (turn < answers_.size() ? answers_[turn] : Escape())(box);
+}
+
+void Photographer::TakeEditor(QWidget* editor) {
+  taken_ = nullptr;
+  if (step_ == 0 || tour_[step_ - 1].showsTheEditor) Take(editor, scene_);
+  if (step_ == tour_.size()) step_ = 0;
+  const MacroStep& step = tour_[step_++];
+  BeginScene(step.name, step.answers);
+  QMetaObject::invokeMethod(
+      this, [&step, editor] { step.perform(editor); }, Qt::QueuedConnection);
 }
 
 // Windows that stay beside the main one: their picture, and they go.

@@ -1,6 +1,7 @@
 // Goes through the program as a user would and takes a picture of every window and box that comes
 // up: the main window, each menu, what each menu entry opens, and the boxes that only a state or a
-// failure brings. A box is answered by Escape once its picture is taken.
+// failure brings. A box is answered once its picture is taken, by Escape where nothing else is
+// said.
 #pragma once
 
 #include <QObject>
@@ -9,6 +10,8 @@
 #include <QTimer>
 #include <functional>
 #include <vector>
+
+#include "macro_tour.h"
 
 class QAction;
 class QMainWindow;
@@ -25,6 +28,7 @@ class Photographer : public QObject {
   struct Scene {
     QString name;
     std::function<void()> enter;
+    Answers answers = {};  // to the boxes that come of it
   };
 
   void Step();
@@ -33,19 +37,26 @@ class Photographer : public QObject {
   void AddEntry(QAction* entry);
   void AddCompletions(const QString& name, const QString& word);
   void AddTyped(const QString& name, const QString& line);
+  void AddSaving(const QString& name, Answers answers);
+  void BeginScene(const QString& name, const Answers& answers);
   bool TakeModal();
+  void TakeBox(QWidget* box);
+  void TakeEditor(QWidget* editor);
   void TakeWindows();
   void Take(QWidget* window, const QString& name);
-  void Type(const QString& line);
   // Without Enter; gives the command pane.
-  QWidget* TypeAfresh(const QString& text);
+  QWidget* Type(const QString& text);
+  void Enter(const QString& line);
 
   QString folder_;
   QMainWindow* main_ = nullptr;
   std::vector<Scene> scenes_;
   std::size_t next_ = 0;
   QString scene_ = QStringLiteral("start");
-  int picturesOfScene_ = 0;
+  Answers answers_;       // of the scene
+  int boxesOfScene_ = 0;  // that have been answered
+  const std::vector<MacroStep> tour_ = MacroTour();
+  std::size_t step_ = 0;  // of the tour, the next one
   int idleSteps_ = 0;
   QWidget* taken_ = nullptr;  // the box whose picture is taken already
   QSet<QWidget*> known_;      // windows that are not modal and have their picture
