@@ -13,8 +13,9 @@ auto Click(const char* button) {
   };
 }
 
-void ChooseTheFirst(QWidget* editor) {
-  editor->findChild<QListWidget*>()->setCurrentRow(0);
+void ChooseHello(QWidget* editor) {
+  auto* names = editor->findChild<QListWidget*>();
+  names->setCurrentItem(names->findItems("hello", Qt::MatchExactly).value(0));
 }
 
 void AskForASize(QWidget* editor) {
@@ -28,7 +29,7 @@ std::vector<MacroStep> MacroTour() {
   return {
       {"macro-close-box", [](QWidget* editor) { editor->close(); }},
       {"macro-add", Click("cmdAdd"), {FillIn("two words"), Escape(), FillIn("goodbye")}},
-      {"macro-showing", ChooseTheFirst, {}, true},
+      {"macro-showing", ChooseHello, {}, true},
       {"macro-delete", Click("cmdDelete")},
       {"macro-editing", Click("cmdEdit"), {}, true},
       {"macro-size", AskForASize, {FillIn("12")}},

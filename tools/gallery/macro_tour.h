@@ -16,7 +16,7 @@ struct MacroStep {
   bool showsTheEditor = false;  // the editor is worth a picture afterwards
 };
 
-// The first macro of the list must be there, and one that is called "goodbye".
+// There must be two macros, "hello" and "goodbye".
 std::vector<MacroStep> MacroTour();
 
 }  // namespace verlume::gallery

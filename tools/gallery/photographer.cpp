@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <utility>
 
 namespace verlume::gallery {
@@ -78,7 +79,7 @@ void Photographer::Begin() {
                        }
                        QApplication::processEvents();
                        Take(main_, scene_);
-                       Press(field, Qt::Key_Escape);
+                       main_->findChild<QPushButton*>(QStringLiteral("cmdFindClose"))->click();
                      }});
   AddCompletions(QStringLiteral("completions"), QStringLiteral("/"));
   AddCompletions(QStringLiteral("completions-macro"), QStringLiteral("/h"));
