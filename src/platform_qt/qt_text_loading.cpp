@@ -1,6 +1,7 @@
 #include "platform_qt/qt_text_loading.h"
 
 #include <QElapsedTimer>
+#include <QScrollBar>
 #include <utility>
 
 namespace verlume::qt {
@@ -39,9 +40,13 @@ void TextLoading::Abandon() {
 }
 
 void TextLoading::PutIn(qsizetype units) {
+  QScrollBar& bar = *widget_.verticalScrollBar();
+  // What is written meanwhile is brought into view, and moves down with every piece.
+  const bool showsEnd = bar.value() > 0 && bar.value() == bar.maximum();
   const RichTextWidget::ProgramChange change(widget_);
   insertion_.PutIn(units);
   widget_.document()->clearUndoRedoStacks();
+  if (showsEnd) bar.setValue(bar.maximum());
 }
 
 void TextLoading::Continue() {

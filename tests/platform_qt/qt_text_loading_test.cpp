@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QScrollBar>
 #include <QTest>
 #include <algorithm>
 #include <memory>
@@ -112,6 +113,21 @@ TEST_F(QtTextLoadingTest, WhatIsWrittenMeanwhileFollowsIt) {
   box.SetSelText(u"a line that arrived");
   ASSERT_TRUE(HandlesEventsUntilLoaded());
   EXPECT_TRUE(box.Text() == longText + u"\na line that arrived");
+}
+
+TEST_F(QtTextLoadingTest, WhatIsWrittenMeanwhileStaysInView) {
+  window.resize(400, 300);
+  box.widget()->resize(400, 200);
+  window.show();
+  Load(u"/long.txt");
+  const QScrollBar& bar = *box.widget()->verticalScrollBar();
+  EXPECT_EQ(bar.value(), 0);
+  box.Select(box.TextLength(), 0);
+  box.SetSelText(u"a line that arrived");
+  box.Select(box.TextLength(), 0);
+  ASSERT_GT(bar.value(), 0);
+  ASSERT_TRUE(HandlesEventsUntilLoaded());
+  EXPECT_EQ(bar.value(), bar.maximum());
 }
 
 TEST_F(QtTextLoadingTest, ALongMacroComesInPieceByPieceToo) {
