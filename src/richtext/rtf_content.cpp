@@ -127,6 +127,7 @@ bool RtfContent::ApplyFormat(const ControlToken& token) {
       return true;
     case Action::kPlain:
       state_.format = state_.eastAsianFormat = {};
+      state_.isEastAsian = false;
       return true;
     default:
       return ApplyAssociated(token);

@@ -125,6 +125,7 @@ TEST(RtfReaderTest, EastAsianTextHasTheFormatThatIsMeantForIt) {
 TEST(RtfReaderTest, FormatsMeantForOtherScriptsChangeNothing) {
   EXPECT_EQ(ReadRuns(R"(\rtlch\afs60\ab\ai\af1 \ltrch\fs18 a{\afs60\ab\ai b}\dbch\af1 c)"),
             "Tahoma/161 9 auto -|abc\n");
+  EXPECT_EQ(ReadRuns(R"(\dbch\afs60\plain\ab b)"), "Tahoma/161 12 auto -|b\n");
   EXPECT_EQ(ReadRuns(R"(\dbch\afs60\rtlch\ab\afs50\ltrch a\dbch\fs18 b\ab0\b c)"),
             "Tahoma/161 8 auto -|a\nTahoma/161 9 auto -|b\nTahoma/161 9 auto b|c\n");
   EXPECT_EQ(ReadRuns(R"(\dbch\afs60\ab x\plain y\dbch z)"),
