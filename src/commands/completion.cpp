@@ -11,6 +11,9 @@
 namespace verlume {
 namespace {
 
+// No name of a file is as long, and a longer line need not be looked at with every key.
+constexpr std::size_t kLongestWord = 256;
+
 constexpr TextPair kMacroRow = {u"%1   (macro)", u"%1   (μακροεντολή)"};
 
 // The command pane makes a blank of a line break, and another name with it.
@@ -27,8 +30,10 @@ void CommandCompletion::rtbCommands_Change() {
 }
 
 void CommandCompletion::FollowPane() {
-  const std::u16string text = platform_.frmMain.rtbCommands.Text();
-  if (!state_.SuggestCommands || !IsCommandWord(text)) return Close();
+  const RichTextBox& pane = platform_.frmMain.rtbCommands;
+  if (!state_.SuggestCommands || pane.TextLength() > kLongestWord) return Close();
+  const std::u16string text = pane.Text();
+  if (!IsCommandWord(text)) return Close();
   typed_ = text;
   if (!macros_) macros_ = MacrosThatRun();
   rows_ = CompletionsOf(typed_, state_.IsGreek, *macros_, platform_.locale);

@@ -35,6 +35,16 @@ TEST_F(Completions, StayAwayFromAnyOtherLine) {
   }
 }
 
+TEST_F(Completions, StayAwayFromALineThatIsTooLongForAWord) {
+  const std::u16string name(256, u'a');
+  MakeMacro(name);
+  MakeMacro(name + u"a");
+  pane.SetText(u"/" + name.substr(1));
+  EXPECT_TRUE(IsOpen());
+  pane.SetText(u"/" + name);
+  EXPECT_FALSE(IsOpen());
+}
+
 TEST_F(Completions, CloseWhereNothingMatches) {
   pane.Type(u"/wax");
   EXPECT_FALSE(IsOpen());
