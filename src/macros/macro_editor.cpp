@@ -99,7 +99,7 @@ void MacroEditor::lstMacroNames_Click() {
   TakeFromList(chosen);
 }
 
-// Nothing changes where the file cannot be read.
+// Where the file cannot be read this throws and has changed nothing.
 void MacroEditor::Show(int index) {
   const MacroWindow& frmMacros = platform_.frmMacros;
   const std::u16string path = store_.MacroPath(frmMacros.lstMacroNames.Item(index));

@@ -74,9 +74,10 @@ class RichTextBox : public Control {
   // Whole files. Throw RunTimeFailure (53, 61, 70, 75, 76) and leave box and file as they were. A
   // file that is no RTF loads as plain text. Saving replaces the file in one step.
   //
-  // A long file is read at once but comes into the box piece by piece, while events are handled.
-  // Text, Rtf and SaveFile wait for the rest; SetText, SetRtf and LoadFile abandon it; what is
-  // written behind it stays behind it.
+  // A long file is read at once but comes into a locked box piece by piece, while events are
+  // handled. Text, Rtf, SaveFile and SetLocked(false) wait for the rest; SetText, SetRtf and
+  // LoadFile abandon it; all else sees what is in by then, and what is written behind it stays
+  // behind it.
   virtual void LoadFile(std::u16string_view path, TextFileFormat format) = 0;
   virtual void SaveFile(std::u16string_view path, TextFileFormat format) const = 0;
 

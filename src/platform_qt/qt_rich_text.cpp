@@ -83,10 +83,10 @@ richtext::Document SelectedDocument(const QTextCursor& cursor, int charset, Line
   return document;
 }
 
-SelectionFormat SelectedFormat(const QTextCursor& cursor) {
+SelectionFormat SelectedFormat(const QTextCursor& cursor, Lines lines) {
   SelectionFormat common = FromQt(FormatOfFirst(cursor));
   std::unordered_set<int> seen;
-  VisitSelectedPieces(cursor, Lines::Many, [&](int index, int, int) {
+  VisitSelectedPieces(cursor, lines, [&](int index, int, int) {
     if (seen.insert(index).second) KeepCommon(common, FromQt(FormatAt(*cursor.document(), index)));
     return !IsUndetermined(common);
   });

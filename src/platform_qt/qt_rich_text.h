@@ -27,6 +27,6 @@ std::u16string SelectedText(const QTextCursor& cursor, Lines lines);
 richtext::Document SelectedDocument(const QTextCursor& cursor, int charset, Lines lines);
 
 // Linear in the number of formatted pieces, not of characters.
-SelectionFormat SelectedFormat(const QTextCursor& cursor);
+SelectionFormat SelectedFormat(const QTextCursor& cursor, Lines lines);
 
 }  // namespace verlume::qt

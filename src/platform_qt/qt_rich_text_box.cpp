@@ -41,8 +41,12 @@ richtext::Document QtRichTextBox::Content() const {
   return SelectedDocument(Everything(), view_->Charset(), lines_);
 }
 
-QTextCursor QtRichTextBox::Everything() const {
+void QtRichTextBox::WaitForTheRest() const {
   if (loading_) loading_->Finish();
+}
+
+QTextCursor QtRichTextBox::Everything() const {
+  WaitForTheRest();
   QTextCursor cursor(widget_->document());
   cursor.select(QTextCursor::Document);
   return cursor;
@@ -122,7 +126,7 @@ void QtRichTextBox::Select(std::size_t start, std::size_t length) {
 }
 
 SelectionFormat QtRichTextBox::SelFormat() const {
-  return SelectedFormat(widget_->textCursor());
+  return SelectedFormat(widget_->textCursor(), lines_);
 }
 
 void QtRichTextBox::SetSelFormat(const SelectionFormat& format) {
@@ -172,6 +176,8 @@ void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
                                            std::move(text), [this](int percent) {
                                              if (onLoadProgress) onLoadProgress(percent);
                                            });
+  // What the user can change is all there.
+  if (!Locked()) WaitForTheRest();
   Select(0, 0);
   RaiseChange();
 }
@@ -182,6 +188,7 @@ void QtRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) co
 }
 
 void QtRichTextBox::SetLocked(bool locked) {
+  if (!locked) WaitForTheRest();
   widget_->setReadOnly(locked);
   if (locked) {
     // The keyboard selects, copies and scrolls too.

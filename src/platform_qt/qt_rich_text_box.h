@@ -58,6 +58,7 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   void ReplaceAll(FormattedText text);
   // With all of a file that is still coming in.
   QTextCursor Everything() const;
+  void WaitForTheRest() const;
   void FollowTo(const QTextCursor& cursor);
   // A position in the text, and in the document: they differ in a long single line.
   std::size_t TextPosition(int position) const;

@@ -98,7 +98,27 @@ void RichTextWidget::PerformKey(QKeyEvent* event) {
   const bool typesOther = text.size() > 0 && SafeText(FromQt(text), lines_) != event->text();
   const bool plainKey = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
   if (typesOther && plainKey && !isReadOnly()) return TypeText(text);
+  PressAcrossSeams(event);
+}
+
+// Between the blocks of a long single line there is nothing to step over or to delete: a key that
+// did no more than that is pressed again.
+void RichTextWidget::PressAcrossSeams(QKeyEvent* event) {
+  const QPointer<RichTextWidget> self(this);
+  const auto inDocument = [this] {
+    return std::pair(textCursor().position(), document()->blockCount());
+  };
+  const auto inText = [this] {
+    const QTextCursor cursor = textCursor();
+    return std::pair(cursor.position() - cursor.blockNumber(),
+                     document()->characterCount() - document()->blockCount());
+  };
+  const auto documentBefore = inDocument();
+  const auto textBefore = inText();
   QPlainTextEdit::keyPressEvent(event);
+  const bool crossedASeam =
+      lines_ == Lines::Single && self && inDocument() != documentBefore && inText() == textBefore;
+  if (crossedASeam) QPlainTextEdit::keyPressEvent(event);
 }
 
 void RichTextWidget::TypeText(const QString& text) {

@@ -61,6 +61,7 @@ class RichTextWidget : public QPlainTextEdit {
   // Offers a key to the handlers; true when one of them swallowed it or the widget is gone.
   bool Swallowed(int keyCode, int shift, int charCode);
   void PerformKey(QKeyEvent* event);
+  void PressAcrossSeams(QKeyEvent* event);
   void TypeText(const QString& text);
   void NoteSelChange();
   void NoteChange();

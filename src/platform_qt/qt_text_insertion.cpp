@@ -84,17 +84,18 @@ FormattedText::FormattedText(const richtext::Document& document, Lines lines)
 }
 
 TextInsertion::TextInsertion(const QTextCursor& cursor, FormattedText text, Lines lines)
-    : cursor_(cursor), text_(std::move(text)), lines_(lines) {
+    : cursor_(cursor), text_(std::move(text)), size_(text_.text.size()), lines_(lines) {
   cursor_.removeSelectedText();
   cursor_.setKeepPositionOnInsert(true);
 }
 
 int TextInsertion::Percent() const {
-  return IsDone() ? 100 : static_cast<int>(at_ * 100 / text_.text.size());
+  return IsDone() ? 100 : static_cast<int>(at_ * 100 / size_);
 }
 
 void TextInsertion::PutIn(qsizetype units) {
-  const qsizetype end = std::min(at_ + units, text_.text.size());
+  qsizetype end = std::min(at_ + units, size_);
+  if (end < size_ && text_.text[end].isLowSurrogate()) ++end;
   cursor_.setKeepPositionOnInsert(false);
   // The anchor has gone on with what was written there.
   cursor_.clearSelection();
@@ -102,15 +103,20 @@ void TextInsertion::PutIn(qsizetype units) {
   while (at_ < end) PutInPiece(end);
   cursor_.endEditBlock();
   cursor_.setKeepPositionOnInsert(true);
+  // A long text is not kept twice.
+  if (IsDone()) text_ = FormattedText();
 }
 
 void TextInsertion::PutInPiece(qsizetype end) {
   const FormattedText::Piece& piece = text_.pieces[piece_];
-  const qsizetype rest = std::min(piece.length - inPiece_, end - at_);
+  const qsizetype rest = piece.length - inPiece_;
   const qsizetype room = lines_ == Lines::Single ? kLongestBlock - cursor_.positionInBlock() : rest;
-  const qsizetype length = rest > room ? LengthOfCut(room) : rest;
+  const qsizetype fitting = rest > room ? LengthOfCut(room) : rest;
+  const qsizetype length = std::min(fitting, end - at_);
   cursor_.insertText(text_.text.mid(at_, length), piece.format);
-  if (length < rest) cursor_.insertBlock(cursor_.blockFormat(), piece.format);
+  if (fitting < rest && length == fitting) {
+    cursor_.insertBlock(cursor_.blockFormat(), piece.format);
+  }
   at_ += length;
   inPiece_ += length;
   if (inPiece_ < piece.length) return;
@@ -121,8 +127,9 @@ void TextInsertion::PutInPiece(qsizetype end) {
 // How much of a text that is longer than the room goes into it: the words that fit.
 qsizetype TextInsertion::LengthOfCut(qsizetype room) const {
   if (room <= 0) return 0;
-  const qsizetype blank = text_.text.lastIndexOf(u' ', at_ + room - 1);
-  if (blank >= at_ && blank >= at_ + room - kLongestWord) return blank + 1 - at_;
+  const qsizetype searched = std::min(room, kLongestWord);
+  const QStringView end = QStringView(text_.text).sliced(at_ + room - searched, searched);
+  if (const qsizetype blank = end.lastIndexOf(u' '); blank >= 0) return room - searched + blank + 1;
   if (room < kLongestWord) return 0;
   return text_.text[at_ + room - 1].isHighSurrogate() ? room - 1 : room;
 }

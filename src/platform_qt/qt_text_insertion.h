@@ -23,6 +23,7 @@ struct FormattedText {
     QTextCharFormat format;
   };
 
+  FormattedText() = default;
   FormattedText(std::u16string_view plain, const QTextCharFormat& format, Lines lines);
   FormattedText(const richtext::Document& document, Lines lines);
 
@@ -39,7 +40,7 @@ class TextInsertion {
 
   // Puts in the next units, about as many as these.
   void PutIn(qsizetype units);
-  qsizetype UnitsToCome() const { return text_.text.size() - at_; }
+  qsizetype UnitsToCome() const { return size_ - at_; }
   bool IsDone() const { return UnitsToCome() == 0; }
   int Percent() const;
   // Behind what has been put in.
@@ -50,7 +51,8 @@ class TextInsertion {
   qsizetype LengthOfCut(qsizetype room) const;
 
   QTextCursor cursor_;
-  FormattedText text_;
+  FormattedText text_;  // empty once it is in
+  qsizetype size_;
   Lines lines_;
   qsizetype at_ = 0;       // in the text
   std::size_t piece_ = 0;  // the one at that place

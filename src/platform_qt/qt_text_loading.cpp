@@ -7,8 +7,10 @@
 namespace verlume::qt {
 namespace {
 
-// Shorter than a frame of the screen, so that no key or click waits for long.
+// Shorter than a frame of the screen, so that no key or click waits for long; and a pause, so that
+// one who handles the events that wait finds an end of them.
 constexpr qint64 kTurnMilliseconds = 10;
+constexpr int kPauseMilliseconds = 1;
 constexpr qsizetype kUnitsPerStep = 4096;
 constexpr qsizetype kUnitsAtOnce = 64 * 1024;
 constexpr int kAll = 100;
@@ -26,7 +28,7 @@ TextLoading::TextLoading(RichTextWidget& widget, const QTextCursor& cursor, Form
     return;
   }
   QObject::connect(&next_, &QTimer::timeout, &next_, [this] { Continue(); });
-  next_.start(0);
+  next_.start(kPauseMilliseconds);
 }
 
 void TextLoading::Finish() {

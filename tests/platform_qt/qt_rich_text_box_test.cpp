@@ -57,6 +57,34 @@ class QtRichTextBoxTest : public testing::Test {
   QtRichTextBox many{&window, files, Lines::Many};
 };
 
+TEST_F(QtRichTextBoxTest, KeysKnowNoSeamsInALongSingleLine) {
+  std::u16string text(5'000, u'x');
+  text[4'095] = u'<';
+  text[4'096] = u'>';
+  single.SetText(text);
+  ASSERT_EQ(single.widget()->document()->blockCount(), 2);
+  single.Select(4'095, 0);
+  Press(single, Qt::Key_Right);
+  EXPECT_EQ(single.SelStart(), 4'096u);
+  Press(single, Qt::Key_Right);
+  EXPECT_EQ(single.SelStart(), 4'097u);
+  Press(single, Qt::Key_Left);
+  EXPECT_EQ(single.SelStart(), 4'096u);
+  Press(single, Qt::Key_Left);
+  EXPECT_EQ(single.SelStart(), 4'095u);
+  single.Select(4'096, 0);
+  Press(single, Qt::Key_Delete);
+  EXPECT_EQ(single.TextLength(), 4'999u);
+  EXPECT_EQ(single.Text()[4'096], u'x');
+  single.SetText(text);
+  single.Select(4'097, 0);
+  Press(single, Qt::Key_Backspace);
+  EXPECT_EQ(single.TextLength(), 4'999u);
+  Press(single, Qt::Key_Backspace);
+  EXPECT_EQ(single.TextLength(), 4'998u);
+  EXPECT_EQ(single.Text()[4'095], u'x');
+}
+
 TEST_F(QtRichTextBoxTest, KeysWithACodeOfTheirOwnTellIt) {
   std::vector<std::pair<int, int>> seen;
   single.onKeyDown = [&](int& code, int shift) {

@@ -19,6 +19,7 @@ using testing::IsEmpty;
 class QtTextLoadingTest : public testing::Test {
  protected:
   QtTextLoadingTest() {
+    box.SetLocked(true);
     box.onLoadProgress = [this](int percent) { told.push_back(percent); };
     while (longText.size() < 500'000) longText += u"A line of a dialogue.\n";
     files.ReplaceText(u"/long.txt", longText);
@@ -133,14 +134,25 @@ TEST_F(QtTextLoadingTest, WhatIsWrittenMeanwhileStaysInView) {
 TEST_F(QtTextLoadingTest, ALongMacroComesInPieceByPieceToo) {
   files.ReplaceText(u"/long.rtf", u"{\\rtf1 " + std::u16string(500'000, u'x') + u"}");
   QtRichTextBox single(&window, files, Lines::Single);
+  single.SetLocked(true);
   single.LoadFile(u"/long.rtf", TextFileFormat::RichText);
   EXPECT_LT(single.TextLength(), 500'000u);
   ASSERT_TRUE(QTest::qWaitFor([&] { return single.TextLength() == 500'000; }));
   EXPECT_TRUE(single.Text() == std::u16string(500'000, u'x'));
 }
 
+TEST_F(QtTextLoadingTest, WhatTheUserCanChangeIsAllThere) {
+  Load(u"/long.txt");
+  ASSERT_LT(box.TextLength(), longText.size());
+  box.SetLocked(false);
+  EXPECT_EQ(box.TextLength(), longText.size());
+  Load(u"/long.txt");
+  EXPECT_EQ(box.TextLength(), longText.size());
+}
+
 TEST_F(QtTextLoadingTest, ABoxMayGoWhileItsTextComesIn) {
   auto gone = std::make_unique<QtRichTextBox>(&window, files, Lines::Many);
+  gone->SetLocked(true);
   gone->LoadFile(u"/long.txt", TextFileFormat::PlainText);
   gone.reset();
   Load(u"/long.txt");
