@@ -77,10 +77,11 @@ TEST(QtTextInsertion, NoPairOfSurrogatesIsCutInTwo) {
 
 TEST(QtTextInsertion, NoPairOfSurrogatesIsCutInTwoBetweenPieces) {
   QTextDocument shown;
-  const std::u16string text = std::u16string(4'095, u'x') + u"\U0001F600" + u"and more of it";
+  const std::u16string text =
+      std::u16string(4'000, u'x') + u"\U0001F600" + std::u16string(500, u'x');
   TextInsertion insertion(QTextCursor(&shown), FormattedText(text, {}, Lines::Single),
                           Lines::Single);
-  for (const qsizetype units : {4'096, 1, 1, 100}) insertion.PutIn(units);
+  for (const qsizetype units : {4'001, 1, 1, 1'000}) insertion.PutIn(units);
   EXPECT_TRUE(insertion.IsDone());
   for (QTextBlock block = shown.begin(); block.isValid(); block = block.next()) {
     EXPECT_FALSE(block.text().isEmpty());
