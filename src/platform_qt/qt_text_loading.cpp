@@ -11,7 +11,7 @@ namespace {
 // one who handles the events that wait finds an end of them.
 constexpr qint64 kTurnMilliseconds = 10;
 constexpr int kPauseMilliseconds = 1;
-constexpr qsizetype kUnitsPerStep = 4096;
+constexpr qsizetype kUnitsPerStep = 16 * 1024;
 constexpr qsizetype kUnitsAtOnce = 64 * 1024;
 constexpr int kAll = 100;
 
