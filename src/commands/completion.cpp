@@ -126,8 +126,7 @@ std::vector<std::u16string> CommandCompletion::MacrosThatRun() const {
     std::ranges::sort(names, {}, [this](const std::u16string& name) {
       return std::pair(platform_.locale.UpperCase(name), name);
     });
-    const auto twice = std::ranges::unique(names);
-    names.erase(twice.begin(), twice.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
   } catch (const RunTimeFailure&) {
     return {};
