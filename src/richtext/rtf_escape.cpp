@@ -64,14 +64,13 @@ void AppendEscaped(std::u16string& rtf, std::u16string_view text, int charset, b
 }
 
 void AppendFontName(std::u16string& rtf, const Font& font) {
-  constexpr std::u16string_view kForbidden = u";{}\\";
   for (const char16_t unit : font.name) {
     const bool control = unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
-    if (control || kForbidden.find(unit) != std::u16string_view::npos) continue;
-    if (unit < 0x7F) {
+    if (control || unit == u';') continue;
+    if (IsPlain(unit)) {
       rtf += unit;
     } else {
-      AppendUnit(rtf, unit, font.charset == kGreekCharset);
+      AppendSpecial(rtf, unit, font.charset == kGreekCharset);
     }
   }
 }

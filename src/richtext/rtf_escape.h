@@ -13,7 +13,8 @@ namespace verlume::richtext {
 // control word stands before it, which a blank has to delimit unless a backslash does.
 void AppendEscaped(std::u16string& rtf, std::u16string_view text, int charset, bool afterWord);
 
-// The name as it stands in the font table, without the characters that would end it there.
+// The name as it stands in the font table, without what cannot stand there: control characters, and
+// the semicolon that ends a name.
 void AppendFontName(std::u16string& rtf, const Font& font);
 
 void AppendNumber(std::u16string& rtf, int number);
