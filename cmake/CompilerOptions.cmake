@@ -23,6 +23,12 @@ if(VERLUME_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(VERLUME_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
 # verlume_library(NAME SOURCES... [LINKS targets...]): one room of the house. Every library sees
 # src/ as its include root; what it may link is what its floor may use.
 function(verlume_library name)

@@ -1,0 +1,70 @@
+// What a peer's socket delivers. The first byte says how: bit 0 whether the program called or was
+// called, bit 1 whether the handshake has been made, bit 2 whether the pieces come slowly, the
+// others how long each piece is (0: all in one). The other bytes are the stream.
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "fuzz/check.h"
+#include "fuzz/fuzzed_copy.h"
+#include "fuzz/stream_checks.h"
+#include "platform_qt/arrival_assembler.h"
+
+namespace verlume::fuzz {
+namespace {
+
+struct Delivery {
+  explicit Delivery(std::uint8_t how)
+      : role(how & 1 ? Role::Caller : Role::Callee),
+        shakesHands((how & 2) == 0),
+        pause(how & 4 ? qt::ArrivalAssembler::kPatience : 1),
+        length(how >> 3) {}
+
+  Role role;
+  bool shakesHands;
+  std::int64_t pause;
+  std::size_t length;
+};
+
+// As the socket does it; gives all that came through.
+std::string Deliver(std::string_view stream, const Delivery& how, FuzzedCopy& copy) {
+  qt::ArrivalAssembler assembler;
+  std::string delivered;
+  const auto arrive = [&](const std::optional<std::string>& bytes) {
+    if (!bytes) return;
+    delivered += *bytes;
+    copy.PeerSends(*bytes);
+  };
+  std::int64_t now = 0;
+  while (!stream.empty()) {
+    const std::string_view piece = stream.substr(0, how.length == 0 ? stream.npos : how.length);
+    stream.remove_prefix(piece.size());
+    assembler.Add(piece, now);
+    arrive(assembler.Take(now));
+    now += how.pause;
+    arrive(assembler.Take(now));
+    Check(how.pause == 1 || !assembler.Deadline(), "what is overdue does not wait");
+  }
+  arrive(assembler.TakeAll());
+  Check(!assembler.Deadline(), "at the end nothing waits");
+  return delivered;
+}
+
+}  // namespace
+}  // namespace verlume::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace verlume::fuzz;
+  if (size == 0) return 0;
+  const std::string_view stream(reinterpret_cast<const char*>(data + 1), size - 1);
+  const Delivery how(data[0]);
+  FuzzedCopy copy;
+  copy.Connect(how.role);
+  if (how.shakesHands) copy.ShakeHands(how.role, "Bob");
+  copy.Type(u"half a line");
+  CheckNothingLost(stream, Deliver(stream, how, copy));
+  CheckHarmless(copy, u"half a line");
+  CheckNicknameIsLiteral(copy);
+  return 0;
+}
