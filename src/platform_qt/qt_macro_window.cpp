@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QWindow>
 
 #include "platform_qt/qt_key_codes.h"
 
@@ -98,14 +99,14 @@ void MacroForm::showEvent(QShowEvent* event) {
 }
 
 void MacroForm::Centre() {
-  const QWidget* mainWindow = parentWidget() ? parentWidget()->window() : this;
   // The frame is not there yet; that of the main window is alike.
-  const QRect inner = mainWindow->geometry();
-  const QRect outer = mainWindow->frameGeometry();
+  const QWidget* mainWindow = parentWidget() ? parentWidget()->window() : this;
+  const QWindow* native = mainWindow->windowHandle();
+  const QMargins frame = native ? native->frameMargins() : QMargins();
   const QRect screen = mainWindow->screen()->geometry();
-  const QSize free = (screen.size() - size() - (outer.size() - inner.size())).expandedTo({0, 0});
+  const QSize free = (screen.size() - size().grownBy(frame)).expandedTo({0, 0});
   const QPoint corner = screen.topLeft() + QPoint(free.width(), free.height()) / 2;
-  setGeometry(QRect(corner + (inner.topLeft() - outer.topLeft()), size()));
+  setGeometry(QRect(corner + QPoint(frame.left(), frame.top()), size()));
 }
 
 void MacroForm::keyPressEvent(QKeyEvent* event) {

@@ -24,6 +24,7 @@
 #include "platform_qt/qt_common_dialog.h"
 #include "platform_qt/qt_dialogs.h"
 #include "platform_qt/qt_text.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -65,7 +66,7 @@ QStringList EnglishAmong(const QStringList& texts) {
 class GreekTranslatorTest : public testing::Test {
  protected:
   GreekTranslatorTest() {
-    mainWindow.show();
+    EXPECT_TRUE(ShowAndWait(mainWindow));
     dialogs.SetLanguage(true);
     QFile file(folder.filePath("γράμμα.txt"));
     EXPECT_TRUE(file.open(QFile::WriteOnly));

@@ -13,6 +13,7 @@
 #include "platform_qt/help_files.h"
 #include "platform_qt/qt_help_viewer.h"
 #include "platform_qt/qt_main_window.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 
@@ -32,7 +33,7 @@ class HelpWindowFixture : public testing::Test {
     viewer.ShowContents();
     ASSERT_EQ(Windows().size(), 1);
     form = Windows().first();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    ASSERT_TRUE(WaitForFocus(*form));
   }
   template <class Widget>
   Widget* Named(const char* name) {

@@ -9,6 +9,7 @@
 #include "platform_qt/modal_driver.h"
 #include "platform_qt/qt_dialogs.h"
 #include "platform_qt/qt_system.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -21,8 +22,7 @@ class QtAboutWindowTest : public testing::Test {
  protected:
   QtAboutWindowTest() {
     mainWindow.setGeometry(500, 300, 600, 500);
-    mainWindow.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&mainWindow));
+    EXPECT_TRUE(ShowAndWait(mainWindow));
     view.lblTitle.SetCaption(u"Verlume");
     view.lblVersion.SetCaption(u"Version 0001.0000.0000");
     view.lblDescription.SetCaption(kLongText);

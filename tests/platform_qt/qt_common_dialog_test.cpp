@@ -21,6 +21,7 @@
 #include "platform_qt/qt_dialogs.h"
 #include "platform_qt/qt_text.h"
 #include "platform_qt/unprivileged.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -28,7 +29,7 @@ namespace {
 class QtCommonDialogTest : public testing::Test {
  protected:
   QtCommonDialogTest() {
-    mainWindow.show();
+    EXPECT_TRUE(ShowAndWait(mainWindow));
     Write("dialogue.rtf");
     Write("notes.txt");
     QDir(folder.path()).mkdir("inner");

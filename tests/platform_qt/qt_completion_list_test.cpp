@@ -7,6 +7,7 @@
 
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/qt_main_window.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -16,7 +17,7 @@ class QtCompletionListTest : public testing::Test {
   QtCompletionListTest() {
     view.window.Show();
     form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    EXPECT_TRUE(WaitForFocus(form));
     view.rtbCommands.SetFocus();
   }
   QWidget* Named(const char* name) { return form.findChild<QWidget*>(QLatin1String(name)); }

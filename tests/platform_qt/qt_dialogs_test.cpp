@@ -13,13 +13,14 @@
 
 #include "platform_qt/modal_driver.h"
 #include "platform_qt/qt_text.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
 
 class QtDialogsTest : public testing::Test {
  protected:
-  QtDialogsTest() { mainWindow.show(); }
+  QtDialogsTest() { EXPECT_TRUE(ShowAndWait(mainWindow)); }
 
   static QMessageBox& AsBox(QDialog& dialog) { return dynamic_cast<QMessageBox&>(dialog); }
   static void Click(QDialog& dialog, QMessageBox::StandardButton button) {

@@ -7,6 +7,7 @@
 
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/qt_main_window.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -22,7 +23,7 @@ class QtFindBarTest : public testing::Test {
     bar.cmdFindClose.SetCaption(u"Κλείσιμο");
     view.window.Show();
     form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    EXPECT_TRUE(WaitForFocus(form));
   }
   QWidget* Named(const char* name) { return form.findChild<QWidget*>(QLatin1String(name)); }
   void Open() {
@@ -145,7 +146,7 @@ TEST_F(QtFindBarTest, KnowsItsFocusWhileAnotherWindowIsActive) {
   QWidget other;
   other.show();
   other.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  ASSERT_TRUE(WaitForFocus(other));
   EXPECT_TRUE(bar.fraFind.HasFocus());
 }
 

@@ -9,6 +9,7 @@
 #include "platform_qt/help_files.h"
 #include "platform_qt/qt_help_viewer.h"
 #include "platform_qt/qt_main_window.h"
+#include "platform_qt/window_focus.h"
 #include "shell/window_behaviour.h"
 
 namespace verlume::qt {
@@ -35,7 +36,7 @@ class QtHelpContextTest : public testing::Test {
   void Show() {
     frmMain.View().window.Show();
     form.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    ASSERT_TRUE(WaitForFocus(form));
   }
   void SetLanguage(bool isGreek) { viewer.SetHelpFile(FromQt(SmallHelpFile(isGreek)), isGreek); }
   QWidget* Named(const char* name) { return form.Find<QWidget>(name); }

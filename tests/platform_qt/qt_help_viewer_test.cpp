@@ -4,6 +4,7 @@
 #include "platform_qt/modal_driver.h"
 #include "platform_qt/qt_dialogs.h"
 #include "platform_qt/qt_system.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -23,16 +24,16 @@ TEST_F(QtHelpViewerTest, ChoosingItAgainBringsItToTheFront) {
   frmMain.form().show();
   Open();
   frmMain.form().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&frmMain.form()));
+  ASSERT_TRUE(WaitForFocus(frmMain.form()));
   viewer.ShowContents();
-  EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+  EXPECT_TRUE(WaitForFocus(*form));
 }
 
 TEST_F(QtHelpViewerTest, AChangeOfLanguageDoesNotBringItToTheFront) {
   frmMain.form().show();
   Open();
   frmMain.form().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&frmMain.form()));
+  ASSERT_TRUE(WaitForFocus(frmMain.form()));
   SetLanguage(true);
   QCoreApplication::processEvents();
   EXPECT_TRUE(frmMain.form().isActiveWindow());
@@ -125,7 +126,7 @@ TEST_F(QtHelpViewerTest, F1OpensItFromTheMainWindow) {
   frmMain.View().mnuHelpDetailed.onClick = [this] { viewer.ShowContents(); };
   frmMain.form().show();
   frmMain.form().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&frmMain.form()));
+  ASSERT_TRUE(WaitForFocus(frmMain.form()));
   QTest::keyClick(frmMain.form().focusWidget(), Qt::Key_F1);
   EXPECT_EQ(Windows().size(), 1);
 }

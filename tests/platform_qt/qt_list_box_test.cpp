@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include "platform/list_box_contract.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -42,7 +43,7 @@ class QtListBoxTest : public testing::Test {
     for (int i = 0; i < 50; ++i) list.Append(u"item " + FromQt(QString::number(i)));
     list.onClick = [this] { clicked.push_back(list.SelectedIndex()); };
     form.show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    EXPECT_TRUE(WaitForFocus(form));
   }
 
   void Click(int index, Qt::MouseButton button, Qt::KeyboardModifiers held = {}) {

@@ -8,6 +8,7 @@
 
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/modal_driver.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -16,8 +17,7 @@ class QtMacroWindowTest : public testing::Test {
  protected:
   QtMacroWindowTest() {
     mainWindow.setGeometry(20, 20, 300, 200);
-    mainWindow.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&mainWindow));
+    EXPECT_TRUE(ShowAndWait(mainWindow));
     SetEnglish();
     view.rtbMacroText.SetLocked(true);
   }
@@ -45,7 +45,7 @@ class QtMacroWindowTest : public testing::Test {
   void ShowAnd(const std::function<void()>& act) {
     const ModalDriver driver([&](QDialog& shown) {
       EXPECT_EQ(&shown, &form);
-      EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+      EXPECT_TRUE(WaitForFocus(form));
       act();
       view.window.Unload();
     });
@@ -94,7 +94,7 @@ TEST_F(QtMacroWindowTest, StandsInTheMiddleOfTheScreenWithItsFrameEachTime) {
   for (int time = 0; time < 2; ++time) {
     ShowAnd([this] {
       const auto off = [this] {
-        return form.frameGeometry().center() - form.screen()->geometry().center();
+        return form.windowHandle()->frameGeometry().center() - form.screen()->geometry().center();
       };
       EXPECT_TRUE(QTest::qWaitFor([&] { return off().manhattanLength() <= 2; }, 10000))
           << off().x() << ' ' << off().y();

@@ -6,6 +6,7 @@
 
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/qt_main_window.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -23,7 +24,7 @@ class MainWindowKeys : public testing::Test {
     Note(view.mnuHelpDetailed, "help");
     view.window.Show();
     form.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    EXPECT_TRUE(WaitForFocus(form));
     view.rtbCommands.SetText(u"typed");
   }
   void Note(MenuEntry& entry, const char* name) {

@@ -9,6 +9,7 @@
 #include <set>
 
 #include "platform_fake/fake_file_system.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -114,7 +115,7 @@ TEST_F(QtMainWindowTest, MenuEntryOfTheViewIsTheActionOfItsName) {
 TEST_F(QtMainWindowTest, FocusStartsInTheCommandPane) {
   Show();
   form.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  ASSERT_TRUE(WaitForFocus(form));
   EXPECT_EQ(QApplication::focusWidget(), Named("rtbCommands"));
 }
 
@@ -196,7 +197,7 @@ TEST_F(QtMainWindowTest, CopyrightLabelMadeAsTallAsItsPictureStaysSo) {
 TEST_F(QtMainWindowTest, TabKeyGoesRoundTheControls) {
   Show();
   form.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  ASSERT_TRUE(WaitForFocus(form));
   view.chkBold.SetFocus();
   QStringList order;
   for (int step = 0; step < 3; ++step) {

@@ -8,6 +8,7 @@
 
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/qt_main_window.h"
+#include "platform_qt/window_focus.h"
 #include "shell/language_texts.h"
 
 namespace verlume::qt {
@@ -132,7 +133,7 @@ TEST_F(MnemonicsTest, AltAndALetterOpenAMenuAndALetterChoosesItsEntry) {
   SetLanguage(true);
   view.window.Show();
   form.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  ASSERT_TRUE(WaitForFocus(form));
   int exits = 0;
   view.mnuFileExit.onClick = [&] { ++exits; };
   auto* menu = form.Find<QMenu>("mnuFile");
@@ -150,7 +151,7 @@ TEST_F(MnemonicsTest, AltAndALetterTurnACheckBox) {
   SetLanguage(false);
   view.window.Show();
   form.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  ASSERT_TRUE(WaitForFocus(form));
   const QChar key = KeyOf(form.Find<QCheckBox>("chkBold")->text());
   QTest::sendKeyEvent(QTest::Click, form.focusWidget(), Qt::Key(key.unicode()), key.toLower(),
                       Qt::AltModifier);

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "platform_fake/fake_file_system.h"
+#include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
 namespace {
@@ -264,7 +265,7 @@ TEST_F(QtRichTextBoxTest, KeysThatChangeNothingTellOfNoChange) {
 TEST_F(QtRichTextBoxTest, LossOfTheFocusIsTold) {
   int lost = 0;
   window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  ASSERT_TRUE(WaitForFocus(window));
   single.onLostFocus = [&] { ++lost; };
   single.SetFocus();
   EXPECT_EQ(lost, 0);
