@@ -17,6 +17,19 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverl
 if(VERLUME_WERROR)
   add_compile_options(-Werror)
 endif()
+
+# Bytes that come from elsewhere reach this program: what a fault of ours let them do ends it
+# instead. tests/hardening_check.cmake looks at the binary.
+include(CheckPIESupported)
+check_pie_supported()
+add_compile_options(-fstack-protector-strong -fstack-clash-protection)
+add_link_options(-Wl,-z,relro,-z,now)
+if(NOT VERLUME_SANITIZE AND NOT VERLUME_FUZZ)  # those look closer
+  add_compile_options($<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE>
+                      $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
+endif()
+add_compile_definitions(_GLIBCXX_ASSERTIONS)
+
 if(VERLUME_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
