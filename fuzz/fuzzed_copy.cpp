@@ -79,7 +79,7 @@ void FuzzedCopy::Connect(Role role) {
 }
 
 void FuzzedCopy::PeerSends(std::string_view bytes) {
-  peer.SendData(richtext::DecodeGreek(bytes));
+  peer.SendData(richtext::DecodeGreek(bytes), TextKind::Line);
   network.RunUntilIdle();
 }
 

@@ -1,5 +1,6 @@
 #include "connection/connection_state.h"
 
+#include "shell/delivery.h"
 #include "shell/status_panel.h"
 
 namespace verlume {
@@ -26,6 +27,8 @@ void ResetConnection(AppState& state, Platform& platform) {
   frmMain.lblRemotePort.SetCaption(u"");
   ShowLamp(state, frmMain);
   platform.sckControl.Close();
+  state.LinesWaiting = 0;
+  ShowDelivery(state, frmMain);
 }
 
 }  // namespace verlume

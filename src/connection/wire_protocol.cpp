@@ -5,6 +5,7 @@
 #include "connection/connection_state.h"
 #include "connection/status_texts.h"
 #include "platform/run_time_failure.h"
+#include "shell/delivery.h"
 #include "shell/language_texts.h"
 #include "shell/maker_texts.h"
 
@@ -45,16 +46,17 @@ std::u16string BuildProtocolMarker() {
   return u'\0' + text + u'\0';
 }
 
-bool WireProtocol::SendToPeer(std::u16string_view text) {
+bool WireProtocol::SendToPeer(std::u16string_view text, TextKind kind) {
   return errors_.Guard(Procedure::SendToPeer, [&] {
     if (platform_.sckControl.State() != SocketState::Connected) return;
-    platform_.sckControl.SendData(text);
+    platform_.sckControl.SendData(text, kind);
+    ShowLinesWaiting();
     AddToCounter(platform_.frmMain.lblBytesSent, text.size(), platform_.locale);
   });
 }
 
 bool WireProtocol::SendWithNickname(char16_t kind) {
-  return SendToPeer(state_.ProtocolMarker + kind + state_.Nickname + u'\0');
+  return SendToPeer(state_.ProtocolMarker + kind + state_.Nickname + u'\0', TextKind::Signal);
 }
 
 void WireProtocol::SendStart() {
@@ -68,7 +70,7 @@ void WireProtocol::SendNickname() {
 void WireProtocol::SendActionLine(std::u16string_view rtf) {
   std::u16string message = state_.ProtocolMarker + kActionLine;
   message += rtf;
-  SendToPeer(message);
+  SendToPeer(message, TextKind::Line);
 }
 
 void WireProtocol::OnDataArrival() {
@@ -88,6 +90,17 @@ void WireProtocol::OnDataArrival() {
     default:
       return WriteRemoteLine(data, state_.ForeignText);
   }
+}
+
+void WireProtocol::ShowLinesWaiting() {
+  state_.LinesWaiting = platform_.sckControl.LinesWaiting();
+  ShowDelivery(state_, platform_.frmMain);
+}
+
+void WireProtocol::OnUndelivered(std::size_t lines) {
+  state_.LinesUndelivered = lines;
+  ShowDelivery(state_, platform_.frmMain);
+  with_.log.AppendAfterwards(UndeliveredText(lines, state_.IsGreek));
 }
 
 void WireProtocol::OnStart(std::u16string_view data) {
@@ -111,6 +124,8 @@ std::u16string WireProtocol::EnterConversation() {
       state_.IsGreek, {state_.RemoteAddress, DecimalText(state_.RemotePort)});
   platform_.frmMain.lblStatus.SetCaption(status);
   ShowLamp(state_, platform_.frmMain);
+  state_.LinesUndelivered = 0;
+  ShowDelivery(state_, platform_.frmMain);
   with_.statusPanel.StartChat();
   platform_.frmMain.window.FlagForAttention();
   return status;

@@ -32,17 +32,22 @@ class WireProtocol {
 
   // The only way anything is sent: one send, counted in lblBytesSent. Does nothing unless the
   // socket is connected. A failure is reported (227), not thrown; only then is the result false.
-  bool SendToPeer(std::u16string_view text);
+  bool SendToPeer(std::u16string_view text, TextKind kind);
 
   void SendStart();                              // "S", right after accepting a call
   void SendNickname();                           // "N"
   void SendActionLine(std::u16string_view rtf);  // "M"
-  void SendChatLine(std::u16string_view rtf) { SendToPeer(rtf); }
+  void SendChatLine(std::u16string_view rtf) { SendToPeer(rtf, TextKind::Line); }
 
   // One arrival of data is one message: it is read, counted in lblBytesReceived, and either changes
   // the connection (handshake), or the peer's nickname, or is a line for the dialogue. Throws
   // RunTimeFailure 5 when a handshake or nickname message has no end, 6 when the count overflows.
   void OnDataArrival();
+
+  // Shows the lines that the peer's machine has not acknowledged yet.
+  void ShowLinesWaiting();
+  // A connection ended before these lines arrived: the status line's tool tip and the log say so.
+  void OnUndelivered(std::size_t lines);
 
  private:
   void OnStart(std::u16string_view data);

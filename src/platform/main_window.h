@@ -88,6 +88,7 @@ struct MainWindow {
   // The values of the status panel, and the caption beside each.
   Label& lblStatus;
   ProgressBar& prgStatus;  // at the foot of lblStatus
+  Label& lblWaiting;       // the lines that have not arrived yet
   Label& lblCurrentDateTime;
   Label& lblChatStartDateTime;
   Label& lblChatDuration;

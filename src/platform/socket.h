@@ -4,6 +4,7 @@
 // user-interface thread, never from inside an operation of the socket.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -13,6 +14,9 @@ namespace verlume {
 
 // The classic numbers; text is sent only in Connected.
 enum class SocketState { Closed = 0, Listening = 2, Connecting = 6, Connected = 7 };
+
+// Of what is sent: a line that people read, or a word between the programs.
+enum class TextKind { Line, Signal };
 
 // What fits into the 16 bits with a sign in which callers keep a port.
 inline constexpr std::int32_t kGreatestNameablePort = 32767;
@@ -47,11 +51,20 @@ class Socket {
   // Takes the call `requestId` after Close has ended the listening. A caller that has left
   // meanwhile, or an id that is not known, raises onClose.
   virtual void Accept(std::int64_t requestId) = 0;
-  // Ends whatever there is, without an event. Text not yet sent is still sent.
+  // Ends whatever there is; no event but onUndelivered follows. Texts that wait are still sent, for
+  // 2 s at most.
   virtual void Close() = 0;
 
-  // One text as one send. Ignored unless Connected.
-  virtual void SendData(std::u16string_view text) = 0;
+  // One text as one send, in the order of the calls; returns at once. A text waits until the peer's
+  // machine has acknowledged all before it, so that none arrives joined with another. Ignored
+  // unless Connected.
+  virtual void SendData(std::u16string_view text, TextKind kind) = 0;
+  // How many of the lines sent over the connection the peer's machine has not acknowledged; 0
+  // unless Connected.
+  virtual std::size_t LinesWaiting() const = 0;
+  // Sends what waits of connections that were closed, at once: comes back when it is acknowledged,
+  // or after 2 s. onUndelivered is raised meanwhile.
+  virtual void FinishSending() = 0;
   // All that the arrival being raised holds; "" when nothing waits.
   virtual std::u16string GetData() = 0;
 
@@ -60,6 +73,11 @@ class Socket {
   // One arrival. A rich text whose pieces are still on their way is held back until it is whole (2
   // s after its last byte or 4 MiB at most); everything else is delivered at once.
   std::function<void(std::int32_t bytesTotal)> onDataArrival;
+  // The peer's machine has acknowledged lines: LinesWaiting is less than it was.
+  std::function<void()> onAcknowledged;
+  // A connection has ended, and the peer's machine never acknowledged the last `lines` lines sent
+  // over it. Raised right before onClose, or up to 3 s after Close.
+  std::function<void(std::size_t lines)> onUndelivered;
   // The peer closed, the connection broke, or the call could not be made. What had arrived before
   // has been delivered.
   std::function<void()> onClose;

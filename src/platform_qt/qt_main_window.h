@@ -90,6 +90,7 @@ class QtMainWindow {
   QtLabel lblColor{form_.Find<ElidedLabel>("lblColor")};
   QtLabel lblStatus{form_.Find<ElidedLabel>("lblStatus")};
   QtProgressBar prgStatus{form_.Find<QProgressBar>("prgStatus")};
+  QtLabel lblWaiting{form_.Find<ElidedLabel>("lblWaiting")};
   QtLabel lblCurrentDateTime{form_.Find<ElidedLabel>("lblCurrentDateTime")};
   QtLabel lblChatStartDateTime{form_.Find<ElidedLabel>("lblChatStartDateTime")};
   QtLabel lblChatDuration{form_.Find<ElidedLabel>("lblChatDuration")};
@@ -171,6 +172,7 @@ class QtMainWindow {
                       lblColor,
                       lblStatus,
                       prgStatus,
+                      lblWaiting,
                       lblCurrentDateTime,
                       lblChatStartDateTime,
                       lblChatDuration,

@@ -38,7 +38,8 @@ inline constexpr auto kMainWindowDesign = std::to_array<ControlDesign>({
     {ControlKind::Pane, "rtbCommands", {8, 233, 624, 38}},
 
     {ControlKind::LampFrame, "picShape", {8, 276, 36, 34}},
-    {ControlKind::Wrapped, "lblStatus", {52, 276, 580, 34}},
+    {ControlKind::Wrapped, "lblStatus", {52, 276, 484, 34}},
+    {ControlKind::Value, "lblWaiting", {540, 276, 92, 34}},
 
     {ControlKind::Frame, "fraLocal", {8, 315, 290, 60}},
     {ControlKind::Caption, "lblLocalIPCaption", {16, 318, 128, 18}},

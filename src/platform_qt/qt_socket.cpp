@@ -9,6 +9,7 @@
 #include "platform/run_time_failure.h"
 #include "platform_qt/qt_socket_address.h"
 #include "platform_qt/qt_socket_linger.h"
+#include "platform_qt/qt_socket_options.h"
 #include "platform_qt/qt_text.h"
 #include "richtext/code_pages.h"
 
@@ -20,12 +21,6 @@ constexpr int kConnectLimit = 15000;  // ms
 // windows stay responsive.
 constexpr qint64 kLargestRead = 256 << 10;
 constexpr std::int32_t kLastPort = 65535;
-
-// Each text leaves at once; a peer that has vanished is noticed one day.
-void SetOptions(QTcpSocket& socket) {
-  socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-  socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
-}
 
 // The system's own choice lies mostly above what a caller can name.
 bool ListenOnFreePort(QTcpServer& server) {
@@ -58,9 +53,10 @@ QtSocket::QtSocket() {
 }
 
 QtSocket::~QtSocket() {
+  onUndelivered = nullptr;
   Close();
   DropCaller();
-  FinishLingering(this);
+  FinishSending();
 }
 
 void QtSocket::Post(void (QtSocket::*step)()) {
@@ -135,8 +131,7 @@ void QtSocket::Accept(std::int64_t requestId) {
   Close();
   if (!caller.socket) return Post(&QtSocket::Lose);
   Hold(caller.socket);
-  SetOptions(*caller.socket);
-  state_ = SocketState::Connected;
+  BeginConnection();
   peer_ = caller.peer;
   // What the caller sent, or that it has left, was signalled while nobody listened.
   Post(&QtSocket::Read);
@@ -171,13 +166,26 @@ void QtSocket::Connect() {
 
 void QtSocket::RaiseConnect() {
   connectLimit_.stop();
-  SetOptions(*socket_);
-  state_ = SocketState::Connected;
+  BeginConnection();
   if (onConnect) onConnect();
+}
+
+void QtSocket::BeginConnection() {
+  SetConnectionOptions(*socket_);
+  sender_ = new Sender(socket_);
+  sender_->onAcknowledged = [this] { Post(&QtSocket::RaiseAcknowledged); };
+  // What the peer's machine has acknowledged can no longer be asked once the connection has ended.
+  connect(socket_, &QTcpSocket::stateChanged, sender_, [sender = sender_] { sender->GoOn(); });
+  state_ = SocketState::Connected;
+}
+
+void QtSocket::RaiseAcknowledged() {
+  if (onAcknowledged) onAcknowledged();
 }
 
 void QtSocket::Read() {
   const QByteArray bytes = socket_->read(kLargestRead);
+  AcknowledgeAtOnce(*socket_);
   assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
   RaiseArrival(assembler_.Take(clock_.elapsed()));
 }
@@ -192,8 +200,14 @@ void QtSocket::Finish() {
 }
 
 void QtSocket::Lose() {
+  const std::size_t undelivered = sender_ ? sender_->LinesWaiting() : 0;
   Close();
+  if (undelivered > 0) RaiseUndelivered(undelivered);
   if (onClose) onClose();
+}
+
+void QtSocket::RaiseUndelivered(std::size_t lines) {
+  if (onUndelivered) onUndelivered(lines);
 }
 
 void QtSocket::RaiseArrival(std::optional<std::string> bytes) {
@@ -222,8 +236,9 @@ void QtSocket::Close() {
 
 void QtSocket::Release() {
   QTcpSocket* socket = std::exchange(socket_, nullptr);
+  Sender* sender = std::exchange(sender_, nullptr);
   if (!socket) return;
-  LetLinger(socket, this);
+  LetLinger(socket, sender, this, [this](std::size_t lines) { RaiseUndelivered(lines); });
 }
 
 void QtSocket::DropCaller() {
@@ -233,12 +248,17 @@ void QtSocket::DropCaller() {
   socket->deleteLater();
 }
 
-void QtSocket::SendData(std::u16string_view text) {
+void QtSocket::SendData(std::u16string_view text, TextKind kind) {
   if (State() != SocketState::Connected) return;
-  const std::string bytes = richtext::EncodeGreek(text);
-  socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
-  // At once, so that one text is one send.
-  socket_->flush();
+  sender_->Send({richtext::EncodeGreek(text), kind});
+}
+
+std::size_t QtSocket::LinesWaiting() const {
+  return State() == SocketState::Connected ? sender_->LinesWaiting() : 0;
+}
+
+void QtSocket::FinishSending() {
+  FinishLingering(this);
 }
 
 std::u16string QtSocket::GetData() {

@@ -12,6 +12,7 @@
 
 #include "platform/socket.h"
 #include "platform_qt/arrival_assembler.h"
+#include "platform_qt/qt_sender.h"
 
 namespace verlume::qt {
 
@@ -34,7 +35,9 @@ class QtSocket : public QObject, public Socket {
   void Connect() override;
   void Accept(std::int64_t requestId) override;
   void Close() override;
-  void SendData(std::u16string_view text) override;
+  void SendData(std::u16string_view text, TextKind kind) override;
+  std::size_t LinesWaiting() const override;
+  void FinishSending() override;
   std::u16string GetData() override;
 
  private:
@@ -59,6 +62,9 @@ class QtSocket : public QObject, public Socket {
 
   void RaiseConnectionRequest();
   void RaiseConnect();
+  void BeginConnection();
+  void RaiseAcknowledged();
+  void RaiseUndelivered(std::size_t lines);
   void Read();
   void Finish();
   void Lose();
@@ -66,6 +72,7 @@ class QtSocket : public QObject, public Socket {
 
   QTcpServer server_;
   QTcpSocket* socket_ = nullptr;  // the connection, made or in the making
+  Sender* sender_ = nullptr;      // its own, once it is made
   Caller caller_;                 // the one that is being asked about
   Peer peer_;
   std::int64_t lastRequest_ = 0;

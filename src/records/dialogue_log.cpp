@@ -1,5 +1,7 @@
 #include "records/dialogue_log.h"
 
+#include <utility>
+
 #include "macros/folder_choice.h"
 #include "macros/macro_paths.h"
 #include "platform/run_time_failure.h"
@@ -62,6 +64,14 @@ void DialogueLog::AppendToLog(std::u16string_view line) {
 
 void DialogueLog::AppendConnectionLine(std::u16string_view statusText) {
   AppendToLog(u"[" + DateTimeText(platform_.clock) + u"]***** " + std::u16string(statusText));
+}
+
+void DialogueLog::AppendAfterwards(std::u16string_view statusText) {
+  if (state_.LogFileStem.empty()) return;
+  const bool wasOpen = std::exchange(state_.LogOpen, true);
+  AppendConnectionLine(statusText);
+  // A failure has ended the conversation.
+  state_.LogOpen = state_.LogOpen && wasOpen;
 }
 
 void DialogueLog::mnuFileLogFolder_Click() {

@@ -29,6 +29,9 @@ class DialogueLog {
   // "[date_time]***** " + text: the lines that tell of the connection.
   void AppendConnectionLine(std::u16string_view statusText);
 
+  // The same of the last conversation, also when it is over. Does nothing where none was.
+  void AppendAfterwards(std::u16string_view statusText);
+
   // Lets the user choose the log folder and keeps it in the settings file; refused while lines are
   // being recorded. A cancel changes nothing.
   void mnuFileLogFolder_Click();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -39,7 +40,9 @@ struct AppState {
   std::u16string RemoteAddress;  // of the connected peer
   std::u16string Nickname;       // 1 to kNicknameLimit characters
   std::u16string RemoteNickname;
-  std::u16string ProtocolMarker;  // opens every protocol message (connection/wire_protocol.h)
+  std::u16string ProtocolMarker;     // opens every protocol message (connection/wire_protocol.h)
+  std::size_t LinesWaiting = 0;      // sent, and not yet acknowledged by the peer's machine
+  std::size_t LinesUndelivered = 0;  // of the last conversation: never acknowledged
 
   // The line being executed.
   std::u16string CommandLine;   // its plain text

@@ -1,5 +1,6 @@
 #include "shell/language.h"
 
+#include "shell/delivery.h"
 #include "shell/language_texts.h"
 #include "shell/status_panel.h"
 
@@ -13,6 +14,7 @@ void Language::ApplyLanguage() {
     for (const auto& [set, text] : MenuAndToolTipTexts(frmMain)) set(text.In(isGreek));
     for (const auto& [set, text] : PanelTexts(frmMain)) set(text.In(isGreek));
     ShowLamp(state_, frmMain);
+    ShowDelivery(state_, frmMain);
     frmMain.mnuToolsAlwaysOnTop.SetToolTip(
         frmMain.window.CanBeTopMost() ? u"" : kNeverTopMost.In(isGreek));
     frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);

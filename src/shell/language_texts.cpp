@@ -33,7 +33,10 @@ struct PanelValue {
 
 std::vector<PanelValue> PanelValues(const MainWindow& frmMain) {
   return {
-      {frmMain.lblStatus, nullptr, {u"Status", u"Κατάσταση"}},
+      {frmMain.lblStatus, nullptr, kStatusToolTip},
+      {frmMain.lblWaiting,
+       nullptr,
+       {u"Lines that have not arrived yet", u"Γραμμές που δεν έφτασαν ακόμη"}},
       {frmMain.lblCurrentDateTime, &frmMain.lblCurrentDateTimeCaption, {u"Now", u"Τώρα"}},
       {frmMain.lblChatStartDateTime,
        &frmMain.lblChatStartDateTimeCaption,

@@ -17,6 +17,9 @@ struct FixedText {
 
 inline constexpr TextPair kMainWindowTitle = {u"Verlume", u"Verlume"};
 
+// Of lblStatus; shell/delivery.h may add to it.
+inline constexpr TextPair kStatusToolTip = {u"Status", u"Κατάσταση"};
+
 // Of the entry "Always on top", where that cannot be.
 inline constexpr TextPair kNeverTopMost = {
     u"This desktop does not let programs place themselves above others.",

@@ -195,6 +195,8 @@ void Program::BindSocket() {
   On(sckControl.onConnectionRequest, socketEvents_, &SocketEvents::sckControl_ConnectionRequest);
   On(sckControl.onConnect, socketEvents_, &SocketEvents::sckControl_Connect);
   On(sckControl.onDataArrival, socketEvents_, &SocketEvents::sckControl_DataArrival);
+  On(sckControl.onAcknowledged, wire_, &WireProtocol::ShowLinesWaiting);
+  On(sckControl.onUndelivered, wire_, &WireProtocol::OnUndelivered);
   On(sckControl.onClose, socketEvents_, &SocketEvents::sckControl_Close);
 }
 

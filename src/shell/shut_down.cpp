@@ -22,7 +22,10 @@ void ShutDown::Form_QueryUnload(bool& cancel, UnloadMode mode) {
 }
 
 void ShutDown::Form_Unload() {
-  errors_.Guard(Procedure::Form_Unload, resetConnection_);
+  errors_.Guard(Procedure::Form_Unload, [this] {
+    resetConnection_();
+    platform_.sckControl.FinishSending();
+  });
   platform_.application.End();
 }
 

@@ -68,11 +68,11 @@ void StartUp::SetInitialValues() {
 void StartUp::ClearWindow() {
   const MainWindow& frmMain = platform_.frmMain;
   frmMain.lblCopyright.SetHeight(frmMain.picCopyright.Height());
-  for (Label* label :
-       {&frmMain.lblStatus, &frmMain.lblCurrentDateTime, &frmMain.lblChatStartDateTime,
-        &frmMain.lblLocalIP, &frmMain.lblLocalPort, &frmMain.lblRemoteIP, &frmMain.lblRemotePort,
-        &frmMain.lblChatDuration, &frmMain.lblBytesSent, &frmMain.lblBytesReceived,
-        &frmMain.lblColor, &frmMain.lblLocalNickname, &frmMain.lblRemoteNickname}) {
+  for (Label* label : {&frmMain.lblStatus, &frmMain.lblWaiting, &frmMain.lblCurrentDateTime,
+                       &frmMain.lblChatStartDateTime, &frmMain.lblLocalIP, &frmMain.lblLocalPort,
+                       &frmMain.lblRemoteIP, &frmMain.lblRemotePort, &frmMain.lblChatDuration,
+                       &frmMain.lblBytesSent, &frmMain.lblBytesReceived, &frmMain.lblColor,
+                       &frmMain.lblLocalNickname, &frmMain.lblRemoteNickname}) {
     label->SetCaption(u"");
   }
   platform_.sckControl.SetRemotePort(0);

@@ -49,6 +49,7 @@ void BindContextHelp(const MainWindow& frmMain) {
                    &frmMain.lblBytesReceivedCaption,
                    &frmMain.lblStatus,
                    &frmMain.prgStatus,
+                   &frmMain.lblWaiting,
                    &frmMain.picShape,
                    &frmMain.chkBold,
                    &frmMain.chkItalics,

@@ -17,7 +17,7 @@ class WireProtocolTest : public testing::Test, protected fake::TwoSides {
  protected:
   void SetUp() override { Connect(); }
   void Arrive(std::u16string_view data) {
-    bob.fake.socket.SendData(data);
+    bob.fake.socket.SendData(data, TextKind::Line);
     network.RunUntilIdle();
   }
   std::u16string Message(std::u16string_view rest) const { return marker + std::u16string(rest); }
@@ -57,9 +57,9 @@ TEST_F(WireProtocolTest, SendersOpenWithMarkerAndKind) {
 
 TEST_F(WireProtocolTest, EverySendIsCountedInCharacters) {
   window.lblBytesSent.SetTag(u"");
-  alice.wire.SendToPeer(u"{\\rtf1 αβγ}");
+  alice.wire.SendToPeer(u"{\\rtf1 αβγ}", TextKind::Line);
   EXPECT_EQ(window.lblBytesSent.tag, u"11");
-  alice.wire.SendToPeer(std::u16string(1234, u'x'));
+  alice.wire.SendToPeer(std::u16string(1234, u'x'), TextKind::Line);
   EXPECT_EQ(window.lblBytesSent.tag, u"1245");
   EXPECT_EQ(window.lblBytesSent.caption, u"1,245");
 }
@@ -68,9 +68,9 @@ TEST_F(WireProtocolTest, OutsideAConnectionNothingIsSentOrCounted) {
   alice.actions.CloseConnection();
   window.lblBytesSent.SetTag(u"5");
   alice.fake.socket.sent.clear();
-  EXPECT_TRUE(alice.wire.SendToPeer(u"hello"));
+  EXPECT_TRUE(alice.wire.SendToPeer(u"hello", TextKind::Line));
   alice.Wait(u"4001");
-  EXPECT_TRUE(alice.wire.SendToPeer(u"hello"));
+  EXPECT_TRUE(alice.wire.SendToPeer(u"hello", TextKind::Line));
   EXPECT_TRUE(alice.fake.socket.sent.empty());
   EXPECT_EQ(window.lblBytesSent.tag, u"5");
   EXPECT_TRUE(dialogs.messages.empty());
@@ -79,7 +79,7 @@ TEST_F(WireProtocolTest, OutsideAConnectionNothingIsSentOrCounted) {
 TEST_F(WireProtocolTest, AnOverflowOfTheSentCountIsReported) {
   window.lblBytesSent.SetTag(u"2147483647");
   dialogs.answers = {Answer::No};
-  EXPECT_FALSE(alice.wire.SendToPeer(u"x"));
+  EXPECT_FALSE(alice.wire.SendToPeer(u"x", TextKind::Line));
   ExpectReport(u"Verlume, 227.", u"Overflow");
   EXPECT_EQ(alice.State(), ConnectionState::Idle);
 }

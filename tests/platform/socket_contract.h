@@ -150,7 +150,7 @@ TYPED_TEST_P(SocketContract, ACallMayBeAnsweredInsideItsEvent) {
   this->callee.answer = [this](std::int64_t id) {
     this->callee.socket.Close();
     this->callee.socket.Accept(id);
-    this->callee.socket.SendData(u"welcome");
+    this->callee.socket.SendData(u"welcome", TextKind::Line);
   };
   this->Listen();
   this->Call(this->caller);
@@ -165,7 +165,7 @@ TYPED_TEST_P(SocketContract, OperationsRaiseNothingThemselves) {
   ASSERT_TRUE(this->world.Wait(
       [&] { return this->callee.requests.size() == 1 && this->caller.connects == 1; }));
   this->Answer();
-  this->caller.socket.SendData(u"hello");
+  this->caller.socket.SendData(u"hello", TextKind::Line);
   this->caller.socket.Close();
   EXPECT_EQ(this->callee.Events(), 1u);
   EXPECT_EQ(this->caller.Events(), 1u);
@@ -173,40 +173,40 @@ TYPED_TEST_P(SocketContract, OperationsRaiseNothingThemselves) {
 
 TYPED_TEST_P(SocketContract, TextsArriveWithTheirLength) {
   ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
-  this->caller.socket.SendData(u"αβγ");
+  this->caller.socket.SendData(u"αβγ", TextKind::Line);
   ASSERT_TRUE(this->world.Wait([&] { return this->callee.texts.size() == 1; }));
   EXPECT_EQ(this->callee.texts[0], u"αβγ");
   EXPECT_EQ(this->callee.totals[0], 3);
   EXPECT_EQ(this->callee.socket.GetData(), u"") << "it has been read";
-  this->callee.socket.SendData(u"and back");
+  this->callee.socket.SendData(u"and back", TextKind::Line);
   EXPECT_TRUE(this->world.Wait([&] { return this->caller.Received() == u"and back"; }));
 }
 
 TYPED_TEST_P(SocketContract, CharactersOutsideTheCodePageArriveAsQuestionMarks) {
   ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
-  this->caller.socket.SendData(u"日α\xD83D\xDE00 \xD800");
+  this->caller.socket.SendData(u"日α\xD83D\xDE00 \xD800", TextKind::Line);
   EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"?α? ?"; }));
 }
 
 TYPED_TEST_P(SocketContract, NothingIsSentUnlessConnected) {
-  this->caller.socket.SendData(u"lost");
+  this->caller.socket.SendData(u"lost", TextKind::Line);
   this->Listen();
-  this->callee.socket.SendData(u"lost");
+  this->callee.socket.SendData(u"lost", TextKind::Line);
   this->Call(this->caller);
-  this->caller.socket.SendData(u"lost");
+  this->caller.socket.SendData(u"lost", TextKind::Line);
   ASSERT_TRUE(this->world.Wait([&] { return this->callee.requests.size() == 1; }));
-  this->callee.socket.SendData(u"lost");
+  this->callee.socket.SendData(u"lost", TextKind::Line);
   this->Answer();
   ASSERT_TRUE(this->world.Wait([&] { return this->caller.connects == 1; }));
-  this->caller.socket.SendData(u"a");
-  this->callee.socket.SendData(u"b");
+  this->caller.socket.SendData(u"a", TextKind::Line);
+  this->callee.socket.SendData(u"b", TextKind::Line);
   EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"a"; }));
   EXPECT_TRUE(this->world.Wait([&] { return this->caller.Received() == u"b"; }));
 }
 
 TYPED_TEST_P(SocketContract, TextSentBeforeTheAnswerArrivesAfterIt) {
   ASSERT_NO_FATAL_FAILURE(this->Ring());
-  this->caller.socket.SendData(u"early");
+  this->caller.socket.SendData(u"early", TextKind::Line);
   EXPECT_EQ(this->callee.texts.size(), 0u);
   this->Answer();
   EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"early"; }));
@@ -238,7 +238,7 @@ TYPED_TEST_P(SocketContract, ASecondCallerWaitsAndIsRefusedWhenTheListenerCloses
   this->Answer();
   EXPECT_TRUE(this->WaitForClose(this->other));
   EXPECT_EQ(this->callee.requests.size(), 1u);
-  this->caller.socket.SendData(u"still here");
+  this->caller.socket.SendData(u"still here", TextKind::Line);
   EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"still here"; }));
   EXPECT_EQ(this->caller.closes, 0u);
 }
@@ -261,7 +261,7 @@ TYPED_TEST_P(SocketContract, AnsweringAnUnknownCallCloses) {
 
 TYPED_TEST_P(SocketContract, ArrivalsComeBeforeTheCloseWhichComesOnce) {
   ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
-  this->caller.socket.SendData(u"last words");
+  this->caller.socket.SendData(u"last words", TextKind::Line);
   this->caller.socket.Close();
   EXPECT_EQ(this->caller.socket.State(), SocketState::Closed);
   EXPECT_EQ(this->caller.socket.RemoteHostIP(), u"");
@@ -275,9 +275,9 @@ TYPED_TEST_P(SocketContract, ArrivalsComeBeforeTheCloseWhichComesOnce) {
 
 TYPED_TEST_P(SocketContract, WordsSentOnAnsweringStillArriveWhenTheCalleeClosesAtOnce) {
   ASSERT_NO_FATAL_FAILURE(this->Ring());
-  this->caller.socket.SendData(u"never read");
+  this->caller.socket.SendData(u"never read", TextKind::Line);
   this->Answer();
-  this->callee.socket.SendData(u"good bye");
+  this->callee.socket.SendData(u"good bye", TextKind::Line);
   this->callee.socket.Close();
   ASSERT_TRUE(this->WaitForClose(this->caller));
   EXPECT_EQ(this->caller.Received(), u"good bye");
@@ -310,7 +310,7 @@ TYPED_TEST_P(SocketContract, ClosingInsideAnEventEndsTheEvents) {
     this->callee.texts.push_back(this->callee.socket.GetData());
     this->callee.socket.Close();
   };
-  this->caller.socket.SendData(u"one");
+  this->caller.socket.SendData(u"one", TextKind::Line);
   ASSERT_TRUE(this->WaitForClose(this->caller));
   EXPECT_EQ(this->callee.texts.size(), 1u);
   EXPECT_EQ(this->callee.closes, 0u);
@@ -324,7 +324,7 @@ TYPED_TEST_P(SocketContract, ClosingTwiceIsHarmlessAndTheSocketServesAgain) {
   this->caller.connects = 0;
   this->callee.requests.clear();
   ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
-  this->caller.socket.SendData(u"again");
+  this->caller.socket.SendData(u"again", TextKind::Line);
   EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"again"; }));
 }
 

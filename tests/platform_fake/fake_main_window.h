@@ -70,6 +70,7 @@ struct FakeMainWindow {
   FakeLabel lblColor;
   FakeLabel lblStatus;
   FakeProgressBar prgStatus;
+  FakeLabel lblWaiting;
   FakeLabel lblCurrentDateTime;
   FakeLabel lblChatStartDateTime;
   FakeLabel lblChatDuration;
@@ -152,6 +153,7 @@ struct FakeMainWindow {
       lblColor,
       lblStatus,
       prgStatus,
+      lblWaiting,
       lblCurrentDateTime,
       lblChatStartDateTime,
       lblChatDuration,

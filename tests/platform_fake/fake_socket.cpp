@@ -16,7 +16,13 @@ void FakeNetwork::RunUntilIdle() {
   }
 }
 
+void FakeNetwork::Mend() {
+  isCut_ = false;
+  for (FakeSocket* socket : sockets_) socket->DeliverWaiting();
+}
+
 FakeSocket::~FakeSocket() {
+  onUndelivered = nullptr;
   Close();
   if (pending_) pending_->peer_ = nullptr;
   network_.sockets_.erase(this);
@@ -96,6 +102,12 @@ void FakeSocket::Close() {
       peer->Post([peer] { peer->LosePeer(); });
     }
   }
+  LoseWaiting();
+  if (undelivered_ > 0) {
+    network_.events_.push_back([this] {
+      if (network_.sockets_.contains(this)) RaiseUndelivered();
+    });
+  }
   state_ = SocketState::Closed;
   remoteHostIP_.clear();
   unread_.clear();
@@ -112,17 +124,54 @@ void FakeSocket::Close() {
 }
 
 void FakeSocket::LosePeer() {
+  LoseWaiting();
   state_ = SocketState::Closed;
   peer_ = nullptr;
+  RaiseUndelivered();
   if (onClose) onClose();
 }
 
-void FakeSocket::SendData(std::u16string_view text) {
+void FakeSocket::SendData(std::u16string_view text, TextKind kind) {
   if (state_ != SocketState::Connected) return;
   sent.emplace_back(text);
+  if (network_.isCut_) return waiting_.push_back({sent.back(), kind});
+  Deliver(sent.back());
+}
+
+void FakeSocket::Deliver(const std::u16string& text) {
   if (peer_ && peer_->peer_ == this) {
     peer_->Arrive(richtext::DecodeGreek(richtext::EncodeGreek(text)));
   }
+}
+
+std::size_t FakeSocket::LinesWaiting() const {
+  const auto lines = std::count_if(waiting_.begin(), waiting_.end(),
+                                   [](const Text& text) { return text.kind == TextKind::Line; });
+  return static_cast<std::size_t>(lines);
+}
+
+void FakeSocket::DeliverWaiting() {
+  for (const Text& text : std::exchange(waiting_, {})) {
+    Deliver(text.text);
+    if (text.kind != TextKind::Line) continue;
+    Post([this] {
+      if (onAcknowledged) onAcknowledged();
+    });
+  }
+}
+
+void FakeSocket::LoseWaiting() {
+  undelivered_ += LinesWaiting();
+  waiting_.clear();
+}
+
+void FakeSocket::RaiseUndelivered() {
+  const std::size_t lines = std::exchange(undelivered_, 0);
+  if (lines > 0 && onUndelivered) onUndelivered(lines);
+}
+
+void FakeSocket::FinishSending() {
+  RaiseUndelivered();
 }
 
 void FakeSocket::Arrive(std::u16string text) {

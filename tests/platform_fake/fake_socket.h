@@ -22,11 +22,16 @@ class FakeNetwork {
   // All that waits for one reader becomes one arrival, as TCP may do.
   bool joinArrivals = false;
 
+  // Nothing more that is sent arrives, or is acknowledged, until Mend.
+  void Cut() { isCut_ = true; }
+  void Mend();
+
  private:
   friend class FakeSocket;
   std::deque<std::function<void()>> events_;
   std::map<std::int32_t, FakeSocket*> listeners_;
-  std::set<const FakeSocket*> sockets_;
+  std::set<FakeSocket*> sockets_;
+  bool isCut_ = false;
   std::int32_t nextPort_ = 20000;
   std::int64_t nextRequest_ = 1;
 };
@@ -49,7 +54,9 @@ class FakeSocket : public Socket {
   void Connect() override;
   void Accept(std::int64_t requestId) override;
   void Close() override;
-  void SendData(std::u16string_view text) override;
+  void SendData(std::u16string_view text, TextKind kind) override;
+  std::size_t LinesWaiting() const override;
+  void FinishSending() override;
   std::u16string GetData() override;
 
   std::u16string remoteHost;
@@ -57,6 +64,16 @@ class FakeSocket : public Socket {
   std::vector<std::u16string> sent;  // every text handed to SendData while connected
 
  private:
+  friend class FakeNetwork;
+  struct Text {
+    std::u16string text;
+    TextKind kind;
+  };
+
+  void Deliver(const std::u16string& text);
+  void DeliverWaiting();
+  void LoseWaiting();
+  void RaiseUndelivered();
   void Post(std::function<void()> event);
   void Arrive(std::u16string text);
   void LosePeer();
@@ -71,6 +88,8 @@ class FakeSocket : public Socket {
   std::deque<FakeSocket*> callers_;  // of a listener: those that wait to be accepted
   std::int64_t request_ = 0;         // the caller being asked about, 0 for none
   FakeSocket* pending_ = nullptr;    // that caller, until it leaves
+  std::deque<Text> waiting_;         // while the network is cut
+  std::size_t undelivered_ = 0;      // lines of ended connections, still to be told of
   std::u16string unread_;
   std::u16string arrival_;
   int generation_ = 0;  // events of an earlier connection are dropped

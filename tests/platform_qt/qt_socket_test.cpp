@@ -172,7 +172,7 @@ TEST_F(QtSocketTest, AFloodIsReadInBoundedPieces) {
 TEST_F(QtSocketTest, ALargeTextStillArrivesAfterTheClose) {
   ASSERT_NO_FATAL_FAILURE(Connect());
   const std::u16string text(8 << 20, u'x');
-  socket->SendData(text);
+  socket->SendData(text, TextKind::Line);
   socket->Close();
   QByteArray received;
   QObject::connect(&peer, &QTcpSocket::readyRead, [&] { received += peer.readAll(); });
@@ -192,7 +192,7 @@ TEST_F(QtSocketTest, UnreadArrivalsDoNotHurtTheLastWords) {
   });
   peer.write(chatter);
   ASSERT_TRUE(WaitForTexts(1));
-  socket->SendData(lastWords);
+  socket->SendData(lastWords, TextKind::Line);
   socket->Close();
   ASSERT_TRUE(WaitFor([&] { return peer.state() == QAbstractSocket::UnconnectedState; }));
   received += peer.readAll().size();
@@ -201,7 +201,7 @@ TEST_F(QtSocketTest, UnreadArrivalsDoNotHurtTheLastWords) {
 
 TEST_F(QtSocketTest, TheLastWordsArriveWhenTheSocketGoes) {
   ASSERT_NO_FATAL_FAILURE(Connect());
-  socket->SendData(u"good bye");
+  socket->SendData(u"good bye", TextKind::Line);
   socket->Close();
   socket.reset();
   ASSERT_TRUE(WaitFor([&] { return peer.state() == QAbstractSocket::UnconnectedState; }));
@@ -212,7 +212,7 @@ TEST_F(QtSocketTest, APeerThatNeverClosesIsCutAfterAWhile) {
   ASSERT_NO_FATAL_FAILURE(Connect());
   const auto descriptors = [this] { return socket->findChildren<QTcpSocket*>().size(); };
   peer.setReadBufferSize(1);
-  socket->SendData(std::u16string(16 << 20, u'x'));
+  socket->SendData(std::u16string(16 << 20, u'x'), TextKind::Line);
   socket->Close();
   EXPECT_EQ(descriptors(), 1);
   EXPECT_TRUE(WaitFor([&] { return descriptors() == 0; }));
@@ -245,7 +245,7 @@ TEST_F(QtSocketTest, AHandlerThatWaitsMayFindItsConnectionGone) {
   bool isBack = false;
   socket->onDataArrival = [&](std::int32_t) {
     box.exec();
-    socket->SendData(u"into the void");
+    socket->SendData(u"into the void", TextKind::Line);
     isBack = true;
   };
   socket->onClose = [&] {
@@ -278,7 +278,7 @@ TEST_F(QtSocketTest, ACallerMayLeaveWhileTheUserIsAsked) {
 
 TEST_F(QtSocketTest, AConnectionThatBreaksCloses) {
   ASSERT_NO_FATAL_FAILURE(Connect());
-  socket->SendData(u"unread");  // makes the peer's end a reset
+  socket->SendData(u"unread", TextKind::Line);  // makes the peer's end a reset
   ASSERT_TRUE(WaitFor([&] { return peer.bytesAvailable() > 0; }));
   peer.abort();
   EXPECT_TRUE(WaitFor([&] { return user.closes == 1; }));

@@ -76,13 +76,14 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
                cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions,
                lstCompletions, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus,
-               lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
-               lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
-               lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
-               lblChatDurationCaption, lblLocalIPCaption, lblLocalPortCaption,
-               lblLocalNicknameCaption, lblRemoteIPCaption, lblRemotePortCaption,
-               lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
-               shpStatus, lblCopyright, picCopyright, frmMain] = mainWindow;
+               lblWaiting, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP,
+               lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname,
+               lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
+               lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalIPCaption,
+               lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption,
+               lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
+               lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright, frmMain] =
+      mainWindow;
   (void)frmMain;
   ShownTexts texts;
   const auto collect = [&texts](const auto&... elements) { (Collect(texts, elements), ...); };
@@ -96,12 +97,12 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
           mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
           cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions, lstCompletions,
-          chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblCurrentDateTime,
-          lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname,
-          lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
-          lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
-          lblLocalIPCaption, lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption,
-          lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
+          chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting,
+          lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
+          lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
+          lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
+          lblChatDurationCaption, lblLocalIPCaption, lblLocalPortCaption, lblLocalNicknameCaption,
+          lblRemoteIPCaption, lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
           lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright);
   return texts;
 }
@@ -263,6 +264,17 @@ TEST_F(LanguageTest, ASwitchChangesTextsOnly) {
   EXPECT_TRUE(state.IsConnected);
   EXPECT_EQ(state.History[0], u"1");
   EXPECT_EQ(window.lblStatus.caption, u"Local port: 1. Waiting for an incoming call...");
+}
+
+TEST_F(LanguageTest, WhatIsToldOfLinesThatDidNotArriveFollows) {
+  state.LinesWaiting = 2;
+  state.LinesUndelivered = 3;
+  language.mnuToolsLanguageGreek_Click();
+  EXPECT_EQ(window.lblWaiting.caption, u"2 σε αναμονή");
+  EXPECT_EQ(window.lblStatus.toolTip, u"Κατάσταση: 3 γραμμές δεν παραδόθηκαν.");
+  language.mnuToolsLanguageEnglish_Click();
+  EXPECT_EQ(window.lblWaiting.caption, u"2 waiting");
+  EXPECT_EQ(window.lblStatus.toolTip, u"Status: 3 lines were not delivered.");
 }
 
 TEST_F(LanguageTest, TheSwitchGivesTheFocusBackToTheCommandPane) {

@@ -83,10 +83,10 @@ TEST_F(StartUpTest, ShowsOnlyTheLocalAddressAndNickname) {
   EXPECT_EQ(window.lblLocalIP.caption, u"192.0.2.1");
   EXPECT_EQ(window.lblLocalNickname.caption, u"fakehost");
   for (const fake::FakeLabel* label :
-       {&window.lblStatus, &window.lblCurrentDateTime, &window.lblChatStartDateTime,
-        &window.lblLocalPort, &window.lblRemoteIP, &window.lblRemotePort, &window.lblChatDuration,
-        &window.lblBytesSent, &window.lblBytesReceived, &window.lblColor,
-        &window.lblRemoteNickname}) {
+       {&window.lblStatus, &window.lblWaiting, &window.lblCurrentDateTime,
+        &window.lblChatStartDateTime, &window.lblLocalPort, &window.lblRemoteIP,
+        &window.lblRemotePort, &window.lblChatDuration, &window.lblBytesSent,
+        &window.lblBytesReceived, &window.lblColor, &window.lblRemoteNickname}) {
     EXPECT_EQ(label->caption, u"");
   }
   EXPECT_EQ(window.rtbData.Text(), u"");

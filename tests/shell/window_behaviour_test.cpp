@@ -62,10 +62,10 @@ TEST_F(WindowBehaviourTest, AReleaseOfAnyOtherButtonThanTheLeftShowsContextHelp)
         window.lblChatStartDateTimeCaption, window.lblChatDurationCaption, window.lblLocalIPCaption,
         window.lblLocalPortCaption, window.lblLocalNicknameCaption, window.lblRemoteIPCaption,
         window.lblRemotePortCaption, window.lblRemoteNicknameCaption, window.lblBytesSentCaption,
-        window.lblBytesReceivedCaption, window.lblStatus, window.picShape, window.chkBold,
-        window.chkItalics, window.chkUnderline, window.lblColor, window.lblCopyright,
-        window.picCopyright, window.cmdFindPrevious, window.cmdFindNext, window.lblFindResult,
-        window.cmdFindClose, window.lstCompletions);
+        window.lblBytesReceivedCaption, window.lblStatus, window.lblWaiting, window.picShape,
+        window.chkBold, window.chkItalics, window.chkUnderline, window.lblColor,
+        window.lblCopyright, window.picCopyright, window.cmdFindPrevious, window.cmdFindNext,
+        window.lblFindResult, window.cmdFindClose, window.lstCompletions);
 }
 
 }  // namespace

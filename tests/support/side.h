@@ -35,6 +35,8 @@ struct Side {
     fake.socket.onDataArrival = [this](std::int32_t total) {
       events.sckControl_DataArrival(total);
     };
+    fake.socket.onAcknowledged = [this] { wire.ShowLinesWaiting(); };
+    fake.socket.onUndelivered = [this](std::size_t lines) { wire.OnUndelivered(lines); };
     fake.socket.onClose = [this] { events.sckControl_Close(); };
     ResetConnection(state, fake.platform);
   }
