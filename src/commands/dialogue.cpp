@@ -6,6 +6,7 @@
 #include "richtext/rtf_documents.h"
 #include "shell/conversions.h"
 #include "shell/date_time_text.h"
+#include "shell/nickname.h"
 
 namespace verlume {
 namespace {
@@ -72,7 +73,8 @@ void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
     logLine += u' ';
   } else {
     const bool isRemote = sender == Sender::Remote;
-    const std::u16string tag = u"<" + (isRemote ? state_.RemoteNickname : state_.Nickname) + u">";
+    const std::u16string tag =
+        u"<" + (isRemote ? state_.RemoteNickname : ShowableNickname(state_.Nickname)) + u">";
     AddInFormat(pane, tag, kTagSize);
     logLine += tag;
   }

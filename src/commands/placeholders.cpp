@@ -5,6 +5,7 @@
 
 #include "commands/rtf_text_replacer.h"
 #include "richtext/rtf_writer.h"
+#include "shell/nickname.h"
 
 namespace verlume {
 namespace {
@@ -33,12 +34,16 @@ constexpr Spelling kActionWord[] = {
     {u"/ΕΓΏ", u"/\\'c5\\'c3\\'bf"},
 };
 
+std::u16string AsRichText(std::u16string_view nickname) {
+  return richtext::EscapeForRtf(ShowableNickname(nickname));
+}
+
 std::vector<RtfReplacement> ReplacementsFor(const Nicknames& nicknames) {
   std::vector<RtfReplacement> list;
-  const std::u16string local = richtext::EscapeForRtf(nicknames.local);
+  const std::u16string local = AsRichText(nicknames.local);
   for (const std::u16string_view pattern : kLocal) list.push_back({pattern, local});
   if (!nicknames.remote) return list;
-  const std::u16string remote = richtext::EscapeForRtf(*nicknames.remote);
+  const std::u16string remote = AsRichText(*nicknames.remote);
   for (const std::u16string_view pattern : kRemote) list.push_back({pattern, remote});
   return list;
 }
@@ -56,7 +61,7 @@ std::u16string ExpandActionLine(std::u16string_view rtf, std::u16string_view typ
       std::find_if(std::begin(kActionWord), std::end(kActionWord),
                    [typedWord](const Spelling& each) { return each.typed == typedWord; });
   if (word != std::end(kActionWord)) {
-    list.push_back({word->rtf, richtext::EscapeForRtf(nicknames.local), true});
+    list.push_back({word->rtf, AsRichText(nicknames.local), true});
   }
   return ReplaceInRtfText(rtf, list);
 }

@@ -2,6 +2,7 @@
 #include "connection/command_parts.h"
 #include "connection/connection_actions.h"
 #include "connection/connection_texts.h"
+#include "shell/nickname.h"
 
 namespace verlume {
 namespace {
@@ -26,7 +27,7 @@ void ConnectionActions::SetNickname() {
     // Written before it is taken on: a nickname that cannot be kept changes nothing.
     with_.settings.WriteSetting(u"General", u"Nickname", nickname);
     state_.Nickname = nickname;
-    platform_.frmMain.lblLocalNickname.SetCaption(nickname);
+    platform_.frmMain.lblLocalNickname.SetCaption(ShowableNickname(nickname));
     WriteOutgoingText();
     with_.wire.SendNickname();
   });

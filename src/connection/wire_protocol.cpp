@@ -8,6 +8,7 @@
 #include "shell/delivery.h"
 #include "shell/language_texts.h"
 #include "shell/maker_texts.h"
+#include "shell/nickname.h"
 
 namespace verlume {
 namespace {
@@ -28,9 +29,6 @@ constexpr std::size_t LengthOfMarkerParts() {
   return length;
 }
 static_assert(LengthOfMarkerParts() == kMarkerTextLength);
-
-// More than any copy of this program sends; every line of the peer's repeats it.
-constexpr std::size_t kLongestPeerNickname = 256;
 
 // The one character after the marker; NUL, which is no kind, when there is none.
 char16_t KindOf(std::u16string_view data) {
@@ -135,7 +133,7 @@ void WireProtocol::TakeNickname(std::u16string_view data) {
   const std::u16string_view rest = data.substr(kMarkerLength + 1);
   const std::size_t end = rest.find(u'\0');
   if (end == rest.npos) throw RunTimeFailure(FailureNumber::InvalidProcedureCall);
-  state_.RemoteNickname = rest.substr(0, std::min(end, kLongestPeerNickname));
+  state_.RemoteNickname = ShowableNickname(rest.substr(0, end));
   platform_.frmMain.lblRemoteNickname.SetCaption(state_.RemoteNickname);
 }
 

@@ -8,6 +8,7 @@
 #include "records/dialogue_log_texts.h"
 #include "shell/conversions.h"
 #include "shell/date_time_text.h"
+#include "shell/nickname.h"
 
 namespace verlume {
 namespace {
@@ -19,9 +20,10 @@ bool IsControl(char16_t c) {
   return c < 0x20 || (c >= 0x7F && c < 0xA0) || isLineBreak;
 }
 
-// More than a nickname of this program ever has. A peer may send a longer one, and a file system
-// takes 255 bytes.
-constexpr std::size_t kStemLimit = 80;
+bool MayNameAFile(std::u16string_view character) {
+  constexpr std::u16string_view kForbidden = u"\\/:*?\"<>|";
+  return IsShowable(character) && kForbidden.find(character) == kForbidden.npos;
+}
 
 // An entry of the log is one line, whatever the peer puts into a message or a nickname.
 std::u16string OneLineOf(std::u16string_view text) {
@@ -37,10 +39,12 @@ std::u16string OneLineOf(std::u16string_view text) {
 }  // namespace
 
 std::u16string LogFileStemOf(std::u16string_view nickname) {
-  constexpr std::u16string_view kForbidden = u"\\/:*?\"<>|";
-  std::u16string stem(nickname.substr(0, kStemLimit));
-  for (char16_t& c : stem) {
-    if (IsControl(c) || kForbidden.find(c) != kForbidden.npos) c = u'_';
+  std::u16string stem;
+  while (!nickname.empty()) {
+    const std::u16string_view character = FirstCharacter(nickname);
+    if (stem.size() + character.size() > kNicknameLimit) break;
+    stem += MayNameAFile(character) ? character : u"_";
+    nickname.remove_prefix(character.size());
   }
   if (stem.empty() || stem == u"." || stem == u"..") return u"_";
   return stem;

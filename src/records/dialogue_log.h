@@ -12,8 +12,9 @@
 
 namespace verlume {
 
-// A nickname made fit for a file name: each of \ / : * ? " < > | and each control character becomes
-// "_". What would be no name of its own ("", "." or "..") is "_", and an overlong name is cut.
+// A nickname made fit for a file name: each of \ / : * ? " < > | becomes "_", and so does what is
+// not showable. What would be no name of its own ("", "." or "..") is "_". It has at most
+// kNicknameLimit characters: with an extension, far from the 255 bytes that a file system takes.
 std::u16string LogFileStemOf(std::u16string_view nickname);
 
 class DialogueLog {

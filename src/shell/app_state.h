@@ -38,8 +38,8 @@ struct AppState {
   std::u16string RemoteHost;  // as the user called it
   std::int32_t RemotePort = 0;
   std::u16string RemoteAddress;  // of the connected peer
-  std::u16string Nickname;       // 1 to kNicknameLimit characters
-  std::u16string RemoteNickname;
+  std::u16string Nickname;           // 1 to kNicknameLimit characters
+  std::u16string RemoteNickname;     // as it is shown (shell/nickname.h)
   std::u16string ProtocolMarker;     // opens every protocol message (connection/wire_protocol.h)
   std::size_t LinesWaiting = 0;      // sent, and not yet acknowledged by the peer's machine
   std::size_t LinesUndelivered = 0;  // of the last conversation: never acknowledged

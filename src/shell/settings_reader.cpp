@@ -6,6 +6,7 @@
 
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
+#include "shell/nickname.h"
 #include "shell/text_pair.h"
 
 namespace verlume {
@@ -76,7 +77,7 @@ constexpr Key kKeys[] = {
     {kGeneral, u"Nickname", 32, u"",
      [](Value value, Target to) {
        TakeText(value, to.state.Nickname);
-       to.frmMain.lblLocalNickname.SetCaption(to.state.Nickname);
+       to.frmMain.lblLocalNickname.SetCaption(ShowableNickname(to.state.Nickname));
      }},
     {kGeneral, u"DateStamp", 20, kNull,
      [](Value value, Target to) {

@@ -4,6 +4,7 @@
 
 #include "macros/macro_paths.h"
 #include "shell/folder_texts.h"
+#include "shell/nickname.h"
 #include "shell/settings_reader.h"
 
 namespace verlume {
@@ -87,7 +88,7 @@ void StartUp::SetNickname() {
   if (state_.Nickname.empty()) {
     state_.Nickname = platform_.sckControl.LocalHostName().substr(0, kNicknameLimit);
   }
-  platform_.frmMain.lblLocalNickname.SetCaption(state_.Nickname);
+  platform_.frmMain.lblLocalNickname.SetCaption(ShowableNickname(state_.Nickname));
 }
 
 void StartUp::freeSizer1_PostLayout() {

@@ -243,15 +243,6 @@ TEST_F(WireProtocolTest, AStartIsAnsweredEachTimeAConfirmNever) {
   EXPECT_EQ(alice.fake.socket.sent, std::vector<std::u16string>{Message(u"CAlice\0"sv)});
 }
 
-TEST_F(WireProtocolTest, ANicknameIsKeptAsFarAsALineCanBear) {
-  Arrive(Message(u"N\0"sv));
-  EXPECT_EQ(alice.state.RemoteNickname, u"");
-  const std::u16string longName(5000, u'b');
-  Arrive(Message(u"S") + longName + u'\0');
-  EXPECT_EQ(alice.state.RemoteNickname, longName.substr(0, 256));
-  EXPECT_TRUE(dialogs.messages.empty());
-}
-
 TEST_F(WireProtocolTest, AFailedAnswerToAStartMakesNoConnection) {
   window.lblBytesSent.SetTag(u"2147483647");
   dialogs.answers = {Answer::No};

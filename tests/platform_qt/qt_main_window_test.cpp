@@ -9,6 +9,9 @@
 #include <set>
 
 #include "platform_fake/fake_file_system.h"
+#include "platform_qt/modal_driver.h"
+#include "platform_qt/qt_dialogs.h"
+#include "platform_qt/qt_text.h"
 #include "platform_qt/window_focus.h"
 
 namespace verlume::qt {
@@ -45,6 +48,32 @@ TEST_F(QtMainWindowTest, EveryControlOfTheDesignBearsItsNameOnce) {
     EXPECT_EQ(form.findChildren<QAction*>(QLatin1String(design.entry)).size(), 1) << design.entry;
   }
   for (const char* name : {"rtbRemote", "shpStatus"}) EXPECT_NE(Named(name), nullptr) << name;
+}
+
+TEST_F(QtMainWindowTest, ANicknameStandsInLabelTitleAndBoxAsItIs) {
+  Show();
+  QtDialogs dialogs(&form);
+  for (const char16_t* nickname : {u"<b>R&D</b> %1", u"&amp; <i>", u"%1&%2<br>", u"\\u202Eeve"}) {
+    const QString text = ToQt(nickname);
+    for (const char* name : {"lblLocalNickname", "lblRemoteNickname"}) {
+      auto* label = form.findChild<QLabel*>(QLatin1String(name));
+      (label->objectName() == "lblLocalNickname" ? view.lblLocalNickname : view.lblRemoteNickname)
+          .SetCaption(nickname);
+      EXPECT_EQ(label->text(), text);
+      EXPECT_EQ(label->textFormat(), Qt::PlainText);
+      EXPECT_EQ(QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name), text);
+    }
+    view.window.SetTitle(nickname);
+    EXPECT_TRUE(form.windowHandle()->title().startsWith(text));
+    const ModalDriver driver([&](QDialog& box) {
+      const auto* shown = box.findChild<QLabel*>("qt_msgbox_label");
+      EXPECT_EQ(shown->text(), text);
+      EXPECT_EQ(shown->textFormat(), Qt::PlainText);
+      EXPECT_TRUE(box.windowHandle()->title().startsWith(text));
+      box.accept();
+    });
+    dialogs.ShowMessage(Note(nickname, nickname));
+  }
 }
 
 TEST_F(QtMainWindowTest, ProgressStandsAtTheFootOfTheStatusLineWhileItIsShown) {

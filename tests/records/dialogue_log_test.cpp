@@ -7,7 +7,7 @@ namespace {
 
 TEST(LogFileStemTest, EachForbiddenCharacterBecomesAnUnderscore) {
   EXPECT_EQ(LogFileStemOf(u"\\/:*?\"<>|"), u"_________");
-  EXPECT_EQ(LogFileStemOf(u"Νίκος the 1st."), u"Νίκος the 1st.");
+  EXPECT_EQ(LogFileStemOf(u"Νίκος. the 1st"), u"Νίκος. the 1st");
 }
 
 TEST(LogFileStemTest, NicknamesThatDifferInForbiddenCharactersShareAStem) {
@@ -19,17 +19,23 @@ TEST(LogFileStemTest, ControlCharacterBecomesAnUnderscore) {
   EXPECT_EQ(LogFileStemOf(std::u16string(u"a\0b\nc\u0085d", 7)), u"a_b_c_d");
 }
 
-TEST(LogFileStemTest, WhatIsNoNameBecomesAnUnderscore) {
+TEST(LogFileStemTest, NothingAndTheNamesOfFoldersBecomeAName) {
   EXPECT_EQ(LogFileStemOf(u""), u"_");
   EXPECT_EQ(LogFileStemOf(u"."), u"_");
   EXPECT_EQ(LogFileStemOf(u".."), u"_");
   EXPECT_EQ(LogFileStemOf(u"..."), u"...");
 }
 
+TEST(LogFileStemTest, WhatIsNotSeenBecomesAnUnderscore) {
+  EXPECT_EQ(LogFileStemOf(u"\u202Eb\u2028ob\u200F"), u"_b_ob_");
+  EXPECT_EQ(LogFileStemOf(u"a\xD83D"), u"a_");
+}
+
 TEST(LogFileStemTest, OverlongNicknameIsCutToWhatAFileNameHolds) {
   const std::u16string longestOfOurs(32, u'€');
   EXPECT_EQ(LogFileStemOf(longestOfOurs), longestOfOurs);
-  EXPECT_EQ(LogFileStemOf(std::u16string(4000, u'€')), std::u16string(80, u'€'));
+  EXPECT_EQ(LogFileStemOf(std::u16string(4000, u'€')), longestOfOurs);
+  EXPECT_EQ(LogFileStemOf(std::u16string(31, u'b') + u"\U0001F600"), std::u16string(31, u'b'));
 }
 
 class AppendToLogTest : public RoomTest {
