@@ -29,6 +29,7 @@ class OneFile : public verlume::FileSystem {
   std::vector<std::u16string> ListFiles(std::u16string_view, std::u16string_view) const override {
     return {};
   }
+  std::uint64_t SizeOf(std::u16string_view) const override { return bytes.size(); }
   std::u16string ReadText(std::u16string_view) const override { return {}; }
   std::string ReadBytes(std::u16string_view) const override { return bytes; }
   void ReplaceText(std::u16string_view, std::u16string_view text) override {

@@ -5,6 +5,7 @@
 // not a file of that use (a folder, say), 76 no such folder.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,8 @@ class FileSystem {
   virtual std::vector<std::u16string> ListFiles(std::u16string_view folder,
                                                 std::u16string_view extension) const = 0;
 
+  // What a file holds, in bytes.
+  virtual std::uint64_t SizeOf(std::u16string_view path) const = 0;
   virtual std::u16string ReadText(std::u16string_view path) const = 0;
   virtual std::string ReadBytes(std::u16string_view path) const = 0;
   // Replace a file in one step: a failure or a crash leaves the old content.

@@ -119,6 +119,14 @@ std::vector<std::u16string> QtFileSystem::ListFiles(std::u16string_view folder,
   ThrowErrno(path);
 }
 
+std::uint64_t QtFileSystem::SizeOf(std::u16string_view path) const {
+  const std::string name = NameOf(path);
+  struct stat found;
+  if (!Find(name, found)) ThrowErrno(name);
+  if (!S_ISREG(found.st_mode)) throw RunTimeFailure(FailureNumber::PathFileAccessError);
+  return static_cast<std::uint64_t>(found.st_size);
+}
+
 std::u16string QtFileSystem::ReadText(std::u16string_view path) const {
   return richtext::DecodeUtf8OrGreek(ReadBytes(path));
 }

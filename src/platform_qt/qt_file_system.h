@@ -13,6 +13,7 @@ class QtFileSystem : public FileSystem {
   // A name that is not valid UTF-8 is left out: no path could name it.
   std::vector<std::u16string> ListFiles(std::u16string_view folder,
                                         std::u16string_view extension) const override;
+  std::uint64_t SizeOf(std::u16string_view path) const override;
   std::u16string ReadText(std::u16string_view path) const override;
   std::string ReadBytes(std::u16string_view path) const override;
   void ReplaceText(std::u16string_view path, std::u16string_view text) override;

@@ -2,6 +2,7 @@
 
 #include "shell/delivery.h"
 #include "shell/language_texts.h"
+#include "shell/settings_reader.h"
 #include "shell/status_panel.h"
 
 namespace verlume {
@@ -21,7 +22,7 @@ void Language::ApplyLanguage() {
     frmMain.mnuToolsLanguageGreek.SetChecked(isGreek);
     platform_.dialogs.SetLanguage(isGreek);
     platform_.help.SetHelpFile(isGreek ? state_.HelpFileGreek : state_.HelpFileEnglish, isGreek);
-    settings_.WriteSetting(u"General", u"Language", isGreek ? u"1" : u"0");
+    settings_.WriteSetting(kLanguageSection, kLanguageKey, LanguageText(state_));
   });
 }
 

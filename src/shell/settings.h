@@ -3,18 +3,26 @@
 #pragma once
 
 #include <cstddef>
-#include <initializer_list>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/file_system.h"
 #include "shell/app_state.h"
 
 namespace verlume {
 
+// A file larger than this, in bytes, was not made by this program and is not read.
+inline constexpr std::uint64_t kLargestSettingsFile = 1 << 20;
+
 class Settings {
  public:
   Settings(const AppState& state, FileSystem& files) : state_(state), files_(files) {}
+
+  // The whole file. Throws RunTimeFailure: 53 or 76 when there is none, 75 when it is too large,
+  // and what else keeps it from being read.
+  std::u16string Text() const;
 
   // The value of a key, at most size - 1 characters of it, or `missingMarker` where the file, the
   // section or the key is missing. Section and key are compared without regard to case; blanks and
@@ -23,7 +31,8 @@ class Settings {
                              std::u16string_view missingMarker, std::size_t size) const;
 
   // Replaces the key's line, or adds it, with file and section where they are missing; every other
-  // line stays as it is. Throws RunTimeFailure when the file cannot be written.
+  // line stays as it is. Throws RunTimeFailure when the file cannot be written, or is there and
+  // cannot be read.
   void WriteSetting(std::u16string_view section, std::u16string_view key,
                     std::u16string_view value);
 
@@ -33,13 +42,17 @@ class Settings {
     std::u16string_view key;
     std::u16string value;
   };
-  void WriteSettings(std::u16string_view section, std::initializer_list<KeyValue> values);
+  void WriteSettings(std::u16string_view section, const std::vector<KeyValue>& values);
+
+  // From now on writing does nothing, and does not fail: the file has to stay as it is.
+  void StopWriting() { writes_ = false; }
 
  private:
   std::u16string TextToChange() const;
 
   const AppState& state_;
   FileSystem& files_;
+  bool writes_ = true;
 };
 
 }  // namespace verlume

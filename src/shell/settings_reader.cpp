@@ -58,79 +58,101 @@ void TakeBackColor(Value value, RichTextBox& pane) {
   if (const auto color = ColorOf(value)) pane.SetBackColor(*color);
 }
 
+// The kinds of value: each throws where a text is none of it.
+void IsText(std::u16string_view) {}
+void IsBoolean(std::u16string_view text) {
+  BooleanOf(text);
+}
+void IsColor(std::u16string_view text) {
+  IntegerOf(text);
+}
+void IsNumber(std::u16string_view text) {
+  NumberOf(text);
+}
+
 struct Key {
   std::u16string_view section;
   std::u16string_view key;
-  std::size_t size;                      // of the read buffer
-  std::u16string_view missingMarker;     // what a missing key reads as
+  std::size_t size;                   // of the read buffer
+  std::u16string_view missingMarker;  // what a missing key reads as
+  void (*kind)(std::u16string_view text);
   void (*take)(Value value, Target to);  // no value: missing
 };
 
 constexpr std::u16string_view kGeneral = u"General";
-constexpr std::u16string_view kFontLocal = u"FontLocal";
 constexpr std::u16string_view kBackColor = u"BackColor";
 constexpr std::u16string_view kLogging = u"Logging";
 constexpr std::u16string_view kNull = u"NULL";
 
 // In the order in which they are read.
 constexpr Key kKeys[] = {
-    {kGeneral, u"Nickname", 32, u"",
+    {kGeneral, u"Nickname", 32, u"", IsText,
      [](Value value, Target to) {
        TakeText(value, to.state.Nickname);
        to.frmMain.lblLocalNickname.SetCaption(ShowableNickname(to.state.Nickname));
      }},
-    {kGeneral, u"DateStamp", 20, kNull,
+    {kGeneral, u"DateStamp", 20, kNull, IsBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.DateStamp, to.frmMain.mnuToolsDate);
      }},
-    {kGeneral, u"TimeStamp", 20, kNull,
+    {kGeneral, u"TimeStamp", 20, kNull, IsBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.TimeStamp, to.frmMain.mnuToolsTime);
      }},
-    {kGeneral, u"AlwaysOnTop", 20, kNull,
+    {kGeneral, u"AlwaysOnTop", 20, kNull, IsBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.AlwaysOnTop, to.frmMain.mnuToolsAlwaysOnTop);
        to.frmMain.window.SetTopMost(to.state.AlwaysOnTop);
      }},
-    {kFontLocal, u"Name", 1024, kNull,
+    {kFontSection, u"Name", 1024, kNull, IsText,
      [](Value value, Target to) { TakeText(value, to.state.FontName); }},
-    {kFontLocal, u"Bold", 20, kNull,
+    {kFontSection, u"Bold", 20, kNull, IsBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.FontBold); }},
-    {kFontLocal, u"Italic", 20, kNull,
+    {kFontSection, u"Italic", 20, kNull, IsBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.FontItalic); }},
-    {kFontLocal, u"Strikethrough", 20, kNull,
+    {kFontSection, u"Strikethrough", 20, kNull, IsBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.FontStrikethrough); }},
-    {kFontLocal, u"Underline", 20, kNull,
+    {kFontSection, u"Underline", 20, kNull, IsBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.FontUnderline); }},
-    {kFontLocal, u"Forecolor", 20, kNull,
+    {kFontSection, u"Forecolor", 20, kNull, IsColor,
      [](Value value, Target to) {
        to.state.FontColor = ColorOf(value).value_or(to.state.FontColor);
      }},
-    {kFontLocal, u"Size", 20, kNull,
+    {kFontSection, u"Size", 20, kNull, IsNumber,
      [](Value value, Target to) {
        if (value) to.state.FontSize = AcceptedFontSize(NumberOf(*value));
      }},
-    {kBackColor, u"Commands", 20, kNull,
+    {kBackColor, u"Commands", 20, kNull, IsColor,
      [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbCommands); }},
-    {kBackColor, u"Dialogue", 20, kNull,
+    {kBackColor, u"Dialogue", 20, kNull, IsColor,
      [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbData); }},
-    {kLogging, u"Logfolder", 1024, u"",
+    {kLogging, u"Logfolder", 1024, u"", IsText,
      [](Value value, Target to) { TakeText(value, to.state.LogFolder); }},
-    {kLogging, u"Logdialogue", 20, kNull,
+    {kLogging, u"Logdialogue", 20, kNull, IsBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.LogDialogue, to.frmMain.mnuFileLogRecord);
      }},
-    {kGeneral, u"Macrosfolder", 1024, u"",
+    {kGeneral, u"Macrosfolder", 1024, u"", IsText,
      [](Value value, Target to) { TakeText(value, to.state.MacrosFolder); }},
-    {kGeneral, u"Suggestcommands", 20, kNull,
+    {kGeneral, u"Suggestcommands", 20, kNull, IsText,
      [](Value value, Target to) {
        SetSwitch(to.state.SuggestCommands, IsNotOff(value), to.frmMain.mnuToolsCompletions);
      }},
 };
 
-bool IsMissing(std::u16string_view value, std::u16string_view missingMarker) {
-  return missingMarker.empty() ? value.empty() : value.starts_with(missingMarker);
-}
+// The value of a key in the file.
+class FileValue {
+ public:
+  FileValue(const Settings& settings, const Key& key)
+      : text_(settings.ReadSetting(key.section, key.key, key.missingMarker, key.size)),
+        isMissing_(key.missingMarker.empty() ? text_.empty()
+                                             : text_.starts_with(key.missingMarker)) {}
+  Value Get() const { return isMissing_ ? Value() : Value(text_); }
+
+ private:
+  std::u16string text_;
+  bool isMissing_;
+};
 
 }  // namespace
 
@@ -159,25 +181,42 @@ void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
 }
 
 void ReadLanguage(AppState& state, const Settings& settings) {
-  state.IsGreek = NumericPrefixOf(settings.ReadSetting(kGeneral, u"Language", u"0", 5)) == 1;
+  state.IsGreek =
+      NumericPrefixOf(settings.ReadSetting(kLanguageSection, kLanguageKey, u"0", 5)) == 1;
 }
 
 void ReadSettings(AppState& state, const MainWindow& frmMain, const Settings& settings) {
-  for (const Key& row : kKeys) {
-    const std::u16string text =
-        settings.ReadSetting(row.section, row.key, row.missingMarker, row.size);
-    row.take(IsMissing(text, row.missingMarker) ? Value() : Value(text), {state, frmMain});
+  for (const Key& row : kKeys) row.take(FileValue(settings, row).Get(), {state, frmMain});
+}
+
+bool EveryValueIsOfItsKind(const Settings& settings) {
+  try {
+    for (const Key& row : kKeys) {
+      const FileValue value(settings, row);
+      if (value.Get()) row.kind(*value.Get());
+    }
+    return true;
+  } catch (const RunTimeFailure&) {
+    return false;
   }
 }
 
+std::u16string_view LanguageText(const AppState& state) {
+  return state.IsGreek ? u"1" : u"0";
+}
+
+std::vector<Settings::KeyValue> FontSettings(const AppState& state) {
+  return {{u"Name", state.FontName},
+          {u"Bold", BooleanText(state.FontBold)},
+          {u"Italic", BooleanText(state.FontItalic)},
+          {u"Strikethrough", BooleanText(state.FontStrikethrough)},
+          {u"Underline", BooleanText(state.FontUnderline)},
+          {u"Forecolor", DecimalText(state.FontColor)},
+          {u"Size", NumberText(state.FontSize)}};
+}
+
 void WriteFontSettings(const AppState& state, Settings& settings) {
-  settings.WriteSettings(kFontLocal, {{u"Name", state.FontName},
-                                      {u"Bold", BooleanText(state.FontBold)},
-                                      {u"Italic", BooleanText(state.FontItalic)},
-                                      {u"Strikethrough", BooleanText(state.FontStrikethrough)},
-                                      {u"Underline", BooleanText(state.FontUnderline)},
-                                      {u"Forecolor", DecimalText(state.FontColor)},
-                                      {u"Size", NumberText(state.FontSize)}});
+  settings.WriteSettings(kFontSection, FontSettings(state));
 }
 
 }  // namespace verlume

@@ -27,6 +27,16 @@ void ReadLanguage(AppState& state, const Settings& settings);
 // nearest one that is accepted, and a colour that is none (negative) counts as missing.
 void ReadSettings(AppState& state, const MainWindow& frmMain, const Settings& settings);
 
+// Whether ReadSettings can read them all.
+bool EveryValueIsOfItsKind(const Settings& settings);
+
+// Where the language and the local font stand, and as what they are written.
+inline constexpr std::u16string_view kLanguageSection = u"General";
+inline constexpr std::u16string_view kLanguageKey = u"Language";
+inline constexpr std::u16string_view kFontSection = u"FontLocal";
+std::u16string_view LanguageText(const AppState& state);
+std::vector<Settings::KeyValue> FontSettings(const AppState& state);
+
 // Writes the local font, all keys in one step. Throws RunTimeFailure when the file cannot be
 // written.
 void WriteFontSettings(const AppState& state, Settings& settings);

@@ -6,6 +6,7 @@
 #include "shell/folder_texts.h"
 #include "shell/nickname.h"
 #include "shell/settings_reader.h"
+#include "shell/settings_rescue.h"
 
 namespace verlume {
 
@@ -19,7 +20,8 @@ StartUp::StartUp(AppState& state, Platform& platform, ErrorReport& errors, Setti
       steps_(std::move(steps)) {}
 
 void StartUp::Form_Load() {
-  errors_.Guard(Procedure::Form_Load, [this] {
+  SettingsTrouble trouble = SettingsTrouble::None;
+  errors_.Guard(Procedure::Form_Load, [this, &trouble] {
     state_.IsGreek = false;
     SetPaths();
     state_.ExitConfirmed = false;
@@ -29,6 +31,7 @@ void StartUp::Form_Load() {
     ClearWindow();
     SetSettingDefaults(state_, platform_.frmMain);
     ReadLanguage(state_, settings_);
+    trouble = SecureSettingsFile(state_, platform_.files, settings_);
     language_.ApplyLanguage();
     if (platform_.application.HasEnded()) return;
     ReadSettings(state_, platform_.frmMain, settings_);
@@ -40,6 +43,9 @@ void StartUp::Form_Load() {
   // Also after a failure: a nickname is never empty, and the clock runs from here on.
   SetNickname();
   platform_.frmMain.tmrTimer.Start();
+  if (trouble != SettingsTrouble::None) {
+    platform_.dialogs.ShowMessage(NoteOfSettingsTrouble(trouble, state_));
+  }
 }
 
 void StartUp::SetPaths() {

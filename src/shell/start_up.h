@@ -26,7 +26,8 @@ class StartUp {
           Language& language, Steps steps);
 
   // Fills AppState and reads the settings file, before the window is shown. A failure ends it there
-  // and is reported (203); the program goes on with what was set so far. Starts the timer.
+  // and is reported (203); the program goes on with what was set so far. Starts the timer. In the
+  // end it tells of a settings file that could not be used, which is kept before it is written to.
   void Form_Load();
 
   // Once the window has been laid out: applies the text style, and asks for the log and macros

@@ -74,8 +74,8 @@ TEST_F(RemoteNicknameTest, AnEmptyOneIsNoFileName) {
 
 TEST_F(RemoteNicknameTest, NoneLeavesTheLogFolder) {
   for (const std::u16string_view nickname :
-       {u".."sv, u"."sv, u"../x"sv, u"/etc/x"sv, u"..\\x"sv, u"a/../../x"sv, u"C:x"sv,
-        u".x"sv, u"nul"sv, u"x\n../y"sv}) {
+       {u".."sv, u"."sv, u"../x"sv, u"/etc/x"sv, u"..\\x"sv, u"a/../../x"sv, u"C:x"sv, u".x"sv,
+        u"nul"sv, u"x\n../y"sv}) {
     Send(u'C', nickname);
   }
   EXPECT_THAT(bob.fake.files.files, testing::SizeIs(testing::Ge(6)));

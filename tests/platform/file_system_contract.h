@@ -98,6 +98,13 @@ TYPED_TEST_P(FileSystemContract, BytesComeBackAsTheyWereWritten) {
   EXPECT_EQ(this->files.ReadBytes(this->Path(u"b")), "");
 }
 
+TYPED_TEST_P(FileSystemContract, ASizeIsTheNumberOfBytes) {
+  this->files.ReplaceText(this->Path(u"a"), u"αβγ\r\n");
+  EXPECT_EQ(this->files.SizeOf(this->Path(u"a")), 8u);
+  this->files.ReplaceBytes(this->Path(u"a"), "");
+  EXPECT_EQ(this->files.SizeOf(this->Path(u"a")), 0u);
+}
+
 TYPED_TEST_P(FileSystemContract, AppendingMakesTheFileAndKeepsWhatItHolds) {
   this->files.AppendText(this->Path(u"log"), u"one\r\n");
   this->files.AppendText(this->Path(u"log"), u"δύο\r\n");
@@ -134,12 +141,14 @@ TYPED_TEST_P(FileSystemContract, MissingFilesAreNotFound) {
   const auto number = FailureNumber::FileNotFound;
   this->ExpectFailure(number, [&] { this->files.ReadText(path); });
   this->ExpectFailure(number, [&] { this->files.ReadBytes(path); });
+  this->ExpectFailure(number, [&] { this->files.SizeOf(path); });
   this->ExpectFailure(number, [&] { this->files.Delete(path); });
 }
 
 TYPED_TEST_P(FileSystemContract, PathsThroughMissingFoldersAreNotFound) {
   const std::u16string path = this->Path(u"missing") + this->files.Separator() + u"a";
   const auto number = FailureNumber::PathNotFound;
+  this->ExpectFailure(number, [&] { this->files.SizeOf(path); });
   this->ExpectFailure(number, [&] { this->files.ReadText(path); });
   this->ExpectFailure(number, [&] { this->files.ReplaceText(path, u"x"); });
   this->ExpectFailure(number, [&] { this->files.AppendText(path, u"x"); });
@@ -150,6 +159,7 @@ TYPED_TEST_P(FileSystemContract, FoldersAreNoFiles) {
   const std::u16string path = this->Path(u"folder");
   this->world.MakeFolder(path);
   const auto number = FailureNumber::PathFileAccessError;
+  this->ExpectFailure(number, [&] { this->files.SizeOf(path); });
   this->ExpectFailure(number, [&] { this->files.ReadText(path); });
   this->ExpectFailure(number, [&] { this->files.ReplaceText(path, u"x"); });
   this->ExpectFailure(number, [&] { this->files.AppendText(path, u"x"); });
@@ -162,9 +172,9 @@ REGISTER_TYPED_TEST_SUITE_P(FileSystemContract, TellsFilesFromFolders, TextComes
                             ByteOrderMarkIsNoPartOfTheText,
                             LoneSurrogatesAreWrittenAsSomethingReadable,
                             APathThatIsNoTextNamesNothing, BytesComeBackAsTheyWereWritten,
-                            AppendingMakesTheFileAndKeepsWhatItHolds, DeletedFilesAreGone,
-                            ListsTheOrdinaryFilesOfAnExtension, NothingIsListedOfWhatIsNoFolder,
-                            MissingFilesAreNotFound, PathsThroughMissingFoldersAreNotFound,
-                            FoldersAreNoFiles);
+                            ASizeIsTheNumberOfBytes, AppendingMakesTheFileAndKeepsWhatItHolds,
+                            DeletedFilesAreGone, ListsTheOrdinaryFilesOfAnExtension,
+                            NothingIsListedOfWhatIsNoFolder, MissingFilesAreNotFound,
+                            PathsThroughMissingFoldersAreNotFound, FoldersAreNoFiles);
 
 }  // namespace verlume

@@ -98,6 +98,10 @@ std::vector<std::u16string> FakeFileSystem::ListFiles(std::u16string_view folder
   return names;
 }
 
+std::uint64_t FakeFileSystem::SizeOf(std::u16string_view path) const {
+  return ReadBytes(path).size();
+}
+
 std::u16string FakeFileSystem::ReadText(std::u16string_view path) const {
   return richtext::DecodeUtf8OrGreek(ReadBytes(path));
 }

@@ -16,6 +16,7 @@ class FakeFileSystem : public FileSystem {
   bool IsFile(std::u16string_view path) const noexcept override;
   std::vector<std::u16string> ListFiles(std::u16string_view folder,
                                         std::u16string_view extension) const override;
+  std::uint64_t SizeOf(std::u16string_view path) const override;
   std::u16string ReadText(std::u16string_view path) const override;
   std::string ReadBytes(std::u16string_view path) const override;
   void ReplaceText(std::u16string_view path, std::u16string_view text) override;

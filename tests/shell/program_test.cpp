@@ -248,8 +248,9 @@ TEST(ProgramStartTest, SettingThatDoesNotConvertIsReportedAndTheProgramGoesOn) {
   platform.dialogs.answers = {Answer::No};
   program.Start();
 
-  ASSERT_EQ(platform.dialogs.messages.size(), 1u);
+  ASSERT_EQ(platform.dialogs.messages.size(), 2u);
   EXPECT_EQ(platform.dialogs.messages[0].title, u"Verlume, 203.");
+  EXPECT_EQ(platform.dialogs.messages[1].title, u"Settings file");
   EXPECT_TRUE(platform.window.window.shown);
   platform.window.rtbCommands.Type(u"still here\r");
   EXPECT_THAT(platform.window.rtbData.Text(), Holds(u"still here"));

@@ -202,6 +202,28 @@ TEST_F(SettingsReaderTest, AnEmptyFontNameLeavesThePanes) {
   EXPECT_EQ(state.FontName, u"Arial");
 }
 
+TEST_F(SettingsReaderTest, WhatCannotBeReadIsKnownBeforehand) {
+  const std::pair<const char*, const char*> keys[] = {
+      {"General", "Nickname"},     {"General", "DateStamp"},      {"General", "TimeStamp"},
+      {"General", "AlwaysOnTop"},  {"FontLocal", "Name"},         {"FontLocal", "Bold"},
+      {"FontLocal", "Italic"},     {"FontLocal", "Underline"},    {"FontLocal", "Strikethrough"},
+      {"FontLocal", "Forecolor"},  {"FontLocal", "Size"},         {"BackColor", "Commands"},
+      {"BackColor", "Dialogue"},   {"Logging", "Logfolder"},      {"Logging", "Logdialogue"},
+      {"General", "Macrosfolder"}, {"General", "Suggestcommands"}};
+  for (const auto& [section, key] : keys) {
+    for (const char* value : {"", "maybe", "True", "1", "-1", "9.5", "99999999999", "NULL"}) {
+      const std::string text = std::string("[") + section + "]\n" + key + "=" + value + "\n";
+      bool reads = true;
+      try {
+        Read(text);
+      } catch (const RunTimeFailure&) {
+        reads = false;
+      }
+      EXPECT_EQ(EveryValueIsOfItsKind(settings), reads) << text;
+    }
+  }
+}
+
 TEST_F(SettingsReaderTest, ALongNicknameIsCutByItsReadSize) {
   Read("[General]\nNickname=" + std::string(100, 'n') + "\n");
   EXPECT_EQ(state.Nickname, std::u16string(31, u'n'));

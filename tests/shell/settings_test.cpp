@@ -101,6 +101,27 @@ TEST_F(SettingsTest, AWriteThatFailsThrowsAndKeepsTheFile) {
   EXPECT_EQ(files.files[kPath], "[General]\nLanguage=1\n");
 }
 
+TEST_F(SettingsTest, AnOverlargeFileReadsAsMissingAndIsNotReplaced) {
+  const std::string largest =
+      std::string(kLargestSettingsFile - 22, '\n') + "[General]\nLanguage=1\n";
+  ASSERT_EQ(largest.size(), kLargestSettingsFile - 1);
+  files.files[kPath] = largest + "\n";
+  EXPECT_EQ(settings.ReadSetting(u"General", u"Language", u"0", 5), u"1");
+  files.files[kPath] = largest + "\n\n";
+  EXPECT_EQ(settings.ReadSetting(u"General", u"Language", u"0", 5), u"0");
+  EXPECT_THROW(settings.WriteSetting(u"General", u"Language", u"0"), RunTimeFailure);
+  EXPECT_EQ(files.files[kPath], largest + "\n\n");
+}
+
+TEST_F(SettingsTest, OnceStoppedItWritesNothingAndReadsOn) {
+  files.files[kPath] = "[General]\nLanguage=1\n";
+  settings.StopWriting();
+  settings.WriteSetting(u"General", u"Language", u"0");
+  settings.WriteSettings(u"A", {{u"Two", u"2"}, {u"One", u"1"}});
+  EXPECT_EQ(files.files[kPath], "[General]\nLanguage=1\n");
+  EXPECT_EQ(settings.ReadSetting(u"General", u"Language", u"0", 5), u"1");
+}
+
 // A file system that has the file but may not read it.
 class UnreadableFiles : public fake::FakeFileSystem {
  public:

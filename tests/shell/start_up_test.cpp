@@ -150,7 +150,7 @@ TEST_F(StartUpTest, AFailureIsReportedAndTheRestSkipped) {
   Keep("[General]\nLanguage=1\nDateStamp=maybe\nTimeStamp=False\nAlwaysOnTop=True\n");
   fake.dialogs.answers = {Answer::No};
   startUp.Form_Load();
-  ASSERT_EQ(Titles(), std::vector<std::u16string>{u"Verlume, 203."});
+  ASSERT_EQ(Titles(), (std::vector<std::u16string>{u"Verlume, 203.", u"Αρχείο ρυθμίσεων"}));
   EXPECT_TRUE(fake.dialogs.messages[0].text.starts_with(
       u"Παρουσιάσθηκε το σφάλμα με αριθμό 13 και περιγραφή «Type mismatch»."));
   EXPECT_TRUE(state.DateStamp);
