@@ -26,7 +26,7 @@ void ArrivalAssembler::Add(std::string_view bytes, std::int64_t now) {
   if (bytes.empty()) return;
   if (waiting_.empty() && at_ == At::AfterDocument) {
     // The document itself is delivered; the end of its line comes late and is not shown again.
-    if (now - lastByte_ >= kPatience) at_ = At::Start;
+    if (now - lastByte_ >= patience_) at_ = At::Start;
     while (at_ == At::AfterDocument && !bytes.empty() && EndsTheLine(bytes)) bytes.remove_prefix(1);
   }
   waiting_.append(bytes);
@@ -102,7 +102,7 @@ std::optional<std::string> ArrivalAssembler::TakeAll() {
 
 std::optional<std::int64_t> ArrivalAssembler::Deadline() const {
   if (waiting_.empty()) return std::nullopt;
-  return lastByte_ + kPatience;
+  return lastByte_ + patience_;
 }
 
 }  // namespace verlume::qt

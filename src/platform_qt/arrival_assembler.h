@@ -17,10 +17,13 @@ namespace verlume::qt {
 
 class ArrivalAssembler {
  public:
-  // How long a document may wait for its next byte.
-  static constexpr std::int64_t kPatience = 2000;
+  // How long a document may wait for its next byte: a link may stall in the middle of it, and its
+  // sender's machine gives up sooner than this.
+  static constexpr std::int64_t kPatience = 20'000;
   // How many bytes may wait.
   static constexpr std::size_t kLargest = 4 << 20;
+
+  explicit ArrivalAssembler(std::int64_t patience = kPatience) : patience_(patience) {}
 
   // Adds what one read brought. Each byte is looked at once.
   void Add(std::string_view bytes, std::int64_t now);
@@ -42,6 +45,7 @@ class ArrivalAssembler {
   void FeedMarker(char byte);
   void FeedOpening(char byte);
 
+  std::int64_t patience_;
   std::string waiting_;
   At at_ = At::Start;
   std::size_t matched_ = 0;  // bytes of the marker or of the opening seen so far

@@ -36,7 +36,7 @@ bool ListenOnFreePort(QTcpServer& server) {
 
 }  // namespace
 
-QtSocket::QtSocket() {
+QtSocket::QtSocket(std::int64_t patienceForTheRest) : patienceForTheRest_(patienceForTheRest) {
   clock_.start();
   server_.setProxy(QNetworkProxy::NoProxy);
   // One caller is taken and asked about; those behind it wait in the system's backlog.
@@ -225,7 +225,7 @@ void QtSocket::Close() {
   state_ = SocketState::Closed;
   peer_ = {};
   arrival_.clear();
-  assembler_ = {};
+  assembler_ = ArrivalAssembler(patienceForTheRest_);
   patience_.stop();
   connectLimit_.stop();
   server_.close();

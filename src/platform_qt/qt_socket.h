@@ -18,7 +18,8 @@ namespace verlume::qt {
 
 class QtSocket : public QObject, public Socket {
  public:
-  QtSocket();
+  // `patienceForTheRest` is how long a text may wait for its next byte, in milliseconds.
+  explicit QtSocket(std::int64_t patienceForTheRest = ArrivalAssembler::kPatience);
   // Sends what was handed over before, for a few seconds at most.
   ~QtSocket() override;
 
@@ -83,7 +84,8 @@ class QtSocket : public QObject, public Socket {
   QString remoteHost_;
   std::int32_t remotePort_ = 0;
 
-  ArrivalAssembler assembler_;
+  std::int64_t patienceForTheRest_;
+  ArrivalAssembler assembler_{patienceForTheRest_};
   std::u16string arrival_;
   QElapsedTimer clock_;
   QTimer patience_;      // for the rest of a document

@@ -100,30 +100,30 @@ TEST(ArrivalAssembler, ASecondDocumentInTheSameReadIsNotTorn) {
   }
 }
 
-TEST(ArrivalAssembler, ADocumentWaitsTwoSecondsAfterItsLastByte) {
+TEST(ArrivalAssembler, ADocumentWaitsTwentySecondsAfterItsLastByte) {
   ArrivalAssembler assembler;
   EXPECT_EQ(Read(assembler, R"({\rtf1 a)", 1000), std::nullopt);
-  EXPECT_EQ(assembler.Deadline(), 3000);
+  EXPECT_EQ(assembler.Deadline(), 21'000);
   EXPECT_EQ(Read(assembler, "b", 2500), std::nullopt);
-  EXPECT_EQ(assembler.Deadline(), 4500);
-  EXPECT_EQ(assembler.Take(4499), std::nullopt);
-  EXPECT_EQ(assembler.Take(4500), Arrival(R"({\rtf1 ab)"));
+  EXPECT_EQ(assembler.Deadline(), 22'500);
+  EXPECT_EQ(assembler.Take(22'499), std::nullopt);
+  EXPECT_EQ(assembler.Take(22'500), Arrival(R"({\rtf1 ab)"));
   EXPECT_EQ(assembler.Deadline(), std::nullopt);
 }
 
 TEST(ArrivalAssembler, TheRestOfAnOverdueDocumentIsReadyAtOnce) {
   ArrivalAssembler assembler;
   assembler.Add(R"({\rtf1 a)", 0);
-  ASSERT_NE(assembler.Take(2000), std::nullopt);
-  EXPECT_EQ(Read(assembler, "b}", 2001), Arrival("b}"));
+  ASSERT_NE(assembler.Take(20'000), std::nullopt);
+  EXPECT_EQ(Read(assembler, "b}", 20'001), Arrival("b}"));
 }
 
-TEST(ArrivalAssembler, ABeginningWaitsTwoSecondsToo) {
+TEST(ArrivalAssembler, ABeginningWaitsTwentySecondsToo) {
   for (const std::string& begun : {"{"s, "{\\rt"s, "\0mm"s, kMarker, kMarker + "M"}) {
     ArrivalAssembler assembler;
     EXPECT_EQ(Read(assembler, begun), std::nullopt);
-    EXPECT_EQ(assembler.Take(1999), std::nullopt);
-    EXPECT_EQ(assembler.Take(2000), Arrival(begun));
+    EXPECT_EQ(assembler.Take(19'999), std::nullopt);
+    EXPECT_EQ(assembler.Take(20'000), Arrival(begun));
   }
 }
 
@@ -173,7 +173,7 @@ TEST(ArrivalAssembler, LineEndsThatFollowNoDocumentAreShown) {
   ArrivalAssembler assembler;
   EXPECT_EQ(Read(assembler, "\r\n"), Arrival("\r\n"));
   ASSERT_NE(Read(assembler, R"({\rtf1 a})", 100), std::nullopt);
-  EXPECT_EQ(Read(assembler, "\r\n", 2100), Arrival("\r\n")) << "long after the document";
+  EXPECT_EQ(Read(assembler, "\r\n", 20'100), Arrival("\r\n")) << "long after the document";
 }
 
 TEST(ArrivalAssembler, AllThatWaitsIsTakenWhenNothingMoreComes) {

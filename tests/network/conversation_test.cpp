@@ -1,0 +1,117 @@
+// Whole conversations over links that misbehave: every message is shown once, in order, by itself.
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <iostream>
+
+#include "network/two_machines.h"
+
+namespace verlume::network {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kLimit = 55'000;  // ms
+
+// Two hundred milliseconds either way, give or take fifty, and one frame in twenty lost.
+constexpr LinkQuality kBadLink = {.delay = 200ms, .jitter = 50ms, .loss = 0.05};
+
+class ConversationTest : public testing::Test {
+ protected:
+  void Connect(const LinkQuality& quality, std::size_t conversations) {
+    machines_.emplace(quality, kSeed);
+    for (std::size_t i = 0; i < conversations; ++i) {
+      conversations_.emplace_back(*machines_, 4000 + static_cast<int>(i));
+    }
+    for (Conversation& each : conversations_) {
+      ASSERT_TRUE(each.Connect(TwoMachines::kBobIPv4))
+          << each.Alice().Status().toStdString() << " / " << each.Bob().Status().toStdString();
+    }
+    time_.start();
+  }
+
+  void Start(const Play& play) {
+    Play each = play;
+    for (Conversation& conversation : conversations_) {
+      ++each.seed;
+      conversation.Start(each);
+    }
+  }
+
+  void ExpectAllShown() {
+    EXPECT_TRUE(WaitUntil([this] { return AreOver(); }, kLimit));
+    std::cout << time_.elapsed() << " ms, " << Cable().Account() << std::endl;
+    for (Conversation& each : conversations_) {
+      each.ExpectAllShown();
+      EXPECT_TRUE(each.Alice().IsConnected() && each.Bob().IsConnected());
+      EXPECT_EQ(each.Alice().Boxes(), QStringList());
+      EXPECT_EQ(each.Bob().Boxes().size(), 1) << "whether to accept the call";
+    }
+  }
+
+  bool AreOver() const {
+    return std::all_of(conversations_.begin(), conversations_.end(),
+                       [](const Conversation& each) { return each.IsOver(); });
+  }
+  Relay& Cable() { return machines_->Cable(); }
+
+  static constexpr std::uint64_t kSeed = 20'260'307;
+
+  std::optional<TwoMachines> machines_;
+  std::deque<Conversation> conversations_;
+  QElapsedTimer time_;
+};
+
+TEST_F(ConversationTest, EveryMessageArrivesByItselfOverAPerfectLink) {
+  ASSERT_NO_FATAL_FAILURE(Connect({}, 1));
+  Start({.steps = 200});
+  ExpectAllShown();
+}
+
+TEST_F(ConversationTest, EveryMessageArrivesByItselfOverASlowAndLossyLink) {
+  ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 4));
+  Start({.steps = 60});
+  ExpectAllShown();
+}
+
+TEST_F(ConversationTest, EveryMessageArrivesByItselfOverATelephoneLine) {
+  LinkQuality line = kBadLink;
+  line.bitsPerSecond = 56'000;
+  line.queueLimit = 32 << 10;
+  ASSERT_NO_FATAL_FAILURE(Connect(line, 1));
+  Start({.steps = 40});
+  ExpectAllShown();
+}
+
+TEST_F(ConversationTest, EveryMessageArrivesByItselfWhenTheLinkStallsForAWhile) {
+  ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 2));
+  Start({.steps = 50});
+  const auto hasBegun = [this] {
+    return conversations_.front().Bob().LinesOfOthers().size() >= 10;
+  };
+  ASSERT_TRUE(WaitUntil(hasBegun, kLimit));
+  Cable().Stall(5s);
+  ExpectAllShown();
+}
+
+TEST_F(ConversationTest, LinesThatWaitWhenTheUserClosesStillArrive) {
+  ASSERT_NO_FATAL_FAILURE(Connect({.delay = 50ms}, 1));
+  PeerProcess& alice = conversations_.front().Alice();
+  PeerProcess& bob = conversations_.front().Bob();
+  for (const char* line : {"one", "two", "three", "/CLOSE"}) alice.Enter(line);
+  ASSERT_TRUE(WaitUntil([&] { return bob.Status().endsWith(". Disconnected."); }, kLimit));
+  EXPECT_EQ(bob.LinesOfOthers(), (QStringList{"<Afirst>one", "<Afirst>two", "<Afirst>three"}));
+  EXPECT_FALSE(alice.StatusToolTip().contains("not delivered"));
+}
+
+TEST_F(ConversationTest, LinesThatCannotBeSentInTimeWhenTheUserClosesAreTold) {
+  ASSERT_NO_FATAL_FAILURE(Connect({.delay = 500ms}, 1));
+  PeerProcess& alice = conversations_.front().Alice();
+  for (int i = 0; i < 5; ++i) alice.Enter(QString("line %1").arg(i));
+  alice.Enter("/CLOSE");
+  ASSERT_TRUE(WaitUntil([&] { return alice.StatusToolTip().contains("not delivered"); }, kLimit));
+  EXPECT_TRUE(alice.Log("Bfirst").contains("not delivered"));
+}
+
+}  // namespace
+}  // namespace verlume::network

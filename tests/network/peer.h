@@ -1,0 +1,61 @@
+// The program with a user inside who does what standard input says and reports what the window
+// shows, a line each.
+//
+// Orders: "enter TEXT" types a line and presses Enter; "play SIDE SEED STEPS LONGEST LONG_LINES"
+// plays a script (script.h) as fast as it can; the end of the input ends the program. A call is
+// accepted, every other box is dismissed.
+// Reports: "ready"; "line TEXT" for each line of the dialogue pane; "lamp COLOUR", "waiting TEXT",
+// "tip TEXT" (of the status line) and "status TEXT" whenever they change; "box TEXT"; "played" at
+// a script's end.
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QPlainTextEdit>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <deque>
+#include <functional>
+
+#include "network/script.h"
+#include "platform/platform.h"
+
+namespace verlume::network {
+
+class Peer : public QObject {
+ public:
+  explicit Peer(Platform& platform);
+
+ private:
+  void ReadOrders();
+  void Obey(const QString& order);
+  void DoNext();
+  void Do(const Step& step);
+  void Enter(const QString& text);
+  void PressEnter();
+  void Look();
+  void ReportLines();
+  void AnswerBox();
+  void Report(const char* what, const QString& text);
+  // Reports a text that is no longer what it was.
+  void ReportChange(const char* what, const QString& text, QString& last);
+
+  Platform& platform_;
+  QSocketNotifier input_;
+  QByteArray unread_;
+  QPlainTextEdit* commands_ = nullptr;
+  std::deque<std::function<void()>> work_;
+  bool isBusy_ = false;
+  QTimer hands_;
+  QTimer look_;
+  std::size_t length_ = 0;  // of the dialogue pane's text
+  int ticksAtRest_ = 0;
+  std::size_t lengthReported_ = 0;
+  qsizetype linesReported_ = 0;
+  QString status_;
+  QString lamp_;
+  QString toolTip_;
+  QString waiting_;
+};
+
+}  // namespace verlume::network

@@ -1,0 +1,67 @@
+// One copy of the program, with its user (peer.h), as a process in a network of its own.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <functional>
+
+#include "network/net_namespace.h"
+#include "network/script.h"
+
+namespace verlume::network {
+
+// Lets events through until the condition holds; false when it does not within the limit.
+bool WaitUntil(const std::function<bool()>& condition, int limitMilliseconds);
+
+// To be called once, before any peer is made: their folders are in memory that goes with the
+// calling process. Throws std::system_error.
+void KeepFoldersInMemory();
+
+class PeerProcess {
+ public:
+  // Starts it in a folder of its own. `hosts` is what its machine's table of names says.
+  PeerProcess(const NetNamespace& network, char16_t side, const QString& hosts);
+  // Ends it; a test fails when it does not end well.
+  ~PeerProcess();
+
+  void Enter(const QString& line) { Order("enter " + line); }
+  void Start(const Play& play);
+
+  bool IsReady() const { return isReady_; }
+  bool HasPlayed() const { return hasPlayed_; }
+  const QString& Status() const { return status_; }
+  bool IsConnected() const { return status_.endsWith("Active connection."); }
+  const QString& Lamp() const { return lamp_; }
+  const QString& StatusToolTip() const { return toolTip_; }
+  const QString& Waiting() const { return waiting_; }
+  // Every text that told of lines that wait, one after the other.
+  const QStringList& WaitingSoFar() const { return waitingSoFar_; }
+  const QStringList& Boxes() const { return boxes_; }
+  // The lines of the dialogue pane that the user did not say.
+  const QStringList& LinesOfOthers() const { return lines_; }
+  QString Log(const QString& partner) const;
+
+ private:
+  void MakeFolder(const QString& hosts);
+  void Order(const QString& order);
+  void Read();
+  void Take(const QString& what, const QString& text);
+
+  QChar side_;
+  QTemporaryDir folder_;
+  QProcess process_;
+  QByteArray unread_;
+  bool isReady_ = false;
+  bool hasPlayed_ = false;
+  QString status_;
+  QString lamp_;
+  QString toolTip_;
+  QString waiting_;
+  QStringList waitingSoFar_;
+  QStringList boxes_;
+  QStringList lines_;
+};
+
+}  // namespace verlume::network
