@@ -30,11 +30,13 @@ class ConversationTest : public testing::Test {
     time_.start();
   }
 
+  // One after the other types all it has to say: who is busy typing reads late.
   void Start(const Play& play) {
     Play each = play;
     for (Conversation& conversation : conversations_) {
       ++each.seed;
       conversation.Start(each);
+      ASSERT_TRUE(WaitUntil([&] { return conversation.HasPlayed(); }, kLimit));
     }
   }
 
@@ -64,13 +66,13 @@ class ConversationTest : public testing::Test {
 
 TEST_F(ConversationTest, EveryMessageArrivesByItselfOverAPerfectLink) {
   ASSERT_NO_FATAL_FAILURE(Connect({}, 1));
-  Start({.steps = 200});
+  ASSERT_NO_FATAL_FAILURE(Start({.steps = 200}));
   ExpectAllShown();
 }
 
 TEST_F(ConversationTest, EveryMessageArrivesByItselfOverASlowAndLossyLink) {
   ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 4));
-  Start({.steps = 60});
+  ASSERT_NO_FATAL_FAILURE(Start({.steps = 60}));
   ExpectAllShown();
 }
 
@@ -79,13 +81,13 @@ TEST_F(ConversationTest, EveryMessageArrivesByItselfOverATelephoneLine) {
   line.bitsPerSecond = 56'000;
   line.queueLimit = 32 << 10;
   ASSERT_NO_FATAL_FAILURE(Connect(line, 1));
-  Start({.steps = 40});
+  ASSERT_NO_FATAL_FAILURE(Start({.steps = 24}));
   ExpectAllShown();
 }
 
 TEST_F(ConversationTest, EveryMessageArrivesByItselfWhenTheLinkStallsForAWhile) {
   ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 2));
-  Start({.steps = 50});
+  ASSERT_NO_FATAL_FAILURE(Start({.steps = 50}));
   const auto hasBegun = [this] {
     return conversations_.front().Bob().LinesOfOthers().size() >= 10;
   };

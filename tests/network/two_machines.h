@@ -43,6 +43,9 @@ class Conversation {
   bool Connect(const QString& host, int limitMilliseconds = 20'000);
   // Both play; Bob's play is Alice's with his name.
   void Start(Play play);
+  // Both have said all they had to say; it may still be on its way.
+  bool HasPlayed() const { return alice_->HasPlayed() && bob_->HasPlayed(); }
+  // Each has as many lines as the other has said.
   bool IsOver() const;
 
   PeerProcess& Alice() { return *alice_; }
