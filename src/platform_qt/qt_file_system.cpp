@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "platform/run_time_failure.h"
+#include "platform_qt/qt_file_replacement.h"
 #include "platform_qt/qt_file_system_posix.h"
 #include "platform_qt/qt_text.h"
 #include "richtext/code_pages.h"
@@ -68,29 +69,6 @@ std::optional<mode_t> CheckReplaceable(const std::string& path) {
   return found.st_mode & kPermissionBits;
 }
 
-// A name beside `path` that no other process uses. A file of that name is left over from a crash.
-std::string NameBeside(const std::string& path) {
-  const std::string folder = FolderOf(path);
-  return folder + "/.verlume-" + std::to_string(::getpid()) + ".new";
-}
-
-void WriteNew(const std::string& path, std::string_view bytes, std::optional<mode_t> permissions) {
-  ::unlink(path.c_str());
-  OpenFile file(path, O_WRONLY | O_CREAT | O_EXCL);
-  file.Write(bytes);
-  if (permissions) file.SetPermissions(*permissions);
-  file.Flush();
-  file.Close();
-}
-
-// Makes the new name itself last through a crash, where the system can.
-void FlushFolder(const std::string& folder) {
-  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  ::fsync(descriptor);
-  ::close(descriptor);
-}
-
 }  // namespace
 
 bool QtFileSystem::IsFolder(std::u16string_view path) const noexcept {
@@ -142,15 +120,11 @@ void QtFileSystem::ReplaceText(std::u16string_view path, std::u16string_view tex
 void QtFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes) {
   const std::string target = FollowLinks(NameOf(path));
   const std::optional<mode_t> permissions = CheckReplaceable(target);
-  const std::string fresh = NameBeside(target);
-  try {
-    WriteNew(fresh, bytes, permissions);
-    if (::rename(fresh.c_str(), target.c_str()) != 0) ThrowErrno(target);
-  } catch (const RunTimeFailure&) {
-    ::unlink(fresh.c_str());
-    throw;
-  }
-  FlushFolder(FolderOf(target));
+  FileReplacement fresh(FolderOf(target));
+  // First, so that nobody reads meanwhile who may not read the file.
+  if (permissions) fresh.File().SetPermissions(*permissions);
+  fresh.File().Write(bytes);
+  fresh.TakePlaceOf(target);
 }
 
 void QtFileSystem::AppendText(std::u16string_view path, std::u16string_view text) {

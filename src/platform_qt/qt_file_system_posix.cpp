@@ -1,6 +1,7 @@
 #include "platform_qt/qt_file_system_posix.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -100,6 +101,14 @@ void OpenFile::Append(std::string_view bytes) {
 
 void OpenFile::SetPermissions(mode_t mode) {
   if (::fchmod(descriptor_, mode) != 0) ThrowErrno(path_);
+}
+
+bool OpenFile::TryToLock() {
+  if (::flock(descriptor_, LOCK_EX | LOCK_NB) != 0) return false;
+  struct stat open;
+  struct stat named;
+  return ::fstat(descriptor_, &open) == 0 && ::lstat(path_.c_str(), &named) == 0 &&
+         open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
 void OpenFile::Flush() {

@@ -31,6 +31,9 @@ class OpenFile {
   // Writes all or, on failure, leaves the file as long as it was.
   void Append(std::string_view bytes);
   void SetPermissions(mode_t mode);
+  // Locks the file against other copies of the program until it is closed. False when one of them
+  // has it, or has taken it away from its path.
+  bool TryToLock();
   // Until the bytes are on the disk.
   void Flush();
   // Reports what the system finds wrong only now.
