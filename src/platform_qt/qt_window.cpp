@@ -14,12 +14,13 @@ QtWindow::QtWindow(QWidget* form) : QObject(form), form_(form) {
   form->installEventFilter(this);
 }
 
+// Qt takes a "[*]" out of a title, and of two such in a row one.
 void QtWindow::SetTitle(std::u16string_view title) {
-  form_->setWindowTitle(ToQt(title));
+  form_->setWindowTitle(ToQt(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
 std::u16string QtWindow::Title() const {
-  return FromQt(form_->windowTitle());
+  return FromQt(form_->windowTitle().replace(QStringLiteral("[*][*]"), QStringLiteral("[*]")));
 }
 
 void QtWindow::Show() {

@@ -63,8 +63,9 @@ TEST_F(QtMainWindowTest, ANicknameStandsInLabelTitleAndBoxAsItIs) {
       EXPECT_EQ(label->textFormat(), Qt::PlainText);
       EXPECT_EQ(QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name), text);
     }
-    view.window.SetTitle(nickname);
-    EXPECT_TRUE(form.windowHandle()->title().startsWith(text));
+    view.window.SetTitle(nickname + std::u16string(u"[*]"));
+    EXPECT_TRUE(form.windowHandle()->title().startsWith(text + "[*]"));
+    EXPECT_EQ(view.window.Title(), nickname + std::u16string(u"[*]"));
     const ModalDriver driver([&](QDialog& box) {
       const auto* shown = box.findChild<QLabel*>("qt_msgbox_label");
       EXPECT_EQ(shown->text(), text);
