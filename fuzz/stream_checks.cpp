@@ -8,8 +8,6 @@
 namespace verlume::fuzz {
 namespace {
 
-constexpr std::size_t kLongestNickname = 256;
-
 bool IsLineEnd(char byte) {
   return byte == '\r' || byte == '\n' || byte == '\0';
 }
@@ -55,7 +53,7 @@ void CheckHarmless(const FuzzedCopy& copy, std::u16string_view typed) {
     CheckLog(bytes);
   }
   Check(copy.Pane() == typed, "what the user is typing stays");
-  Check(copy.program.State().RemoteNickname.size() <= kLongestNickname, "nicknames are cut");
+  Check(copy.program.State().RemoteNickname.size() <= kNicknameLimit, "nicknames are cut");
   Check(!copy.HasEnded(), "no peer ends the program");
 }
 
