@@ -17,6 +17,7 @@ namespace verlume::qt {
 namespace {
 
 constexpr int kConnectLimit = 15000;  // ms
+constexpr int kAcceptPause = 1000;    // ms
 // What one turn of the event loop reads at most: a peer that floods is slowed down by TCP, and the
 // windows stay responsive.
 constexpr qint64 kLargestRead = 256 << 10;
@@ -43,6 +44,10 @@ QtSocket::QtSocket(std::int64_t patienceForTheRest) : patienceForTheRest_(patien
   server_.setMaxPendingConnections(1);
   connect(&server_, &QTcpServer::newConnection, this,
           [this] { Post(&QtSocket::RaiseConnectionRequest); });
+  // The system was out of descriptors or memory: the server has stopped, the caller still waits.
+  connect(&server_, &QTcpServer::acceptError, this, [this] { acceptPause_.start(kAcceptPause); });
+  acceptPause_.setSingleShot(true);
+  connect(&acceptPause_, &QTimer::timeout, &server_, &QTcpServer::resumeAccepting);
   patience_.setSingleShot(true);
   patience_.setTimerType(Qt::PreciseTimer);
   connect(&patience_, &QTimer::timeout, this,
@@ -118,6 +123,9 @@ void QtSocket::Listen() {
 void QtSocket::RaiseConnectionRequest() {
   QTcpSocket* socket = server_.nextPendingConnection();
   if (!socket) return;
+  // Who has cut the connection before it was taken has no address, and nobody is there to be asked
+  // about. The server goes on to the next one.
+  if (socket->peerAddress().isNull()) return socket->deleteLater();
   server_.pauseAccepting();
   socket->setParent(this);
   socket->setReadBufferSize(kLargestRead);
@@ -184,6 +192,7 @@ void QtSocket::RaiseAcknowledged() {
 }
 
 void QtSocket::Read() {
+  if (!socket_->isOpen()) return;  // cut, with all that had not been read
   const QByteArray bytes = socket_->read(kLargestRead);
   AcknowledgeAtOnce(*socket_);
   assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
@@ -194,7 +203,7 @@ void QtSocket::Read() {
 void QtSocket::Finish() {
   if (socket_->state() != QAbstractSocket::UnconnectedState) return;
   Post(&QtSocket::Lose);
-  const QByteArray bytes = socket_->readAll();
+  const QByteArray bytes = socket_->isOpen() ? socket_->readAll() : QByteArray();
   assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
   RaiseArrival(assembler_.TakeAll());
 }
@@ -228,6 +237,7 @@ void QtSocket::Close() {
   assembler_ = ArrivalAssembler(patienceForTheRest_);
   patience_.stop();
   connectLimit_.stop();
+  acceptPause_.stop();
   server_.close();
   Release();
   // The caller that is being asked about is kept for an Accept that follows at once.

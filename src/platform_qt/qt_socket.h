@@ -90,6 +90,7 @@ class QtSocket : public QObject, public Socket {
   QElapsedTimer clock_;
   QTimer patience_;      // for the rest of a document
   QTimer connectLimit_;  // for a call to be answered
+  QTimer acceptPause_;   // after a caller that could not be taken
 };
 
 }  // namespace verlume::qt

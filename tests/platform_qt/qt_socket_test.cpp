@@ -8,35 +8,7 @@
 #include "platform/socket_contract.h"
 #include "platform_qt/qt_socket_address.h"
 #include "platform_qt/qt_text.h"
-
-namespace verlume::qt {
-namespace {
-
-constexpr int kLimit = 10000;  // ms
-
-template <class Condition>
-bool WaitFor(Condition condition) {
-  return QTest::qWaitFor(condition, kLimit);
-}
-
-class QtWorld {
- public:
-  Socket& New() {
-    sockets_.push_back(std::make_unique<QtSocket>());
-    return *sockets_.back();
-  }
-  std::u16string Host() const { return u"127.0.0.1"; }
-  template <class Condition>
-  bool Wait(Condition condition) {
-    return WaitFor(condition);
-  }
-
- private:
-  std::vector<std::unique_ptr<QtSocket>> sockets_;
-};
-
-}  // namespace
-}  // namespace verlume::qt
+#include "platform_qt/qt_world.h"
 
 namespace verlume {
 INSTANTIATE_TYPED_TEST_SUITE_P(QtSocket, SocketContract, qt::QtWorld);
