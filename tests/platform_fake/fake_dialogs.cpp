@@ -40,6 +40,7 @@ std::u16string FakeDialogs::AskText(std::u16string_view prompt, std::u16string_v
 
 FileChoice FakeCommonDialog::ShowOpen(const FileChoice& start) {
   filesShown.push_back(start);
+  if (whileOpen) whileOpen();
   return TakeChoice(files, "a file dialog");
 }
 
@@ -50,17 +51,20 @@ FileChoice FakeCommonDialog::ShowSave(const FileChoice& start) {
 std::u16string FakeCommonDialog::ChooseFolder(std::u16string_view title,
                                               std::u16string_view initialFolder) {
   foldersShown.push_back({std::u16string(title), std::u16string(initialFolder)});
+  if (whileOpen) whileOpen();
   return TakeChoice(folders, "a folder dialog");
 }
 
 Color FakeCommonDialog::ShowColor(Color start) {
   colorsShown.push_back(start);
+  if (whileOpen) whileOpen();
   return TakeChoice(colors, "a colour dialog");
 }
 
 FontChoice FakeCommonDialog::ShowFont(const FontChoice& start, double minimumSize,
                                       double maximumSize) {
   fontsShown.push_back({start, minimumSize, maximumSize});
+  if (whileOpen) whileOpen();
   return TakeChoice(fonts, "a font dialog");
 }
 

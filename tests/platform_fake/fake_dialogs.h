@@ -51,6 +51,8 @@ class FakeCommonDialog : public CommonDialog {
   std::deque<std::optional<std::u16string>> folders;
   std::deque<std::optional<Color>> colors;
   std::deque<std::optional<FontChoice>> fonts;
+  // Called while each dialog is open, before it is answered.
+  std::function<void()> whileOpen;
 
   // What was shown.
   std::vector<FileChoice> filesShown;

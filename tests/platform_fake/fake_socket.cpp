@@ -44,6 +44,7 @@ void FakeSocket::Listen() {
 
 void FakeSocket::Connect() {
   state_ = SocketState::Connecting;
+  early_.clear();
   localPort_ = network_.nextPort_++;
   Post([this] {
     const auto listener = network_.listeners_.find(remotePort_);
@@ -78,10 +79,7 @@ void FakeSocket::Accept(std::int64_t requestId) {
   remotePort_ = caller->localPort_;
   caller->peer_ = this;
   state_ = SocketState::Connected;
-  for (const std::u16string& text : std::exchange(caller->sent, {})) {
-    caller->sent.push_back(text);
-    Arrive(text);
-  }
+  for (const std::u16string& text : std::exchange(caller->early_, {})) Arrive(text);
 }
 
 // As on a real machine, closing a listener refuses the callers behind the one being asked about;
@@ -139,8 +137,11 @@ void FakeSocket::SendData(std::u16string_view text, TextKind kind) {
 }
 
 void FakeSocket::Deliver(const std::u16string& text) {
+  const std::u16string received = richtext::DecodeGreek(richtext::EncodeGreek(text));
   if (peer_ && peer_->peer_ == this) {
-    peer_->Arrive(richtext::DecodeGreek(richtext::EncodeGreek(text)));
+    peer_->Arrive(received);
+  } else {
+    early_.push_back(received);
   }
 }
 

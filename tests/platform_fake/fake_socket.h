@@ -85,11 +85,12 @@ class FakeSocket : public Socket {
   std::int32_t remotePort_ = 0;
   std::u16string remoteHostIP_;
   FakeSocket* peer_ = nullptr;
-  std::deque<FakeSocket*> callers_;  // of a listener: those that wait to be accepted
-  std::int64_t request_ = 0;         // the caller being asked about, 0 for none
-  FakeSocket* pending_ = nullptr;    // that caller, until it leaves
-  std::deque<Text> waiting_;         // while the network is cut
-  std::size_t undelivered_ = 0;      // lines of ended connections, still to be told of
+  std::deque<FakeSocket*> callers_;    // of a listener: those that wait to be accepted
+  std::int64_t request_ = 0;           // the caller being asked about, 0 for none
+  FakeSocket* pending_ = nullptr;      // that caller, until it leaves
+  std::vector<std::u16string> early_;  // sent before the call was answered
+  std::deque<Text> waiting_;           // while the network is cut
+  std::size_t undelivered_ = 0;        // lines of ended connections, still to be told of
   std::u16string unread_;
   std::u16string arrival_;
   int generation_ = 0;  // events of an earlier connection are dropped

@@ -1,0 +1,9 @@
+#include "platform/callers_contract.h"
+
+#include "platform/fake_world.h"
+
+namespace verlume {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeSocket, CallersContract, fake::FakeWorld);
+
+}  // namespace verlume

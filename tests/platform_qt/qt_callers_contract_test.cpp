@@ -1,0 +1,8 @@
+#include "platform/callers_contract.h"
+#include "platform_qt/qt_world.h"
+
+namespace verlume {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(QtSocket, CallersContract, qt::QtWorld);
+
+}  // namespace verlume
