@@ -31,6 +31,9 @@ class QtPlatform {
   // Handles events until the program ends; the process's exit status.
   int Run() { return application_.Run(); }
 
+  // Whether the end of the QApplication would have to wait for the system to look up a host name.
+  bool IsLookingUp() const { return socket_.IsLookingUp(); }
+
  private:
   QtFileSystem files_;
   QtClock clock_;

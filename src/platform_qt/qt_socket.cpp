@@ -1,7 +1,9 @@
 #include "platform_qt/qt_socket.h"
 
+#include <QCoreApplication>
 #include <QHostInfo>
 #include <QNetworkProxy>
+#include <QPointer>
 #include <QRandomGenerator>
 #include <algorithm>
 #include <utility>
@@ -169,7 +171,29 @@ void QtSocket::Connect() {
   });
   Hold(socket);
   connectLimit_.start(kConnectLimit);
-  socket->connectToHost(host, static_cast<quint16>(remotePort_));
+  if (QHostAddress(host).isNull()) {
+    LookUp(host);
+  } else {
+    socket->connectToHost(host, static_cast<quint16>(remotePort_));
+  }
+}
+
+// The socket could do it itself, but would not tell how long the system is busy with it. What is
+// found it finds in Qt's cache. The application receives the answer: Qt forgets to free what
+// belongs to a receiver that has gone meanwhile.
+void QtSocket::LookUp(const QString& host) {
+  ++lookUps_;
+  const auto take = [socket = QPointer(this), generation = generation_](const QHostInfo& found) {
+    if (socket) socket->TakeLookUp(found, generation);
+  };
+  QHostInfo::lookupHost(host, QCoreApplication::instance(), take);
+}
+
+void QtSocket::TakeLookUp(const QHostInfo& found, std::uint64_t generation) {
+  --lookUps_;
+  if (generation != generation_) return;
+  if (found.error() != QHostInfo::NoError) return Post(&QtSocket::Lose);
+  socket_->connectToHost(found.hostName(), static_cast<quint16>(remotePort_));
 }
 
 void QtSocket::RaiseConnect() {

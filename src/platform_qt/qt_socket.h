@@ -14,6 +14,8 @@
 #include "platform_qt/arrival_assembler.h"
 #include "platform_qt/qt_sender.h"
 
+class QHostInfo;
+
 namespace verlume::qt {
 
 class QtSocket : public QObject, public Socket {
@@ -41,6 +43,10 @@ class QtSocket : public QObject, public Socket {
   void FinishSending() override;
   std::u16string GetData() override;
 
+  // Whether the system is still busy with the name of a host, be the call cancelled or not. It
+  // cannot be stopped, and the end of the application waits for it.
+  bool IsLookingUp() const { return lookUps_ > 0; }
+
  private:
   // Who is at the other end, or asks to be.
   struct Peer {
@@ -57,6 +63,8 @@ class QtSocket : public QObject, public Socket {
 
   // Runs a step from the event loop, unless the connection has ended by then.
   void Post(void (QtSocket::*step)());
+  void LookUp(const QString& host);
+  void TakeLookUp(const QHostInfo& found, std::uint64_t generation);
   void Hold(QTcpSocket* socket);
   void Release();
   void DropCaller();
@@ -77,6 +85,7 @@ class QtSocket : public QObject, public Socket {
   Caller caller_;                 // the one that is being asked about
   Peer peer_;
   std::int64_t lastRequest_ = 0;
+  int lookUps_ = 0;  // under way
 
   SocketState state_ = SocketState::Closed;
   std::uint64_t generation_ = 0;

@@ -288,6 +288,24 @@ TEST_F(QtSocketCallTest, AMisshapenNameCloses) {
   ExpectClose(u"\xD800 ..\x01 αβγ" + std::u16string(400, u'x'), 1000);
 }
 
+TEST_F(QtSocketCallTest, ACancelledLookUpIsKnownUntilTheSystemHasAnswered) {
+  socket.SetRemoteHost(u"nobody.invalid");
+  socket.SetRemotePort(1000);
+  socket.Connect();
+  EXPECT_TRUE(socket.IsLookingUp());
+  socket.Close();
+  EXPECT_TRUE(socket.IsLookingUp());
+  EXPECT_TRUE(WaitFor([&] { return !socket.IsLookingUp(); }));
+  EXPECT_EQ(user.Events(), 0u);
+}
+
+TEST_F(QtSocketCallTest, AnAddressIsNotLookedUp) {
+  socket.SetRemoteHost(u"[::1]");
+  socket.SetRemotePort(1000);
+  socket.Connect();
+  EXPECT_FALSE(socket.IsLookingUp());
+}
+
 TEST(QtSocketListening, APortBeyondTheLastOneFails) {
   QtSocket socket;
   socket.SetLocalPort(65536);
