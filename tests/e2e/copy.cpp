@@ -50,6 +50,11 @@ bool WaitUntil(const std::function<bool()>& condition, int limitMilliseconds) {
   return true;
 }
 
+QString NextPort() {
+  static int port = 20000 + static_cast<int>(QCoreApplication::applicationPid() % 10000);
+  return QString::number(port++);
+}
+
 Copy::Copy(const QString& nickname, bool isGreek) {
   const QDir folder(folder_.path());
   folder.mkdir("macros");
@@ -144,15 +149,34 @@ bool Copy::TypeInto(const QString& title, const QString& text) {
 
 void Copy::ClickAt(double across, double down) {
   Activate();
-  int width = 0;
-  int height = 0;
+  const QSize size = Size();
+  ClickAtPixel(int(size.width() * across), int(size.height() * down));
+}
+
+void Copy::ClickCloseBox() {
+  constexpr int kFromTheRight = 8;
+  constexpr int kAboveTheWindow = 10;
+  ClickAtPixel(Size().width() - kFromTheRight, -kAboveTheWindow);
+}
+
+void Copy::Kill() {
+  program_.kill();
+  program_.waitForFinished(5000);
+}
+
+QSize Copy::Size() const {
+  QSize size;
   for (const QString& line :
        Run("xdotool", {"getwindowgeometry", "--shell", window_}).split('\n')) {
-    if (line.startsWith("WIDTH=")) width = line.mid(6).toInt();
-    if (line.startsWith("HEIGHT=")) height = line.mid(7).toInt();
+    if (line.startsWith("WIDTH=")) size.setWidth(line.mid(6).toInt());
+    if (line.startsWith("HEIGHT=")) size.setHeight(line.mid(7).toInt());
   }
-  Run("xdotool", {"mousemove", "--window", window_, QString::number(int(width * across)),
-                  QString::number(int(height * down)), "click", "1"});
+  return size;
+}
+
+void Copy::ClickAtPixel(int x, int y) {
+  Run("xdotool", {"mousemove", "--window", window_, "--", QString::number(x), QString::number(y),
+                  "click", "1"});
 }
 
 QString Copy::Dialogue() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QProcess>
+#include <QSize>
 #include <QString>
 #include <QTemporaryDir>
 #include <functional>
@@ -11,6 +12,9 @@ namespace verlume::e2e {
 
 // Calls `condition` until it holds; false when it does not within the limit.
 bool WaitUntil(const std::function<bool()>& condition, int limitMilliseconds = 20000);
+
+// A port of this machine that is free, most likely; another one each time.
+QString NextPort();
 
 class Copy {
  public:
@@ -51,12 +55,17 @@ class Copy {
   QString Settings() const;
   QString Macro(const QString& name) const;  // the rich text of its file
   const QString& Window() const { return window_; }
+  // Clicks on the close box that the window manager has put into the window's title bar.
+  void ClickCloseBox();
+  void Kill();  // at once, without a word
   bool HasEnded() { return program_.state() == QProcess::NotRunning; }
   bool WaitForEnd() { return program_.waitForFinished(10000); }
   int ExitCode() const { return program_.exitCode(); }
 
  private:
   QString FindWindow(const QString& title) const;
+  QSize Size() const;
+  void ClickAtPixel(int x, int y);  // of the window, whatever lies over it
 
   QTemporaryDir folder_;
   QProcess program_;

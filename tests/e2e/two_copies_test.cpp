@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QProcess>
 #include <QTcpSocket>
 
@@ -8,12 +7,6 @@
 
 namespace verlume::e2e {
 namespace {
-
-// A port of this machine that is free, most likely; each test takes another.
-QString NextPort() {
-  static int port = 20000 + static_cast<int>(QCoreApplication::applicationPid() % 10000);
-  return QString::number(port++);
-}
 
 class TwoCopies : public testing::Test {
  protected:
