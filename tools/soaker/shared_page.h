@@ -1,0 +1,23 @@
+// What the two copies tell each other beside the program, in memory that both have mapped: so each
+// knows how many of its lines the other has shown, and sends no more than that allows.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+
+namespace verlume::soak {
+
+struct SharedPage {
+  struct Side {
+    std::atomic<std::uint64_t> linesSent;
+    std::atomic<std::uint64_t> peersLinesShown;
+    std::atomic<std::uint64_t> peersNicknameShown;  // the number in it
+    std::atomic<bool> isQuiet;                      // has seen that the conversation closes
+  };
+  Side sides[2];
+  // Nobody begins another line: the conversation is about to be closed, or the soak is over.
+  std::atomic<bool> isClosing;
+  std::atomic<bool> isOver;
+};
+
+}  // namespace verlume::soak
