@@ -10,8 +10,20 @@
 #include "platform_qt/qt_text.h"
 #include "platform_qt/qt_world.h"
 
+namespace verlume::qt {
+namespace {
+
+class QtIPv6World : public QtWorld {
+ public:
+  std::u16string Host() const { return u"::1"; }
+};
+
+}  // namespace
+}  // namespace verlume::qt
+
 namespace verlume {
 INSTANTIATE_TYPED_TEST_SUITE_P(QtSocket, SocketContract, qt::QtWorld);
+INSTANTIATE_TYPED_TEST_SUITE_P(QtSocketOverIPv6, SocketContract, qt::QtIPv6World);
 }  // namespace verlume
 
 namespace verlume::qt {
