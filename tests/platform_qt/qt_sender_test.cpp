@@ -5,20 +5,16 @@
 #include <netinet/tcp.h>
 #include <sys/socket.h>
 
+#include <QElapsedTimer>
 #include <QTcpServer>
-#include <QTest>
 
 #include "platform_qt/qt_socket.h"
+#include "platform_qt/qt_world.h"
 
 namespace verlume::qt {
 namespace {
 
 using testing::ElementsAre;
-
-template <class Condition>
-bool WaitFor(Condition condition) {
-  return QTest::qWaitFor(condition, 10000);
-}
 
 // A socket that has called a plain peer, which reads at once or not at all.
 class QtSenderTest : public testing::Test {
@@ -83,7 +79,7 @@ TEST_F(QtSenderTest, ALineWaitsUntilThePeersMachineHasAllOfIt) {
   socket.SendData(u"second", TextKind::Line);
   socket.SendData(u"my name", TextKind::Signal);
   EXPECT_EQ(socket.LinesWaiting(), 2u);
-  QTest::qWait(100);
+  ASSERT_TRUE(WaitFor([&] { return peer->bytesAvailable() == 1; }));
   EXPECT_EQ(socket.LinesWaiting(), 2u);
   peer->setReadBufferSize(0);
   PeerReads();
