@@ -1,8 +1,10 @@
 // Whole conversations over links that misbehave: every message is shown once, in order, by itself.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <deque>
 #include <iostream>
+#include <optional>
 
 #include "network/two_machines.h"
 
@@ -72,7 +74,7 @@ TEST_F(ConversationTest, EveryMessageArrivesByItselfOverAPerfectLink) {
 
 TEST_F(ConversationTest, EveryMessageArrivesByItselfOverASlowAndLossyLink) {
   ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 4));
-  ASSERT_NO_FATAL_FAILURE(Start({.steps = 60}));
+  ASSERT_NO_FATAL_FAILURE(Start({.steps = 50}));
   ExpectAllShown();
 }
 
@@ -87,7 +89,7 @@ TEST_F(ConversationTest, EveryMessageArrivesByItselfOverATelephoneLine) {
 
 TEST_F(ConversationTest, EveryMessageArrivesByItselfWhenTheLinkStallsForAWhile) {
   ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 2));
-  ASSERT_NO_FATAL_FAILURE(Start({.steps = 50}));
+  ASSERT_NO_FATAL_FAILURE(Start({.steps = 40}));
   const auto hasBegun = [this] {
     return conversations_.front().Bob().LinesOfOthers().size() >= 10;
   };

@@ -69,8 +69,12 @@ class QtSocketConversationTest : public testing::Test {
   void ExpectEachMessageByItself() {
     const auto toCallee = MixedMessages(1, 150);
     const auto toCaller = MixedMessages(2, 150);
-    for (const auto& message : toCallee) caller.socket.SendData(message, TextKind::Line);
-    for (const auto& message : toCaller) callee.socket.SendData(message, TextKind::Line);
+    for (std::size_t i = 0; i < toCallee.size(); ++i) {
+      caller.socket.SendData(toCallee[i], TextKind::Line);
+      callee.socket.SendData(toCaller[i], TextKind::Line);
+      // Both live in this thread: who sends without end keeps the other from reading.
+      QCoreApplication::processEvents();
+    }
     EXPECT_TRUE(QTest::qWaitFor(
         [&] {
           return callee.texts.size() >= toCallee.size() && caller.texts.size() >= toCaller.size();
