@@ -2,13 +2,15 @@
 #pragma once
 
 #include <arpa/inet.h>
+#include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <QDir>
-#include <QTest>
+#include <cerrno>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace verlume::qt {

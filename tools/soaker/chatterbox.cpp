@@ -16,7 +16,7 @@
 namespace verlume::soak {
 namespace {
 
-constexpr int kStep = 1;                     // ms
+constexpr int kStep = 5;                     // ms
 constexpr std::uint64_t kMostInFlight = 20;  // lines that the peer has not shown
 constexpr int kPatience = 60'000;            // ms without any progress
 
