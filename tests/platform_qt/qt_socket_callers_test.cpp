@@ -268,12 +268,13 @@ class NoDescriptors {
 };
 
 TEST_F(QtSocketCallers, OneThatCouldNotBeTakenIsAskedAboutLater) {
+  // Sanitizers need descriptors of their own when they meet a class for the first time.
+  WakesWhileNothingHappens();
   RawPeer peer(port);
   {
     const NoDescriptors none;
-    QTest::qWait(50);
-    EXPECT_EQ(user.Events(), 0u);
     EXPECT_LE(WakesWhileNothingHappens(), 10) << "it is no busy loop";
+    EXPECT_EQ(user.Events(), 0u);
   }
   EXPECT_TRUE(WaitForRequest());
 }
