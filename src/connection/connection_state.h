@@ -13,8 +13,8 @@ ConnectionState StateOf(const AppState& state);
 // Sets the flags; the state that is left needs nothing else.
 void EnterState(AppState& state, ConnectionState entered);
 
-// Back to Idle from wherever: clears the flags, lblLocalPort, lblRemoteIP and lblRemotePort, turns
-// the lamp red and closes the socket.
+// Back to Idle from wherever: clears the flags, lblLocalPort, lblRemoteIP, lblRemotePort and
+// lblWaiting, turns the lamp red and closes the socket, which still sends what waits.
 void ResetConnection(AppState& state, Platform& platform);
 
 }  // namespace verlume
