@@ -1,8 +1,10 @@
 // Finds the end of one RTF document in a stream of bytes.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace verlume::richtext {
 
@@ -12,6 +14,16 @@ class DocumentScan {
  public:
   // True when `byte` closes the document.
   bool Feed(char byte);
+
+  // How many of the next bytes tell nothing: they need not be fed.
+  template <typename Ch>
+  std::size_t Skippable(std::basic_string_view<Ch> next) const {
+    if (in_ != In::Text) return 0;
+    const auto end = std::find_if(next.begin(), next.end(), [](Ch character) {
+      return character == '\\' || character == '{' || character == '}';
+    });
+    return static_cast<std::size_t>(end - next.begin());
+  }
 
  private:
   enum class In { Text, Escape, Word, Parameter, Data };

@@ -238,8 +238,8 @@ Color RtfContent::ColorOf(int number) const {
   return number >= 0 && place < colors_.size() ? colors_[place] : kAutomaticColor;
 }
 
-Document RtfContent::Finish() {
-  Document document = builder_.Finish();
+Document RtfContent::TakePart() {
+  Document document = builder_.TakePart();
   fonts_.GiveFontsTo(document);
   return document;
 }

@@ -60,10 +60,13 @@ class RtfContent {
   // be passed over.
   bool OpenTable(Destination table);
 
+  bool EndsInsidePair() const { return builder_.EndsInsidePair(); }
+
   int FallbackCount() const { return state_.fallbackCount; }
   bool IsUtf8() const { return utf8_; }  // the document declares its bytes as UTF-8
 
-  Document Finish();
+  // What has been read since the last part.
+  Document TakePart();
 
  private:
   bool InBody() const { return state_.destination == Destination::kBody; }

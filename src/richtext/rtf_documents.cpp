@@ -14,6 +14,8 @@ constexpr std::u16string_view kStart = u"{\\rtf";
 std::size_t LengthOfDocument(std::u16string_view text) {
   DocumentScan scan;
   for (std::size_t i = kStart.size(); i < text.size(); ++i) {
+    i += scan.Skippable(text.substr(i));
+    if (i == text.size()) break;
     // What is not ASCII is neither a brace nor part of a control word.
     if (scan.Feed(text[i] < 0x80 ? static_cast<char>(text[i]) : '?')) return i + 1;
   }

@@ -19,12 +19,13 @@ constexpr char16_t kReplacement = 0xFFFD;
 }  // namespace
 
 template <typename Ch>
-RtfParser<Ch>::RtfParser(const Ch* begin, const Ch* end)
-    : tokens_(begin, end), content_(static_cast<std::size_t>(end - begin) / 2) {}
+RtfParser<Ch>::RtfParser(const Ch* begin, const Ch* end, std::size_t expectedLength)
+    : partEnd_(begin), tokens_(begin, end), content_(expectedLength) {}
 
 template <typename Ch>
-Document RtfParser<Ch>::Parse() {
-  while (!tokens_.AtEnd() && !content_.Ended()) {
+Document RtfParser<Ch>::ParsePart(std::size_t length) {
+  partEnd_ = tokens_.At() + std::min(length, tokens_.Left());
+  while (!IsDone() && (tokens_.At() < partEnd_ || content_.EndsInsidePair())) {
     switch (tokens_.Peek()) {
       case '{':
       case '}':
@@ -42,7 +43,7 @@ Document RtfParser<Ch>::Parse() {
         ReadText();
     }
   }
-  return content_.Finish();
+  return content_.TakePart();
 }
 
 template <typename Ch>
@@ -60,7 +61,8 @@ void RtfParser<Ch>::ReadBrace() {
 template <typename Ch>
 void RtfParser<Ch>::ReadText() {
   const Ch* begin = tokens_.At();
-  const Ch* end = tokens_.FindTextEnd();
+  // Where a part ends inside a pair, one more unit.
+  const Ch* end = tokens_.FindTextEnd(std::max(partEnd_, begin + 1));
   if (begin == end) return ReadUpperByte();
   if (fallbackLeft_ != 0) {
     const auto skipped = std::min<std::ptrdiff_t>(fallbackLeft_, end - begin);

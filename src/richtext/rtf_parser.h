@@ -7,13 +7,18 @@
 
 namespace verlume::richtext {
 
-// Reads a document of characters (char16_t) or bytes (char). For use once.
+// Reads a document of characters (char16_t) or bytes (char). For use once. What a document says of
+// its fonts counts for the parts that come behind.
 template <typename Ch>
 class RtfParser {
  public:
-  RtfParser(const Ch* begin, const Ch* end);
+  // `expectedLength` of a part's text.
+  RtfParser(const Ch* begin, const Ch* end, std::size_t expectedLength);
 
-  Document Parse();
+  // Reads on, about so many characters of RTF, and gives what they hold.
+  Document ParsePart(std::size_t length);
+  // Whether all has been read, or nothing that comes belongs to the document.
+  bool IsDone() const { return tokens_.AtEnd() || content_.Ended(); }
 
  private:
   void ReadBrace();
@@ -36,6 +41,7 @@ class RtfParser {
   bool TryEmitUtf8(unsigned char first);
   bool SkipFallback();
 
+  const Ch* partEnd_;  // of the RTF that is read now
   RtfTokens<Ch> tokens_;
   RtfContent content_;
   int fallbackLeft_ = 0;  // characters still to be passed over behind \u

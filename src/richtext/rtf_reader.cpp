@@ -8,7 +8,21 @@
 namespace verlume::richtext {
 namespace {
 
-// One format over the whole text; CR LF and CR become line feeds.
+template <typename Ch>
+Document ReadMarkup(std::basic_string_view<Ch> rtf) {
+  RtfParser<Ch> parser(rtf.data(), rtf.data() + rtf.size(), rtf.size() / 2);
+  return parser.ParsePart(rtf.size());
+}
+
+}  // namespace
+
+bool LooksLikeRtf(std::u16string_view text) {
+  return text.starts_with(u"{\\rtf");
+}
+bool LooksLikeRtf(std::string_view bytes) {
+  return bytes.starts_with("{\\rtf");
+}
+
 Document ReadPlainText(std::u16string_view text) {
   Document document;
   document.text.reserve(text.size());
@@ -21,20 +35,6 @@ Document ReadPlainText(std::u16string_view text) {
   document.runs.push_back({document.text.size(), {}});
   document.fonts.emplace_back();
   return document;
-}
-
-template <typename Ch>
-Document ReadMarkup(std::basic_string_view<Ch> rtf) {
-  return RtfParser<Ch>(rtf.data(), rtf.data() + rtf.size()).Parse();
-}
-
-}  // namespace
-
-bool LooksLikeRtf(std::u16string_view text) {
-  return text.starts_with(u"{\\rtf");
-}
-bool LooksLikeRtf(std::string_view bytes) {
-  return bytes.starts_with("{\\rtf");
 }
 
 Document ReadRtf(std::u16string_view rtf) {

@@ -12,9 +12,12 @@ namespace verlume::richtext {
 bool LooksLikeRtf(std::u16string_view text);
 bool LooksLikeRtf(std::string_view bytes);
 
+// One run in RTF's default format; the line breaks (CR LF, CR, LF) are u'\n'.
+Document ReadPlainText(std::u16string_view text);
+
 // Reads RTF held in a string: characters above 127 stand for themselves. Text that does not look
-// like RTF is plain text: one run in RTF's default format, its line breaks (CR LF, CR, LF) as
-// u'\n'. The last \par of a document ends its last paragraph and adds no empty line.
+// like RTF is plain text. The last \par of a document ends its last paragraph and adds no empty
+// line.
 Document ReadRtf(std::u16string_view rtf);
 
 // The same for the bytes of a file: a byte above 127 is read in the code page of the font in

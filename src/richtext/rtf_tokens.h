@@ -40,10 +40,11 @@ class RtfTokens {
   static constexpr bool IsLetter(Ch character) { return IsAsciiLetter(character); }
   static constexpr bool IsDigit(Ch character) { return Value(character) - '0' < 10u; }
 
-  // The end of the text that begins here. Bytes above 127 end it: they have to be decoded.
-  const Ch* FindTextEnd() const {
+  // The end of the text that begins here, as far as `last`. Bytes above 127 end it: they have to be
+  // decoded.
+  const Ch* FindTextEnd(const Ch* last) const {
     const Ch* place = at_;
-    while (place != end_ && IsText(*place)) ++place;
+    while (place != last && IsText(*place)) ++place;
     return place;
   }
 

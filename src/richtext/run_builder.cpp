@@ -15,14 +15,22 @@ void RunBuilder::EndParagraph() {
   paragraphEnd_ = text_.size();
 }
 
-Document RunBuilder::Finish() {
+Document RunBuilder::TakePart() {
   CloseRun();
-  const bool endsWithParagraph = paragraphEnd_ != 0 && paragraphEnd_ == text_.size();
-  if (endsWithParagraph) {
-    text_.pop_back();
-    if (--runs_.back().length == 0) runs_.pop_back();
-  }
-  return {std::move(text_), std::move(runs_), {}};
+  Document part{std::exchange(text_, {}), std::exchange(runs_, {}), {}};
+  runStart_ = 0;
+  const bool endsWithParagraph = std::exchange(paragraphEnd_, 0) == part.text.size();
+  if (endsWithParagraph && !part.text.empty()) KeepParagraphEnd(part);
+  return part;
+}
+
+void RunBuilder::KeepParagraphEnd(Document& part) {
+  Run& last = part.runs.back();
+  EndParagraph();
+  runs_.push_back({1, last.format});
+  runStart_ = 1;
+  part.text.pop_back();
+  if (--last.length == 0) part.runs.pop_back();
 }
 
 void RunBuilder::CloseRun() {

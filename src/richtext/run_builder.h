@@ -29,14 +29,19 @@ class RunBuilder {
     std::copy(begin, end, text_.begin() + static_cast<std::ptrdiff_t>(length));
   }
 
+  // Whether a character is half there: its other unit comes next, if it comes at all.
+  bool EndsInsidePair() const { return !text_.empty() && (text_.back() & 0xFC00) == 0xD800; }
+
   // Appends a line break that ends a paragraph: the last one of the document adds no empty line.
   void EndParagraph();
 
-  // The text and the runs, of which neighbours may still be equal; the fonts are left empty.
-  Document Finish();
+  // The text and the runs since the last part, of which neighbours may still be equal; the fonts
+  // are left empty. A paragraph's end that nothing follows yet waits for the next part.
+  Document TakePart();
 
  private:
   void CloseRun();
+  void KeepParagraphEnd(Document& part);
 
   std::u16string text_;
   std::vector<Run> runs_;

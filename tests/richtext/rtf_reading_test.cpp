@@ -1,0 +1,84 @@
+#include "richtext/rtf_reading.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "richtext/document_dump.h"
+#include "richtext/rtf_reader.h"
+
+namespace verlume::richtext {
+namespace {
+
+const std::u16string kHeader =
+    u"{\\rtf1\\ansi\\deff1{\\fonttbl{\\f0 A;}{\\f1\\fcharset161 B;}}{\\colortbl;\\red1;}\\fs20 ";
+
+// The parts joined as one document; fonts are told by their names.
+Document Join(std::u16string_view rtf, std::size_t length) {
+  RtfReading reading{std::u16string(rtf)};
+  Document joined;
+  while (!reading.IsDone()) {
+    const Document part = reading.Next(length);
+    joined.text += part.text;
+    for (Run run : part.runs) {
+      const Font& font = part.fonts[run.format.font];
+      const auto known = std::ranges::find(joined.fonts, font);
+      run.format.font = static_cast<std::uint16_t>(known - joined.fonts.begin());
+      if (known == joined.fonts.end()) joined.fonts.push_back(font);
+      if (!joined.runs.empty() && joined.runs.back().format == run.format) {
+        joined.runs.back().length += run.length;
+      } else {
+        joined.runs.push_back(run);
+      }
+    }
+  }
+  return joined;
+}
+
+void ExpectSameInParts(const std::u16string& rtf) {
+  const std::string whole = Dump(ReadRtf(rtf));
+  for (std::size_t length = 1; length < rtf.size() + 2; length += 1 + length / 8) {
+    EXPECT_EQ(Dump(Join(rtf, length)), whole) << "in parts of " << length;
+  }
+  std::u16string text = u"before";
+  AppendRtfText(rtf, text);
+  EXPECT_EQ(text, u"before" + ReadRtf(rtf).text);
+}
+
+TEST(RtfReading, PartsJoinedAreTheWhole) {
+  ExpectSameInParts(kHeader + u"plain {\\b bold\\i\\f0  and more} \\'e1\\'e2\\cf1 red\\tab x}");
+  ExpectSameInParts(kHeader + u"a\\par b\\par\\par c\\line\\par}");
+  ExpectSameInParts(kHeader + u"\\uc2\\u945 ??\\u946 {?}\\u947 ?? x{\\pict 00{\\x}}{\\*\\y z}w");
+  ExpectSameInParts(kHeader + u"x\\bin5 }}}}}y}behind the document");
+}
+
+TEST(RtfReading, PlainTextComesInPartsToo) {
+  ExpectSameInParts(u"a\r\nb\rc\nd\r\n\r\n");
+  ExpectSameInParts(u"plain {\\rtf1 and still plain}");
+  ExpectSameInParts(u"");
+}
+
+TEST(RtfReading, NoPairOfSurrogatesIsInTwoParts) {
+  for (const std::u16string rtf :
+       {u"{\\rtf1 \U0001F600\U0001F600}", u"{\\rtf1\\uc0\\u55357\\u56832\\u55357 \\u56832}",
+        u"\U0001F600\U0001F600"}) {
+    RtfReading reading(rtf);
+    std::u16string text;
+    while (!reading.IsDone()) {
+      const std::u16string part = reading.Next(1).text;
+      EXPECT_FALSE(part.ends_with(u'\xD83D'));
+      text += part;
+    }
+    EXPECT_EQ(text, u"\U0001F600\U0001F600");
+  }
+}
+
+TEST(RtfReading, APartIsNotMuchLongerThanItWasAskedFor) {
+  RtfReading reading(kHeader + std::u16string(1'000'000, u'x'));
+  EXPECT_LE(reading.Next(1'000).text.size(), 1'000u);
+  RtfReading plain(std::u16string(1'000'000, u'x'));
+  EXPECT_EQ(plain.Next(1'000).text.size(), 1'000u);
+}
+
+}  // namespace
+}  // namespace verlume::richtext
