@@ -36,6 +36,8 @@ void ArrivalAssembler::Add(std::string_view bytes, std::int64_t now) {
 
 void ArrivalAssembler::Scan(std::string_view bytes) {
   for (; !bytes.empty() && at_ != At::OtherText; bytes.remove_prefix(1)) {
+    if (at_ == At::Document) bytes.remove_prefix(document_.Skippable(bytes));
+    if (bytes.empty()) break;
     switch (at_) {
       case At::Start:
         Begin(bytes[0]);
@@ -60,7 +62,9 @@ void ArrivalAssembler::Scan(std::string_view bytes) {
       case At::OtherText:
         break;
     }
+    if (at_ == At::AfterDocument) whole_ = waiting_.size() - bytes.size() + 1;
   }
+  if (at_ == At::OtherText) whole_ = waiting_.size();
 }
 
 void ArrivalAssembler::Begin(char byte) {
@@ -89,14 +93,22 @@ void ArrivalAssembler::FeedOpening(char byte) {
 
 std::optional<std::string> ArrivalAssembler::Take(std::int64_t now) {
   if (waiting_.empty()) return std::nullopt;
-  const bool isWhole = at_ == At::AfterDocument || at_ == At::OtherText;
-  if (!isWhole && waiting_.size() < kLargest && now < *Deadline()) return std::nullopt;
+  if (whole_ > 0) return TakeWhole();
+  if (waiting_.size() < kLargest && now < *Deadline()) return std::nullopt;
   return TakeAll();
+}
+
+std::string ArrivalAssembler::TakeWhole() {
+  if (at_ == At::OtherText) at_ = At::Start;
+  std::string whole = std::exchange(waiting_, waiting_.substr(whole_));
+  whole.resize(std::exchange(whole_, 0));
+  return whole;
 }
 
 std::optional<std::string> ArrivalAssembler::TakeAll() {
   if (waiting_.empty()) return std::nullopt;
   if (at_ != At::AfterDocument) at_ = At::Start;
+  whole_ = 0;
   return std::exchange(waiting_, {});
 }
 

@@ -3,7 +3,7 @@
 //
 // TCP cuts a text where it likes. An RTF document (with or without the protocol marker and its kind
 // character before it) is held back until its braces are balanced; everything else is ready at
-// once.
+// once. What has come whole does not wait for what comes behind it.
 #pragma once
 
 #include <cstdint>
@@ -28,11 +28,14 @@ class ArrivalAssembler {
   // Adds what one read brought. Each byte is looked at once.
   void Add(std::string_view bytes, std::int64_t now);
 
-  // All that waits, when it is whole, overdue or too large; nothing otherwise.
+  // What waits and is whole; all that waits, when it is overdue or too large; nothing otherwise.
   std::optional<std::string> Take(std::int64_t now);
 
   // All that waits, whole or not: nothing more will come.
   std::optional<std::string> TakeAll();
+
+  // Bytes may have come meanwhile that could not be read yet: the next byte is waited for anew.
+  void StartWaitingAnew(std::int64_t now) { lastByte_ = now; }
 
   // When Take gives what waits at the latest; nothing when nothing waits.
   std::optional<std::int64_t> Deadline() const;
@@ -40,6 +43,7 @@ class ArrivalAssembler {
  private:
   enum class At { Start, Marker, Kind, Opening, Document, AfterDocument, OtherText };
 
+  std::string TakeWhole();
   void Scan(std::string_view bytes);
   void Begin(char byte);
   void FeedMarker(char byte);
@@ -47,6 +51,7 @@ class ArrivalAssembler {
 
   std::int64_t patience_;
   std::string waiting_;
+  std::size_t whole_ = 0;  // how much of it ends with a document, and with its line
   At at_ = At::Start;
   std::size_t matched_ = 0;  // bytes of the marker or of the opening seen so far
   richtext::DocumentScan document_;

@@ -92,11 +92,37 @@ TEST(ArrivalAssembler, WhatFollowsADocumentInTheSameReadBelongsToIt) {
 }
 
 TEST(ArrivalAssembler, ASecondDocumentInTheSameReadIsNotTorn) {
-  for (const std::string& between : {""s, "\r\n"s, "\r\n\0"s, kMarker + "M"}) {
+  for (const std::string& between : {""s, "\r\n"s, "\r\n\0"s}) {
     ArrivalAssembler assembler;
-    const std::string begun = R"({\rtf1 a})" + between + R"({\rtf1 {b)";
-    EXPECT_EQ(Read(assembler, begun), std::nullopt);
-    EXPECT_EQ(Read(assembler, "}}"), Arrival(begun + "}}"));
+    const std::string first = R"({\rtf1 a})" + between;
+    EXPECT_EQ(Read(assembler, first + R"({\rtf1 {b)"), Arrival(first));
+    EXPECT_EQ(Read(assembler, "}}{\\"), Arrival(R"({\rtf1 {b}})"));
+    EXPECT_EQ(Read(assembler, "rtf1 c}"), Arrival(R"({\rtf1 c})"));
+  }
+}
+
+TEST(ArrivalAssembler, AMessageBehindADocumentIsNotTorn) {
+  ArrivalAssembler assembler;
+  const std::string next = kMarker + R"(M{\rtf1 {b}})";
+  EXPECT_EQ(Read(assembler, R"({\rtf1 a})" + next.substr(0, 75)), Arrival(R"({\rtf1 a})"));
+  EXPECT_EQ(Read(assembler, next.substr(75)), Arrival(next));
+}
+
+// However a flood is cut, each of its documents comes out whole, and soon.
+TEST(ArrivalAssembler, NoDocumentWaitsForThoseBehindIt) {
+  const std::string document = R"({\rtf1 {a} line\par})";
+  std::string flood;
+  for (int i = 0; i < 1'000; ++i) flood += document;
+  for (const std::size_t length : {1u, 7u, 23u, 24u, 25u, 1'000u}) {
+    ArrivalAssembler assembler;
+    std::string out;
+    for (std::size_t at = 0; at < flood.size(); at += length) {
+      const Arrival arrival = Read(assembler, std::string_view(flood).substr(at, length));
+      out += arrival.value_or("");
+      ASSERT_EQ(out.size() % document.size(), 0u);
+      ASSERT_LT(std::min(at + length, flood.size()) - out.size(), document.size());
+    }
+    EXPECT_TRUE(out == flood) << length;
   }
 }
 
