@@ -71,7 +71,8 @@ class Socket {
   std::function<void(std::int64_t requestId)> onConnectionRequest;
   std::function<void()> onConnect;
   // One arrival. A rich text whose pieces are still on their way is held back until it is whole
-  // (20 s after its last byte or 4 MiB at most); everything else is delivered at once.
+  // (20 s after its last byte or 4 MiB at most); everything else is delivered at once. No arrival
+  // comes before the dialogue pane has taken in the one before it.
   std::function<void(std::int32_t bytesTotal)> onDataArrival;
   // The peer's machine has acknowledged lines: LinesWaiting is less than it was.
   std::function<void()> onAcknowledged;

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <QStringDecoder>
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <optional>
@@ -19,9 +20,19 @@ namespace {
 
 constexpr mode_t kPermissionBits = 07777;
 
-// A lone surrogate becomes '?'.
+// A lone surrogate becomes '?'. A long text is not held three times meanwhile.
 std::string Utf8(std::u16string_view text) {
-  return ToQt(text).toUtf8().toStdString();
+  constexpr std::size_t kPiece = 16 * 1024;
+  std::string bytes;
+  bytes.reserve(text.size());
+  while (!text.empty()) {
+    std::size_t length = std::min(kPiece, text.size());
+    if (length < text.size() && QChar::isHighSurrogate(text[length - 1])) ++length;
+    const QByteArray piece = ToQt(text.substr(0, length)).toUtf8();
+    bytes.append(piece.data(), static_cast<std::size_t>(piece.size()));
+    text.remove_prefix(length);
+  }
+  return bytes;
 }
 
 std::string NameOf(std::u16string_view path) {

@@ -5,13 +5,12 @@ namespace verlume::qt {
 QtMainWindow::QtMainWindow(FileSystem& files)
     : rtbData(form_.centralWidget(), files, Lines::Many),
       rtbCommands(form_.centralWidget(), files, Lines::Single),
-      rtbRemote(form_.centralWidget(), files, Lines::Many) {
+      rtbRemote(form_.centralWidget(), files) {
   form_.PlacePane(rtbData.widget(), "rtbData");
   form_.PlaceFindBar(rtbData.widget());
   form_.PlacePane(rtbCommands.widget(), "rtbCommands");
   form_.PlaceCompletionList(rtbCommands.widget());
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
-  rtbRemote.widget()->hide();
   rtbData.SetLocked(true);
   QFont strong;
   strong.setWeight(QFont::DemiBold);

@@ -4,6 +4,7 @@
 #include "platform/main_window.h"
 #include "platform_qt/qt_controls.h"
 #include "platform_qt/qt_find_bar.h"
+#include "platform_qt/qt_hidden_text_box.h"
 #include "platform_qt/qt_list_box.h"
 #include "platform_qt/qt_main_window_form.h"
 #include "platform_qt/qt_rich_text_box.h"
@@ -18,6 +19,7 @@ class QtMainWindow {
 
   MainWindow& View() { return view_; }
   MainForm& form() { return form_; }
+  QtRichTextBox& DialoguePane() { return rtbData; }
 
  private:
   MainForm form_;
@@ -72,7 +74,7 @@ class QtMainWindow {
 
   QtRichTextBox rtbData;
   QtRichTextBox rtbCommands;
-  QtRichTextBox rtbRemote;
+  QtHiddenTextBox rtbRemote;
 
   QtPanel fraFind{form_.Find<QWidget>("fraFind")};
   QtTextField txtFind{form_.Find<QLineEdit>("txtFind")};

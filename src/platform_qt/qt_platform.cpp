@@ -16,6 +16,9 @@ void PrepareApplication() {
 
 QtPlatform::QtPlatform() {
   QApplication::setStyle(new ReadableStyle);
+  QtRichTextBox& pane = window_.DialoguePane();
+  socket_.mustWait = [&pane] { return pane.IsTakingIn(); };
+  pane.onTakenIn = [this] { socket_.GoOn(); };
 }
 
 }  // namespace verlume::qt

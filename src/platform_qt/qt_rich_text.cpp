@@ -23,8 +23,7 @@ void VisitPieces(QTextBlock block, int from, int to, Lines lines, Visit visit) {
       const int end = std::min(piece.position() + piece.length(), to);
       if (begin < end && !visit(piece.charFormatIndex(), begin, end)) return;
     }
-    // Between the blocks of a single line there is nothing.
-    if (lines == Lines::Single) continue;
+    if (BeginsAtSeam(block.next(), lines)) continue;
     const int lineBreak = block.position() + block.length() - 1;
     if (lineBreak < from || lineBreak >= to) continue;
     if (!visit(block.next().charFormatIndex(), lineBreak, lineBreak + 1)) return;
@@ -59,9 +58,19 @@ void KeepFormatIfEmpty(QTextCursor& cursor, const QTextCharFormat& format) {
 }
 
 std::u16string SelectedText(const QTextCursor& cursor, Lines lines) {
-  QString text = cursor.selectedText();
-  if (lines == Lines::Single) return FromQt(text.remove(QChar::ParagraphSeparator));
-  return FromQt(text.replace(QChar::ParagraphSeparator, u'\n'));
+  const std::u16string text = FromQt(cursor.selectedText());
+  std::u16string joined;
+  joined.reserve(text.size());
+  const int from = cursor.selectionStart();
+  std::size_t at = 0;
+  QTextBlock block = cursor.document()->findBlock(from).next();
+  for (; block.isValid() && block.position() <= cursor.selectionEnd(); block = block.next()) {
+    const auto end = static_cast<std::size_t>(block.position() - from);
+    joined.append(text, at, end - 1 - at);
+    if (!BeginsAtSeam(block, lines)) joined += u'\n';
+    at = end;
+  }
+  return joined.append(text, at);
 }
 
 richtext::Document SelectedDocument(const QTextCursor& cursor, int charset, Lines lines) {

@@ -1,19 +1,14 @@
-// What a QTextDocument holds: its text and its formats.
-//
-// A single line is a document of several blocks when it is long, as a block is laid out as a whole:
-// nothing is between two of them, neither in the text nor in a position.
+// What a QTextDocument holds: its text and its formats. Of its seams nothing is seen here.
 #pragma once
 
 #include <QTextCursor>
 #include <string>
 
 #include "platform/rich_text_box.h"
+#include "platform_qt/qt_seams.h"
 #include "richtext/document.h"
 
 namespace verlume::qt {
-
-// Whether a box holds lines or one line, where every line break that is put in becomes a blank.
-enum class Lines { Many, Single };
 
 // The format of the selection's first character, or of the insertion point.
 QTextCharFormat FormatOfFirst(const QTextCursor& cursor);

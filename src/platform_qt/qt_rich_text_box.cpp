@@ -8,10 +8,19 @@
 #include "platform_qt/qt_text.h"
 #include "platform_qt/qt_text_format.h"
 #include "platform_qt/qt_text_loading.h"
+#include "platform_qt/qt_text_writing.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 
 namespace verlume::qt {
+
+namespace {
+
+// The length of rich text that a locked box takes at once. What is more comes in while events are
+// handled.
+constexpr std::size_t kLengthAtOnce = 8 * 1024;
+
+}  // namespace
 
 using ProgramChange = RichTextWidget::ProgramChange;
 
@@ -23,6 +32,8 @@ QtRichTextBox::QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines li
   SetLocked(false);
   Clear(OwnFormat());
   widget->SetEvents(this);
+  turnEnd_.setSingleShot(true);
+  QObject::connect(&turnEnd_, &QTimer::timeout, &turnEnd_, [this] { inThisTurn_ = 0; });
 }
 
 QtRichTextBox::~QtRichTextBox() {
@@ -43,6 +54,7 @@ richtext::Document QtRichTextBox::Content() const {
 
 void QtRichTextBox::WaitForTheRest() const {
   if (loading_) loading_->Finish();
+  for (const auto& writing : writings_) writing->Finish();
 }
 
 QTextCursor QtRichTextBox::Everything() const {
@@ -58,19 +70,11 @@ std::size_t QtRichTextBox::TextLength() const {
 }
 
 std::size_t QtRichTextBox::TextPosition(int position) const {
-  const bool counts = lines_ == Lines::Many;
-  const int blocks = counts ? 0 : widget_->document()->findBlock(position).blockNumber();
-  return static_cast<std::size_t>(position - blocks);
+  return view_->seams().TextPosition(position);
 }
 
 int QtRichTextBox::DocumentPosition(std::size_t position) const {
-  int rest = static_cast<int>(position);
-  if (lines_ == Lines::Many) return rest;
-  QTextBlock block = widget_->document()->begin();
-  for (; rest >= block.length() && block.next().isValid(); block = block.next()) {
-    rest -= block.length() - 1;
-  }
-  return block.position() + rest;
+  return view_->seams().DocumentPosition(position);
 }
 
 void QtRichTextBox::SetText(std::u16string_view text) {
@@ -96,6 +100,7 @@ void QtRichTextBox::ReplaceAll(FormattedText text) {
 void QtRichTextBox::Clear(const QTextCharFormat& format) {
   if (loading_) loading_->Abandon();
   loading_.reset();
+  if (!std::exchange(writings_, {}).empty()) NoteWritten();
   const ProgramChange change(*view_);
   widget_->document()->clear();
   QTextCursor cursor(widget_->document());
@@ -147,13 +152,46 @@ void QtRichTextBox::SetSelText(std::u16string_view text) {
 }
 
 void QtRichTextBox::SetSelRtf(std::u16string_view rtf) {
-  {
+  if (!FitsIntoThisTurn(rtf.size())) {
+    WriteByAndBy(rtf);
+  } else {
     const ProgramChange change(*view_);
     QTextCursor cursor = widget_->textCursor();
     InsertDocument(cursor, richtext::ReadRtf(rtf), lines_);
     FollowTo(cursor);
   }
   RaiseChange();
+}
+
+bool QtRichTextBox::FitsIntoThisTurn(std::size_t length) {
+  if (!Locked()) return true;
+  if (inThisTurn_ == 0) turnEnd_.start(0);
+  inThisTurn_ += length;
+  const bool isBehindOther = std::any_of(writings_.begin(), writings_.end(), [this](const auto& w) {
+    return !w->IsDone() && w->EndsAt(widget_->textCursor().position());
+  });
+  return !isBehindOther && inThisTurn_ <= kLengthAtOnce;
+}
+
+void QtRichTextBox::WriteByAndBy(std::u16string_view rtf) {
+  const QTextCursor cursor = widget_->textCursor();
+  std::erase_if(writings_, [](const auto& writing) { return writing->IsDone(); });
+  const auto same = std::find_if(writings_.begin(), writings_.end(), [&](const auto& writing) {
+    return !cursor.hasSelection() && writing->EndsAt(cursor.position());
+  });
+  if (same != writings_.end()) return (*same)->Add(rtf);
+  const ProgramChange change(*view_);
+  writings_.push_back(std::make_unique<TextWriting>(*view_, cursor, [this] { NoteWritten(); }));
+  writings_.back()->Add(rtf);
+}
+
+bool QtRichTextBox::IsTakingIn() const {
+  return std::any_of(writings_.begin(), writings_.end(),
+                     [](const auto& writing) { return !writing->IsDone(); });
+}
+
+void QtRichTextBox::NoteWritten() {
+  if (!IsTakingIn() && onTakenIn) onTakenIn();
 }
 
 void QtRichTextBox::FollowTo(const QTextCursor& cursor) {

@@ -4,7 +4,10 @@
 
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QTimer>
+#include <functional>
 #include <memory>
+#include <vector>
 
 #include "platform/file_system.h"
 #include "platform/rich_text_box.h"
@@ -16,6 +19,7 @@ namespace verlume::qt {
 
 class RichTextWidget;
 class TextLoading;
+class TextWriting;
 
 // Undo is there for the user of a single-line box that is not locked. Ground and letters are the
 // classic white and black whatever the desktop's theme.
@@ -26,6 +30,11 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   // `files` is read and written by LoadFile and SaveFile; it outlives the box.
   QtRichTextBox(QWidget* parent, FileSystem& files, Lines lines);
   ~QtRichTextBox() override;
+
+  // Whether texts that were written are still coming in, and the end of that. Who fills the box
+  // with what others send waits meanwhile.
+  bool IsTakingIn() const;
+  std::function<void()> onTakenIn;
 
   std::u16string Text() const override;
   std::size_t TextLength() const override;
@@ -52,6 +61,9 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
  private:
   QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines);
 
+  bool FitsIntoThisTurn(std::size_t length);
+  void WriteByAndBy(std::u16string_view rtf);
+  void NoteWritten();
   richtext::Document Content() const;
   // What is put in afterwards is in this format, until another is set.
   void Clear(const QTextCharFormat& format);
@@ -71,7 +83,10 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   FileSystem& files_;
   Lines lines_;
   std::u16string tag_;
-  std::unique_ptr<TextLoading> loading_;  // the last one, done or not
+  std::unique_ptr<TextLoading> loading_;                // the last one, done or not
+  std::vector<std::unique_ptr<TextWriting>> writings_;  // done or not, in no order
+  std::size_t inThisTurn_ = 0;  // the length of what was written since events were handled last
+  QTimer turnEnd_;
 };
 
 }  // namespace verlume::qt

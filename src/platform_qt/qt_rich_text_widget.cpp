@@ -47,7 +47,7 @@ RichTextWidget::UserChange::~UserChange() {
 }
 
 RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
-    : QPlainTextEdit(parent), lines_(lines) {
+    : QPlainTextEdit(parent), lines_(lines), seams_(*document(), lines) {
   setPalette(ClassicPalette());
   QFont font(ToQt(kOwnFontName));
   font.setPointSizeF(kOwnFontSize);
@@ -101,23 +101,21 @@ void RichTextWidget::PerformKey(QKeyEvent* event) {
   PressAcrossSeams(event);
 }
 
-// Between the blocks of a long single line there is nothing to step over or to delete: a key that
-// did no more than that is pressed again.
+// At a seam there is nothing to step over or to delete: a key that did no more than that is pressed
+// again.
 void RichTextWidget::PressAcrossSeams(QKeyEvent* event) {
   const QPointer<RichTextWidget> self(this);
   const auto inDocument = [this] {
     return std::pair(textCursor().position(), document()->blockCount());
   };
   const auto inText = [this] {
-    const QTextCursor cursor = textCursor();
-    return std::pair(cursor.position() - cursor.blockNumber(),
-                     document()->characterCount() - document()->blockCount());
+    return std::pair(seams_.TextPosition(textCursor().position()),
+                     seams_.TextPosition(document()->characterCount() - 1));
   };
   const auto documentBefore = inDocument();
   const auto textBefore = inText();
   QPlainTextEdit::keyPressEvent(event);
-  const bool crossedASeam =
-      lines_ == Lines::Single && self && inDocument() != documentBefore && inText() == textBefore;
+  const bool crossedASeam = self && inDocument() != documentBefore && inText() == textBefore;
   if (crossedASeam) QPlainTextEdit::keyPressEvent(event);
 }
 
@@ -149,11 +147,23 @@ void RichTextWidget::focusOutEvent(QFocusEvent* event) {
 }
 
 void RichTextWidget::resizeEvent(QResizeEvent* event) {
-  QTextCursor end(document());
-  end.movePosition(QTextCursor::End);
-  const bool showsEnd = QRect({}, event->oldSize()).contains(cursorRect(end).center());
+  const bool showsEnd = ShowsEndWithin(event->oldSize());
   QPlainTextEdit::resizeEvent(event);
   if (showsEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+bool RichTextWidget::ShowsEndWithin(const QSize& size) const {
+  QTextCursor end(document());
+  end.movePosition(QTextCursor::End);
+  return QRect({}, size).contains(cursorRect(end).center());
+}
+
+void RichTextWidget::ShowEnd() {
+  // A scroll bar does not know how high the text is before it has been laid out.
+  constexpr int kMostTries = 4;
+  for (int i = 0; i < kMostTries && !(i > 0 && ShowsEnd()); ++i) {
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+  }
 }
 
 bool RichTextWidget::viewportEvent(QEvent* event) {

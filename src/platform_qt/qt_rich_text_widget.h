@@ -19,6 +19,11 @@ class RichTextWidget : public QPlainTextEdit {
   void SetCharset(int charset) { charset_ = charset; }
   int Charset() const { return charset_; }
   Lines lines() const { return lines_; }
+  const Seams& seams() const { return seams_; }
+
+  // Whether the end of the text can be seen, and scrolling so that it can.
+  bool ShowsEnd() const { return ShowsEndWithin(viewport()->size()); }
+  void ShowEnd();
 
   // While one of these lives the program changes the box: no onSelChange comes of itself.
   class ProgramChange {
@@ -58,6 +63,7 @@ class RichTextWidget : public QPlainTextEdit {
     QPointer<RichTextWidget> widget_;
   };
 
+  bool ShowsEndWithin(const QSize& size) const;
   // Offers a key to the handlers; true when one of them swallowed it or the widget is gone.
   bool Swallowed(int keyCode, int shift, int charCode);
   void PerformKey(QKeyEvent* event);
@@ -70,6 +76,7 @@ class RichTextWidget : public QPlainTextEdit {
 
   const RichTextBox* events_ = nullptr;
   const Lines lines_;
+  const Seams seams_;
   int charset_ = richtext::kGreekCharset;
   int programDepth_ = 0;
   int userDepth_ = 0;

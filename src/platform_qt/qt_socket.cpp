@@ -52,8 +52,7 @@ QtSocket::QtSocket(std::int64_t patienceForTheRest) : patienceForTheRest_(patien
   connect(&acceptPause_, &QTimer::timeout, &server_, &QTcpServer::resumeAccepting);
   patience_.setSingleShot(true);
   patience_.setTimerType(Qt::PreciseTimer);
-  connect(&patience_, &QTimer::timeout, this,
-          [this] { RaiseArrival(assembler_.Take(clock_.elapsed())); });
+  connect(&patience_, &QTimer::timeout, this, &QtSocket::LosePatience);
   connectLimit_.setSingleShot(true);
   connectLimit_.setTimerType(Qt::PreciseTimer);
   connect(&connectLimit_, &QTimer::timeout, this, [this] { Lose(); });
@@ -216,7 +215,8 @@ void QtSocket::RaiseAcknowledged() {
 }
 
 void QtSocket::Read() {
-  if (!socket_->isOpen()) return;  // cut, with all that had not been read
+  // It may be cut, with all that had not been read.
+  if (!socket_->isOpen() || MustWait()) return;
   const QByteArray bytes = socket_->read(kLargestRead);
   AcknowledgeAtOnce(*socket_);
   assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
@@ -225,11 +225,22 @@ void QtSocket::Read() {
 
 // The connection has ended, or could not be made: what arrived before comes first.
 void QtSocket::Finish() {
-  if (socket_->state() != QAbstractSocket::UnconnectedState) return;
+  if (socket_->state() != QAbstractSocket::UnconnectedState || MustWait()) return;
   Post(&QtSocket::Lose);
   const QByteArray bytes = socket_->isOpen() ? socket_->readAll() : QByteArray();
   assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
   RaiseArrival(assembler_.TakeAll());
+}
+
+void QtSocket::GoOn() {
+  if (!socket_) return;
+  assembler_.StartWaitingAnew(clock_.elapsed());
+  Post(&QtSocket::Read);
+  Post(&QtSocket::Finish);
+}
+
+void QtSocket::LosePatience() {
+  if (!MustWait()) RaiseArrival(assembler_.Take(clock_.elapsed()));
 }
 
 void QtSocket::Lose() {

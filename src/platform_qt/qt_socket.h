@@ -46,6 +46,10 @@ class QtSocket : public QObject, public Socket {
   // Whether the system is still busy with the name of a host, be the call cancelled or not. It
   // cannot be stopped, and the end of the application waits for it.
   bool IsLookingUp() const { return lookUps_ > 0; }
+  // While this is true no arrival is raised and nothing is read, so that the peer is slowed down;
+  // GoOn when it no longer is.
+  std::function<bool()> mustWait;
+  void GoOn();
 
  private:
   // Who is at the other end, or asks to be.
@@ -74,9 +78,11 @@ class QtSocket : public QObject, public Socket {
   void BeginConnection();
   void RaiseAcknowledged();
   void RaiseUndelivered(std::size_t lines);
+  bool MustWait() const { return mustWait && mustWait(); }
   void Read();
   void Finish();
   void Lose();
+  void LosePatience();
   void RaiseArrival(std::optional<std::string> bytes);
 
   QTcpServer server_;

@@ -1,6 +1,9 @@
 #include "platform_qt/qt_text_format.h"
 
 #include <QFont>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QHash>
 #include <algorithm>
 #include <cmath>
 
@@ -23,7 +26,25 @@ Color ColorOf(const QTextCharFormat& format) {
   return brush.style() == Qt::NoBrush ? kAutomaticColor : FromQt(brush.color());
 }
 
+// The name of the font that the text asks for; its family is the one that shows it here.
+constexpr int kFontName = QTextFormat::UserProperty;
+
+// To look for a font that is not there takes milliseconds, with each of its sizes and styles; what
+// another computer sends may name any number of them. So each name is looked for once, and beyond
+// so many names the own font shows.
+QString FamilyToShow(const QString& name) {
+  constexpr qsizetype kMostNames = 64;
+  static QHash<QString, QString> known;
+  const auto found = known.constFind(name);
+  if (found != known.constEnd()) return *found;
+  const QString own = ToQt(kOwnFontName);
+  if (known.size() >= kMostNames && !QFontDatabase::hasFamily(name)) return own;
+  return *known.insert(name, QFontInfo(QFont(name)).family());
+}
+
 std::u16string FontNameOf(const QTextCharFormat& format) {
+  const QString name = format.stringProperty(kFontName);
+  if (!name.isEmpty()) return FromQt(name);
   const QStringList families = format.fontFamilies().toStringList();
   return families.isEmpty() ? std::u16string(kOwnFontName) : FromQt(families.front());
 }
@@ -34,7 +55,9 @@ double FontSizeOf(const QTextCharFormat& format) {
 }
 
 void SetFontName(QTextCharFormat& format, std::u16string_view name) {
-  format.setFontFamilies({ToQt(name.empty() ? kOwnFontName : name)});
+  const QString wanted = ToQt(name.empty() ? kOwnFontName : name);
+  format.setProperty(kFontName, wanted);
+  format.setFontFamilies({FamilyToShow(wanted)});
 }
 
 template <class T>

@@ -1,5 +1,6 @@
 #include "platform_qt/qt_text_insertion.h"
 
+#include <QTextBlock>
 #include <algorithm>
 #include <map>
 #include <tuple>
@@ -11,8 +12,35 @@
 namespace verlume::qt {
 namespace {
 
-// A block is laid out as a whole, with every key that changes it.
-constexpr qsizetype kLongestBlock = 4096;
+// A block is laid out as a whole, with every key that changes it. What is laid out slowly weighs
+// more: pieces of a format of their own, and scripts whose letters have to be looked for in other
+// fonts or are joined to each other.
+constexpr int kMostWeight = 4096;
+constexpr int kWeightOfPiece = 32;
+constexpr qsizetype kLongestBlock = kMostWeight;
+
+int Weight(QChar unit) {
+  constexpr int kSlow = 4;
+  const char16_t c = unit.unicode();
+  const bool isMark = c >= 0x0300 && c < 0x0370;
+  const bool isPunctuation = c >= 0x2010 && c < 0x2028;
+  return (c < 0x0590 && !isMark) || isPunctuation ? 1 : kSlow;
+}
+
+// The room that is left in the block behind a piece.
+int RoomBehind(QStringView piece, int room) {
+  room -= kWeightOfPiece;
+  for (const QChar unit : piece) room = unit == u'\n' ? kMostWeight : room - Weight(unit);
+  return room;
+}
+
+int RoomAt(const QTextCursor& cursor) {
+  const QTextBlock block = cursor.block();
+  int room = kMostWeight;
+  for (auto it = block.begin(); !it.atEnd(); ++it) room = RoomBehind(it.fragment().text(), room);
+  return room;
+}
+
 // How far back from the end of a block a blank is looked for, to end it there.
 constexpr qsizetype kLongestWord = 256;
 
@@ -89,6 +117,13 @@ TextInsertion::TextInsertion(const QTextCursor& cursor, FormattedText text, Line
   cursor_.setKeepPositionOnInsert(true);
 }
 
+void TextInsertion::GoOnWith(FormattedText text) {
+  text_ = std::move(text);
+  size_ = text_.text.size();
+  at_ = inPiece_ = 0;
+  piece_ = 0;
+}
+
 int TextInsertion::Percent() const {
   return IsDone() ? 100 : static_cast<int>(at_ * 100 / size_);
 }
@@ -100,6 +135,7 @@ void TextInsertion::PutIn(qsizetype units) {
   // The anchor has gone on with what was written there.
   cursor_.clearSelection();
   cursor_.beginEditBlock();
+  room_ = RoomAt(cursor_);
   while (at_ < end) PutInPiece(end);
   cursor_.endEditBlock();
   cursor_.setKeepPositionOnInsert(true);
@@ -110,12 +146,16 @@ void TextInsertion::PutIn(qsizetype units) {
 void TextInsertion::PutInPiece(qsizetype end) {
   const FormattedText::Piece& piece = text_.pieces[piece_];
   const qsizetype rest = piece.length - inPiece_;
-  const qsizetype room = lines_ == Lines::Single ? kLongestBlock - cursor_.positionInBlock() : rest;
-  const qsizetype fitting = rest > room ? LengthOfCut(room) : rest;
-  const qsizetype length = std::min(fitting, end - at_);
-  cursor_.insertText(text_.text.mid(at_, length), piece.format);
-  if (fitting < rest && length == fitting) {
+  // The word that is next to come is seen too.
+  const qsizetype seam = LengthBeforeSeam(std::min(rest, end - at_ + kLongestBlock));
+  const qsizetype length = std::min({rest, end - at_, seam});
+  const QString text = text_.text.mid(at_, length);
+  cursor_.insertText(text, piece.format);
+  room_ = RoomBehind(text, room_);
+  if (length == seam) {
     cursor_.insertBlock(cursor_.blockFormat(), piece.format);
+    MarkSeam(cursor_.block());
+    room_ = kMostWeight;
   }
   at_ += length;
   inPiece_ += length;
@@ -124,14 +164,32 @@ void TextInsertion::PutInPiece(qsizetype end) {
   inPiece_ = 0;
 }
 
+// How much of the next text goes in before a seam; more than that where there need be none.
+qsizetype TextInsertion::LengthBeforeSeam(qsizetype length) const {
+  const QStringView text = QStringView(text_.text).sliced(at_, length);
+  int room = room_ - kWeightOfPiece;
+  qsizetype begin = 0;
+  for (qsizetype i = 0; i < length; ++i) {
+    if (text[i] == u'\n') {
+      begin = i + 1;
+      room = kMostWeight;
+    } else if (room < Weight(text[i])) {
+      return begin + LengthOfCut(begin, i - begin);
+    } else {
+      room -= Weight(text[i]);
+    }
+  }
+  return length + 1;
+}
+
 // How much of a text that is longer than the room goes into it: the words that fit.
-qsizetype TextInsertion::LengthOfCut(qsizetype room) const {
+qsizetype TextInsertion::LengthOfCut(qsizetype begin, qsizetype room) const {
   if (room <= 0) return 0;
   const qsizetype searched = std::min(room, kLongestWord);
-  const QStringView end = QStringView(text_.text).sliced(at_ + room - searched, searched);
+  const QStringView end = QStringView(text_.text).sliced(at_ + begin + room - searched, searched);
   if (const qsizetype blank = end.lastIndexOf(u' '); blank >= 0) return room - searched + blank + 1;
   if (room < kLongestWord) return 0;
-  return text_.text[at_ + room - 1].isHighSurrogate() ? room - 1 : room;
+  return end.back().isHighSurrogate() ? room - 1 : room;
 }
 
 void Insert(QTextCursor& cursor, FormattedText text, Lines lines) {

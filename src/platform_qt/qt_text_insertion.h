@@ -38,6 +38,9 @@ class TextInsertion {
   // Replaces the cursor's selection.
   TextInsertion(const QTextCursor& cursor, FormattedText text, Lines lines);
 
+  // With another text, when this one is in.
+  void GoOnWith(FormattedText text);
+
   // Puts in the next units, about as many as these.
   void PutIn(qsizetype units);
   qsizetype UnitsToCome() const { return size_ - at_; }
@@ -48,7 +51,8 @@ class TextInsertion {
 
  private:
   void PutInPiece(qsizetype end);
-  qsizetype LengthOfCut(qsizetype room) const;
+  qsizetype LengthBeforeSeam(qsizetype length) const;
+  qsizetype LengthOfCut(qsizetype begin, qsizetype room) const;
 
   QTextCursor cursor_;
   FormattedText text_;  // empty once it is in
@@ -57,6 +61,7 @@ class TextInsertion {
   qsizetype at_ = 0;       // in the text
   std::size_t piece_ = 0;  // the one at that place
   qsizetype inPiece_ = 0;  // and how much of it is in
+  int room_ = 0;           // in the block at the cursor
 };
 
 // These replace the cursor's selection and leave the cursor behind what came in.

@@ -42,13 +42,12 @@ void TextLoading::Abandon() {
 }
 
 void TextLoading::PutIn(qsizetype units) {
-  QScrollBar& bar = *widget_.verticalScrollBar();
   // What is written meanwhile is brought into view, and moves down with every piece.
-  const bool showsEnd = bar.value() > 0 && bar.value() == bar.maximum();
+  const bool showsEnd = widget_.verticalScrollBar()->value() > 0 && widget_.ShowsEnd();
   const RichTextWidget::ProgramChange change(widget_);
   insertion_.PutIn(units);
   widget_.document()->clearUndoRedoStacks();
-  if (showsEnd) bar.setValue(bar.maximum());
+  if (showsEnd) widget_.ShowEnd();
 }
 
 void TextLoading::Continue() {

@@ -26,14 +26,15 @@ bool MayNameAFile(std::u16string_view character) {
 }
 
 // An entry of the log is one line, whatever the peer puts into a message or a nickname.
-std::u16string OneLineOf(std::u16string_view text) {
+std::u16string EntryOf(std::u16string_view text) {
+  constexpr std::u16string_view kEnd = u"\r\n";
   std::u16string line;
-  line.reserve(text.size() + 2);
+  line.reserve(text.size() + kEnd.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') continue;
     line += IsControl(text[i]) ? u' ' : text[i];
   }
-  return line;
+  return line += kEnd;
 }
 
 }  // namespace
@@ -62,7 +63,7 @@ void DialogueLog::AppendToLog(std::u16string_view line) {
     const std::u16string path =
         WithTrailingSeparator(state_.LogFolder, platform_.files.Separator()) + state_.LogFileStem +
         u".txt";
-    platform_.files.AppendText(path, OneLineOf(line) + u"\r\n");
+    platform_.files.AppendText(path, EntryOf(line));
   });
 }
 

@@ -6,12 +6,15 @@
 #include <QTextBlock>
 #include <QTextCharFormat>
 
+#include "platform_qt/qt_text.h"
+#include "platform_qt/qt_text_format.h"
+
 namespace verlume::libreoffice {
 namespace {
 
 Look LookOf(const QTextCharFormat& format) {
   const bool hasColor = format.foreground().style() != Qt::NoBrush;
-  return {format.fontFamilies().toStringList().value(0),
+  return {qt::ToQt(*qt::FromQt(format).fontName),
           format.fontPointSize(),
           hasColor ? format.foreground().color().name() : QStringLiteral("#000000"),
           format.fontWeight() >= QFont::Bold,

@@ -4,6 +4,7 @@
 
 #include <QEventLoop>
 #include <QTest>
+#include <numeric>
 
 #include "platform/socket_contract.h"
 #include "platform_qt/qt_socket_address.h"
@@ -136,6 +137,64 @@ TEST_F(QtSocketTest, ADocumentThatIsCutOffArrivesBeforeTheClose) {
   ASSERT_TRUE(WaitFor([&] { return user.closes == 1; }));
   EXPECT_EQ(user.textsBeforeClose, 1u);
   EXPECT_EQ(user.Received(), u"{\\rtf1 he");
+}
+
+TEST_F(QtSocketTest, ArrivalsWaitForAReaderThatIsBehindAndSlowThePeerDown) {
+  bool isBehind = false;
+  socket->mustWait = [&] { return isBehind; };
+  ASSERT_NO_FATAL_FAILURE(Connect());
+  peer.write("first");
+  ASSERT_TRUE(WaitForTexts(1));
+  isBehind = true;
+  // More than the two machines hold for each other.
+  const QByteArray flood(16 << 20, 'x');
+  peer.write(flood);
+  qint64 toWrite = 0;
+  ASSERT_TRUE(WaitFor([&] {
+    const qint64 before = std::exchange(toWrite, peer.bytesToWrite());
+    return toWrite == before && toWrite < flood.size();
+  }));
+  EXPECT_GT(peer.bytesToWrite(), 0);
+  EXPECT_EQ(user.texts.size(), 1u);
+  isBehind = false;
+  socket->GoOn();
+  const auto arrived = [&] {
+    return std::accumulate(user.totals.begin(), user.totals.end(), std::int64_t{0});
+  };
+  EXPECT_TRUE(WaitFor([&] { return arrived() == 5 + flood.size(); })) << arrived();
+}
+
+TEST_F(QtSocketTest, ACloseWaitsForAReaderThatIsBehindToo) {
+  bool isBehind = true;
+  socket->mustWait = [&] { return isBehind; };
+  ASSERT_NO_FATAL_FAILURE(Connect());
+  peer.write("hello");
+  peer.disconnectFromHost();
+  ASSERT_TRUE(WaitFor([&] { return socket->State() == SocketState::Closed; }));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(user.closes, 0);
+  isBehind = false;
+  socket->GoOn();
+  ASSERT_TRUE(WaitFor([&] { return user.closes == 1; }));
+  EXPECT_EQ(user.Received(), u"hello");
+  EXPECT_EQ(user.textsBeforeClose, 1u);
+}
+
+TEST_F(QtSocketTest, ADocumentIsNotOverdueBecauseTheReaderIsBehind) {
+  bool isBehind = false;
+  socket->mustWait = [&] { return isBehind; };
+  ASSERT_NO_FATAL_FAILURE(Connect());
+  peer.write("{\\rtf1 he");
+  ASSERT_TRUE(WaitFor([&] { return peer.bytesToWrite() == 0; }));
+  QTest::qWait(50);
+  isBehind = true;
+  peer.write("llo}");
+  QTest::qWait(ArrivalAssembler::kPatience + 200);
+  EXPECT_EQ(user.texts.size(), 0u);
+  isBehind = false;
+  socket->GoOn();
+  ASSERT_TRUE(WaitForTexts(1));
+  EXPECT_EQ(user.texts[0], u"{\\rtf1 hello}");
 }
 
 TEST_F(QtSocketTest, ALargeDocumentArrivesWhole) {
