@@ -190,7 +190,18 @@ QString Copy::Dialogue() {
 }
 
 QString Copy::Log(const QString& partner) const {
-  return ReadFile(folder_.filePath("logs/" + partner + ".txt"));
+  return ReadFile(LogPath(partner));
+}
+
+QString Copy::EndOfLog(const QString& partner) const {
+  QFile file(LogPath(partner));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  file.seek(std::max<qint64>(0, file.size() - 1024));
+  return QString::fromUtf8(file.readAll());
+}
+
+QString Copy::LogPath(const QString& partner) const {
+  return folder_.filePath("logs/" + partner + ".txt");
 }
 
 QString Copy::Settings() const {

@@ -52,6 +52,8 @@ class Copy {
 
   QString Dialogue();  // what the dialogue pane shows, read as a user would copy it
   QString Log(const QString& partner) const;
+  // The end of it, of a kilobyte or so: a log may be long.
+  QString EndOfLog(const QString& partner) const;
   QString Settings() const;
   QString Macro(const QString& name) const;  // the rich text of its file
   const QString& Window() const { return window_; }
@@ -59,10 +61,12 @@ class Copy {
   void ClickCloseBox();
   void Kill();  // at once, without a word
   bool HasEnded() { return program_.state() == QProcess::NotRunning; }
+  qint64 Process() const { return program_.processId(); }
   bool WaitForEnd() { return program_.waitForFinished(10000); }
   int ExitCode() const { return program_.exitCode(); }
 
  private:
+  QString LogPath(const QString& partner) const;
   QString FindWindow(const QString& title) const;
   QSize Size() const;
   void ClickAtPixel(int x, int y);  // of the window, whatever lies over it
