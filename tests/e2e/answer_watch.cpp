@@ -94,7 +94,7 @@ class Asker {
     const auto cookie = xcb_intern_atom(connection_.get(), false, length, name.c_str());
     const Owned<xcb_intern_atom_reply_t> reply{
         xcb_intern_atom_reply(connection_.get(), cookie, nullptr), &std::free};
-    return reply ? reply->atom : XCB_ATOM_NONE;
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
   }
 
   const xcb_window_t window_;

@@ -23,11 +23,11 @@ constexpr double kMebibyte = 1 << 20;
 // In the program as users run it a window answers within 100 ms. Sanitizers slow it down.
 #if defined(__SANITIZE_ADDRESS__)
 constexpr double kSlowness = 10;
-constexpr int kLimit = 240'000;
-constexpr std::size_t kShare = 8;  // of what is sent
+constexpr int kLimit = 120'000;
+constexpr std::size_t kShare = 32;  // of what is sent
 #else
 constexpr double kSlowness = 1;
-constexpr int kLimit = 60'000;
+constexpr int kLimit = 240'000;
 constexpr std::size_t kShare = 1;
 #endif
 constexpr double kLongestAnswer = 100 * kSlowness;
