@@ -2,24 +2,12 @@
 #pragma once
 
 #include "platform_qt/help_book.h"
-#include "platform_qt/qt_text.h"
 
 namespace verlume::qt {
 
-inline QString HelpFileName(bool isGreek) {
-  return isGreek ? QStringLiteral("/VerlumeGR.hlp") : QStringLiteral("/VerlumeUK.hlp");
-}
-
-inline QString SmallHelpFile(bool isGreek) {
-  return VERLUME_TEST_DATA "/help" + HelpFileName(isGreek);
-}
-
-inline HelpBook SmallBook(bool isGreek) {
-  return HelpBook::Load(SmallHelpFile(isGreek), isGreek);
-}
-
-inline HelpBook OwnBook(bool isGreek) {
-  return HelpBook::Load(VERLUME_HELP_FOLDER + HelpFileName(isGreek), isGreek);
-}
+QString HelpFileName(bool isGreek);
+QString SmallHelpFile(bool isGreek);
+HelpBook SmallBook(bool isGreek);
+HelpBook OwnBook(bool isGreek);
 
 }  // namespace verlume::qt
