@@ -40,8 +40,9 @@ void Sender::GoOn() {
   } else if (!poll_.isActive()) {
     poll_.start();
   }
-  const bool isMoreAcknowledged = LinesWaiting() < waited || (IsDone() && !wasDone);
-  if (isMoreAcknowledged && onAcknowledged) onAcknowledged();
+  const std::size_t acknowledged = waited - LinesWaiting();
+  const bool isNews = acknowledged > 0 || (IsDone() && !wasDone);
+  if (isNews && onAcknowledged) onAcknowledged(acknowledged);
 }
 
 void Sender::LookForAcknowledgement() {

@@ -27,8 +27,9 @@ class Sender : public QObject {
   // wait and events are handled.
   void GoOn();
 
-  // The peer's machine has acknowledged something. May come from within GoOn and Send.
-  std::function<void()> onAcknowledged;
+  // The peer's machine has acknowledged so many more lines, or all there is. May come from within
+  // GoOn and Send.
+  std::function<void(std::size_t lines)> onAcknowledged;
 
  private:
   void LookForAcknowledgement();

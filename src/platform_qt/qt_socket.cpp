@@ -6,12 +6,12 @@
 #include <QPointer>
 #include <QRandomGenerator>
 #include <algorithm>
+#include <functional>
+#include <iterator>
 #include <utility>
 
 #include "platform/run_time_failure.h"
 #include "platform_qt/qt_socket_address.h"
-#include "platform_qt/qt_socket_linger.h"
-#include "platform_qt/qt_socket_options.h"
 #include "platform_qt/qt_text.h"
 #include "richtext/code_pages.h"
 
@@ -20,9 +20,9 @@ namespace {
 
 constexpr int kConnectLimit = 15000;  // ms
 constexpr int kAcceptPause = 1000;    // ms
-// What one turn of the event loop reads at most: a peer that floods is slowed down by TCP, and the
-// windows stay responsive.
-constexpr qint64 kLargestRead = 256 << 10;
+// What a caller may send before it is taken, and what is read ahead afterwards.
+constexpr qint64 kReadBuffer = 256 << 10;
+constexpr int kSendingLimit = 2000;  // ms
 constexpr std::int32_t kLastPort = 65535;
 
 // The system's own choice lies mostly above what a caller can name.
@@ -40,7 +40,8 @@ bool ListenOnFreePort(QTcpServer& server) {
 }  // namespace
 
 QtSocket::QtSocket(std::int64_t patienceForTheRest) : patienceForTheRest_(patienceForTheRest) {
-  clock_.start();
+  network_.setObjectName("network");
+  network_.start();
   server_.setProxy(QNetworkProxy::NoProxy);
   // One caller is taken and asked about; those behind it wait in the system's backlog.
   server_.setMaxPendingConnections(1);
@@ -50,9 +51,6 @@ QtSocket::QtSocket(std::int64_t patienceForTheRest) : patienceForTheRest_(patien
   connect(&server_, &QTcpServer::acceptError, this, [this] { acceptPause_.start(kAcceptPause); });
   acceptPause_.setSingleShot(true);
   connect(&acceptPause_, &QTimer::timeout, &server_, &QTcpServer::resumeAccepting);
-  patience_.setSingleShot(true);
-  patience_.setTimerType(Qt::PreciseTimer);
-  connect(&patience_, &QTimer::timeout, this, &QtSocket::LosePatience);
   connectLimit_.setSingleShot(true);
   connectLimit_.setTimerType(Qt::PreciseTimer);
   connect(&connectLimit_, &QTimer::timeout, this, [this] { Lose(); });
@@ -63,12 +61,15 @@ QtSocket::~QtSocket() {
   Close();
   DropCaller();
   FinishSending();
+  leaving_.clear();
+  network_.quit();
+  network_.wait();
 }
 
-void QtSocket::Post(void (QtSocket::*step)()) {
+void QtSocket::Post(void (QtSocket::*step)(), std::uint64_t generation) {
   QMetaObject::invokeMethod(
       this,
-      [this, step, generation = generation_] {
+      [this, step, generation] {
         if (generation == generation_) (this->*step)();
       },
       Qt::QueuedConnection);
@@ -76,8 +77,7 @@ void QtSocket::Post(void (QtSocket::*step)()) {
 
 SocketState QtSocket::State() const {
   // The system may have ended a connection whose end is still to be raised.
-  const bool isGone =
-      state_ == SocketState::Connected && socket_->state() != QAbstractSocket::ConnectedState;
+  const bool isGone = connection_ && !connection_->IsOpen();
   return isGone ? SocketState::Closed : state_;
 }
 
@@ -129,7 +129,7 @@ void QtSocket::RaiseConnectionRequest() {
   if (socket->peerAddress().isNull()) return socket->deleteLater();
   server_.pauseAccepting();
   socket->setParent(this);
-  socket->setReadBufferSize(kLargestRead);
+  socket->setReadBufferSize(kReadBuffer);
   caller_ = {socket, ++lastRequest_, PeerOf(*socket)};
   peer_ = caller_.peer;
   if (onConnectionRequest) onConnectionRequest(caller_.id);
@@ -139,20 +139,8 @@ void QtSocket::Accept(std::int64_t requestId) {
   const Caller caller = requestId == caller_.id ? std::exchange(caller_, {}) : Caller{};
   Close();
   if (!caller.socket) return Post(&QtSocket::Lose);
-  Hold(caller.socket);
-  BeginConnection();
+  BeginConnection(caller.socket);
   peer_ = caller.peer;
-  // What the caller sent, or that it has left, was signalled while nobody listened.
-  Post(&QtSocket::Read);
-  if (State() != SocketState::Connected) Post(&QtSocket::Finish);
-}
-
-// Makes the signals of a socket into events of the connection that begins.
-void QtSocket::Hold(QTcpSocket* socket) {
-  socket_ = socket;
-  connect(socket, &QTcpSocket::readyRead, this, [this] { Post(&QtSocket::Read); });
-  connect(socket, &QTcpSocket::disconnected, this, [this] { Post(&QtSocket::Finish); });
-  connect(socket, &QTcpSocket::errorOccurred, this, [this] { Post(&QtSocket::Finish); });
 }
 
 void QtSocket::Connect() {
@@ -162,13 +150,14 @@ void QtSocket::Connect() {
   if (host.isEmpty() || remotePort_ <= 0 || remotePort_ > kLastPort) return Post(&QtSocket::Lose);
   auto* socket = new QTcpSocket(this);
   socket->setProxy(QNetworkProxy::NoProxy);
-  socket->setReadBufferSize(kLargestRead);
+  socket->setReadBufferSize(kReadBuffer);
   connect(socket, &QTcpSocket::connected, this, [this] {
-    peer_ = PeerOf(*socket_);
-    localPort_ = socket_->localPort();
+    peer_ = PeerOf(*calling_);
+    localPort_ = calling_->localPort();
     Post(&QtSocket::RaiseConnect);
   });
-  Hold(socket);
+  connect(socket, &QTcpSocket::errorOccurred, this, [this] { Post(&QtSocket::LoseCall); });
+  calling_ = socket;
   connectLimit_.start(kConnectLimit);
   if (QHostAddress(host).isNull()) {
     LookUp(host);
@@ -192,21 +181,25 @@ void QtSocket::TakeLookUp(const QHostInfo& found, std::uint64_t generation) {
   --lookUps_;
   if (generation != generation_) return;
   if (found.error() != QHostInfo::NoError) return Post(&QtSocket::Lose);
-  socket_->connectToHost(found.hostName(), static_cast<quint16>(remotePort_));
+  calling_->connectToHost(found.hostName(), static_cast<quint16>(remotePort_));
 }
 
 void QtSocket::RaiseConnect() {
   connectLimit_.stop();
-  BeginConnection();
+  BeginConnection(std::exchange(calling_, nullptr));
   if (onConnect) onConnect();
 }
 
-void QtSocket::BeginConnection() {
-  SetConnectionOptions(*socket_);
-  sender_ = new Sender(socket_);
-  sender_->onAcknowledged = [this] { Post(&QtSocket::RaiseAcknowledged); };
-  // What the peer's machine has acknowledged can no longer be asked once the connection has ended.
-  connect(socket_, &QTcpSocket::stateChanged, sender_, [sender = sender_] { sender->GoOn(); });
+void QtSocket::BeginConnection(QTcpSocket* socket) {
+  const auto post = [this, generation = generation_](void (QtSocket::*step)()) {
+    return [this, step, generation] { Post(step, generation); };
+  };
+  const auto look = [this] {
+    QMetaObject::invokeMethod(this, &QtSocket::LookAtThoseLeaving, Qt::QueuedConnection);
+  };
+  connection_.reset(
+      new Connection(socket, network_, patienceForTheRest_,
+                     {post(&QtSocket::TakeArrival), post(&QtSocket::RaiseAcknowledged), look}));
   state_ = SocketState::Connected;
 }
 
@@ -214,37 +207,27 @@ void QtSocket::RaiseAcknowledged() {
   if (onAcknowledged) onAcknowledged();
 }
 
-void QtSocket::Read() {
-  // It may be cut, with all that had not been read.
-  if (!socket_->isOpen() || MustWait()) return;
-  const QByteArray bytes = socket_->read(kLargestRead);
-  AcknowledgeAtOnce(*socket_);
-  assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
-  RaiseArrival(assembler_.Take(clock_.elapsed()));
-}
-
-// The connection has ended, or could not be made: what arrived before comes first.
-void QtSocket::Finish() {
-  if (socket_->state() != QAbstractSocket::UnconnectedState || MustWait()) return;
-  Post(&QtSocket::Lose);
-  const QByteArray bytes = socket_->isOpen() ? socket_->readAll() : QByteArray();
-  assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
-  RaiseArrival(assembler_.TakeAll());
+void QtSocket::TakeArrival() {
+  if (MustWait()) return;
+  const auto bytes = connection_->NextArrival();
+  // Before the handlers, which may wait for the user.
+  if (connection_->HasArrival()) Post(&QtSocket::TakeArrival);
+  if (connection_->IsOver()) Post(&QtSocket::Lose);
+  if (bytes) RaiseArrival(*bytes);
 }
 
 void QtSocket::GoOn() {
-  if (!socket_) return;
-  assembler_.StartWaitingAnew(clock_.elapsed());
-  Post(&QtSocket::Read);
-  Post(&QtSocket::Finish);
+  if (connection_) Post(&QtSocket::TakeArrival);
 }
 
-void QtSocket::LosePatience() {
-  if (!MustWait()) RaiseArrival(assembler_.Take(clock_.elapsed()));
+// A call that was answered first may still have brought something.
+void QtSocket::LoseCall() {
+  if (calling_) Lose();
 }
 
 void QtSocket::Lose() {
-  const std::size_t undelivered = sender_ ? sender_->LinesWaiting() : 0;
+  const ConnectionOwner lost = std::move(connection_);
+  const std::size_t undelivered = lost ? lost->LinesWaiting() : 0;
   Close();
   if (undelivered > 0) RaiseUndelivered(undelivered);
   if (onClose) onClose();
@@ -254,14 +237,9 @@ void QtSocket::RaiseUndelivered(std::size_t lines) {
   if (onUndelivered) onUndelivered(lines);
 }
 
-void QtSocket::RaiseArrival(std::optional<std::string> bytes) {
-  patience_.stop();
-  if (const auto deadline = assembler_.Deadline()) {
-    patience_.start(static_cast<int>(std::max<std::int64_t>(0, *deadline - clock_.elapsed())));
-  }
-  if (!bytes) return;
-  arrival_ = richtext::DecodeGreek(*bytes);
-  if (onDataArrival) onDataArrival(static_cast<std::int32_t>(bytes->size()));
+void QtSocket::RaiseArrival(std::string_view bytes) {
+  arrival_ = richtext::DecodeGreek(bytes);
+  if (onDataArrival) onDataArrival(static_cast<std::int32_t>(bytes.size()));
 }
 
 void QtSocket::Close() {
@@ -269,8 +247,6 @@ void QtSocket::Close() {
   state_ = SocketState::Closed;
   peer_ = {};
   arrival_.clear();
-  assembler_ = ArrivalAssembler(patienceForTheRest_);
-  patience_.stop();
   connectLimit_.stop();
   acceptPause_.stop();
   server_.close();
@@ -280,30 +256,49 @@ void QtSocket::Close() {
 }
 
 void QtSocket::Release() {
-  QTcpSocket* socket = std::exchange(socket_, nullptr);
-  Sender* sender = std::exchange(sender_, nullptr);
-  if (!socket) return;
-  LetLinger(socket, sender, this, [this](std::size_t lines) { RaiseUndelivered(lines); });
+  if (connection_) {
+    connection_->Leave();
+    leaving_.push_back(std::move(connection_));
+  }
+  Drop(std::exchange(calling_, nullptr));
+}
+
+// Whoever is told of what did not arrive may close a connection.
+void QtSocket::LookAtThoseLeaving() {
+  const auto isGone = [](const ConnectionOwner& connection) { return connection->IsGone(); };
+  const auto gone = std::stable_partition(leaving_.begin(), leaving_.end(), std::not_fn(isGone));
+  const std::vector<ConnectionOwner> left(std::make_move_iterator(gone),
+                                          std::make_move_iterator(leaving_.end()));
+  leaving_.erase(gone, leaving_.end());
+  for (const ConnectionOwner& connection : left) {
+    if (const std::size_t lines = connection->LinesWaiting(); lines > 0) RaiseUndelivered(lines);
+  }
 }
 
 void QtSocket::DropCaller() {
-  QTcpSocket* socket = std::exchange(caller_, {}).socket;
+  Drop(std::exchange(caller_, {}).socket);
+}
+
+void QtSocket::Drop(QTcpSocket* socket) {
   if (!socket) return;
+  socket->disconnect();
   socket->abort();
   socket->deleteLater();
 }
 
 void QtSocket::SendData(std::u16string_view text, TextKind kind) {
   if (State() != SocketState::Connected) return;
-  sender_->Send({richtext::EncodeGreek(text), kind});
+  connection_->Send({richtext::EncodeGreek(text), kind});
 }
 
 std::size_t QtSocket::LinesWaiting() const {
-  return State() == SocketState::Connected ? sender_->LinesWaiting() : 0;
+  return State() == SocketState::Connected ? connection_->LinesWaiting() : 0;
 }
 
 void QtSocket::FinishSending() {
-  FinishLingering(this);
+  const QDeadlineTimer limit(kSendingLimit);
+  for (const ConnectionOwner& connection : leaving_) connection->FinishSending(limit);
+  LookAtThoseLeaving();
 }
 
 std::u16string QtSocket::GetData() {

@@ -2,17 +2,18 @@
 //
 // Every signal of Qt's becomes an event of the queue, which carries the generation of the
 // connection it belongs to: so no event comes from inside an operation, handlers may open modal
-// boxes (further events are raised inside those), and an ended connection raises nothing more.
+// boxes (further events are raised inside those), and an ended connection raises nothing more. A
+// connection that is made lives on a thread of its own.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QThread>
 #include <QTimer>
+#include <vector>
 
 #include "platform/socket.h"
-#include "platform_qt/arrival_assembler.h"
-#include "platform_qt/qt_sender.h"
+#include "platform_qt/qt_connection.h"
 
 class QHostInfo;
 
@@ -46,8 +47,8 @@ class QtSocket : public QObject, public Socket {
   // Whether the system is still busy with the name of a host, be the call cancelled or not. It
   // cannot be stopped, and the end of the application waits for it.
   bool IsLookingUp() const { return lookUps_ > 0; }
-  // While this is true no arrival is raised and nothing is read, so that the peer is slowed down;
-  // GoOn when it no longer is.
+  // While this is true no arrival is raised; those that come wait, some mebibytes of them, and then
+  // the peer is slowed down. GoOn when it no longer is.
   std::function<bool()> mustWait;
   void GoOn();
 
@@ -66,29 +67,32 @@ class QtSocket : public QObject, public Socket {
   static Peer PeerOf(const QTcpSocket& socket);
 
   // Runs a step from the event loop, unless the connection has ended by then.
-  void Post(void (QtSocket::*step)());
+  void Post(void (QtSocket::*step)()) { Post(step, generation_); }
+  void Post(void (QtSocket::*step)(), std::uint64_t generation);
   void LookUp(const QString& host);
   void TakeLookUp(const QHostInfo& found, std::uint64_t generation);
-  void Hold(QTcpSocket* socket);
   void Release();
   void DropCaller();
+  static void Drop(QTcpSocket* socket);
 
   void RaiseConnectionRequest();
   void RaiseConnect();
-  void BeginConnection();
+  void BeginConnection(QTcpSocket* socket);
   void RaiseAcknowledged();
   void RaiseUndelivered(std::size_t lines);
   bool MustWait() const { return mustWait && mustWait(); }
-  void Read();
-  void Finish();
+  void TakeArrival();
+  void LoseCall();
   void Lose();
-  void LosePatience();
-  void RaiseArrival(std::optional<std::string> bytes);
+  void LookAtThoseLeaving();
+  void RaiseArrival(std::string_view bytes);
 
   QTcpServer server_;
-  QTcpSocket* socket_ = nullptr;  // the connection, made or in the making
-  Sender* sender_ = nullptr;      // its own, once it is made
-  Caller caller_;                 // the one that is being asked about
+  QTcpSocket* calling_ = nullptr;  // until the connection is made
+  Caller caller_;                  // the one that is being asked about
+  QThread network_{this};          // of the connections that are made
+  ConnectionOwner connection_;
+  std::vector<ConnectionOwner> leaving_;  // closed, but not gone yet
   Peer peer_;
   std::int64_t lastRequest_ = 0;
   int lookUps_ = 0;  // under way
@@ -99,11 +103,8 @@ class QtSocket : public QObject, public Socket {
   QString remoteHost_;
   std::int32_t remotePort_ = 0;
 
-  std::int64_t patienceForTheRest_;
-  ArrivalAssembler assembler_{patienceForTheRest_};
+  const std::int64_t patienceForTheRest_;
   std::u16string arrival_;
-  QElapsedTimer clock_;
-  QTimer patience_;      // for the rest of a document
   QTimer connectLimit_;  // for a call to be answered
   QTimer acceptPause_;   // after a caller that could not be taken
 };

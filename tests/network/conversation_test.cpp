@@ -66,6 +66,12 @@ class ConversationTest : public testing::Test {
   QElapsedTimer time_;
 };
 
+TEST_F(ConversationTest, EveryMessageArrivesByItselfOverAPerfectLink) {
+  ASSERT_NO_FATAL_FAILURE(Connect({}, 1));
+  ASSERT_NO_FATAL_FAILURE(Start({.steps = 200}));
+  ExpectAllShown();
+}
+
 TEST_F(ConversationTest, EveryMessageArrivesByItselfOverASlowAndLossyLink) {
   ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 4));
   ASSERT_NO_FATAL_FAILURE(Start({.steps = 50}));

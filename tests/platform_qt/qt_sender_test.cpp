@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QTcpServer>
 
+#include "platform_qt/descriptors.h"
 #include "platform_qt/qt_socket.h"
 #include "platform_qt/qt_world.h"
 
@@ -46,10 +47,10 @@ class QtSenderTest : public testing::Test {
     peer->setReadBufferSize(1);
     socket.SendData(std::u16string(16 << 20, u'x'), TextKind::Line);
   }
-  int Option(const QTcpSocket& of, int option) const {
+  static int Option(int socket, int level, int option) {
     int value = 0;
     socklen_t size = sizeof value;
-    ::getsockopt(static_cast<int>(of.socketDescriptor()), IPPROTO_TCP, option, &value, &size);
+    ::getsockopt(socket, level, option, &value, &size);
     return value;
   }
 
@@ -153,15 +154,14 @@ TEST_F(QtSenderTest, FinishingIsOverWhenAllIsSent) {
 }
 
 TEST_F(QtSenderTest, VanishedPeersAreLookedForInTime) {
-  const auto* connection = socket.findChild<QTcpSocket*>();
-  ASSERT_NE(connection, nullptr);
-  EXPECT_TRUE(
-      const_cast<QTcpSocket*>(connection)->socketOption(QAbstractSocket::KeepAliveOption).toBool());
-  const int idle = Option(*connection, TCP_KEEPIDLE);
-  const int probes = Option(*connection, TCP_KEEPINTVL) * Option(*connection, TCP_KEEPCNT);
-  EXPECT_LE(idle + probes, 30);
-  EXPECT_LE(Option(*connection, TCP_USER_TIMEOUT), 20'000);
-  EXPECT_GT(Option(*connection, TCP_USER_TIMEOUT), 0);
+  const int connection = DescriptorConnectedTo(server.serverPort());
+  ASSERT_GE(connection, 0);
+  EXPECT_TRUE(WaitFor([&] { return Option(connection, IPPROTO_TCP, TCP_USER_TIMEOUT) > 0; }));
+  EXPECT_LE(Option(connection, IPPROTO_TCP, TCP_USER_TIMEOUT), 20'000);
+  EXPECT_EQ(Option(connection, SOL_SOCKET, SO_KEEPALIVE), 1);
+  const int probes =
+      Option(connection, IPPROTO_TCP, TCP_KEEPINTVL) * Option(connection, IPPROTO_TCP, TCP_KEEPCNT);
+  EXPECT_LE(Option(connection, IPPROTO_TCP, TCP_KEEPIDLE) + probes, 30);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <list>
 
 #include "platform/socket_contract.h"
+#include "platform_qt/descriptors.h"
 #include "platform_qt/qt_socket.h"
 #include "platform_qt/qt_world.h"
 #include "platform_qt/raw_peer.h"
@@ -30,12 +31,19 @@ class QtSocketCallers : public testing::Test {
     socket.SetLocalPort(0);
     socket.Listen();
     port = socket.LocalPort();
+    WaitForThread(socket);
   }
   ~QtSocketCallers() override {
     qInstallMessageHandler(nullptr);
     EXPECT_EQ(warnings, 0) << "a caller fills nobody's log";
   }
 
+  // Each socket has one, which opens a descriptor of its own when it begins.
+  static void WaitForThread(const QtSocket& owner) {
+    const auto* thread = owner.findChild<QThread*>();
+    ASSERT_NE(thread, nullptr);
+    ASSERT_TRUE(WaitFor([&] { return thread->eventDispatcher() != nullptr; }));
+  }
   bool WaitForRequest() {
     return WaitFor([&] { return !user.requests.empty(); });
   }
@@ -209,6 +217,7 @@ TEST_F(QtSocketCallers, WaitingAndCallingInQuickAlternationLeaveNothingBehind) {
   callee.Listen();
   socket.SetRemoteHost(u"127.0.0.1");
   socket.SetRemotePort(callee.LocalPort());
+  WaitForThread(callee);
   const qsizetype before = DescriptorsInUse();
   for (int i = 0; i < 1000; ++i) {
     socket.Connect();

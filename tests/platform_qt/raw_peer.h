@@ -6,7 +6,6 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <cerrno>
 #include <cstdint>
 #include <string>
@@ -80,12 +79,5 @@ class RawPeer {
   int descriptor_;
   std::string received_;
 };
-
-// How many descriptors this process holds.
-inline qsizetype DescriptorsInUse() {
-  return QDir(QStringLiteral("/proc/self/fd"))
-      .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
-      .size();
-}
 
 }  // namespace verlume::qt
