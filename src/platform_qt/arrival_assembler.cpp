@@ -2,12 +2,16 @@
 
 #include <utility>
 
+#include "richtext/rtf_cut.h"
+
 namespace verlume::qt {
 namespace {
 
 constexpr std::string_view kOpening = "{\\rtf";
 // NUL, 67 characters, NUL.
 constexpr std::size_t kMarkerLength = 69;
+// A document is cut so far before the end of what has come that the end itself cuts nothing.
+constexpr std::size_t kRest = 16 * 1024;
 
 bool IsLineEnd(char byte) {
   return byte == '\r' || byte == '\n' || byte == '\0';
@@ -94,7 +98,8 @@ void ArrivalAssembler::FeedOpening(char byte) {
 std::optional<std::string> ArrivalAssembler::Take(std::int64_t now) {
   if (waiting_.empty()) return std::nullopt;
   if (whole_ > 0) return TakeWhole();
-  if (waiting_.size() < kLargest && now < *Deadline()) return std::nullopt;
+  if (waiting_.size() >= kLargest) return TakePiece();
+  if (now < *Deadline()) return std::nullopt;
   return TakeAll();
 }
 
@@ -103,6 +108,18 @@ std::string ArrivalAssembler::TakeWhole() {
   std::string whole = std::exchange(waiting_, waiting_.substr(whole_));
   whole.resize(std::exchange(whole_, 0));
   return whole;
+}
+
+// Only a document waits for so long.
+std::string ArrivalAssembler::TakePiece() {
+  const std::size_t begin = waiting_[0] == '\0' ? kMarkerLength + 1 : 0;
+  const std::string_view document = std::string_view(waiting_).substr(begin);
+  richtext::CutDocument cut = richtext::CutRtf(document, document.size() - kRest);
+  std::string piece = waiting_.substr(0, begin) + cut.before;
+  waiting_ = std::move(cut.behind);
+  at_ = At::Start;
+  Scan(waiting_);
+  return piece;
 }
 
 std::optional<std::string> ArrivalAssembler::TakeAll() {

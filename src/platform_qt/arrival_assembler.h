@@ -3,7 +3,8 @@
 //
 // TCP cuts a text where it likes. An RTF document (with or without the protocol marker and its kind
 // character before it) is held back until its braces are balanced; everything else is ready at
-// once. What has come whole does not wait for what comes behind it.
+// once. What has come whole does not wait for what comes behind it. A document that is too long to
+// wait for comes out in pieces, each of them a document.
 #pragma once
 
 #include <cstdint>
@@ -20,7 +21,7 @@ class ArrivalAssembler {
   // How long a document may wait for its next byte: a link may stall in the middle of it, and its
   // sender's machine gives up sooner than this.
   static constexpr std::int64_t kPatience = 20'000;
-  // How many bytes may wait.
+  // How many bytes of a document may wait.
   static constexpr std::size_t kLargest = 4 << 20;
 
   explicit ArrivalAssembler(std::int64_t patience = kPatience) : patience_(patience) {}
@@ -28,7 +29,8 @@ class ArrivalAssembler {
   // Adds what one read brought. Each byte is looked at once.
   void Add(std::string_view bytes, std::int64_t now);
 
-  // What waits and is whole; all that waits, when it is overdue or too large; nothing otherwise.
+  // What waits and is whole; of what is too large, a piece; all that waits, when it is overdue;
+  // nothing otherwise. What stands before a document stands before its first piece alone.
   std::optional<std::string> Take(std::int64_t now);
 
   // All that waits, whole or not: nothing more will come.
@@ -44,6 +46,7 @@ class ArrivalAssembler {
   enum class At { Start, Marker, Kind, Opening, Document, AfterDocument, OtherText };
 
   std::string TakeWhole();
+  std::string TakePiece();
   void Scan(std::string_view bytes);
   void Begin(char byte);
   void FeedMarker(char byte);

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
+#include "richtext/rtf_reader.h"
+
 namespace verlume::qt {
 namespace {
 
@@ -159,13 +163,74 @@ TEST(ArrivalAssembler, ABeginningThatTurnsOutOtherwiseIsReadyAtOnce) {
   EXPECT_EQ(Read(assembler, "x"), Arrival("{\\x"));
 }
 
-TEST(ArrivalAssembler, AtMostFourMebibytesWait) {
+// All that comes out of a text that comes in reads of 256 KiB.
+std::vector<std::string> Pieces(const std::string& text) {
+  constexpr std::size_t kRead = 256 << 10;
+  ArrivalAssembler assembler;
+  std::vector<std::string> pieces;
+  for (std::size_t at = 0; at < text.size(); at += kRead) {
+    const Arrival piece = Read(assembler, std::string_view(text).substr(at, kRead));
+    if (piece) pieces.push_back(*piece);
+  }
+  if (const Arrival piece = assembler.TakeAll()) pieces.push_back(*piece);
+  return pieces;
+}
+
+std::string Repeat(std::string_view part, std::size_t size) {
+  std::string text;
+  while (text.size() < size) text += part;
+  return text;
+}
+
+TEST(ArrivalAssembler, AtMostFourMebibytesOfADocumentWait) {
   ArrivalAssembler assembler;
   const std::string begun = R"({\rtf1 )" + std::string(ArrivalAssembler::kLargest - 8, 'x');
   EXPECT_EQ(Read(assembler, begun), std::nullopt);
-  EXPECT_EQ(Read(assembler, "y"), Arrival(begun + "y"));
-  EXPECT_EQ(Read(assembler, "the rest}"), Arrival("the rest}"));
+  const Arrival piece = Read(assembler, "y");
+  ASSERT_TRUE(piece);
+  EXPECT_LT(piece->size(), begun.size());
+  const Arrival rest = Read(assembler, "the rest}");
+  ASSERT_TRUE(rest);
+  EXPECT_TRUE(rest->ends_with("ythe rest}"));
   EXPECT_EQ(Read(assembler, R"({\rtf1 next})"), Arrival(R"({\rtf1 next})"));
+}
+
+TEST(ArrivalAssembler, EachPieceOfALongDocumentIsADocument) {
+  const std::string content = Repeat(R"(some {\b words\'e1} and \u945?\fs20 more, )", 10 << 20);
+  const std::string document = R"({\rtf1\ansi{\fonttbl{\f0 Some font;}}\f0 )" + content + "}";
+  const std::vector<std::string> pieces = Pieces(document);
+  ASSERT_EQ(pieces.size(), 3u);
+  std::u16string text;
+  for (const std::string& piece : pieces) {
+    EXPECT_TRUE(piece.starts_with(R"({\rtf1)"));
+    EXPECT_TRUE(piece.ends_with('}'));
+    EXPECT_LE(piece.size(), ArrivalAssembler::kLargest + (256 << 10));
+    const richtext::Document shown = richtext::ReadRtf(piece);
+    EXPECT_EQ(shown.fonts.front().name, u"Some font");
+    text += shown.text;
+  }
+  EXPECT_TRUE(text == richtext::ReadRtf(document).text);
+}
+
+TEST(ArrivalAssembler, TheMarkerStandsBeforeTheFirstPieceAlone) {
+  for (const std::string& marker : {kMarker, '\0' + std::string(67, '{') + '\0'}) {
+    const std::vector<std::string> pieces =
+        Pieces(marker + R"(M{\rtf1 )" + Repeat("some words ", 5 << 20) + "}");
+    ASSERT_EQ(pieces.size(), 2u);
+    EXPECT_TRUE(pieces[0].starts_with(marker + R"(M{\rtf1 some)"));
+    EXPECT_TRUE(pieces[0].ends_with('}') && !pieces[0].ends_with("}}"));
+    EXPECT_TRUE(pieces[1].starts_with(R"({\rtf1 )"));
+  }
+}
+
+TEST(ArrivalAssembler, WhatIsNotShownComesOutAsNothingShown) {
+  for (const std::string& data : {R"({\pict )"s, R"({\*\word )"s, R"({\bin9000000 )"s}) {
+    std::u16string text;
+    for (const std::string& piece : Pieces(R"({\rtf1 a)" + data + std::string(9'000'000, '0'))) {
+      text += richtext::ReadRtf(piece).text;
+    }
+    EXPECT_EQ(text.substr(0, 10), u"a") << data;
+  }
 }
 
 TEST(ArrivalAssembler, TheEndOfADocumentsLineMayComeLater) {

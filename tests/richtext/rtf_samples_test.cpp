@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "richtext/document_dump.h"
+#include "richtext/rtf_cut.h"
+#include "richtext/rtf_documents.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 
@@ -126,6 +128,27 @@ TEST(RtfSamplesTest, EverySampleCutAnywhereShowsWhatIsThere) {
       const std::size_t sure =
           document.text.size() - std::min<std::size_t>(document.text.size(), 3);
       EXPECT_EQ(document.text.substr(0, sure), whole.substr(0, sure)) << cut;
+    }
+  }
+}
+
+TEST(RtfSamplesTest, EverySampleCutInTwoShowsWhatItShows) {
+  constexpr std::size_t kSteps = 200;
+  const auto withoutBreaks = [](std::u16string text) {
+    std::erase(text, u'\n');
+    return text;
+  };
+  for (const Sample& sample : AllSamples()) {
+    if (!LooksLikeRtf(sample.rtf)) continue;
+    SCOPED_TRACE(sample.name);
+    const std::u16string whole = withoutBreaks(ReadRtf(sample.rtf).text);
+    // Without what stands behind it.
+    const std::size_t size = SplitRtfDocuments(Widen(sample.rtf)).front().size();
+    const std::string_view rtf = std::string_view(sample.rtf).substr(0, size);
+    for (std::size_t length = 0; length < size; length += 1 + size / kSteps) {
+      const CutDocument cut = CutRtf(rtf, length);
+      const std::u16string shown = ReadRtf(cut.before).text + ReadRtf(cut.behind).text;
+      ASSERT_EQ(withoutBreaks(shown), whole) << length;
     }
   }
 }
