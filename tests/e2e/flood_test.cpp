@@ -48,6 +48,9 @@ std::string Line(int number) {
          std::to_string(number) + R"(> \'ea\'e1\'eb\'e7\'ec\'dd\'f1\'e1, hello there\par})";
 }
 
+const QString kTextOfLine =
+    u"<%1> \u03BA\u03B1\u03BB\u03B7\u03BC\u03AD\u03C1\u03B1, hello there"_qs;
+
 // The numbers "<1>", "<2>"... that a text holds, as long as they follow each other.
 int CountInOrder(const QString& text) {
   int count = 0;
@@ -131,8 +134,31 @@ TEST_F(Flood, LinesAreShownOnceAndInOrder) {
   EXPECT_EQ(CountInOrder(copy.Dialogue()), lines);
 }
 
+// What Eve has sent, without the tags before its lines: of the pane's text, or of the log, where
+// other lines are too.
+QString LinesOfEve(const QString& text) {
+  const QString tag = "<Eve>";
+  QString lines;
+  for (QString line : text.split('\n')) {
+    const qsizetype at = line.indexOf(tag);
+    if (at >= 0) lines += line.remove('\r').sliced(at + tag.size());
+  }
+  return lines;
+}
+
 TEST_F(Flood, ALineOfFiveMebibytesIsShownWhole) {
-  SendAndWatch(R"({\rtf1\ansi )" + Repeat("some words and ones more, ", 5 << 20) + "}");
+  std::string content;
+  QString text;
+  for (int i = 0; content.size() < 5 << 20; ++i) {
+    const std::string number = std::to_string(i);
+    content += number + R"( w\'efrds, \u945?{ and \u-10179?\u-8704? more; })";
+    text += QString::fromStdString(number);
+    text += QStringView(u" w\u03BFrds, \u03B1 and \U0001F600 more; ");
+  }
+  SendAndWatch(R"({\rtf1\ansi\ansicpg1253 )" + content + "}");
+  text += kTextOfLine.arg(-1);
+  EXPECT_TRUE(LinesOfEve(copy.Log("Eve")) == text);
+  EXPECT_TRUE(LinesOfEve(copy.Dialogue()) == text);
 }
 
 TEST_F(Flood, AWordOfFourMebibytes) {
