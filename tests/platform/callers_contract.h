@@ -1,138 +1,16 @@
-// Callers and peers that come and go when it suits nobody: a whole program, its windows in memory,
-// whose socket is that of a World (see socket_contract.h).
+// Callers and peers that come and go when it suits nobody.
 #pragma once
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
-#include <utility>
 
-#include "platform/socket_contract.h"
-#include "platform_fake/fake_platform.h"
-#include "shell/program.h"
+#include "platform/callers_fixture.h"
 
 namespace verlume {
 
 template <class World>
-class CallersContract : public testing::Test {
- protected:
-  CallersContract() {
-    fake.files.MakeFolder(u"/macros");
-    fake.files.MakeFolder(u"/logs");
-    fake.files.ReplaceText(u"/verlume/Verlume.ini",
-                           u"[General]\r\nDateStamp=False\r\nTimeStamp=False\r\n"
-                           u"Macrosfolder=/macros/\r\nNickname=Bob\r\n"
-                           u"[Logging]\r\nLogfolder=/logs/\r\nLogdialogue=True\r\n");
-    program.Start();
-  }
-
-  void Enter(const std::u16string& line) {
-    fake.window.rtbCommands.SetText(u"");  // a command that was refused is still there
-    fake.window.rtbCommands.Type(line + u"\r");
-  }
-  void EnterAndAgree(const std::u16string& line) {
-    fake.dialogs.answers.push_back(Answer::Yes);
-    Enter(line);
-    EXPECT_TRUE(fake.dialogs.answers.empty());
-  }
-  std::u16string CallTo(std::int32_t itsPort) const {
-    return u"/CALL " + world.Host() + u" " + DecimalText(itsPort);
-  }
-
-  // The program waits on a free port.
-  void Listen() {
-    Enter(u"/WAIT");
-    port = program.State().LocalPort;
-  }
-  void Call(SocketUser& user) {
-    user.socket.SetRemoteHost(world.Host());
-    user.socket.SetRemotePort(port);
-    user.socket.Connect();
-  }
-  // What the user does in the next box, before it is answered.
-  void WhileOpen(std::function<void()> body) {
-    fake.dialogs.whileOpen = [body, done = false]() mutable {
-      if (!std::exchange(done, true)) body();
-    };
-  }
-  // The peer calls, and the user answers, after what is done while the question is open.
-  void AnswerTheCall(
-      Answer answer, std::function<void()> whileOpen = [] {}) {
-    WhileOpen([this, whileOpen] {
-      ASSERT_TRUE(world.Wait([&] { return peer.connects == 1; }));
-      whileOpen();
-    });
-    fake.dialogs.answers.push_back(answer);
-    Listen();
-    Call(peer);
-    ASSERT_TRUE(world.Wait([&] { return fake.dialogs.answers.empty(); }));
-  }
-  // The peer is accepted, and says nothing to that.
-  void Accept() {
-    ASSERT_NO_FATAL_FAILURE(AnswerTheCall(Answer::Yes));
-    ASSERT_TRUE(world.Wait([&] { return peer.texts.size() == 1; }));
-    EXPECT_EQ(State(), ConnectionState::Waiting);
-  }
-  void Connect() {
-    ASSERT_NO_FATAL_FAILURE(Accept());
-    peer.socket.SendData(program.State().ProtocolMarker + u"CAlice" + u'\0', TextKind::Signal);
-    ASSERT_TRUE(WaitForState(ConnectionState::Connected));
-  }
-
-  ConnectionState State() const { return StateOf(program.State()); }
-  bool WaitForState(ConnectionState state) {
-    return world.Wait([&] { return State() == state; });
-  }
-  bool WaitForClose(const SocketUser& user) {
-    return world.Wait([&] { return user.closes == 1; });
-  }
-  bool StatusEndsIn(std::u16string_view end) const {
-    return fake.window.lblStatus.caption.ends_with(end);
-  }
-  // Nothing is left of any call, and the user can wait for one, reject it, and give up a wait.
-  void ExpectUsable() {
-    EXPECT_EQ(State(), ConnectionState::Idle);
-    EXPECT_EQ(socket.State(), SocketState::Closed);
-    EXPECT_EQ(fake.window.shpStatus.fill, 255);
-    EXPECT_EQ(fake.window.lblLocalPort.caption, u"");
-    EXPECT_EQ(fake.window.lblRemoteIP.caption, u"");
-    EXPECT_TRUE(fake.dialogs.answers.empty());
-    Listen();
-    fake.dialogs.answers.push_back(Answer::No);
-    const std::size_t closesBefore = other.closes;
-    Call(other);
-    EXPECT_TRUE(world.Wait([&] { return other.closes == closesBefore + 1; }));
-    EXPECT_TRUE(StatusEndsIn(u"You rejected the incoming call."));
-    Listen();
-    Enter(u"/CANCEL");
-    EXPECT_TRUE(StatusEndsIn(u"You stopped waiting for an incoming call."));
-    EXPECT_EQ(State(), ConnectionState::Idle);
-    EXPECT_TRUE(fake.dialogs.answers.empty());
-  }
-
-  World world;
-  fake::FakeNetwork unused;
-  fake::FakePlatform fake{unused};
-  Socket& socket = world.New();
-  Platform platform = {fake.window.frmMain,
-                       fake.about.frmAbout,
-                       fake.macros.frmMacros,
-                       socket,
-                       fake.dialogs,
-                       fake.commonDialog,
-                       fake.files,
-                       fake.clock,
-                       fake.locale,
-                       fake.application,
-                       fake.help,
-                       fake.tools};
-  Program program{platform};
-  SocketUser peer{world.New()};
-  SocketUser other{world.New()};
-  std::int32_t port = 0;
-};
+class CallersContract : public CallersFixture<World> {};
 
 TYPED_TEST_SUITE_P(CallersContract);
 
@@ -180,6 +58,30 @@ TYPED_TEST_P(CallersContract, BytesBeforeTheHandshakeMakeNoConversation) {
   EXPECT_EQ(this->fake.dialogs.messages.size(), 1u);
   this->Enter(u"/CANCEL");
   EXPECT_TRUE(this->WaitForClose(this->peer));
+  this->ExpectUsable();
+}
+
+TYPED_TEST_P(CallersContract, AFloodBeforeTheHandshakeCanBeCancelled) {
+  ASSERT_NO_FATAL_FAILURE(this->AnswerTheCall(Answer::Yes, [this] {
+    for (int line = 0; line < 1000; ++line) {
+      this->peer.socket.SendData(u"flood ", TextKind::Line);
+    }
+  }));
+  ASSERT_TRUE(this->world.Wait([&] { return this->fake.window.rtbData.TextLength() > 0; }));
+  this->Enter(u"/CANCEL");
+  EXPECT_TRUE(this->StatusEndsIn(u"You stopped waiting for an incoming call."));
+  const std::u16string shown = this->fake.window.rtbData.Text();
+  EXPECT_TRUE(this->WaitForClose(this->peer));
+  EXPECT_EQ(this->fake.window.rtbData.Text(), shown);
+  this->ExpectUsable();
+}
+
+TYPED_TEST_P(CallersContract, WhatARejectedOneHasSaidIsNotShown) {
+  ASSERT_NO_FATAL_FAILURE(this->AnswerTheCall(
+      Answer::No, [this] { this->peer.socket.SendData(u"early", TextKind::Line); }));
+  EXPECT_TRUE(this->WaitForClose(this->peer));
+  EXPECT_EQ(this->fake.window.rtbData.Text(), u"");
+  EXPECT_EQ(this->fake.window.lblBytesReceived.tag, u"");
   this->ExpectUsable();
 }
 
@@ -258,103 +160,6 @@ TYPED_TEST_P(CallersContract, AnAnswerToAPeerThatIsGoneEndsTheConversation) {
   this->ExpectUsable();
 }
 
-// A box or a window stays for the user to leave.
-TYPED_TEST_P(CallersContract, APeerThatClosesUnderABoxLeavesTheUserFree) {
-  auto& dialogs = this->fake.dialogs;
-  auto& commonDialog = this->fake.commonDialog;
-  auto& window = this->fake.window;
-  struct Box {
-    const char* name;
-    std::function<void()>& whileOpen;
-    std::function<void()> open;
-  };
-  const Box boxes[] = {
-      {"a message", dialogs.whileOpen, [&] { this->Enter(u"/CANCEL"); }},
-      {"a refusal", dialogs.whileOpen, [&] { this->Enter(u"/CALL nobody 4000"); }},
-      {"a question", dialogs.whileOpen,
-       [&] {
-         dialogs.answers = {Answer::No};
-         this->Enter(u"/EXIT");
-       }},
-      {"an input box", dialogs.whileOpen,
-       [&] {
-         dialogs.typed = {u""};
-         this->Enter(u"/NICK");
-       }},
-      {"a font dialog", commonDialog.whileOpen,
-       [&] {
-         commonDialog.fonts = {std::nullopt};
-         window.mnuFormatFontSettings.Click();
-       }},
-      {"a colour dialog", commonDialog.whileOpen,
-       [&] {
-         commonDialog.colors = {std::nullopt};
-         window.mnuFormatFontColor.Click();
-       }},
-      {"a file dialog", commonDialog.whileOpen,
-       [&] {
-         dialogs.answers = {Answer::Yes};
-         commonDialog.files = {std::nullopt};
-         window.mnuFileLogOpen.Click();
-       }},
-      {"a folder dialog", commonDialog.whileOpen,
-       [&] {
-         commonDialog.folders = {std::nullopt};
-         window.mnuFileMacrosFolder.Click();
-       }},
-      {"the About box", this->fake.about.window.whileModal, [&] { window.mnuHelpAbout.Click(); }},
-      {"the macro editor", this->fake.macros.window.whileModal,
-       [&] { window.mnuToolsEditMacros.Click(); }},
-  };
-  for (const Box& box : boxes) {
-    SCOPED_TRACE(box.name);
-    this->peer.connects = 0;
-    this->peer.texts.clear();
-    ASSERT_NO_FATAL_FAILURE(this->Connect());
-    bool isSeen = false;
-    box.whileOpen = [&] {
-      isSeen = true;
-      this->peer.socket.Close();
-      EXPECT_TRUE(this->WaitForState(ConnectionState::Idle)) << "while it is open";
-      EXPECT_TRUE(this->StatusEndsIn(u"Disconnected."));
-      this->fake.macros.cmdClose.onClick();
-    };
-    box.open();
-    box.whileOpen = nullptr;
-    EXPECT_TRUE(isSeen);
-    this->ExpectUsable();
-  }
-}
-
-TYPED_TEST_P(CallersContract, TheWindowMayBeClosedUnderTheQuestionAboutACall) {
-  ASSERT_NO_FATAL_FAILURE(this->AnswerTheCall(Answer::Yes, [this] {
-    this->fake.dialogs.answers.push_front(Answer::Yes);  // to the program's end
-    this->fake.window.window.Close(UnloadMode::User);
-  }));
-  EXPECT_TRUE(this->fake.application.ended);
-  EXPECT_EQ(this->socket.State(), SocketState::Closed);
-  EXPECT_TRUE(this->WaitForClose(this->peer));
-  EXPECT_TRUE(this->peer.texts.empty());
-}
-
-TYPED_TEST_P(CallersContract, AWindowThatStaysUnderTheQuestionAboutACallTakesIt) {
-  ASSERT_NO_FATAL_FAILURE(this->AnswerTheCall(Answer::Yes, [this] {
-    this->fake.dialogs.answers.push_front(Answer::No);
-    this->fake.window.window.Close(UnloadMode::User);
-  }));
-  EXPECT_FALSE(this->fake.application.ended);
-  EXPECT_TRUE(this->world.Wait([&] { return this->peer.texts.size() == 1; }));
-}
-
-TYPED_TEST_P(CallersContract, TheLanguageMayChangeUnderTheQuestionAboutACall) {
-  ASSERT_NO_FATAL_FAILURE(
-      this->AnswerTheCall(Answer::No, [this] { this->fake.window.mnuToolsLanguageGreek.Click(); }));
-  EXPECT_TRUE(this->StatusEndsIn(u"Απορρίψατε την εισερχόμενη κλήση."));
-  this->fake.window.mnuToolsLanguageEnglish.Click();
-  EXPECT_TRUE(this->WaitForClose(this->peer));
-  this->ExpectUsable();
-}
-
 TYPED_TEST_P(CallersContract, WaitingAndCallingMayAlternateAsFastAsTheyLike) {
   this->peer.answer = [this](std::int64_t) {
     this->peer.socket.Close();
@@ -420,15 +225,13 @@ TYPED_TEST_P(CallersContract, TheWindowMayBeClosedDuringACallByName) {
 }
 
 REGISTER_TYPED_TEST_SUITE_P(
-    CallersContract, OneThatSaysNothingCanBeCancelled, OneThatSaysNothingGivesWayToAnotherWait,
+    CallersContract, AFloodBeforeTheHandshakeCanBeCancelled, WhatARejectedOneHasSaidIsNotShown,
+    OneThatSaysNothingCanBeCancelled, OneThatSaysNothingGivesWayToAnotherWait,
     OneThatSaysNothingGivesWayToACall, BytesBeforeTheHandshakeMakeNoConversation,
     ASecondOneIsNeitherAskedAboutNorConnected, ASecondOneIsRejectedWithTheFirst,
     OneDuringAConversationIsRefused, OneThatLeftIsAcceptedInVain, OneThatLeftIsRejectedAsWell,
     OneThatLeavesInsteadOfConfirmingMakesNoConversation,
-    AnAnswerToAPeerThatIsGoneEndsTheConversation, APeerThatClosesUnderABoxLeavesTheUserFree,
-    TheWindowMayBeClosedUnderTheQuestionAboutACall,
-    AWindowThatStaysUnderTheQuestionAboutACallTakesIt,
-    TheLanguageMayChangeUnderTheQuestionAboutACall, WaitingAndCallingMayAlternateAsFastAsTheyLike,
+    AnAnswerToAPeerThatIsGoneEndsTheConversation, WaitingAndCallingMayAlternateAsFastAsTheyLike,
     ACallToItselfIsRefused, CallsToWhatDoesNotExistComeToNothing, ACallByNameIsCancelledAtOnce,
     TheWindowMayBeClosedDuringACallByName);
 
