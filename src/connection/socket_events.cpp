@@ -20,6 +20,7 @@ void SocketEvents::sckControl_ConnectionRequest(std::int64_t requestId) {
     if (!isStillWaiting) return;
     if (isAccepted) {
       platform_.sckControl.Close();
+      MeetStranger();
       platform_.sckControl.Accept(requestId);
       wire_.SendStart();
     } else {
@@ -42,8 +43,10 @@ bool SocketEvents::AskWhetherToAccept(const std::u16string& ip) {
 
 void SocketEvents::sckControl_Connect() {
   // Nothing is sent: the side that was called speaks first.
-  errors_.Guard(Procedure::sckControl_Connect,
-                [this] { ShowPeer(platform_.sckControl.RemoteHostIP()); });
+  errors_.Guard(Procedure::sckControl_Connect, [this] {
+    MeetStranger();
+    ShowPeer(platform_.sckControl.RemoteHostIP());
+  });
 }
 
 void SocketEvents::sckControl_DataArrival(std::int32_t) {
@@ -64,6 +67,12 @@ void SocketEvents::sckControl_Close() {
     log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());
     state_.LogOpen = false;
   });
+}
+
+// Until the peer has named itself, what it says is nobody's. The status panel goes on telling of
+// the last conversation.
+void SocketEvents::MeetStranger() {
+  state_.RemoteNickname.clear();
 }
 
 void SocketEvents::ShowPeer(const std::u16string& ip) {

@@ -27,6 +27,8 @@ class SocketEvents {
 
  private:
   bool AskWhetherToAccept(const std::u16string& ip);
+  // A connection to somebody who has not told a nickname yet.
+  void MeetStranger();
   // A connection to a peer is being established.
   void ShowPeer(const std::u16string& ip);
   // A text with %1 host, %2 port.

@@ -61,6 +61,35 @@ TYPED_TEST_P(CallersContract, BytesBeforeTheHandshakeMakeNoConversation) {
   this->ExpectUsable();
 }
 
+TYPED_TEST_P(CallersContract, BytesBeforeTheHandshakeAreNotTheFormerPeers) {
+  ASSERT_NO_FATAL_FAILURE(this->Connect());
+  this->peer.socket.Close();
+  ASSERT_TRUE(this->WaitForState(ConnectionState::Idle));
+  const std::u16string log = this->fake.files.ReadText(u"/logs/Alice.txt");
+  this->peer.connects = 0;
+  this->peer.texts.clear();
+  ASSERT_NO_FATAL_FAILURE(this->AnswerTheCall(
+      Answer::Yes, [this] { this->peer.socket.SendData(u"it is me", TextKind::Line); }));
+  EXPECT_TRUE(this->world.Wait([&] { return this->fake.window.rtbData.Text() == u"<>it is me"; }));
+  EXPECT_EQ(this->fake.files.ReadText(u"/logs/Alice.txt"), log);
+  EXPECT_EQ(this->fake.window.lblRemoteNickname.caption, u"Alice") << "of the last conversation";
+}
+
+TYPED_TEST_P(CallersContract, BytesBeforeTheHandshakeOfACallAreNotTheFormerPeersEither) {
+  ASSERT_NO_FATAL_FAILURE(this->Connect());
+  this->peer.socket.Close();
+  ASSERT_TRUE(this->WaitForState(ConnectionState::Idle));
+  this->other.answer = [this](std::int64_t id) {
+    this->other.socket.Close();
+    this->other.socket.Accept(id);
+    this->other.socket.SendData(u"it is me", TextKind::Line);
+  };
+  this->other.socket.SetLocalPort(0);
+  this->other.socket.Listen();
+  this->Enter(this->CallTo(this->other.socket.LocalPort()));
+  EXPECT_TRUE(this->world.Wait([&] { return this->fake.window.rtbData.Text() == u"<>it is me"; }));
+}
+
 TYPED_TEST_P(CallersContract, AFloodBeforeTheHandshakeCanBeCancelled) {
   ASSERT_NO_FATAL_FAILURE(this->AnswerTheCall(Answer::Yes, [this] {
     for (int line = 0; line < 1000; ++line) {
@@ -228,6 +257,8 @@ REGISTER_TYPED_TEST_SUITE_P(
     CallersContract, AFloodBeforeTheHandshakeCanBeCancelled, WhatARejectedOneHasSaidIsNotShown,
     OneThatSaysNothingCanBeCancelled, OneThatSaysNothingGivesWayToAnotherWait,
     OneThatSaysNothingGivesWayToACall, BytesBeforeTheHandshakeMakeNoConversation,
+    BytesBeforeTheHandshakeAreNotTheFormerPeers,
+    BytesBeforeTheHandshakeOfACallAreNotTheFormerPeersEither,
     ASecondOneIsNeitherAskedAboutNorConnected, ASecondOneIsRejectedWithTheFirst,
     OneDuringAConversationIsRefused, OneThatLeftIsAcceptedInVain, OneThatLeftIsRejectedAsWell,
     OneThatLeavesInsteadOfConfirmingMakesNoConversation,
