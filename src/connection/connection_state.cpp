@@ -1,5 +1,6 @@
 #include "connection/connection_state.h"
 
+#include "records/dialogue_log.h"
 #include "shell/delivery.h"
 #include "shell/status_panel.h"
 
@@ -20,6 +21,12 @@ void EnterState(AppState& state, ConnectionState entered) {
 }
 
 void ResetConnection(AppState& state, Platform& platform) {
+  // Some of these lines may be told of when another conversation is on. Before the handshake there
+  // is none that they belong to.
+  if (platform.sckControl.LinesWaiting() > 0) {
+    const bool isConversation = StateOf(state) == ConnectionState::Connected;
+    state.ClosedLog = isConversation ? LogPath(state, platform.files) : std::u16string();
+  }
   EnterState(state, ConnectionState::Idle);
   MainWindow& frmMain = platform.frmMain;
   frmMain.lblLocalPort.SetCaption(u"");

@@ -96,9 +96,19 @@ void WireProtocol::ShowLinesWaiting() {
 }
 
 void WireProtocol::OnUndelivered(std::size_t lines) {
+  const ConnectionState on = StateOf(state_);
+  // A connection that breaks is closed by now, and its state is still there.
+  const bool isBroken =
+      on != ConnectionState::Idle && platform_.sckControl.State() == SocketState::Closed;
   state_.LinesUndelivered = lines;
+  state_.UndeliveredBefore = !isBroken && on == ConnectionState::Connected;
   ShowDelivery(state_, platform_.frmMain);
-  with_.log.AppendAfterwards(UndeliveredText(lines, state_.IsGreek));
+  const std::u16string text = UndeliveredText(lines, state_.IsGreek);
+  if (isBroken) {
+    with_.log.AppendConnectionLine(text);
+  } else {
+    with_.log.AppendAfterwards(text);
+  }
 }
 
 void WireProtocol::OnStart(std::u16string_view data) {

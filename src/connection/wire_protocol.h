@@ -46,7 +46,8 @@ class WireProtocol {
 
   // Shows the lines that the peer's machine has not acknowledged yet.
   void ShowLinesWaiting();
-  // A connection ended before these lines arrived: the status line's tool tip and the log say so.
+  // A connection ended before these lines arrived: the status line's tool tip and the log of its
+  // conversation say so, also when another one is on by then.
   void OnUndelivered(std::size_t lines);
 
  private:

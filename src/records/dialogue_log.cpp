@@ -1,7 +1,5 @@
 #include "records/dialogue_log.h"
 
-#include <utility>
-
 #include "macros/folder_choice.h"
 #include "macros/macro_paths.h"
 #include "platform/run_time_failure.h"
@@ -37,6 +35,10 @@ std::u16string EntryOf(std::u16string_view text) {
   return line += kEnd;
 }
 
+std::u16string ConnectionLine(const Clock& clock, std::u16string_view statusText) {
+  return u"[" + DateTimeText(clock) + u"]***** " + std::u16string(statusText);
+}
+
 }  // namespace
 
 std::u16string LogFileStemOf(std::u16string_view nickname) {
@@ -51,32 +53,33 @@ std::u16string LogFileStemOf(std::u16string_view nickname) {
   return stem;
 }
 
+std::u16string LogPath(const AppState& state, const FileSystem& files) {
+  if (state.LogFolder.empty()) return {};
+  return WithTrailingSeparator(state.LogFolder, files.Separator()) + state.LogFileStem + u".txt";
+}
+
 bool DialogueLog::IsRecording() const {
   return state_.LogDialogue && state_.LogOpen;
 }
 
 void DialogueLog::AppendToLog(std::u16string_view line) {
-  if (!IsRecording()) return;
+  if (IsRecording()) Append(LogPath(state_, platform_.files), line);
+}
+
+void DialogueLog::Append(const std::u16string& path, std::u16string_view line) {
   errors_.Guard(Procedure::AppendToLog, [&] {
-    // Without a folder the path would begin at the root.
-    if (state_.LogFolder.empty()) throw RunTimeFailure(FailureNumber::PathNotFound);
-    const std::u16string path =
-        WithTrailingSeparator(state_.LogFolder, platform_.files.Separator()) + state_.LogFileStem +
-        u".txt";
+    if (path.empty()) throw RunTimeFailure(FailureNumber::PathNotFound);
     platform_.files.AppendText(path, EntryOf(line));
   });
 }
 
 void DialogueLog::AppendConnectionLine(std::u16string_view statusText) {
-  AppendToLog(u"[" + DateTimeText(platform_.clock) + u"]***** " + std::u16string(statusText));
+  AppendToLog(ConnectionLine(platform_.clock, statusText));
 }
 
 void DialogueLog::AppendAfterwards(std::u16string_view statusText) {
-  if (state_.LogFileStem.empty()) return;
-  const bool wasOpen = std::exchange(state_.LogOpen, true);
-  AppendConnectionLine(statusText);
-  // A failure has ended the conversation.
-  state_.LogOpen = state_.LogOpen && wasOpen;
+  if (!state_.LogDialogue || state_.ClosedLog.empty()) return;
+  Append(state_.ClosedLog, ConnectionLine(platform_.clock, statusText));
 }
 
 void DialogueLog::mnuFileLogFolder_Click() {

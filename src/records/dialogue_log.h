@@ -17,6 +17,9 @@ namespace verlume {
 // kNicknameLimit characters: with an extension, far from the 255 bytes that a file system takes.
 std::u16string LogFileStemOf(std::u16string_view nickname);
 
+// The log file of the conversation that is on, or was last; "" without a log folder.
+std::u16string LogPath(const AppState& state, const FileSystem& files);
+
 class DialogueLog {
  public:
   DialogueLog(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings)
@@ -30,7 +33,8 @@ class DialogueLog {
   // "[date_time]***** " + text: the lines that tell of the connection.
   void AppendConnectionLine(std::u16string_view statusText);
 
-  // The same of the last conversation, also when it is over. Does nothing where none was.
+  // The same into AppState::ClosedLog, whatever conversation is on. Does nothing while logging is
+  // off or where there is none.
   void AppendAfterwards(std::u16string_view statusText);
 
   // Lets the user choose the log folder and keeps it in the settings file; refused while lines are
@@ -42,6 +46,7 @@ class DialogueLog {
 
  private:
   bool IsRecording() const;
+  void Append(const std::u16string& path, std::u16string_view line);
   // True unless it failed, which has then been reported (239).
   bool ChooseLogFolder();
   bool RefuseWhileRecording();

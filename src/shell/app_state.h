@@ -37,12 +37,13 @@ struct AppState {
   std::u16string LocalAddress;
   std::u16string RemoteHost;  // as the user called it
   std::int32_t RemotePort = 0;
-  std::u16string RemoteAddress;  // of the connected peer
+  std::u16string RemoteAddress;      // of the connected peer
   std::u16string Nickname;           // 1 to kNicknameLimit characters
-  std::u16string RemoteNickname;     // as it is shown (shell/nickname.h)
+  std::u16string RemoteNickname;     // as it is shown (shell/nickname.h); "" until the peer tells
   std::u16string ProtocolMarker;     // opens every protocol message (connection/wire_protocol.h)
   std::size_t LinesWaiting = 0;      // sent, and not yet acknowledged by the peer's machine
   std::size_t LinesUndelivered = 0;  // of the last conversation: never acknowledged
+  bool UndeliveredBefore = false;    // of the one before it: it was told of late
 
   // The line being executed.
   std::u16string CommandLine;   // its plain text
@@ -69,6 +70,7 @@ struct AppState {
   bool LogDialogue = false;     // the user's switch
   bool LogOpen = false;         // a conversation is on
   std::u16string LogFileStem;   // the peer's nickname made fit for a file name
+  std::u16string ClosedLog;     // path, of the conversation closed last with lines on their way
   std::u16string DialogFilter;  // of the last load or save dialog
 
   // Macros.

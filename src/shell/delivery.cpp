@@ -7,16 +7,24 @@ namespace verlume {
 namespace {
 
 constexpr TextPair kWaiting = {u"%1 waiting", u"%1 σε αναμονή"};
-constexpr TextPair kOneUndelivered = {u"%1 line was not delivered.",
-                                      u"%1 γραμμή δεν παραδόθηκε."};
-constexpr TextPair kUndelivered = {u"%1 lines were not delivered.",
-                                   u"%1 γραμμές δεν παραδόθηκαν."};
+constexpr TextPair kOneUndelivered = {u"%1 line was not delivered.", u"%1 γραμμή δεν παραδόθηκε."};
+constexpr TextPair kUndelivered = {u"%1 lines were not delivered.", u"%1 γραμμές δεν παραδόθηκαν."};
+
+constexpr TextPair kOneUndeliveredBefore = {
+    u"%1 line of the conversation before was not delivered.",
+    u"%1 γραμμή της προηγούμενης συνομιλίας δεν παραδόθηκε."};
+constexpr TextPair kUndeliveredBefore = {
+    u"%1 lines of the conversation before were not delivered.",
+    u"%1 γραμμές της προηγούμενης συνομιλίας δεν παραδόθηκαν."};
+
+std::u16string Fill(const TextPair& one, const TextPair& several, std::size_t lines, bool isGreek) {
+  return (lines == 1 ? one : several).Fill(isGreek, {DecimalText(static_cast<long long>(lines))});
+}
 
 }  // namespace
 
 std::u16string UndeliveredText(std::size_t lines, bool isGreek) {
-  const TextPair& text = lines == 1 ? kOneUndelivered : kUndelivered;
-  return text.Fill(isGreek, {DecimalText(static_cast<long long>(lines))});
+  return Fill(kOneUndelivered, kUndelivered, lines, isGreek);
 }
 
 void ShowDelivery(const AppState& state, const MainWindow& frmMain) {
@@ -27,7 +35,10 @@ void ShowDelivery(const AppState& state, const MainWindow& frmMain) {
           : kWaiting.Fill(isGreek, {DecimalText(static_cast<long long>(state.LinesWaiting))}));
   std::u16string toolTip(kStatusToolTip.In(isGreek));
   if (state.LinesUndelivered > 0) {
-    toolTip += u": " + UndeliveredText(state.LinesUndelivered, isGreek);
+    const std::size_t lines = state.LinesUndelivered;
+    toolTip += u": " + (state.UndeliveredBefore
+                            ? Fill(kOneUndeliveredBefore, kUndeliveredBefore, lines, isGreek)
+                            : UndeliveredText(lines, isGreek));
   }
   frmMain.lblStatus.SetToolTip(toolTip);
 }

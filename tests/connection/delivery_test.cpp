@@ -1,6 +1,8 @@
 // What the user is told of lines that have not arrived.
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "support/side.h"
 
 namespace verlume {
@@ -20,6 +22,24 @@ class DeliveryTest : public testing::Test, protected fake::TwoSides {
     bob.state.CommandLine = u"/CLOSE";
     bob.actions.CloseConnection();
     network.RunUntilIdle();
+  }
+  void AliceCloses() {
+    alice.state.CommandLine = u"/CLOSE";
+    alice.actions.CloseConnection();
+  }
+  // Bob has another name by then, and what Alice could not send is told of in the middle of it.
+  void BeginAnotherConversation() {
+    network.Mend();
+    bob.state.Nickname = u"Carol";
+    const auto tell = std::exchange(alice.fake.socket.onUndelivered, nullptr);
+    std::size_t lost = 0;
+    alice.fake.socket.onUndelivered = [&](std::size_t lines) { lost = lines; };
+    network.RunUntilIdle();  // Bob hears of the end
+    Connect();
+    alice.fake.socket.onUndelivered = tell;
+    ASSERT_EQ(alice.State(), ConnectionState::Connected);
+    ASSERT_GT(lost, 0u);
+    tell(lost);
   }
   std::u16string Waiting() const { return alice.fake.window.lblWaiting.caption; }
   std::u16string ToolTip() const { return alice.fake.window.lblStatus.toolTip; }
@@ -105,6 +125,93 @@ TEST_F(DeliveryTest, NothingUndeliveredIsNothingToTell) {
   BobCloses();
   EXPECT_EQ(ToolTip(), u"Status");
   EXPECT_EQ(alice.LogOf(u"Bob").find(u"not delivered"), std::u16string::npos);
+}
+
+TEST_F(DeliveryTest, WhatIsToldLateIsOfTheConversationBefore) {
+  SendOnCutNetwork(2);
+  AliceCloses();
+  BeginAnotherConversation();
+  EXPECT_EQ(ToolTip(), u"Status: 2 lines of the conversation before were not delivered.");
+  EXPECT_TRUE(LogSays(u"2 lines were not delivered."));
+  EXPECT_EQ(alice.LogOf(u"Carol").find(u"not delivered"), std::u16string::npos);
+  EXPECT_TRUE(alice.state.LogOpen);
+}
+
+TEST_F(DeliveryTest, WhatIsToldLateSpeaksGreek) {
+  alice.state.IsGreek = true;
+  SendOnCutNetwork(2);
+  AliceCloses();
+  BeginAnotherConversation();
+  EXPECT_EQ(ToolTip(), u"Κατάσταση: 2 γραμμές της προηγούμενης συνομιλίας δεν παραδόθηκαν.");
+}
+
+TEST_F(DeliveryTest, OneLineThatIsToldLateIsNoPlural) {
+  SendOnCutNetwork(1);
+  AliceCloses();
+  BeginAnotherConversation();
+  EXPECT_EQ(ToolTip(), u"Status: 1 line of the conversation before was not delivered.");
+}
+
+TEST_F(DeliveryTest, AConversationThatBreaksAfterOneThatWasToldLateTellsOfItself) {
+  SendOnCutNetwork(2);
+  AliceCloses();
+  BeginAnotherConversation();
+  SendOnCutNetwork(3);
+  BobCloses();
+  EXPECT_EQ(ToolTip(), u"Status: 3 lines were not delivered.");
+  EXPECT_NE(alice.LogOf(u"Carol").find(u"]***** 3 lines were not delivered.\r\n"),
+            std::u16string::npos);
+  EXPECT_FALSE(LogSays(u"3 lines were not delivered."));
+}
+
+TEST_F(DeliveryTest, WhatIsToldAfterTheLogFolderHasChangedIsInTheOldOne) {
+  SendOnCutNetwork(2);
+  AliceCloses();
+  alice.fake.files.MakeFolder(u"/elsewhere");
+  alice.state.LogFolder = u"/elsewhere/";
+  network.RunUntilIdle();
+  EXPECT_TRUE(LogSays(u"2 lines were not delivered."));
+  EXPECT_FALSE(alice.fake.files.IsFile(u"/elsewhere/Bob.txt"));
+}
+
+TEST_F(DeliveryTest, NothingIsToldInTheLogWhenLoggingIsOff) {
+  SendOnCutNetwork(2);
+  AliceCloses();
+  alice.state.LogDialogue = false;
+  network.RunUntilIdle();
+  EXPECT_EQ(ToolTip(), u"Status: 2 lines were not delivered.");
+  EXPECT_FALSE(LogSays(u"2 lines were not delivered."));
+}
+
+TEST_F(DeliveryTest, LinesBeforeTheHandshakeAreInNobodysLog) {
+  AliceCloses();
+  network.RunUntilIdle();
+  bob.fake.socket.onDataArrival = nullptr;  // the caller's side never hears of the start
+  alice.Wait(u"4001");
+  alice.fake.dialogs.answers = {Answer::Yes};
+  bob.Call(u"alice 4001");
+  network.RunUntilIdle();
+  ASSERT_EQ(alice.fake.socket.State(), SocketState::Connected);
+  SendOnCutNetwork(1);
+  alice.actions.CancelWaitOrCall();
+  network.RunUntilIdle();
+  EXPECT_EQ(ToolTip(), u"Status: 1 line was not delivered.");
+  EXPECT_FALSE(LogSays(u"1 line was not delivered."));
+}
+
+TEST_F(DeliveryTest, LinesBeforeTheHandshakeThatBreakAreInNobodysLogEither) {
+  AliceCloses();
+  network.RunUntilIdle();
+  bob.fake.socket.onDataArrival = nullptr;
+  alice.Wait(u"4001");
+  alice.fake.dialogs.answers = {Answer::Yes};
+  bob.Call(u"alice 4001");
+  network.RunUntilIdle();
+  SendOnCutNetwork(1);
+  bob.actions.CancelWaitOrCall();
+  network.RunUntilIdle();
+  EXPECT_EQ(ToolTip(), u"Status: 1 line was not delivered.");
+  EXPECT_FALSE(LogSays(u"1 line was not delivered."));
 }
 
 TEST_F(DeliveryTest, TheNextConversationBeginsAnew) {
