@@ -68,6 +68,19 @@ TEST_F(RemoteNicknameTest, AnOverlongOneIsCut) {
   ExpectShown(std::u16string(5000, u'b'), shown, shown);
 }
 
+// The euro sign is the one that takes most bytes there of those that the wire carries.
+TEST_F(RemoteNicknameTest, NoneMakesALongFileName) {
+  for (const char16_t kind : {u'S', u'C'}) Send(kind, std::u16string(5000, u'€'));
+  ASSERT_NE(bob.LogOf(std::u16string(32, u'€')), u"");
+  for (const auto& [path, content] : bob.fake.files.files) {
+    std::size_t bytes = 0;  // in UTF-8
+    for (const char16_t c : path.substr(path.rfind(u'/') + 1)) {
+      bytes += c < 0x80 ? 1u : c < 0x800 ? 2u : 3u;
+    }
+    EXPECT_LT(bytes, 200u);
+  }
+}
+
 TEST_F(RemoteNicknameTest, AnEmptyOneIsNoFileName) {
   ExpectShown(u"", u"", u"_");
 }

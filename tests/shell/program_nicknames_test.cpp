@@ -79,6 +79,27 @@ TEST_F(ProgramNicknamesTest, MarkupAndFormatsInALineAreText) {
   EXPECT_EQ(bob->Dialogue(), u"<<b>{\\b}&%1$l><b>{\\b}&%1$l");
 }
 
+TEST_F(ProgramNicknamesTest, OneThatLooksLikeAPathIsNoneWhereAFileNameIsProposed) {
+  Start(u"../<b>x");
+  bob->platform.dialogs.answers = {Answer::Yes};
+  bob->platform.commonDialog.files = {std::nullopt};
+  Say(*eve, u"hello");
+  bob->platform.window.mnuFileLogSaveAs.Click();
+  ASSERT_EQ(bob->platform.commonDialog.filesShown.size(), 1u);
+  EXPECT_EQ(bob->platform.commonDialog.filesShown[0].fileName, u".._b_x");
+  EXPECT_EQ(bob->platform.commonDialog.filesShown[0].initialFolder, u"/logs/");
+}
+
+TEST_F(ProgramNicknamesTest, NoTitleTellsIt) {
+  Start(u"Error");
+  EXPECT_EQ(bob->platform.window.window.title, u"Verlume");
+  bob->platform.dialogs.answers = {Answer::No};
+  eve->platform.socket.SendData(eve->program.State().ProtocolMarker + u"NError", TextKind::Signal);
+  network.RunUntilIdle();
+  EXPECT_EQ(bob->platform.dialogs.messages.back().title, u"Verlume, 209.");
+  EXPECT_EQ(bob->platform.window.window.title, u"Verlume");
+}
+
 TEST_F(ProgramNicknamesTest, TheBoxProposesItAsItIs) {
   Start(u"\u202Eeve");
   eve->platform.dialogs.typed = {u""};
