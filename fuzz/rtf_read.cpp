@@ -1,12 +1,15 @@
-// Any bytes, read as a file and as text from the wire; and the cutting of what TCP has joined.
+// Any bytes, read as a file and as text from the wire, whole and part by part; and the cutting of
+// what TCP has joined and of what is too long.
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "fuzz/check_document.h"
 #include "richtext/code_pages.h"
+#include "richtext/rtf_cut.h"
 #include "richtext/rtf_documents.h"
 #include "richtext/rtf_reader.h"
+#include "richtext/rtf_reading.h"
 
 namespace verlume::fuzz {
 namespace {
@@ -29,6 +32,33 @@ void CheckPieces(std::u16string_view text) {
   Check(IsOnlyLineEnds({end, rest}), "what stands behind the pieces is in the last of them");
 }
 
+void CheckParts(std::u16string_view text) {
+  constexpr std::size_t kPartLength = 16;
+  const std::u16string whole = richtext::ReadRtf(text).text;
+  std::u16string joined;
+  richtext::RtfReading reading{std::u16string(text)};
+  while (!reading.IsDone()) {
+    const richtext::Document part = reading.Next(kPartLength);
+    CheckSound(part);
+    joined += part.text;
+  }
+  Check(joined == whole, "parts add up to the text");
+  std::u16string appended;
+  richtext::AppendRtfText(text, appended);
+  Check(appended == whole, "the text alone is the text");
+}
+
+// Two documents, of which the second does not begin with more than a long table.
+void CheckCut(std::string_view bytes) {
+  constexpr std::size_t kLongestOpening = 128 * 1024;
+  if (!richtext::LooksLikeRtf(bytes)) return;
+  const richtext::CutDocument cut = richtext::CutRtf(bytes, bytes.size() / 2);
+  CheckSound(richtext::ReadRtf(cut.before));
+  CheckSound(richtext::ReadRtf(cut.behind));
+  Check(richtext::LooksLikeRtf(cut.before), "what comes before a cut is a document");
+  Check(cut.behind.size() <= bytes.size() + kLongestOpening, "openings are short");
+}
+
 }  // namespace
 }  // namespace verlume::fuzz
 
@@ -40,5 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::Check(richtext::EncodeGreek(text) == bytes, "decoding and encoding gives the same bytes");
   fuzz::CheckSound(richtext::ReadRtf(text));
   fuzz::CheckPieces(text);
+  fuzz::CheckParts(text);
+  fuzz::CheckCut(bytes);
   return 0;
 }
