@@ -10,8 +10,6 @@ namespace {
 constexpr std::string_view kOpening = "{\\rtf";
 // NUL, 67 characters, NUL.
 constexpr std::size_t kMarkerLength = 69;
-// A document is cut so far before the end of what has come that the end itself cuts nothing.
-constexpr std::size_t kRest = 16 * 1024;
 
 bool IsLineEnd(char byte) {
   return byte == '\r' || byte == '\n' || byte == '\0';
@@ -110,11 +108,12 @@ std::string ArrivalAssembler::TakeWhole() {
   return whole;
 }
 
-// Only a document waits for so long.
+// Only a document waits for so long. Half of it is cut off: to cut and to show it takes no longer
+// than to show the longest whole one, and the end of what has come, which may cut a word, is far.
 std::string ArrivalAssembler::TakePiece() {
   const std::size_t begin = waiting_[0] == '\0' ? kMarkerLength + 1 : 0;
   const std::string_view document = std::string_view(waiting_).substr(begin);
-  richtext::CutDocument cut = richtext::CutRtf(document, document.size() - kRest);
+  richtext::CutDocument cut = richtext::CutRtf(document, document.size() / 2);
   std::string piece = waiting_.substr(0, begin) + cut.before;
   waiting_ = std::move(cut.behind);
   at_ = At::Start;

@@ -199,12 +199,12 @@ TEST(ArrivalAssembler, EachPieceOfALongDocumentIsADocument) {
   const std::string content = Repeat(R"(some {\b words\'e1} and \u945?\fs20 more, )", 10 << 20);
   const std::string document = R"({\rtf1\ansi{\fonttbl{\f0 Some font;}}\f0 )" + content + "}";
   const std::vector<std::string> pieces = Pieces(document);
-  ASSERT_EQ(pieces.size(), 3u);
+  ASSERT_GE(pieces.size(), 3u);
   std::u16string text;
   for (const std::string& piece : pieces) {
     EXPECT_TRUE(piece.starts_with(R"({\rtf1)"));
     EXPECT_TRUE(piece.ends_with('}'));
-    EXPECT_LE(piece.size(), ArrivalAssembler::kLargest + (256 << 10));
+    EXPECT_LE(piece.size(), ArrivalAssembler::kLargest);
     const richtext::Document shown = richtext::ReadRtf(piece);
     EXPECT_EQ(shown.fonts.front().name, u"Some font");
     text += shown.text;
