@@ -59,9 +59,14 @@ Control ReadControl(std::u16string_view rtf) {
 class Replacer {
  public:
   Replacer(std::u16string_view rtf, std::span<const RtfReplacement> list)
-      : rest_(rtf), list_(list), used_(list.size(), false) {}
+      : rest_(rtf), list_(list), used_(list.size(), false) {
+    for (const RtfReplacement& each : list) {
+      if (notable_.find(each.pattern.front()) == notable_.npos) notable_ += each.pattern.front();
+    }
+  }
 
   std::u16string Run() {
+    result_.reserve(rest_.size());
     while (!rest_.empty()) {
       if (rest_.front() == u'\\') {
         const Control control = ReadControl(rest_);
@@ -70,7 +75,7 @@ class Replacer {
       } else if (BeginsHiddenGroup(rest_)) {
         Copy(GroupLength(rest_));
       } else if (!ReplaceHere()) {
-        Copy(1);
+        Copy(std::min(rest_.find_first_of(notable_, 1), rest_.size()));
       }
     }
     return std::move(result_);
@@ -100,6 +105,7 @@ class Replacer {
   std::u16string_view rest_;
   std::span<const RtfReplacement> list_;
   std::vector<bool> used_;
+  std::u16string notable_ = u"\\{";  // what begins markup or a pattern
   std::u16string result_;
   bool afterOpenControl_ = false;
 };

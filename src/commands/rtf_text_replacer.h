@@ -8,7 +8,7 @@
 namespace verlume {
 
 struct RtfReplacement {
-  std::u16string_view pattern;  // as the document has it; does not begin with markup
+  std::u16string_view pattern;  // as the document has it; not empty, does not begin with markup
   std::u16string with;          // RTF
   bool firstOnly = false;
 };
