@@ -1,4 +1,5 @@
 // verlume_gallery FOLDER: the program, which takes pictures of all its windows and ends.
+// verlume_gallery FOLDER NAME: only of what comes up at its start; the pictures' names are NAME.
 #include <QApplication>
 
 #include "photographer.h"
@@ -9,11 +10,11 @@ int main(int argc, char* argv[]) {
   verlume::qt::PrepareApplication();
   QApplication application(argc, argv);
   const QStringList arguments = application.arguments();
-  if (arguments.size() != 2) return 2;
+  if (arguments.size() != 2 && arguments.size() != 3) return 2;
 
   verlume::qt::QtPlatform platform;
   verlume::Program program(platform.View());
-  verlume::gallery::Photographer photographer(arguments[1]);
+  verlume::gallery::Photographer photographer(arguments[1], arguments.value(2));
   program.Start();
   return platform.Run();
 }

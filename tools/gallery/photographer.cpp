@@ -2,10 +2,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <utility>
@@ -25,7 +27,10 @@ bool OpensABox(const QAction& entry) {
 
 }  // namespace
 
-Photographer::Photographer(const QString& folder) : folder_(folder) {
+Photographer::Photographer(const QString& folder, const QString& start)
+    : folder_(folder),
+      scene_(start.isEmpty() ? QStringLiteral("start") : start),
+      onlyStart_(!start.isEmpty()) {
   connect(&timer_, &QTimer::timeout, this, &Photographer::Step);
   timer_.start(kStepMilliseconds);
 }
@@ -34,12 +39,20 @@ void Photographer::Step() {
   if (++idleSteps_ < kStepsToSettle) return;
   idleSteps_ = 0;
   if (TakeModal()) return;
+  if (isBusy_) return;
   if (!main_) return Begin();
   TakeWindows();
   if (next_ == scenes_.size()) return timer_.stop();
   BeginScene(scenes_[next_].name, scenes_[next_].answers);
+  isBusy_ = true;
   // Not from within the step: a scene may open a box, and a timer does not fire inside itself.
-  QMetaObject::invokeMethod(this, scenes_[next_++].enter, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this,
+      [this, &scene = scenes_[next_++]] {
+        scene.enter();
+        isBusy_ = false;
+      },
+      Qt::QueuedConnection);
 }
 
 void Photographer::BeginScene(const QString& name, const Answers& answers) {
@@ -56,6 +69,11 @@ void Photographer::Begin() {
   }
   if (!main_) return;
   known_.insert(main_);
+  if (!onlyStart_) AddScenes();
+  scenes_.push_back({QStringLiteral("end"), [] { QApplication::exit(); }});
+}
+
+void Photographer::AddScenes() {
   scenes_.push_back({QStringLiteral("main-window"), [this] {
                        Take(main_, scene_);
                        const QSize usual = main_->size();
@@ -94,12 +112,31 @@ void Photographer::Begin() {
   AddTyped(QStringLiteral("waiting"), QStringLiteral("/WAIT"));
   AddTyped(QStringLiteral("exit-while-waiting"), QStringLiteral("/EXIT"));
   AddTyped(QStringLiteral("call-while-waiting"), QStringLiteral("/CALL localhost 1"));
-  scenes_.push_back({QStringLiteral("incoming-call"), [this] {
+  AddCall();
+}
+
+// Lines that the caller's machine does not take, and what is told of them when it has gone.
+void Photographer::AddCall() {
+  constexpr int kMoreThanItTakes = 4000;  // characters
+  scenes_.push_back({QStringLiteral("incoming-call"),
+                     [this] {
                        const auto* port = main_->findChild<QLabel*>(QStringLiteral("lblLocalPort"));
-                       caller_.connectToHost(QStringLiteral("localhost"),
-                                             static_cast<quint16>(port->text().toInt()));
+                       caller_.Call(static_cast<quint16>(port->text().toInt()));
+                     },
+                     {Yes()}});
+  scenes_.push_back({QStringLiteral("lines-waiting"), [this] {
+                       QWidget* commands = Type({});
+                       qobject_cast<QPlainTextEdit*>(commands)->insertPlainText(
+                           QString(kMoreThanItTakes, u'n'));
+                       Press(commands, Qt::Key_Return, QStringLiteral("\r"));
+                       Enter(QStringLiteral("/CLEARDIALOGUE"));
+                       Enter(QStringLiteral("Good morning. Καλημέρα."));
+                       QApplication::processEvents();
+                       Take(main_, scene_);
                      }});
-  scenes_.push_back({QStringLiteral("end"), [] { QApplication::exit(); }});
+  scenes_.push_back({QStringLiteral("caller-gone"), [this] { caller_.Leave(); }});
+  scenes_.push_back(
+      {QStringLiteral("lines-undelivered"), [this] { TakeToolTip(QStringLiteral("lblStatus")); }});
 }
 
 void Photographer::AddMenu(QMenu* menu) {
@@ -198,6 +235,22 @@ void Photographer::TakeWindows() {
 
 void Photographer::Take(QWidget* window, const QString& name) {
   window->grab().save(folder_ + u'/' + name + QStringLiteral(".png"));
+}
+
+void Photographer::TakeToolTip(const QString& control) {
+  auto* owner = main_->findChild<QWidget*>(control);
+  const QPoint middle = owner->rect().center();
+  QHelpEvent wish(QEvent::ToolTip, middle, owner->mapToGlobal(middle));
+  QApplication::sendEvent(owner, &wish);
+  QApplication::processEvents();
+  QPixmap picture = main_->grab();
+  QPainter painter(&picture);
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (!window->isVisible() || window->windowType() != Qt::ToolTip) continue;
+    painter.drawPixmap(main_->mapFromGlobal(window->pos()), window->grab());
+  }
+  painter.end();
+  picture.save(folder_ + u'/' + scene_ + QStringLiteral(".png"));
 }
 
 }  // namespace verlume::gallery

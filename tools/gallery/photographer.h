@@ -6,11 +6,11 @@
 
 #include <QObject>
 #include <QSet>
-#include <QTcpSocket>
 #include <QTimer>
 #include <functional>
 #include <vector>
 
+#include "caller.h"
 #include "macro_tour.h"
 
 class QAction;
@@ -21,8 +21,9 @@ namespace verlume::gallery {
 
 class Photographer : public QObject {
  public:
-  // The pictures are FOLDER/NAME.png; the folder exists.
-  explicit Photographer(const QString& folder);
+  // The pictures are FOLDER/NAME.png; the folder exists. With a name for the start, only what comes
+  // up then is taken.
+  Photographer(const QString& folder, const QString& start);
 
  private:
   struct Scene {
@@ -44,6 +45,10 @@ class Photographer : public QObject {
   void TakeEditor(QWidget* editor);
   void TakeWindows();
   void Take(QWidget* window, const QString& name);
+  // The main window, and above it the tool tip of one of its controls.
+  void TakeToolTip(const QString& control);
+  void AddScenes();
+  void AddCall();
   // Without Enter; gives the command pane.
   QWidget* Type(const QString& text);
   void Enter(const QString& line);
@@ -52,15 +57,17 @@ class Photographer : public QObject {
   QMainWindow* main_ = nullptr;
   std::vector<Scene> scenes_;
   std::size_t next_ = 0;
-  QString scene_ = QStringLiteral("start");
+  QString scene_;
+  bool onlyStart_;
   Answers answers_;       // of the scene
   int boxesOfScene_ = 0;  // that have been answered
   const std::vector<MacroStep> tour_ = MacroTour();
   std::size_t step_ = 0;  // of the tour, the next one
   int idleSteps_ = 0;
+  bool isBusy_ = false;       // with a scene, which may let events through
   QWidget* taken_ = nullptr;  // the box whose picture is taken already
   QSet<QWidget*> known_;      // windows that are not modal and have their picture
-  QTcpSocket caller_;
+  Caller caller_;
   QTimer timer_;
 };
 
