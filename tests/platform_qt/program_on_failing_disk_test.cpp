@@ -86,6 +86,25 @@ TEST_P(ProgramOnFailingDiskTest, AnArrivingLineThatIsNotLoggedIsShown) {
   EXPECT_EQ(ann.Content(u"logs/Bob.txt"), log);
 }
 
+TEST_P(ProgramOnFailingDiskTest, AConversationThatCannotBeLoggedEnds) {
+  Say(u"/CLOSE");
+  const std::string log = ann.Content(u"logs/Bob.txt");
+  ExpectReport(u"240", "logs", [&] {
+    // A full disk may still have room for the first entries, in the rest of a page.
+    for (int call = 0; call < 100 && !ann.dialogs.answers.empty(); ++call) {
+      bob.Enter(u"/WAIT 4000");
+      bob.platform.dialogs.answers = {Answer::Yes};
+      Say(u"/CALL bob 4000");
+      if (!ann.dialogs.answers.empty()) Say(u"/CLOSE");
+    }
+  });
+  EXPECT_FALSE(ann.program.State().IsConnected);
+  EXPECT_FALSE(ann.program.State().LogOpen);
+  EXPECT_TRUE(ann.Content(u"logs/Bob.txt").starts_with(log));
+  Connect();
+  EXPECT_TRUE(ann.Content(u"logs/Bob.txt").ends_with("Active connection.\r\n"));
+}
+
 TEST_P(ProgramOnFailingDiskTest, ASettingThatIsNotWrittenLeavesTheFile) {
   const std::string settings = ann.Content(u"Verlume.ini");
   ExpectReport(u"233", "", [&] { ann.window.mnuToolsDate.Click(); });
