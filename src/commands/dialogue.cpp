@@ -82,9 +82,12 @@ void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
   // Usually one: lines that TCP has joined are shown as one line, all of them.
   for (const std::u16string_view document : richtext::SplitRtfDocuments(rtf)) {
     pane.SetSelRtf(document);
-    logLine += PlainTextOf(document);
+    const std::u16string text = PlainTextOf(document);
+    // And for the end of the line.
+    logLine.reserve(logLine.size() + text.size() + 2);
+    logLine += text;
   }
-  log_.AppendToLog(logLine);
+  log_.AppendToLog(std::move(logLine));
 }
 
 std::u16string Dialogue::PlainTextOf(std::u16string_view rtf) {

@@ -4,7 +4,7 @@
 
 namespace verlume::qt {
 
-bool ArrivalQueue::Add(std::string arrival) {
+bool ArrivalQueue::Add(std::u16string arrival) {
   const std::lock_guard lock(mutex_);
   size_ += arrival.size();
   arrivals_.push_back(std::move(arrival));
@@ -16,10 +16,10 @@ void ArrivalQueue::End() {
   isEnded_ = true;
 }
 
-std::optional<std::string> ArrivalQueue::Take() {
+std::optional<std::u16string> ArrivalQueue::Take() {
   const std::lock_guard lock(mutex_);
   if (arrivals_.empty()) return std::nullopt;
-  std::string arrival = std::move(arrivals_.front());
+  std::u16string arrival = std::move(arrivals_.front());
   arrivals_.pop_front();
   size_ -= arrival.size();
   return arrival;

@@ -12,16 +12,16 @@ namespace verlume::qt {
 
 class ArrivalQueue {
  public:
-  // How many bytes may wait until no more should be read. One arrival may be larger.
+  // How many characters may wait until no more should be read. One arrival may be larger.
   static constexpr std::size_t kLimit = 4 << 20;
 
   // Whether none was waiting before it.
-  bool Add(std::string arrival);
+  bool Add(std::u16string arrival);
   // Behind those that wait comes no other.
   void End();
 
   // The oldest one, if one waits.
-  std::optional<std::string> Take();
+  std::optional<std::u16string> Take();
 
   bool IsFull() const;
   bool IsEmpty() const;
@@ -30,8 +30,8 @@ class ArrivalQueue {
 
  private:
   mutable std::mutex mutex_;
-  std::deque<std::string> arrivals_;
-  std::size_t size_ = 0;  // bytes
+  std::deque<std::u16string> arrivals_;
+  std::size_t size_ = 0;  // characters
   bool isEnded_ = false;
 };
 

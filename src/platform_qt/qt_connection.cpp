@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform_qt/qt_socket_options.h"
+#include "richtext/code_pages.h"
 
 namespace verlume::qt {
 namespace {
@@ -64,7 +65,7 @@ void Connection::NoteAcknowledged(std::size_t lines) {
   if (lines > 0) events_.onAcknowledged();
 }
 
-std::optional<std::string> Connection::NextArrival() {
+std::optional<std::u16string> Connection::NextArrival() {
   const bool wasFull = arrivals_.IsFull();
   auto arrival = arrivals_.Take();
   if (wasFull && !arrivals_.IsFull()) {
@@ -95,20 +96,22 @@ void Connection::LosePatience() {
 }
 
 void Connection::HandOn() {
-  while (auto arrival = assembler_.Take(clock_.elapsed())) {
-    if (arrivals_.Add(std::move(*arrival))) events_.onArrival();
-  }
+  while (const auto arrival = assembler_.Take(clock_.elapsed())) Add(*arrival);
   patience_.stop();
   if (const auto deadline = assembler_.Deadline()) {
     patience_.start(static_cast<int>(std::max<std::int64_t>(0, *deadline - clock_.elapsed())));
   }
 }
 
+void Connection::Add(std::string_view arrival) {
+  if (arrivals_.Add(richtext::DecodeGreek(arrival))) events_.onArrival();
+}
+
 void Connection::End() {
   patience_.stop();
   const QByteArray bytes = socket_->isOpen() ? socket_->readAll() : QByteArray();
   assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
-  if (auto rest = assembler_.TakeAll()) arrivals_.Add(std::move(*rest));
+  if (const auto rest = assembler_.TakeAll()) Add(*rest);
   arrivals_.End();
   isOpen_ = false;
   events_.onArrival();

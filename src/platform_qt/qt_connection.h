@@ -43,7 +43,7 @@ class Connection : public QObject {
   std::size_t LinesWaiting() const { return linesWaiting_; }
 
   // What has come, in its order. Who takes nothing slows the peer down after some mebibytes.
-  std::optional<std::string> NextArrival();
+  std::optional<std::u16string> NextArrival();
   bool HasArrival() const { return !arrivals_.IsEmpty(); }
   // The connection has ended, and all that had come before has been taken.
   bool IsOver() const { return arrivals_.IsOver(); }
@@ -60,6 +60,7 @@ class Connection : public QObject {
   void ReadOn();
   void LosePatience();
   void HandOn();
+  void Add(std::string_view arrival);
   void End();
   void NoteAcknowledged(std::size_t lines);
   void BeginLeaving();

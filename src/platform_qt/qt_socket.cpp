@@ -209,11 +209,11 @@ void QtSocket::RaiseAcknowledged() {
 
 void QtSocket::TakeArrival() {
   if (MustWait()) return;
-  const auto bytes = connection_->NextArrival();
+  auto arrival = connection_->NextArrival();
   // Before the handlers, which may wait for the user.
   if (connection_->HasArrival()) Post(&QtSocket::TakeArrival);
   if (connection_->IsOver()) Post(&QtSocket::Lose);
-  if (bytes) RaiseArrival(*bytes);
+  if (arrival) RaiseArrival(std::move(*arrival));
 }
 
 void QtSocket::GoOn() {
@@ -237,9 +237,10 @@ void QtSocket::RaiseUndelivered(std::size_t lines) {
   if (onUndelivered) onUndelivered(lines);
 }
 
-void QtSocket::RaiseArrival(std::string_view bytes) {
-  arrival_ = richtext::DecodeGreek(bytes);
-  if (onDataArrival) onDataArrival(static_cast<std::int32_t>(bytes.size()));
+void QtSocket::RaiseArrival(std::u16string arrival) {
+  const auto bytes = static_cast<std::int32_t>(arrival.size());
+  arrival_ = std::move(arrival);
+  if (onDataArrival) onDataArrival(bytes);
 }
 
 void QtSocket::Close() {

@@ -85,7 +85,7 @@ class QtSocket : public QObject, public Socket {
   void LoseCall();
   void Lose();
   void LookAtThoseLeaving();
-  void RaiseArrival(std::string_view bytes);
+  void RaiseArrival(std::u16string arrival);
 
   QTcpServer server_;
   QTcpSocket* calling_ = nullptr;  // until the connection is made

@@ -1,5 +1,7 @@
 #include "records/dialogue_log.h"
 
+#include <utility>
+
 #include "macros/folder_choice.h"
 #include "macros/macro_paths.h"
 #include "platform/run_time_failure.h"
@@ -23,16 +25,17 @@ bool MayNameAFile(std::u16string_view character) {
   return IsShowable(character) && kForbidden.find(character) == kForbidden.npos;
 }
 
-// An entry of the log is one line, whatever the peer puts into a message or a nickname.
-std::u16string EntryOf(std::u16string_view text) {
-  constexpr std::u16string_view kEnd = u"\r\n";
-  std::u16string line;
-  line.reserve(text.size() + kEnd.size());
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') continue;
-    line += IsControl(text[i]) ? u' ' : text[i];
+// An entry of the log is one line, whatever the peer puts into a message or a nickname. A line of
+// megabytes is not copied for that.
+std::u16string EntryOf(std::u16string line) {
+  std::size_t length = 0;
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    if (line[i] == u'\r' && i + 1 < line.size() && line[i + 1] == u'\n') continue;
+    line[length++] = IsControl(line[i]) ? u' ' : line[i];
   }
-  return line += kEnd;
+  line.resize(length);
+  line += u"\r\n";
+  return line;
 }
 
 std::u16string ConnectionLine(const Clock& clock, std::u16string_view statusText) {
@@ -62,14 +65,14 @@ bool DialogueLog::IsRecording() const {
   return state_.LogDialogue && state_.LogOpen;
 }
 
-void DialogueLog::AppendToLog(std::u16string_view line) {
-  if (IsRecording()) Append(LogPath(state_, platform_.files), line);
+void DialogueLog::AppendToLog(std::u16string line) {
+  if (IsRecording()) Append(LogPath(state_, platform_.files), std::move(line));
 }
 
-void DialogueLog::Append(const std::u16string& path, std::u16string_view line) {
+void DialogueLog::Append(const std::u16string& path, std::u16string line) {
   errors_.Guard(Procedure::AppendToLog, [&] {
     if (path.empty()) throw RunTimeFailure(FailureNumber::PathNotFound);
-    platform_.files.AppendText(path, EntryOf(line));
+    platform_.files.AppendText(path, EntryOf(std::move(line)));
   });
 }
 

@@ -28,7 +28,7 @@ class DialogueLog {
   // Appends one line; does nothing while logging is off or no conversation is open. Line breaks and
   // other control characters inside it are written as blanks. The file is complete after each line.
   // A failure is reported (240), not thrown.
-  void AppendToLog(std::u16string_view line);
+  void AppendToLog(std::u16string line);
 
   // "[date_time]***** " + text: the lines that tell of the connection.
   void AppendConnectionLine(std::u16string_view statusText);
@@ -46,7 +46,7 @@ class DialogueLog {
 
  private:
   bool IsRecording() const;
-  void Append(const std::u16string& path, std::u16string_view line);
+  void Append(const std::u16string& path, std::u16string line);
   // True unless it failed, which has then been reported (239).
   bool ChooseLogFolder();
   bool RefuseWhileRecording();

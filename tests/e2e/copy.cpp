@@ -184,7 +184,11 @@ QString Copy::Dialogue() {
   ClickAt(0.5, kDialoguePane);
   PressKeys("ctrl+a");
   PressKeys("ctrl+c");
-  const QString text = Run("xclip", {"-selection", "clipboard", "-o"});
+  QString text;
+  WaitUntil([&] {
+    text = Run("xclip", {"-selection", "clipboard", "-o"});
+    return !text.isEmpty();
+  });
   ClickAt(0.5, kCommandPane);
   return text;
 }

@@ -104,6 +104,8 @@ TEST_F(ConversationTest, LinesThatWaitWhenTheUserClosesStillArrive) {
   PeerProcess& bob = conversations_.front().Bob();
   for (const char* line : {"one", "two", "three", "/CLOSE"}) alice.Enter(line);
   ASSERT_TRUE(WaitUntil([&] { return bob.Status().endsWith(". Disconnected."); }, kLimit));
+  // What the pane shows is told when it has come to rest.
+  WaitUntil([&] { return bob.LinesOfOthers().size() == 3; }, kLimit);
   EXPECT_EQ(bob.LinesOfOthers(), (QStringList{"<Afirst>one", "<Afirst>two", "<Afirst>three"}));
   EXPECT_FALSE(alice.StatusToolTip().contains("not delivered"));
 }

@@ -128,7 +128,7 @@ void Peer::Look() {
   ReportChange("lamp", QString::number(frmMain.shpStatus.FillColor()), lamp_);
   ReportChange("tip", qt::ToQt(frmMain.lblStatus.ToolTip()), toolTip_);
   ReportChange("waiting", qt::ToQt(frmMain.lblWaiting.Caption()), waiting_);
-  // Last: whoever hears of it has heard of the others.
+  // Last: whoever hears of it has heard of the others, but of the lines.
   ReportChange("status", qt::ToQt(frmMain.lblStatus.Caption()), status_);
 }
 

@@ -104,9 +104,9 @@ TEST_F(AppendToLogTest, LineBreaksInsideAnEntryBecomeBlanks) {
 
 TEST_F(AppendToLogTest, ControlCharactersBecomeBlanks) {
   log.AppendToLog(
-      std::u16string_view(u"a\0b\x1B[31mc\td\x7F"
-                          u"e\u009Bf",
-                          15));
+      std::u16string(u"a\0b\x1B[31mc\td\x7F"
+                     u"e\u009Bf",
+                     15));
   EXPECT_EQ(bobsLog, "a b [31mc d e f\r\n");
 }
 

@@ -86,7 +86,7 @@ TEST_F(ProgramNicknamesTest, OneThatLooksLikeAPathIsNoneWhereAFileNameIsProposed
   Say(*eve, u"hello");
   bob->platform.window.mnuFileLogSaveAs.Click();
   ASSERT_EQ(bob->platform.commonDialog.filesShown.size(), 1u);
-  EXPECT_EQ(bob->platform.commonDialog.filesShown[0].fileName, u".._b_x");
+  EXPECT_EQ(bob->platform.commonDialog.filesShown[0].fileName, u"..__b_x");
   EXPECT_EQ(bob->platform.commonDialog.filesShown[0].initialFolder, u"/logs/");
 }
 
