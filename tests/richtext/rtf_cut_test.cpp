@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "richtext/document_dump.h"
+#include "richtext/document_join.h"
 #include "richtext/rtf_reader.h"
 
 namespace verlume::richtext {
@@ -18,19 +19,7 @@ const std::string kHeader = R"({\rtf1\ansi\ansicpg1253\deff1{\fonttbl{\f0 A;}{\f
 // What two documents show together, but for line breaks at their border.
 Document Join(const CutDocument& cut) {
   Document joined = ReadRtf(cut.before);
-  const Document behind = ReadRtf(cut.behind);
-  joined.text += behind.text;
-  for (Run run : behind.runs) {
-    const Font& font = behind.fonts[run.format.font];
-    const auto known = std::ranges::find(joined.fonts, font);
-    run.format.font = static_cast<std::uint16_t>(known - joined.fonts.begin());
-    if (known == joined.fonts.end()) joined.fonts.push_back(font);
-    if (!joined.runs.empty() && joined.runs.back().format == run.format) {
-      joined.runs.back().length += run.length;
-    } else {
-      joined.runs.push_back(run);
-    }
-  }
+  Append(joined, ReadRtf(cut.behind));
   return joined;
 }
 

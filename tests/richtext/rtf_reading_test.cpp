@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "richtext/document_dump.h"
+#include "richtext/document_join.h"
 #include "richtext/rtf_reader.h"
 
 namespace verlume::richtext {
@@ -13,25 +12,10 @@ namespace {
 const std::u16string kHeader =
     u"{\\rtf1\\ansi\\deff1{\\fonttbl{\\f0 A;}{\\f1\\fcharset161 B;}}{\\colortbl;\\red1;}\\fs20 ";
 
-// The parts joined as one document; fonts are told by their names.
 Document Join(std::u16string_view rtf, std::size_t length) {
   RtfReading reading{std::u16string(rtf)};
   Document joined;
-  while (!reading.IsDone()) {
-    const Document part = reading.Next(length);
-    joined.text += part.text;
-    for (Run run : part.runs) {
-      const Font& font = part.fonts[run.format.font];
-      const auto known = std::ranges::find(joined.fonts, font);
-      run.format.font = static_cast<std::uint16_t>(known - joined.fonts.begin());
-      if (known == joined.fonts.end()) joined.fonts.push_back(font);
-      if (!joined.runs.empty() && joined.runs.back().format == run.format) {
-        joined.runs.back().length += run.length;
-      } else {
-        joined.runs.push_back(run);
-      }
-    }
-  }
+  while (!reading.IsDone()) Append(joined, reading.Next(length));
   return joined;
 }
 
