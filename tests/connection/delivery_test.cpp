@@ -41,6 +41,18 @@ class DeliveryTest : public testing::Test, protected fake::TwoSides {
     ASSERT_GT(lost, 0u);
     tell(lost);
   }
+  // In a second connection, of which the caller never hears the start.
+  void SendBeforeTheHandshake() {
+    AliceCloses();
+    network.RunUntilIdle();
+    bob.fake.socket.onDataArrival = nullptr;
+    alice.Wait(u"4001");
+    alice.fake.dialogs.answers = {Answer::Yes};
+    bob.Call(u"alice 4001");
+    network.RunUntilIdle();
+    ASSERT_EQ(alice.fake.socket.State(), SocketState::Connected);
+    SendOnCutNetwork(1);
+  }
   std::u16string Waiting() const { return alice.fake.window.lblWaiting.caption; }
   std::u16string ToolTip() const { return alice.fake.window.lblStatus.toolTip; }
   bool LogSays(std::u16string_view text) const {
@@ -184,15 +196,7 @@ TEST_F(DeliveryTest, NothingIsToldInTheLogWhenLoggingIsOff) {
 }
 
 TEST_F(DeliveryTest, LinesBeforeTheHandshakeAreInNobodysLog) {
-  AliceCloses();
-  network.RunUntilIdle();
-  bob.fake.socket.onDataArrival = nullptr;  // the caller's side never hears of the start
-  alice.Wait(u"4001");
-  alice.fake.dialogs.answers = {Answer::Yes};
-  bob.Call(u"alice 4001");
-  network.RunUntilIdle();
-  ASSERT_EQ(alice.fake.socket.State(), SocketState::Connected);
-  SendOnCutNetwork(1);
+  SendBeforeTheHandshake();
   alice.actions.CancelWaitOrCall();
   network.RunUntilIdle();
   EXPECT_EQ(ToolTip(), u"Status: 1 line was not delivered.");
@@ -200,14 +204,7 @@ TEST_F(DeliveryTest, LinesBeforeTheHandshakeAreInNobodysLog) {
 }
 
 TEST_F(DeliveryTest, LinesBeforeTheHandshakeThatBreakAreInNobodysLogEither) {
-  AliceCloses();
-  network.RunUntilIdle();
-  bob.fake.socket.onDataArrival = nullptr;
-  alice.Wait(u"4001");
-  alice.fake.dialogs.answers = {Answer::Yes};
-  bob.Call(u"alice 4001");
-  network.RunUntilIdle();
-  SendOnCutNetwork(1);
+  SendBeforeTheHandshake();
   bob.actions.CancelWaitOrCall();
   network.RunUntilIdle();
   EXPECT_EQ(ToolTip(), u"Status: 1 line was not delivered.");
