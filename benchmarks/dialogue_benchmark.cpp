@@ -14,7 +14,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform_qt/qt_rich_text_box.h"
+#include "platform_qt/text/rich_text_box.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <cstdint>
 #include <map>
 
-#include "commands/dialogue.h"
+#include "commands/dialogue/dialogue.h"
 #include "commands/find_in_dialogue.h"
-#include "platform_qt/qt_platform.h"
+#include "platform_qt/platform.h"
 
 namespace {
 

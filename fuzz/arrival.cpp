@@ -9,7 +9,7 @@
 #include "fuzz/check.h"
 #include "fuzz/fuzzed_copy.h"
 #include "fuzz/stream_checks.h"
-#include "platform_qt/arrival_assembler.h"
+#include "stream/arrival_assembler.h"
 
 namespace verlume::fuzz {
 namespace {
@@ -18,7 +18,7 @@ struct Delivery {
   explicit Delivery(std::uint8_t how)
       : role(how & 1 ? Role::Caller : Role::Callee),
         shakesHands((how & 2) == 0),
-        pause(how & 4 ? qt::ArrivalAssembler::kPatience : 1),
+        pause(how & 4 ? stream::ArrivalAssembler::kPatience : 1),
         length(how >> 3) {}
 
   Role role;
@@ -29,7 +29,7 @@ struct Delivery {
 
 // As the socket does it; gives all that came through.
 std::string Deliver(std::string_view stream, const Delivery& how, FuzzedCopy& copy) {
-  qt::ArrivalAssembler assembler;
+  stream::ArrivalAssembler assembler;
   std::string delivered;
   const auto arrive = [&](const std::optional<std::string>& bytes) {
     if (!bytes) return;

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "platform_fake/fake_platform.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 namespace verlume::fuzz {
 

@@ -2,8 +2,8 @@
 #include <QApplication>
 #include <cstdlib>
 
-#include "platform_qt/qt_platform.h"
-#include "shell/program.h"
+#include "platform_qt/platform.h"
+#include "shell/program/program.h"
 
 int main(int argc, char* argv[]) {
   verlume::qt::PrepareApplication();

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "commands/completion_words.h"
-#include "macros/macro_store.h"
+#include "macros/store/macro_store.h"
 #include "platform/platform.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"

@@ -6,7 +6,7 @@
 
 #include "commands/placeholders.h"
 #include "connection/command_parts.h"
-#include "macros/macro_paths.h"
+#include "macros/store/macro_paths.h"
 
 namespace verlume {
 namespace {

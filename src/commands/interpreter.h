@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "commands/command_table.h"
-#include "commands/dialogue.h"
+#include "commands/dialogue/dialogue.h"
 #include "commands/history.h"
 #include "commands/placeholders.h"
 #include "commands/text_format.h"

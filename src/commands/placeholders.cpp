@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "commands/rtf_text_replacer.h"
+#include "richtext/rtf_text_replacer.h"
 #include "richtext/rtf_writer.h"
 #include "shell/nickname.h"
 
@@ -38,8 +38,8 @@ std::u16string AsRichText(std::u16string_view nickname) {
   return richtext::EscapeForRtf(ShowableNickname(nickname));
 }
 
-std::vector<RtfReplacement> ReplacementsFor(const Nicknames& nicknames) {
-  std::vector<RtfReplacement> list;
+std::vector<richtext::RtfReplacement> ReplacementsFor(const Nicknames& nicknames) {
+  std::vector<richtext::RtfReplacement> list;
   const std::u16string local = AsRichText(nicknames.local);
   for (const std::u16string_view pattern : kLocal) list.push_back({pattern, local});
   if (!nicknames.remote) return list;
@@ -51,19 +51,19 @@ std::vector<RtfReplacement> ReplacementsFor(const Nicknames& nicknames) {
 }  // namespace
 
 std::u16string ExpandPlaceholders(std::u16string_view rtf, const Nicknames& nicknames) {
-  return ReplaceInRtfText(rtf, ReplacementsFor(nicknames));
+  return richtext::ReplaceInRtfText(rtf, ReplacementsFor(nicknames));
 }
 
 std::u16string ExpandActionLine(std::u16string_view rtf, std::u16string_view typedWord,
                                 const Nicknames& nicknames) {
-  std::vector<RtfReplacement> list = ReplacementsFor(nicknames);
+  std::vector<richtext::RtfReplacement> list = ReplacementsFor(nicknames);
   const auto word =
       std::find_if(std::begin(kActionWord), std::end(kActionWord),
                    [typedWord](const Spelling& each) { return each.typed == typedWord; });
   if (word != std::end(kActionWord)) {
     list.push_back({word->rtf, AsRichText(nicknames.local), true});
   }
-  return ReplaceInRtfText(rtf, list);
+  return richtext::ReplaceInRtfText(rtf, list);
 }
 
 }  // namespace verlume

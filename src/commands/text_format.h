@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "commands/dialogue.h"
+#include "commands/dialogue/dialogue.h"
 #include "platform/platform.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"

@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-#include "commands/dialogue.h"
+#include "commands/dialogue/dialogue.h"
 #include "connection/connection_state.h"
 #include "connection/wire_protocol.h"
 #include "platform/platform.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "commands/dialogue.h"
+#include "commands/dialogue/dialogue.h"
 #include "platform/platform.h"
 #include "records/dialogue_log.h"
 #include "shell/app_state.h"

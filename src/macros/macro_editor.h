@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "macros/macro_store.h"
 #include "macros/macro_style.h"
+#include "macros/store/macro_store.h"
 #include "platform/platform.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"

@@ -1,7 +1,7 @@
 #include "macros/macro_name_question.h"
 
 #include "macros/macro_name_texts.h"
-#include "macros/macro_store.h"
+#include "macros/store/macro_store.h"
 
 namespace verlume {
 

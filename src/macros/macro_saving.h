@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "macros/macro_store.h"
+#include "macros/store/macro_store.h"
 #include "platform/platform.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"

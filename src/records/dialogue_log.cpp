@@ -2,12 +2,12 @@
 
 #include <utility>
 
-#include "macros/folder_choice.h"
-#include "macros/macro_paths.h"
 #include "platform/run_time_failure.h"
 #include "records/dialogue_log_texts.h"
 #include "shell/conversions.h"
 #include "shell/date_time_text.h"
+#include "shell/folder_choice.h"
+#include "shell/folders.h"
 #include "shell/nickname.h"
 
 namespace verlume {

@@ -10,18 +10,8 @@ namespace verlume::fake {
 
 class CompletionSide : public TypingSide {
  protected:
-  CompletionSide() {
-    state.MacrosFolder = u"/macros/";
-    fake.files.MakeFolder(u"/macros");
-    pane.onKeyDown = [this](int& code, int shift) {
-      completion.rtbCommands_KeyDown(code, shift);
-      if (code != 0) history.rtbCommands_KeyDown(code, shift);
-    };
-    pane.onChange = [this] { completion.rtbCommands_Change(); };
-    pane.onLostFocus = [this] { completion.rtbCommands_LostFocus(); };
-    window.lstCompletions.onClick = [this] { completion.lstCompletions_Click(); };
-    textFormat.ApplyCommandStyle();
-  }
+  CompletionSide();
+  ~CompletionSide() override;
 
   bool IsOpen() const { return window.fraCompletions.visible; }
   const std::vector<std::u16string>& Rows() const { return window.lstCompletions.items; }

@@ -12,29 +12,8 @@ namespace verlume::fake {
 
 class TypingSide : public testing::Test {
  protected:
-  TypingSide() {
-    state.Title = u"Verlume";
-    state.IniFile = u"/verlume/Verlume.ini";
-    state.Nickname = u"Bob";
-    state.DateStamp = state.TimeStamp = false;
-    state.History[0] = u"0";
-    state.FontName = u"Arial";
-    state.FontSize = 10;
-    state.ProtocolMarker = BuildProtocolMarker();
-
-    window.rtbCommands.onKeyPress = [this](int& code) { interpreter.rtbCommands_KeyPress(code); };
-    window.rtbCommands.onKeyDown = [this](int& code, int shift) {
-      history.rtbCommands_KeyDown(code, shift);
-    };
-    window.rtbCommands.onSelChange = [this] { textFormat.rtbCommands_SelChange(); };
-    window.chkBold.onClick = [this] { textFormat.chkBold_Click(); };
-    window.chkItalics.onClick = [this] { textFormat.chkItalics_Click(); };
-    window.chkUnderline.onClick = [this] { textFormat.chkUnderline_Click(); };
-    window.lblColor.onMouseDown = [this](MouseButton b) { textFormat.lblColor_MouseDown(b); };
-    window.mnuFormatFontBold.onClick = [this] { textFormat.mnuFormatFontBold_Click(); };
-    window.mnuFormatFontItalics.onClick = [this] { textFormat.mnuFormatFontItalics_Click(); };
-    window.mnuFormatFontUnderline.onClick = [this] { textFormat.mnuFormatFontUnderline_Click(); };
-  }
+  TypingSide();
+  ~TypingSide() override;
 
   // Types a line and presses Enter.
   void Enter(std::u16string_view line) {

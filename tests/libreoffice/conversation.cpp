@@ -7,7 +7,7 @@
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 
-#include "platform_qt/qt_text.h"
+#include "platform_qt/convert/text.h"
 
 namespace verlume::libreoffice {
 

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "libreoffice/styled_text.h"
-#include "platform_qt/qt_file_system.h"
-#include "platform_qt/qt_main_window.h"
-#include "shell/program.h"
+#include "platform_qt/system/file_system.h"
+#include "platform_qt/windows/main_window.h"
+#include "shell/program/program.h"
 #include "support/side.h"
 
 namespace verlume::libreoffice {

@@ -6,8 +6,8 @@
 #include <QTextBlock>
 #include <QTextCharFormat>
 
-#include "platform_qt/qt_text.h"
-#include "platform_qt/qt_text_format.h"
+#include "platform_qt/convert/text.h"
+#include "platform_qt/text/text_format.h"
 
 namespace verlume::libreoffice {
 namespace {

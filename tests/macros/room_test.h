@@ -13,10 +13,8 @@ namespace verlume {
 
 class RoomTest : public testing::Test {
  protected:
-  RoomTest() {
-    state.Title = u"Verlume";
-    state.IniFile = u"/verlume/Verlume.ini";
-  }
+  RoomTest();
+  ~RoomTest() override;
 
   std::u16string Setting(std::u16string_view section, std::u16string_view key) const {
     return settings.ReadSetting(section, key, u"missing", 1024);

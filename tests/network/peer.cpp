@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "platform_qt/qt_text.h"
+#include "platform_qt/convert/text.h"
 
 namespace verlume::network {
 namespace {

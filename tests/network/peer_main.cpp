@@ -4,8 +4,8 @@
 #include <QApplication>
 
 #include "network/peer.h"
-#include "platform_qt/qt_platform.h"
-#include "shell/program.h"
+#include "platform_qt/platform.h"
+#include "shell/program/program.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 
 #include "platform/socket_contract.h"
 #include "platform_fake/fake_platform.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 namespace verlume {
 

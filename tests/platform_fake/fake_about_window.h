@@ -7,6 +7,9 @@
 namespace verlume::fake {
 
 struct FakeAboutWindow {
+  FakeAboutWindow();
+  ~FakeAboutWindow();
+
   FakeWindow window;
   FakePicture picIcon;
   FakeLabel lblTitle;
@@ -18,8 +21,7 @@ struct FakeAboutWindow {
   FakeButton cmdSysInfo;
 
   // What the logic sees of it.
-  AboutWindow frmAbout = {window,        picIcon,   lblTitle, lblVersion, lblDescription,
-                          lblDisclaimer, lblCredit, cmdOK,    cmdSysInfo};
+  AboutWindow frmAbout;
 };
 
 }  // namespace verlume::fake

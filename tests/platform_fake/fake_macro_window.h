@@ -8,8 +8,8 @@
 namespace verlume::fake {
 
 struct FakeMacroWindow {
-  explicit FakeMacroWindow(FakeFileSystem& files)
-      : rtbMacroText(files, FakeRichTextBox::Lines::Single) {}
+  explicit FakeMacroWindow(FakeFileSystem& files);
+  ~FakeMacroWindow();
 
   FakeWindow window;
   FakeListBox lstMacroNames;
@@ -28,9 +28,7 @@ struct FakeMacroWindow {
   FakeCheckBox chkUnderlined;
 
   // What the logic sees of it.
-  MacroWindow frmMacros = {window,   lstMacroNames, rtbMacroText, cmdAdd,     cmdEdit,
-                           cmdSave,  cmdSaveAs,     cmdCancel,    cmdDelete,  cmdRun,
-                           cmdClose, lblColour,     chkBold,      chkItalics, chkUnderlined};
+  MacroWindow frmMacros;
 };
 
 }  // namespace verlume::fake

@@ -8,8 +8,8 @@
 namespace verlume::fake {
 
 struct FakeMainWindow {
-  explicit FakeMainWindow(FakeFileSystem& files)
-      : rtbData(files), rtbCommands(files, FakeRichTextBox::Lines::Single), rtbRemote(files) {}
+  explicit FakeMainWindow(FakeFileSystem& files);
+  ~FakeMainWindow();
 
   FakeWindow window;
   FakeLayoutControl freeSizer1;
@@ -99,87 +99,7 @@ struct FakeMainWindow {
   FakePicture picCopyright;
 
   // What the logic sees of it.
-  MainWindow frmMain = {
-      window,
-      freeSizer1,
-      tmrTimer,
-      mnuFile,
-      mnuFileMacrosFolder,
-      mnuFileLogFolder,
-      mnuFileLogRecord,
-      mnuFileLogOpen,
-      mnuFileLogSaveAs,
-      mnuFileExit,
-      mnuComm,
-      mnuCommWait,
-      mnuCommCall,
-      mnuCommCancel,
-      mnuCommClose,
-      mnuCommRefresh,
-      mnuFormat,
-      mnuFormatFontBold,
-      mnuFormatFontItalics,
-      mnuFormatFontUnderline,
-      mnuFormatFontSize,
-      mnuFormatFontColor,
-      mnuFormatFontSettings,
-      mnuFormatBackcolorCommands,
-      mnuFormatBackcolorDialogue,
-      mnuTools,
-      mnuToolsNick,
-      mnuToolsSaveMacro,
-      mnuToolsEditMacros,
-      mnuToolsFind,
-      mnuToolsCompletions,
-      mnuToolsClearDialogue,
-      mnuToolsClearCommands,
-      mnuToolsClearHistory,
-      mnuToolsDate,
-      mnuToolsTime,
-      mnuToolsAlwaysOnTop,
-      mnuToolsLanguageEnglish,
-      mnuToolsLanguageGreek,
-      mnuHelp,
-      mnuHelpDetailed,
-      mnuHelpAbout,
-      rtbData,
-      rtbCommands,
-      rtbRemote,
-      {fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose},
-      {fraCompletions, lstCompletions},
-      chkBold,
-      chkItalics,
-      chkUnderline,
-      lblColor,
-      lblStatus,
-      prgStatus,
-      lblWaiting,
-      lblCurrentDateTime,
-      lblChatStartDateTime,
-      lblChatDuration,
-      lblLocalIP,
-      lblLocalPort,
-      lblLocalNickname,
-      lblRemoteIP,
-      lblRemotePort,
-      lblRemoteNickname,
-      lblBytesSent,
-      lblBytesReceived,
-      lblCurrentDateTimeCaption,
-      lblChatStartDateTimeCaption,
-      lblChatDurationCaption,
-      lblLocalIPCaption,
-      lblLocalPortCaption,
-      lblLocalNicknameCaption,
-      lblRemoteIPCaption,
-      lblRemotePortCaption,
-      lblRemoteNicknameCaption,
-      lblBytesSentCaption,
-      lblBytesReceivedCaption,
-      picShape,
-      shpStatus,
-      lblCopyright,
-      picCopyright};
+  MainWindow frmMain;
 };
 
 }  // namespace verlume::fake

@@ -14,14 +14,13 @@ namespace verlume::fake {
 
 struct FakePlatform {
   // Platforms that share a network can call each other.
-  explicit FakePlatform(FakeNetwork& network) : window(files), socket(network) {
-    files.MakeFolder(u"/verlume");
-  }
+  explicit FakePlatform(FakeNetwork& network);
+  ~FakePlatform();
 
   FakeFileSystem files;
   FakeMainWindow window;
   FakeAboutWindow about;
-  FakeMacroWindow macros{files};
+  FakeMacroWindow macros;
   FakeSocket socket;
   FakeDialogs dialogs;
   FakeCommonDialog commonDialog;
@@ -31,9 +30,7 @@ struct FakePlatform {
   FakeHelpViewer help;
   FakeSystemTools tools;
 
-  Platform platform = {
-      window.frmMain, about.frmAbout, macros.frmMacros, socket,      dialogs, commonDialog,
-      files,          clock,          locale,           application, help,    tools};
+  Platform platform;
 };
 
 }  // namespace verlume::fake

@@ -12,10 +12,8 @@ namespace verlume {
 
 class ShellTest : public testing::Test {
  protected:
-  ShellTest() {
-    state.Title = u"Verlume";
-    state.IniFile = kIniFile;
-  }
+  ShellTest();
+  ~ShellTest() override;
 
   static constexpr const char16_t* kIniFile = u"/verlume/Verlume.ini";
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "commands/dialogue.h"
+#include "commands/dialogue/dialogue.h"
 #include "connection/connection_actions.h"
 #include "connection/connection_state.h"
 #include "connection/socket_events.h"
@@ -18,28 +18,8 @@
 namespace verlume::fake {
 
 struct Side {
-  Side(FakeNetwork& network, std::u16string_view nickname, std::u16string_view address)
-      : fake(network) {
-    state.Title = u"Verlume";
-    state.IniFile = u"/verlume/Verlume.ini";
-    state.ProtocolMarker = BuildProtocolMarker();
-    state.Nickname = nickname;
-    state.LocalAddress = address;
-    state.DateStamp = false;
-    state.TimeStamp = false;
-    fake.socket.localIP = address;
-    fake.socket.onConnectionRequest = [this](std::int64_t id) {
-      events.sckControl_ConnectionRequest(id);
-    };
-    fake.socket.onConnect = [this] { events.sckControl_Connect(); };
-    fake.socket.onDataArrival = [this](std::int32_t total) {
-      events.sckControl_DataArrival(total);
-    };
-    fake.socket.onAcknowledged = [this] { wire.ShowLinesWaiting(); };
-    fake.socket.onUndelivered = [this](std::size_t lines) { wire.OnUndelivered(lines); };
-    fake.socket.onClose = [this] { events.sckControl_Close(); };
-    ResetConnection(state, fake.platform);
-  }
+  Side(FakeNetwork& network, std::u16string_view nickname, std::u16string_view address);
+  ~Side();
 
   // Typed commands, as the interpreter hands them over.
   void Call(std::u16string_view rest) { Command(u"/CALL", rest, &ConnectionActions::CallRemote); }
@@ -90,6 +70,9 @@ struct Side {
 
 // Alice calls, Bob waits.
 struct TwoSides {
+  TwoSides();
+  ~TwoSides();
+
   void Connect() {
     bob.Wait(u"4000");
     bob.fake.dialogs.answers.push_back(Answer::Yes);
@@ -98,8 +81,8 @@ struct TwoSides {
   }
 
   FakeNetwork network;
-  Side alice{network, u"Alice", u"192.0.2.1"};
-  Side bob{network, u"Bob", u"192.0.2.2"};
+  Side alice;
+  Side bob;
 };
 
 }  // namespace verlume::fake

@@ -2,9 +2,9 @@
 #include <QApplication>
 #include <QMainWindow>
 
-#include "platform_qt/qt_platform.h"
+#include "platform_qt/platform.h"
 #include "player.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 int main(int argc, char* argv[]) {
   verlume::qt::PrepareApplication();

@@ -10,7 +10,7 @@
 #include <QTextStream>
 #include <cstdlib>
 
-#include "platform_qt/qt_text.h"
+#include "platform_qt/convert/text.h"
 #include "verdict.h"
 
 namespace verlume::soak {

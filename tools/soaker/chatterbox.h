@@ -13,7 +13,7 @@
 #include "measures.h"
 #include "platform/platform.h"
 #include "shared_page.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 namespace verlume::soak {
 

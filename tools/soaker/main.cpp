@@ -5,8 +5,8 @@
 #include <QTextStream>
 
 #include "chatterbox.h"
-#include "platform_qt/qt_platform.h"
-#include "shell/program.h"
+#include "platform_qt/platform.h"
+#include "shell/program/program.h"
 #include "supervisor.h"
 
 namespace verlume::soak {

@@ -1,0 +1,74 @@
+#include "platform_qt/controls/key_codes.h"
+
+#include <string_view>
+
+#include "platform/rich_text_box.h"
+
+namespace verlume::qt {
+namespace {
+
+using namespace std::string_view_literals;
+
+// What a Greek keyboard has on the keys A to Z; 0 where that is no letter of its own.
+constexpr std::u16string_view kGreekKeys = u"ΑΒΨΔΕΦΓΗΙΞΚΛΜΝΟΠ\0ΡΣΤΘΩ\0ΧΥΖ"sv;
+
+constexpr int kLineFeed = 10;
+constexpr int kReturn = 13;
+constexpr int kDelete = 127;
+
+bool HoldsControlAlone(const QKeyEvent& event) {
+  return event.modifiers() & Qt::ControlModifier && !(event.modifiers() & Qt::AltModifier);
+}
+
+}  // namespace
+
+int KeyCodeOf(const QKeyEvent& event) {
+  switch (event.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+      return key_code::kTab;
+    case Qt::Key_Escape:
+      return key_code::kEscape;
+    case Qt::Key_PageUp:
+      return key_code::kPageUp;
+    case Qt::Key_PageDown:
+      return key_code::kPageDown;
+    case Qt::Key_Up:
+      return key_code::kUp;
+    case Qt::Key_Down:
+      return key_code::kDown;
+    default:
+      return key_code::kOther;
+  }
+}
+
+int ShiftOf(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers held = event.modifiers();
+  return (held & Qt::ShiftModifier ? 1 : 0) | (held & Qt::ControlModifier ? 2 : 0) |
+         (held & Qt::AltModifier ? 4 : 0);
+}
+
+int CharCodeOf(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_Backtab) return 0;
+  if (IsEnter(event)) return HoldsControlAlone(event) ? kLineFeed : kReturn;
+  if (HoldsControlAlone(event)) {
+    const int key = LatinKeyOf(event);
+    return key >= Qt::Key_A && key <= Qt::Key_Z ? key - Qt::Key_A + 1 : 0;
+  }
+  const QString text = event.text();
+  if (text.isEmpty() || text.front() == QChar(kDelete)) return 0;
+  return text.front().unicode();
+}
+
+Qt::Key LatinKeyOf(const QKeyEvent& event) {
+  const int key = event.key();
+  if (key <= 0xFF || key > 0xFFFF) return Qt::Key(key);
+  const std::size_t place = kGreekKeys.find(static_cast<char16_t>(key));
+  return place == kGreekKeys.npos ? Qt::Key(key) : Qt::Key(Qt::Key_A + int(place));
+}
+
+bool IsEnter(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+}  // namespace verlume::qt

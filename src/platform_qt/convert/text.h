@@ -1,0 +1,21 @@
+// The edge where the logic's strings and colours become Qt's, and back.
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <string>
+#include <string_view>
+
+#include "richtext/document.h"
+
+namespace verlume::qt {
+
+// Every UTF-16 unit is kept, lone surrogates and byte order marks too.
+QString ToQt(std::u16string_view text);
+std::u16string FromQt(const QString& text);
+
+// 0x00BBGGRR <-> QColor; the automatic colour is black.
+QColor ToQt(Color color);
+Color FromQt(const QColor& color);
+
+}  // namespace verlume::qt

@@ -1,0 +1,104 @@
+#include "platform_qt/dialogs/common_dialog.h"
+
+#include <QColorDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <memory>
+
+#include "platform/run_time_failure.h"
+#include "platform_qt/convert/text.h"
+#include "platform_qt/dialogs/common_dialog_files.h"
+#include "platform_qt/dialogs/common_dialog_font.h"
+#include "platform_qt/dialogs/dialogs.h"
+
+namespace verlume::qt {
+namespace {
+
+// Shows the dialog and returns what `result` reads from it. The dialog goes with its owner when the
+// program ends under it, which is a cancel.
+template <class Dialog, class Result>
+auto Ask(Dialog* dialog, Result result) {
+  const QPointer<Dialog> alive = dialog;
+  KeepToOwnProgram(dialog);
+  const bool accepted = dialog->exec() == QDialog::Accepted;
+  if (!alive) throw RunTimeFailure(FailureNumber::Cancelled);
+  const std::unique_ptr<Dialog> owned(dialog);
+  if (!accepted) throw RunTimeFailure(FailureNumber::Cancelled);
+  return result(*owned);
+}
+
+FileDialog* NewFileDialog(QWidget* owner, const FileChoice& start) {
+  auto* dialog = new FileDialog(owner, ToQt(start.title), start.initialFolder);
+  const QStringList filters = NameFilters(start.filter);
+  if (!filters.isEmpty()) dialog->setNameFilters(filters);
+  dialog->setDefaultSuffix(ToQt(start.defaultExtension));
+  if (start.flags & dialog_flag::kPathMustExist) dialog->RequireFolder();
+  return dialog;
+}
+
+FileChoice Chosen(const FileDialog& dialog, const FileChoice& start) {
+  FileChoice choice = start;
+  const QString path = dialog.selectedFiles().value(0);
+  choice.fileName = FromQt(QDir::toNativeSeparators(path));
+  choice.flags &= ~dialog_flag::kExtensionDifferent;
+  if (HasOtherExtension(path, ToQt(start.defaultExtension))) {
+    choice.flags |= dialog_flag::kExtensionDifferent;
+  }
+  return choice;
+}
+
+// The name proposed carries the extension: "ann.lee" alone would seem to have one of its own.
+QString ProposedName(const FileChoice& start) {
+  const QString name = ToQt(start.fileName);
+  const QString extension = ToQt(start.defaultExtension);
+  if (name.isEmpty() || !HasOtherExtension(name, extension)) return name;
+  return name + u'.' + extension;
+}
+
+}  // namespace
+
+FileChoice QtCommonDialog::ShowOpen(const FileChoice& start) {
+  FileDialog* dialog = NewFileDialog(OwnerOfBoxes(mainWindow_), start);
+  const bool mustExist = start.flags & dialog_flag::kFileMustExist;
+  dialog->setFileMode(mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  if (!start.fileName.empty()) dialog->selectFile(ToQt(start.fileName));
+  return Ask(dialog, [&start](const FileDialog& done) { return Chosen(done, start); });
+}
+
+FileChoice QtCommonDialog::ShowSave(const FileChoice& start) {
+  FileDialog* dialog = NewFileDialog(OwnerOfBoxes(mainWindow_), start);
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setFileMode(QFileDialog::AnyFile);
+  dialog->setOption(QFileDialog::DontConfirmOverwrite,
+                    !(start.flags & dialog_flag::kOverwritePrompt));
+  if (start.flags & dialog_flag::kNoReadOnlyReturn) dialog->RefuseReadOnly();
+  if (!start.fileName.empty()) dialog->selectFile(ProposedName(start));
+  return Ask(dialog, [&start](const FileDialog& done) { return Chosen(done, start); });
+}
+
+std::u16string QtCommonDialog::ChooseFolder(std::u16string_view title,
+                                            std::u16string_view initialFolder) {
+  auto* dialog = new FileDialog(OwnerOfBoxes(mainWindow_), ToQt(title), initialFolder);
+  dialog->setFileMode(QFileDialog::Directory);
+  dialog->setOption(QFileDialog::ShowDirsOnly);
+  return Ask(dialog, [](const FileDialog& done) {
+    QString folder = QDir::toNativeSeparators(done.selectedFiles().value(0));
+    if (!folder.endsWith(QDir::separator())) folder += QDir::separator();
+    return FromQt(folder);
+  });
+}
+
+Color QtCommonDialog::ShowColor(Color start) {
+  auto* dialog = new QColorDialog(ToQt(start), OwnerOfBoxes(mainWindow_));
+  dialog->setObjectName(QStringLiteral("colorDialog"));
+  dialog->setOption(QColorDialog::DontUseNativeDialog);
+  return Ask(dialog, [](const QColorDialog& done) { return FromQt(done.selectedColor()); });
+}
+
+FontChoice QtCommonDialog::ShowFont(const FontChoice& start, double minimumSize,
+                                    double maximumSize) {
+  auto* dialog = new FontDialog(OwnerOfBoxes(mainWindow_), start, minimumSize, maximumSize);
+  return Ask(dialog, [](const FontDialog& done) { return done.Choice(); });
+}
+
+}  // namespace verlume::qt

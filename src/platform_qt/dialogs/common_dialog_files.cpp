@@ -1,0 +1,94 @@
+#include "platform_qt/dialogs/common_dialog_files.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTreeView>
+
+#include "platform_qt/convert/text.h"
+
+namespace verlume::qt {
+namespace {
+
+constexpr QSize kUsualSize(780, 480);
+constexpr QSize kWindowFrame(20, 50);  // what a window manager puts around it
+
+}  // namespace
+
+QStringList NameFilters(std::u16string_view filter) {
+  const QStringList pieces = ToQt(filter).split(u'|', Qt::SkipEmptyParts);
+  if (pieces.size() == 1) return pieces;
+  QStringList filters;
+  for (qsizetype index = 0; index + 1 < pieces.size(); index += 2) {
+    const QString& description = pieces[index];
+    QString pattern = pieces[index + 1];
+    pattern.replace(u';', u' ');
+    // Qt reads the patterns out of the last parentheses; a description often has them already.
+    const QString behind = QStringLiteral("(%1)").arg(pattern);
+    filters.append(description.endsWith(behind) ? description : description + u' ' + behind);
+  }
+  return filters;
+}
+
+bool HasOtherExtension(const QString& path, const QString& defaultExtension) {
+  return !defaultExtension.isEmpty() &&
+         QFileInfo(path).suffix().compare(defaultExtension, Qt::CaseInsensitive) != 0;
+}
+
+QString FileTypes::type(const QFileInfo& info) const {
+  if (info.isDir()) return QCoreApplication::translate("QAbstractFileIconProvider", "Folder");
+  const QString suffix = info.suffix().toUpper();
+  if (suffix.isEmpty()) return QCoreApplication::translate("QAbstractFileIconProvider", "File");
+  return QCoreApplication::translate("QAbstractFileIconProvider", "%1 File").arg(suffix);
+}
+
+FileDialog::FileDialog(QWidget* owner, const QString& title, std::u16string_view initialFolder)
+    : QFileDialog(owner, title) {
+  setObjectName(QStringLiteral("fileDialog"));
+  setOption(DontUseNativeDialog);
+  setIconProvider(&types);
+  const QString folder = ToQt(initialFolder);
+  if (!folder.isEmpty() && QFileInfo(folder).isDir()) setDirectory(folder);
+  FitColumns();
+}
+
+// Qt's own widths cut the type and the date; here the name takes what the others leave.
+void FileDialog::FitColumns() {
+  resize(kUsualSize.boundedTo(screen()->availableSize() - kWindowFrame));
+  const auto* details = findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (!details || details->header()->count() == 0) return;
+  details->header()->setStretchLastSection(false);
+  details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  details->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+void FileDialog::accept() {
+  const QStringList files = selectedFiles();
+  const QString refusal = files.isEmpty() ? QString() : RefusalOf(files.first());
+  if (refusal.isEmpty()) return QFileDialog::accept();
+  QMessageBox box(QMessageBox::Warning, windowTitle(), QString(), QMessageBox::Ok, this);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(refusal);
+  box.exec();
+}
+
+// In Qt's own words, so that they come in the interface language as its others do.
+QString FileDialog::RefusalOf(const QString& path) const {
+  const QFileInfo file(path);
+  const QString folder = file.absolutePath();
+  if (requireFolder_ && !QFileInfo(folder).isDir()) {
+    return QFileDialog::tr(
+               "%1\nDirectory not found.\nPlease verify the correct directory name was given.")
+        .arg(QDir::toNativeSeparators(folder));
+  }
+  if (refuseReadOnly_ && file.isFile() && !file.isWritable()) {
+    return QCoreApplication::translate("QSaveFile", "Existing file %1 is not writable")
+        .arg(QDir::toNativeSeparators(path));
+  }
+  return {};
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,39 @@
+// Message boxes and input boxes on Qt's own.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/dialogs.h"
+#include "platform_qt/dialogs/greek_translator.h"
+
+class QMessageBox;
+
+namespace verlume::qt {
+
+// The window that a new box belongs to: the one the user is in, else `mainWindow`.
+QWidget* OwnerOfBoxes(QWidget* mainWindow);
+
+// Prepares a box or dialog for its showing: it takes the keyboard only from this program's own
+// windows, never from another program.
+void KeepToOwnProgram(QWidget* box);
+
+class QtDialogs : public Dialogs {
+ public:
+  // `mainWindow` owns the boxes shown while no window of the program is active.
+  explicit QtDialogs(QWidget* mainWindow);
+
+  void SetLanguage(bool isGreek) override;
+  Answer ShowMessage(const Message& message) override;
+  std::u16string AskText(std::u16string_view prompt, std::u16string_view title,
+                         std::u16string_view defaultText) override;
+
+ private:
+  void AddButtons(QMessageBox& box, const Message& message) const;
+
+  QPointer<QWidget> mainWindow_;
+  GreekTranslator greek_;
+  bool isGreek_ = false;
+};
+
+}  // namespace verlume::qt

@@ -1,0 +1,41 @@
+#include "platform_qt/dialogs/key_guard.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QWindow>
+
+namespace verlume::qt {
+namespace {
+
+constexpr qint64 kDeafMilliseconds = 500;
+
+}  // namespace
+
+KeyGuard::KeyGuard(QWidget* box) : QObject(box), box_(box) {
+  // On the application: shortcuts of buttons go past every filter of the box itself.
+  QApplication::instance()->installEventFilter(this);
+}
+
+bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Show:
+      if (watched == box_ && !sinceShown_.isValid()) sinceShown_.start();
+      return false;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+      break;
+    default:
+      return false;
+  }
+  if (sinceShown_.isValid() && sinceShown_.hasExpired(kDeafMilliseconds)) {
+    QApplication::instance()->removeEventFilter(this);
+    return false;
+  }
+  const auto* widget = qobject_cast<QWidget*>(watched);
+  return watched == box_->windowHandle() ||
+         (widget && (widget == box_ || box_->isAncestorOf(widget)));
+}
+
+}  // namespace verlume::qt

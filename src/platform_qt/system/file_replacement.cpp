@@ -1,0 +1,68 @@
+#include "platform_qt/system/file_replacement.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "platform/run_time_failure.h"
+
+namespace verlume::qt {
+namespace {
+
+constexpr int kNewFile = O_WRONLY | O_CREAT | O_EXCL;
+
+// False while another copy of the program works under this name.
+bool RemoveRemnant(const std::string& path) {
+  if (struct stat found; ::lstat(path.c_str(), &found) != 0) return true;
+  try {
+    OpenFile remnant(path, O_RDONLY | O_NOFOLLOW);
+    return remnant.TryToLock() && ::unlink(path.c_str()) == 0;
+  } catch (const RunTimeFailure&) {
+    return false;
+  }
+}
+
+// Makes the new name itself last through a crash, where the system can.
+void FlushFolder(const std::string& folder) {
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  ::fsync(descriptor);
+  ::close(descriptor);
+}
+
+}  // namespace
+
+FileReplacement::FileReplacement(const std::string& folder) : path_(folder + "/.verlume.new") {
+  if (OpenUnderCommonName()) return;
+  path_ = folder + "/.verlume-" + std::to_string(::getpid()) + ".new";
+  ::unlink(path_.c_str());
+  file_.emplace(path_, kNewFile);
+}
+
+FileReplacement::~FileReplacement() {
+  if (file_ && !hasTakenPlace_) ::unlink(path_.c_str());
+}
+
+// A failure that is no other copy's doing meets the other name as well, and is thrown there.
+bool FileReplacement::OpenUnderCommonName() try {
+  if (!RemoveRemnant(path_)) return false;
+  file_.emplace(path_, kNewFile);
+  // Another copy may have taken the file for a remnant before it was locked.
+  if (file_->TryToLock()) return true;
+  file_.reset();
+  return false;
+} catch (const RunTimeFailure&) {
+  return false;
+}
+
+void FileReplacement::TakePlaceOf(const std::string& path) {
+  file_->Flush();
+  // The file stays open, for its lock, until it bears the other name.
+  if (::rename(path_.c_str(), path.c_str()) != 0) ThrowErrno(path);
+  hasTakenPlace_ = true;
+  file_.reset();
+  FlushFolder(FolderOf(path));
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,96 @@
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QWidget>
+
+#include "platform_qt/convert/text.h"
+#include "platform_qt/system/system.h"
+
+namespace verlume::qt {
+namespace {
+
+constexpr auto kHelpFiles = "*.hlp";
+// Beside the folder of the executable, and in the system's data folders.
+constexpr auto kInstalledBeside = "/../share/verlume";
+constexpr auto kInstalledData = "verlume";
+
+bool HoldsHelp(const QString& folder) {
+  return !QDir(folder).entryList({kHelpFiles}, QDir::Files).isEmpty();
+}
+
+// What could still bring a handler to life.
+bool ReachesHandlers(QEvent::Type type) {
+  switch (type) {
+    case QEvent::Timer:
+    case QEvent::MetaCall:
+    case QEvent::SockAct:
+    case QEvent::Close:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::ContextMenu:
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+    case QEvent::Resize:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+QtApplication::QtApplication() : QtApplication(QCoreApplication::applicationDirPath()) {}
+
+QtApplication::QtApplication(const QString& programFolder) : programFolder_(programFolder) {}
+
+std::u16string QtApplication::ProgramFolder() const {
+  return FromQt(programFolder_);
+}
+
+std::u16string QtApplication::SettingsFolder() const {
+  if (QFileInfo(programFolder_).isWritable()) return ProgramFolder();
+  const QString own = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+  QDir().mkpath(own);
+  return FromQt(own);
+}
+
+std::u16string QtApplication::HelpFolder() const {
+  if (HoldsHelp(programFolder_)) return ProgramFolder();
+  const QString beside = QDir::cleanPath(programFolder_ + kInstalledBeside);
+  if (HoldsHelp(beside)) return FromQt(beside);
+  const QString data = QStandardPaths::locate(QStandardPaths::GenericDataLocation, kInstalledData,
+                                              QStandardPaths::LocateDirectory);
+  return data.isEmpty() ? ProgramFolder() : FromQt(data);
+}
+
+void QtApplication::YieldToEvents() {
+  // Without keys and clicks: a key handled inside the handler of the key before it would be typed
+  // first. And not for long, however fast a peer sends.
+  constexpr int kLimitMilliseconds = 20;
+  if (hasEnded_) return;
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kLimitMilliseconds);
+}
+
+void QtApplication::End() {
+  if (hasEnded_) return;
+  hasEnded_ = true;
+  QCoreApplication::instance()->installEventFilter(this);
+  for (QWidget* window : QApplication::topLevelWidgets()) window->hide();
+  QCoreApplication::exit();
+}
+
+int QtApplication::Run() {
+  return hasEnded_ ? 0 : QCoreApplication::exec();
+}
+
+bool QtApplication::eventFilter(QObject*, QEvent* event) {
+  return hasEnded_ && ReachesHandlers(event->type());
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,252 @@
+#include "platform_qt/text/rich_text_box.h"
+
+#include <QTextBlock>
+#include <algorithm>
+#include <utility>
+
+#include "platform_qt/convert/text.h"
+#include "platform_qt/text/rich_text_widget.h"
+#include "platform_qt/text/text_format.h"
+#include "platform_qt/text/text_loading.h"
+#include "platform_qt/text/text_writing.h"
+#include "richtext/rtf_reader.h"
+#include "richtext/rtf_writer.h"
+
+namespace verlume::qt {
+
+namespace {
+
+// The length of rich text that a locked box takes at once. What is more comes in while events are
+// handled.
+constexpr std::size_t kLengthAtOnce = 8 * 1024;
+
+}  // namespace
+
+using ProgramChange = RichTextWidget::ProgramChange;
+
+QtRichTextBox::QtRichTextBox(QWidget* parent, FileSystem& files, Lines lines)
+    : QtRichTextBox(new RichTextWidget(parent, lines), files, lines) {}
+
+QtRichTextBox::QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines)
+    : QtControl(widget), view_(widget), files_(files), lines_(lines) {
+  SetLocked(false);
+  Clear(OwnFormat());
+  widget->SetEvents(this);
+  turnEnd_.setSingleShot(true);
+  QObject::connect(&turnEnd_, &QTimer::timeout, &turnEnd_, [this] { inThisTurn_ = 0; });
+}
+
+QtRichTextBox::~QtRichTextBox() {
+  if (view_) view_->SetEvents(nullptr);
+}
+
+std::u16string QtRichTextBox::Text() const {
+  return SelectedText(Everything(), lines_);
+}
+
+std::u16string QtRichTextBox::Rtf() const {
+  return richtext::WriteRtf(Content());
+}
+
+richtext::Document QtRichTextBox::Content() const {
+  return SelectedDocument(Everything(), view_->Charset(), lines_);
+}
+
+void QtRichTextBox::WaitForTheRest() const {
+  if (loading_) loading_->Finish();
+  for (const auto& writing : writings_) writing->Finish();
+}
+
+QTextCursor QtRichTextBox::Everything() const {
+  WaitForTheRest();
+  QTextCursor cursor(widget_->document());
+  cursor.select(QTextCursor::Document);
+  return cursor;
+}
+
+std::size_t QtRichTextBox::TextLength() const {
+  // The document counts a separator behind its last line.
+  return TextPosition(widget_->document()->characterCount() - 1);
+}
+
+std::size_t QtRichTextBox::TextPosition(int position) const {
+  return view_->seams().TextPosition(position);
+}
+
+int QtRichTextBox::DocumentPosition(std::size_t position) const {
+  return view_->seams().DocumentPosition(position);
+}
+
+void QtRichTextBox::SetText(std::u16string_view text) {
+  ReplaceAll(FormattedText(text, FormatOfFirst(widget_->textCursor()), lines_));
+}
+
+void QtRichTextBox::SetRtf(std::u16string_view rtf) {
+  ReplaceAll(FormattedText(richtext::ReadRtf(rtf), lines_));
+}
+
+void QtRichTextBox::ReplaceAll(FormattedText text) {
+  Clear(FormatOfFirst(widget_->textCursor()));
+  {
+    const ProgramChange change(*view_);
+    QTextCursor cursor(widget_->document());
+    Insert(cursor, std::move(text), lines_);
+    widget_->document()->clearUndoRedoStacks();
+  }
+  Select(0, 0);
+  RaiseChange();
+}
+
+void QtRichTextBox::Clear(const QTextCharFormat& format) {
+  if (loading_) loading_->Abandon();
+  loading_.reset();
+  if (!std::exchange(writings_, {}).empty()) NoteWritten();
+  const ProgramChange change(*view_);
+  widget_->document()->clear();
+  QTextCursor cursor(widget_->document());
+  KeepFormatIfEmpty(cursor, format);
+}
+
+std::size_t QtRichTextBox::SelStart() const {
+  return TextPosition(widget_->textCursor().selectionStart());
+}
+
+std::size_t QtRichTextBox::SelLength() const {
+  const QTextCursor cursor = widget_->textCursor();
+  return TextPosition(cursor.selectionEnd()) - TextPosition(cursor.selectionStart());
+}
+
+void QtRichTextBox::Select(std::size_t start, std::size_t length) {
+  {
+    const ProgramChange change(*view_);
+    const std::size_t from = std::min(start, TextLength());
+    const std::size_t to = from + std::min(length, TextLength() - from);
+    QTextCursor cursor(widget_->document());
+    cursor.setPosition(DocumentPosition(from));
+    cursor.setPosition(DocumentPosition(to), QTextCursor::KeepAnchor);
+    widget_->setTextCursor(cursor);
+    widget_->ensureCursorVisible();
+  }
+  if (onSelChange) onSelChange();
+}
+
+SelectionFormat QtRichTextBox::SelFormat() const {
+  return SelectedFormat(widget_->textCursor(), lines_);
+}
+
+void QtRichTextBox::SetSelFormat(const SelectionFormat& format) {
+  const ProgramChange change(*view_);
+  widget_->mergeCurrentCharFormat(ToQt(format));
+  QTextCursor cursor = widget_->textCursor();
+  KeepFormatIfEmpty(cursor, cursor.charFormat());
+}
+
+void QtRichTextBox::SetSelText(std::u16string_view text) {
+  {
+    const ProgramChange change(*view_);
+    QTextCursor cursor = widget_->textCursor();
+    InsertText(cursor, text, lines_);
+    FollowTo(cursor);
+  }
+  RaiseChange();
+}
+
+void QtRichTextBox::SetSelRtf(std::u16string_view rtf) {
+  if (!FitsIntoThisTurn(rtf.size())) {
+    WriteByAndBy(rtf);
+  } else {
+    const ProgramChange change(*view_);
+    QTextCursor cursor = widget_->textCursor();
+    InsertDocument(cursor, richtext::ReadRtf(rtf), lines_);
+    FollowTo(cursor);
+  }
+  RaiseChange();
+}
+
+bool QtRichTextBox::FitsIntoThisTurn(std::size_t length) {
+  if (!Locked()) return true;
+  if (inThisTurn_ == 0) turnEnd_.start(0);
+  inThisTurn_ += length;
+  const bool isBehindOther = std::any_of(writings_.begin(), writings_.end(), [this](const auto& w) {
+    return !w->IsDone() && w->EndsAt(widget_->textCursor().position());
+  });
+  return !isBehindOther && inThisTurn_ <= kLengthAtOnce;
+}
+
+void QtRichTextBox::WriteByAndBy(std::u16string_view rtf) {
+  const QTextCursor cursor = widget_->textCursor();
+  std::erase_if(writings_, [](const auto& writing) { return writing->IsDone(); });
+  const auto same = std::find_if(writings_.begin(), writings_.end(), [&](const auto& writing) {
+    return !cursor.hasSelection() && writing->EndsAt(cursor.position());
+  });
+  if (same != writings_.end()) return (*same)->Add(rtf);
+  const ProgramChange change(*view_);
+  writings_.push_back(std::make_unique<TextWriting>(*view_, cursor, [this] { NoteWritten(); }));
+  writings_.back()->Add(rtf);
+}
+
+bool QtRichTextBox::IsTakingIn() const {
+  return std::any_of(writings_.begin(), writings_.end(),
+                     [](const auto& writing) { return !writing->IsDone(); });
+}
+
+void QtRichTextBox::NoteWritten() {
+  if (!IsTakingIn() && onTakenIn) onTakenIn();
+}
+
+void QtRichTextBox::FollowTo(const QTextCursor& cursor) {
+  // The widget's own cursor moves with what is inserted; setting it costs half a line's time.
+  const QTextCursor own = widget_->textCursor();
+  if (own.hasSelection() || own.position() != cursor.position()) widget_->setTextCursor(cursor);
+}
+
+void QtRichTextBox::SetFontCharset(int charset) {
+  view_->SetCharset(charset);
+}
+
+void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
+  const QTextCharFormat before = FormatOfFirst(widget_->textCursor());
+  FormattedText text = format == TextFileFormat::PlainText
+                           ? FormattedText(files_.ReadText(path), before, lines_)
+                           : FormattedText(richtext::ReadRtf(files_.ReadBytes(path)), lines_);
+  Clear(before);
+  loading_ = std::make_unique<TextLoading>(*view_, QTextCursor(widget_->document()),
+                                           std::move(text), [this](int percent) {
+                                             if (onLoadProgress) onLoadProgress(percent);
+                                           });
+  // What the user can change is all there.
+  if (!Locked()) WaitForTheRest();
+  Select(0, 0);
+  RaiseChange();
+}
+
+void QtRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) const {
+  const bool isPlain = format == TextFileFormat::PlainText;
+  files_.ReplaceText(path, isPlain ? Text() : richtext::WriteRtfFile(Content()));
+}
+
+void QtRichTextBox::SetLocked(bool locked) {
+  if (!locked) WaitForTheRest();
+  widget_->setReadOnly(locked);
+  if (locked) {
+    // The keyboard selects, copies and scrolls too.
+    widget_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  }
+  widget_->setUndoRedoEnabled(!locked && lines_ == Lines::Single);
+}
+
+bool QtRichTextBox::Locked() const {
+  return widget_->isReadOnly();
+}
+
+void QtRichTextBox::SetBackColor(Color color) {
+  QPalette palette = widget_->palette();
+  palette.setColor(QPalette::Base, ToQt(color));
+  widget_->setPalette(palette);
+}
+
+Color QtRichTextBox::BackColor() const {
+  return FromQt(widget_->palette().color(QPalette::Base));
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,227 @@
+#include "platform_qt/text/rich_text_widget.h"
+
+#include <QAction>
+#include <QInputMethodEvent>
+#include <QPalette>
+#include <QScrollBar>
+#include <algorithm>
+#include <utility>
+
+#include "platform_qt/controls/key_codes.h"
+#include "platform_qt/convert/text.h"
+#include "platform_qt/text/rich_text_mime.h"
+#include "platform_qt/text/text_format.h"
+#include "platform_qt/text/text_insertion.h"
+
+namespace verlume::qt {
+namespace {
+
+// The classic look, in light and in dark desktops alike.
+QPalette ClassicPalette() {
+  QPalette palette;
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::PlaceholderText, Qt::darkGray);
+  palette.setColor(QPalette::Highlight, QColor(0x30, 0x66, 0xB0));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  return palette;
+}
+
+// Whether a menu of the widget's window has the keys.
+bool IsMenuKey(const QWidget& widget, const QKeyEvent& event) {
+  const QKeySequence keys(event.keyCombination());
+  const QList<QAction*> actions = widget.window()->findChildren<QAction*>();
+  return std::any_of(actions.begin(), actions.end(), [&](const QAction* action) {
+    return action->isEnabled() && action->shortcuts().contains(keys);
+  });
+}
+
+}  // namespace
+
+RichTextWidget::ProgramChange::~ProgramChange() {
+  if (--widget_.programDepth_ == 0) widget_.lastFormat_ = widget_.textCursor().charFormat();
+}
+
+RichTextWidget::UserChange::~UserChange() {
+  if (widget_ && --widget_->userDepth_ == 0) widget_->SettleSelChange();
+}
+
+RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
+    : QPlainTextEdit(parent), lines_(lines), seams_(*document(), lines) {
+  setPalette(ClassicPalette());
+  QFont font(ToQt(kOwnFontName));
+  font.setPointSizeF(kOwnFontSize);
+  setFont(font);
+  setLineWrapMode(QPlainTextEdit::WidgetWidth);
+  setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  const auto note = [this] { NoteSelChange(); };
+  connect(this, &QPlainTextEdit::cursorPositionChanged, this, note);
+  connect(this, &QPlainTextEdit::selectionChanged, this, note);
+  connect(document(), &QTextDocument::contentsChanged, this, [this] { NoteChange(); });
+}
+
+bool RichTextWidget::Swallowed(int keyCode, int shift, int charCode) {
+  const QPointer<RichTextWidget> self(this);
+  int code = keyCode;
+  if (events_ && events_->onKeyDown) events_->onKeyDown(code, shift);
+  if (!self || code == 0) return true;
+  if (charCode == 0) return false;
+  if (events_ && events_->onKeyPress) events_->onKeyPress(charCode);
+  return !self || charCode == 0;
+}
+
+bool RichTextWidget::event(QEvent* event) {
+  // A key of the menus is theirs, also where it would edit text: Ctrl+U deletes a line on some
+  // desktops.
+  if (event->type() == QEvent::ShortcutOverride &&
+      IsMenuKey(*this, *static_cast<QKeyEvent*>(event))) {
+    event->ignore();
+    return true;
+  }
+  return QPlainTextEdit::event(event);
+}
+
+void RichTextWidget::keyPressEvent(QKeyEvent* event) {
+  const UserChange change(*this);
+  if (Swallowed(KeyCodeOf(*event), ShiftOf(*event), CharCodeOf(*event))) return event->accept();
+  PerformKey(event);
+}
+
+void RichTextWidget::PerformKey(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Backtab) {
+    // Qt keeps it from an editor that takes tabs.
+    QAbstractScrollArea::focusNextPrevChild(false);
+    return;
+  }
+  const QString text = IsEnter(*event) ? QString(u'\n') : event->text();
+  const bool typesOther = text.size() > 0 && SafeText(FromQt(text), lines_) != event->text();
+  const bool plainKey = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+  if (typesOther && plainKey && !isReadOnly()) return TypeText(text);
+  PressAcrossSeams(event);
+}
+
+// At a seam there is nothing to step over or to delete: a key that did no more than that is pressed
+// again.
+void RichTextWidget::PressAcrossSeams(QKeyEvent* event) {
+  const QPointer<RichTextWidget> self(this);
+  const auto inDocument = [this] {
+    return std::pair(textCursor().position(), document()->blockCount());
+  };
+  const auto inText = [this] {
+    return std::pair(seams_.TextPosition(textCursor().position()),
+                     seams_.TextPosition(document()->characterCount() - 1));
+  };
+  const auto documentBefore = inDocument();
+  const auto textBefore = inText();
+  QPlainTextEdit::keyPressEvent(event);
+  const bool crossedASeam = self && inDocument() != documentBefore && inText() == textBefore;
+  if (crossedASeam) QPlainTextEdit::keyPressEvent(event);
+}
+
+void RichTextWidget::TypeText(const QString& text) {
+  QTextCursor cursor = textCursor();
+  InsertText(cursor, FromQt(text), lines_);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+}
+
+void RichTextWidget::inputMethodEvent(QInputMethodEvent* event) {
+  const UserChange change(*this);
+  QString commit = SafeText(FromQt(event->commitString()), lines_);
+  if (!commit.isEmpty() && Swallowed(key_code::kOther, 0, commit.front().unicode())) commit.clear();
+  QInputMethodEvent safe(event->preeditString(), event->attributes());
+  safe.setCommitString(commit, event->replacementStart(), event->replacementLength());
+  QPlainTextEdit::inputMethodEvent(&safe);
+  event->setAccepted(safe.isAccepted());
+}
+
+void RichTextWidget::focusInEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusInEvent(event);
+  if (events_ && events_->onGotFocus) events_->onGotFocus();
+}
+
+void RichTextWidget::focusOutEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusOutEvent(event);
+  if (events_ && events_->onLostFocus) events_->onLostFocus();
+}
+
+void RichTextWidget::resizeEvent(QResizeEvent* event) {
+  const bool showsEnd = ShowsEndWithin(event->oldSize());
+  QPlainTextEdit::resizeEvent(event);
+  if (showsEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+bool RichTextWidget::ShowsEndWithin(const QSize& size) const {
+  QTextCursor end(document());
+  end.movePosition(QTextCursor::End);
+  return QRect({}, size).contains(cursorRect(end).center());
+}
+
+void RichTextWidget::ShowEnd() {
+  // A scroll bar does not know how high the text is before it has been laid out.
+  constexpr int kMostTries = 4;
+  for (int i = 0; i < kMostTries && !(i > 0 && ShowsEnd()); ++i) {
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+  }
+}
+
+bool RichTextWidget::viewportEvent(QEvent* event) {
+  const UserChange change(*this);
+  return QPlainTextEdit::viewportEvent(event);
+}
+
+bool RichTextWidget::canInsertFromMimeData(const QMimeData* source) const {
+  return source && HoldsText(*source);
+}
+
+QMimeData* RichTextWidget::createMimeDataFromSelection() const {
+  return new RichTextMimeData(SelectedDocument(textCursor(), charset_, lines_));
+}
+
+void RichTextWidget::insertFromMimeData(const QMimeData* source) {
+  if (isReadOnly() || !source) return;
+  const UserChange change(*this);
+  QTextCursor cursor = textCursor();
+  InsertMimeData(cursor, *source, lines_);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+}
+
+void RichTextWidget::NoteSelChange() {
+  if (programDepth_ > 0) return;
+  selChanged_ = true;
+  if (userDepth_ == 0) SettleSelChange();
+}
+
+void RichTextWidget::NoteChange() {
+  if (programDepth_ == 0) changed_ = true;
+  NoteSelChange();
+}
+
+void RichTextWidget::SettleSelChange() {
+  if (!selChanged_) return KeepInsertionFormat();
+  selChanged_ = false;
+  if (document()->isEmpty()) {
+    const ProgramChange change(*this);
+    QTextCursor cursor = textCursor();
+    KeepFormatIfEmpty(cursor, lastFormat_);
+    setTextCursor(cursor);
+  }
+  lastFormat_ = textCursor().charFormat();
+  const QPointer<RichTextWidget> self(this);
+  if (events_ && events_->onSelChange) events_->onSelChange();
+  if (!self || !std::exchange(changed_, false)) return;
+  if (events_ && events_->onChange) events_->onChange();
+}
+
+// A caret key that moves nothing makes Qt forget the format that was set for what is typed next.
+void RichTextWidget::KeepInsertionFormat() {
+  QTextCursor cursor = textCursor();
+  if (cursor.hasSelection() || cursor.charFormat() == lastFormat_) return;
+  const ProgramChange change(*this);
+  cursor.setCharFormat(lastFormat_);
+  setTextCursor(cursor);
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,147 @@
+#include "platform_qt/text/text_format.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QHash>
+#include <algorithm>
+#include <cmath>
+
+#include "platform_qt/convert/text.h"
+#include "richtext/rtf_limits.h"
+
+namespace verlume::qt {
+namespace {
+
+void SetColor(QTextCharFormat& format, Color color) {
+  if (color == kAutomaticColor) {
+    format.clearForeground();
+  } else {
+    format.setForeground(ToQt(color));
+  }
+}
+
+Color ColorOf(const QTextCharFormat& format) {
+  const QBrush brush = format.foreground();
+  return brush.style() == Qt::NoBrush ? kAutomaticColor : FromQt(brush.color());
+}
+
+// The name of the font that the text asks for; its family is the one that shows it here.
+constexpr int kFontName = QTextFormat::UserProperty;
+
+// To look for a font that is not there takes milliseconds, with each of its sizes and styles; what
+// another computer sends may name any number of them. So each name is looked for once, and beyond
+// so many names the own font shows.
+QString FamilyToShow(const QString& name) {
+  constexpr qsizetype kMostNames = 64;
+  static QHash<QString, QString> known;
+  const auto found = known.constFind(name);
+  if (found != known.constEnd()) return *found;
+  const QString own = ToQt(kOwnFontName);
+  if (known.size() >= kMostNames && !QFontDatabase::hasFamily(name)) return own;
+  return *known.insert(name, QFontInfo(QFont(name)).family());
+}
+
+std::u16string FontNameOf(const QTextCharFormat& format) {
+  const QString name = format.stringProperty(kFontName);
+  if (!name.isEmpty()) return FromQt(name);
+  const QStringList families = format.fontFamilies().toStringList();
+  return families.isEmpty() ? std::u16string(kOwnFontName) : FromQt(families.front());
+}
+
+double FontSizeOf(const QTextCharFormat& format) {
+  const double size = format.fontPointSize();
+  return size > 0 ? size : kOwnFontSize;
+}
+
+void SetFontName(QTextCharFormat& format, std::u16string_view name) {
+  const QString wanted = ToQt(name.empty() ? kOwnFontName : name);
+  format.setProperty(kFontName, wanted);
+  format.setFontFamilies({FamilyToShow(wanted)});
+}
+
+template <class T>
+void KeepIfSame(std::optional<T>& common, const std::optional<T>& other) {
+  if (common != other) common.reset();
+}
+
+// A document has no more fonts than can be read back; what is beyond takes the first one.
+std::uint16_t IndexOf(const std::u16string& name, int charset, std::vector<richtext::Font>& fonts) {
+  const auto found = std::find(fonts.begin(), fonts.end(), richtext::Font{name, charset});
+  const auto index = static_cast<std::uint16_t>(found - fonts.begin());
+  if (found != fonts.end()) return index;
+  if (fonts.size() == richtext::limits::kMaxFonts) return 0;
+  fonts.push_back({name, charset});
+  return index;
+}
+
+}  // namespace
+
+QTextCharFormat OwnFormat() {
+  return ToQt(
+      {std::u16string(kOwnFontName), kOwnFontSize, std::nullopt, false, false, false, false});
+}
+
+QTextCharFormat ToQt(const SelectionFormat& format) {
+  QTextCharFormat result;
+  if (format.fontName) SetFontName(result, *format.fontName);
+  if (format.fontSize) result.setFontPointSize(*format.fontSize);
+  if (format.color) SetColor(result, *format.color);
+  if (format.bold) result.setFontWeight(*format.bold ? QFont::Bold : QFont::Normal);
+  if (format.italic) result.setFontItalic(*format.italic);
+  if (format.underline) result.setFontUnderline(*format.underline);
+  if (format.strikethrough) result.setFontStrikeOut(*format.strikethrough);
+  return result;
+}
+
+SelectionFormat FromQt(const QTextCharFormat& format) {
+  return {FontNameOf(format),
+          FontSizeOf(format),
+          std::max<Color>(ColorOf(format), 0),
+          format.fontWeight() > QFont::Medium,
+          format.fontItalic(),
+          format.fontUnderline(),
+          format.fontStrikeOut()};
+}
+
+void KeepCommon(SelectionFormat& common, const SelectionFormat& other) {
+  KeepIfSame(common.fontName, other.fontName);
+  KeepIfSame(common.fontSize, other.fontSize);
+  KeepIfSame(common.color, other.color);
+  KeepIfSame(common.bold, other.bold);
+  KeepIfSame(common.italic, other.italic);
+  KeepIfSame(common.underline, other.underline);
+  KeepIfSame(common.strikethrough, other.strikethrough);
+}
+
+bool IsUndetermined(const SelectionFormat& format) {
+  return !format.fontName && !format.fontSize && !format.color && !format.bold && !format.italic &&
+         !format.underline && !format.strikethrough;
+}
+
+QTextCharFormat ToQt(const richtext::CharFormat& format, const std::vector<richtext::Font>& fonts) {
+  QTextCharFormat result;
+  SetFontName(result, format.font < fonts.size() ? fonts[format.font].name : u"");
+  result.setFontPointSize(format.halfPoints / 2.0);
+  SetColor(result, format.color);
+  result.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
+  result.setFontItalic(format.italic);
+  result.setFontUnderline(format.underline);
+  result.setFontStrikeOut(format.strikethrough);
+  return result;
+}
+
+richtext::CharFormat FromQt(const QTextCharFormat& format, int charset,
+                            std::vector<richtext::Font>& fonts) {
+  richtext::CharFormat result;
+  result.font = IndexOf(FontNameOf(format), charset, fonts);
+  result.halfPoints = static_cast<std::uint16_t>(std::lround(FontSizeOf(format) * 2));
+  result.color = ColorOf(format);
+  result.bold = format.fontWeight() > QFont::Medium;
+  result.italic = format.fontItalic();
+  result.underline = format.fontUnderline();
+  result.strikethrough = format.fontStrikeOut();
+  return result;
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,216 @@
+#include "platform_qt/text/text_insertion.h"
+
+#include <QTextBlock>
+#include <algorithm>
+#include <map>
+#include <tuple>
+#include <utility>
+
+#include "platform_qt/convert/text.h"
+#include "platform_qt/text/text_format.h"
+
+namespace verlume::qt {
+namespace {
+
+// A block is laid out as a whole, with every key that changes it. What is laid out slowly weighs
+// more: pieces of a format of their own, and scripts whose letters have to be looked for in other
+// fonts or are joined to each other.
+constexpr int kMostWeight = 4096;
+constexpr int kWeightOfPiece = 32;
+constexpr qsizetype kLongestBlock = kMostWeight;
+
+int Weight(QChar unit) {
+  constexpr int kSlow = 4;
+  const char16_t c = unit.unicode();
+  const bool isMark = c >= 0x0300 && c < 0x0370;
+  const bool isPunctuation = c >= 0x2010 && c < 0x2028;
+  return (c < 0x0590 && !isMark) || isPunctuation ? 1 : kSlow;
+}
+
+// The room that is left in the block behind a piece.
+int RoomBehind(QStringView piece, int room) {
+  room -= kWeightOfPiece;
+  for (const QChar unit : piece) room = unit == u'\n' ? kMostWeight : room - Weight(unit);
+  return room;
+}
+
+int RoomAt(const QTextCursor& cursor) {
+  const QTextBlock block = cursor.block();
+  int room = kMostWeight;
+  for (auto it = block.begin(); !it.atEnd(); ++it) room = RoomBehind(it.fragment().text(), room);
+  return room;
+}
+
+// How far back from the end of a block a blank is looked for, to end it there.
+constexpr qsizetype kLongestWord = 256;
+
+// Qt ends blocks, frames and tables with these and puts U+FFFC for objects.
+char16_t SafeUnit(char16_t unit, Lines lines) {
+  switch (unit) {
+    case u'\n':
+    case u'\r':
+    case u'\u2028':
+    case u'\u2029':
+      return lines == Lines::Single ? u' ' : u'\n';
+    case u'\0':
+    case u'\uFFFC':
+      return u'\uFFFD';
+    default:
+      return unit >= 0xFDD0 && unit <= 0xFDEF ? u'\uFFFD' : unit;
+  }
+}
+
+// The run model counts every unit, so here none is dropped.
+QString SafeUnits(std::u16string_view text, Lines lines) {
+  QString safe = ToQt(text);
+  for (QChar& c : safe) c = SafeUnit(c.unicode(), lines);
+  return safe;
+}
+
+// A format of a long document is made once, not with each of its runs.
+class FormatCache {
+ public:
+  explicit FormatCache(const std::vector<richtext::Font>& fonts) : fonts_(fonts) {}
+
+  const QTextCharFormat& Of(const richtext::CharFormat& format) {
+    const Key key(format.font, format.halfPoints, format.color, format.bold, format.italic,
+                  format.underline, format.strikethrough);
+    const auto known = made_.find(key);
+    return known != made_.end() ? known->second
+                                : made_.emplace(key, ToQt(format, fonts_)).first->second;
+  }
+
+ private:
+  using Key = std::tuple<int, int, Color, bool, bool, bool, bool>;
+
+  const std::vector<richtext::Font>& fonts_;
+  std::map<Key, QTextCharFormat> made_;
+};
+
+}  // namespace
+
+QString SafeText(std::u16string_view text, Lines lines) {
+  std::u16string joined;
+  joined.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool first = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
+    if (!first) joined += text[i];
+  }
+  return SafeUnits(joined, lines);
+}
+
+FormattedText::FormattedText(std::u16string_view plain, const QTextCharFormat& format, Lines lines)
+    : text(SafeText(plain, lines)), pieces{{text.size(), format}} {}
+
+FormattedText::FormattedText(const richtext::Document& document, Lines lines)
+    : text(SafeUnits(document.text, lines)) {
+  FormatCache formats(document.fonts);
+  pieces.reserve(document.runs.size());
+  for (const richtext::Run& run : document.runs) {
+    pieces.push_back({static_cast<qsizetype>(run.length), formats.Of(run.format)});
+  }
+}
+
+TextInsertion::TextInsertion(const QTextCursor& cursor, FormattedText text, Lines lines)
+    : cursor_(cursor), text_(std::move(text)), size_(text_.text.size()), lines_(lines) {
+  cursor_.removeSelectedText();
+  cursor_.setKeepPositionOnInsert(true);
+}
+
+void TextInsertion::GoOnWith(FormattedText text) {
+  text_ = std::move(text);
+  size_ = text_.text.size();
+  at_ = inPiece_ = 0;
+  piece_ = 0;
+}
+
+int TextInsertion::Percent() const {
+  return IsDone() ? 100 : static_cast<int>(at_ * 100 / size_);
+}
+
+void TextInsertion::PutIn(qsizetype units) {
+  qsizetype end = std::min(at_ + units, size_);
+  if (end < size_ && text_.text[end].isLowSurrogate()) ++end;
+  cursor_.setKeepPositionOnInsert(false);
+  // The anchor has gone on with what was written there.
+  cursor_.clearSelection();
+  cursor_.beginEditBlock();
+  room_ = RoomAt(cursor_);
+  while (at_ < end) PutInPiece(end);
+  cursor_.endEditBlock();
+  cursor_.setKeepPositionOnInsert(true);
+  // A long text is not kept twice.
+  if (IsDone()) text_ = FormattedText();
+}
+
+void TextInsertion::PutInPiece(qsizetype end) {
+  const FormattedText::Piece& piece = text_.pieces[piece_];
+  const qsizetype rest = piece.length - inPiece_;
+  // The word that is next to come is seen too.
+  const qsizetype seam = LengthBeforeSeam(std::min(rest, end - at_ + kLongestBlock));
+  const qsizetype length = std::min({rest, end - at_, seam});
+  const QString text = text_.text.mid(at_, length);
+  cursor_.insertText(text, piece.format);
+  room_ = RoomBehind(text, room_);
+  if (length == seam) {
+    cursor_.insertBlock(cursor_.blockFormat(), piece.format);
+    MarkSeam(cursor_.block());
+    room_ = kMostWeight;
+  }
+  at_ += length;
+  inPiece_ += length;
+  if (inPiece_ < piece.length) return;
+  ++piece_;
+  inPiece_ = 0;
+}
+
+// How much of the next text goes in before a seam; more than that where there need be none.
+qsizetype TextInsertion::LengthBeforeSeam(qsizetype length) const {
+  const QStringView text = QStringView(text_.text).sliced(at_, length);
+  int room = room_ - kWeightOfPiece;
+  qsizetype begin = 0;
+  for (qsizetype i = 0; i < length; ++i) {
+    if (text[i] == u'\n') {
+      begin = i + 1;
+      room = kMostWeight;
+    } else if (room < Weight(text[i])) {
+      return begin + LengthOfCut(begin, i - begin);
+    } else {
+      room -= Weight(text[i]);
+    }
+  }
+  return length + 1;
+}
+
+// How much of a text that is longer than the room goes into it: the words that fit.
+qsizetype TextInsertion::LengthOfCut(qsizetype begin, qsizetype room) const {
+  if (room <= 0) return 0;
+  const qsizetype searched = std::min(room, kLongestWord);
+  const QStringView end = QStringView(text_.text).sliced(at_ + begin + room - searched, searched);
+  if (const qsizetype blank = end.lastIndexOf(u' '); blank >= 0) return room - searched + blank + 1;
+  if (room < kLongestWord) return 0;
+  return end.back().isHighSurrogate() ? room - 1 : room;
+}
+
+void Insert(QTextCursor& cursor, FormattedText text, Lines lines) {
+  const qsizetype length = text.text.size();
+  cursor.beginEditBlock();
+  TextInsertion insertion(cursor, std::move(text), lines);
+  insertion.PutIn(length);
+  cursor.endEditBlock();
+  cursor.setPosition(insertion.cursor().position());
+}
+
+void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines) {
+  const QTextCharFormat format = FormatOfFirst(cursor);
+  Insert(cursor, FormattedText(text, format, lines), lines);
+  KeepFormatIfEmpty(cursor, format);
+}
+
+void InsertDocument(QTextCursor& cursor, const richtext::Document& document, Lines lines) {
+  const QTextCharFormat before = FormatOfFirst(cursor);
+  Insert(cursor, FormattedText(document, lines), lines);
+  KeepFormatIfEmpty(cursor, before);
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,67 @@
+#include "platform_qt/text/text_loading.h"
+
+#include <QElapsedTimer>
+#include <QScrollBar>
+#include <utility>
+
+namespace verlume::qt {
+namespace {
+
+// Shorter than a frame of the screen, so that no key or click waits for long; and a pause, so that
+// one who handles the events that wait finds an end of them.
+constexpr qint64 kTurnMilliseconds = 10;
+constexpr int kPauseMilliseconds = 1;
+constexpr qsizetype kUnitsPerStep = 16 * 1024;
+constexpr qsizetype kUnitsAtOnce = 64 * 1024;
+constexpr int kAll = 100;
+
+}  // namespace
+
+TextLoading::TextLoading(RichTextWidget& widget, const QTextCursor& cursor, FormattedText text,
+                         std::function<void(int percent)> onProgress)
+    : widget_(widget),
+      insertion_(cursor, std::move(text), widget.lines()),
+      onProgress_(std::move(onProgress)) {
+  PutIn(kUnitsAtOnce);
+  if (insertion_.IsDone()) {
+    told_ = kAll;
+    return;
+  }
+  QObject::connect(&next_, &QTimer::timeout, &next_, [this] { Continue(); });
+  next_.start(kPauseMilliseconds);
+}
+
+void TextLoading::Finish() {
+  if (!insertion_.IsDone()) PutIn(insertion_.UnitsToCome());
+  Abandon();
+}
+
+void TextLoading::Abandon() {
+  next_.stop();
+  Tell(kAll);
+}
+
+void TextLoading::PutIn(qsizetype units) {
+  // What is written meanwhile is brought into view, and moves down with every piece.
+  const bool showsEnd = widget_.verticalScrollBar()->value() > 0 && widget_.ShowsEnd();
+  const RichTextWidget::ProgramChange change(widget_);
+  insertion_.PutIn(units);
+  widget_.document()->clearUndoRedoStacks();
+  if (showsEnd) widget_.ShowEnd();
+}
+
+void TextLoading::Continue() {
+  QElapsedTimer turn;
+  turn.start();
+  while (!insertion_.IsDone() && turn.elapsed() < kTurnMilliseconds) PutIn(kUnitsPerStep);
+  if (insertion_.IsDone()) next_.stop();
+  Tell(insertion_.Percent());
+}
+
+void TextLoading::Tell(int percent) {
+  if (percent <= told_) return;
+  told_ = percent;
+  onProgress_(percent);
+}
+
+}  // namespace verlume::qt

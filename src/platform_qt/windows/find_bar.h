@@ -1,0 +1,34 @@
+// The find bar: its widgets, and the roles that only it plays.
+#pragma once
+
+#include <QLineEdit>
+
+#include "platform_qt/controls/controls.h"
+
+namespace verlume::qt {
+
+class QtTextField : public QtControl<TextField, QLineEdit> {
+ public:
+  explicit QtTextField(QLineEdit* widget);
+  // Shown also in the field while that is empty.
+  void SetAccessibleName(std::u16string_view name) override;
+  void SetText(std::u16string_view text) override { widget_->setText(ToQt(text)); }
+  std::u16string Text() const override { return FromQt(widget_->text()); }
+  void SelectAll() override { widget_->selectAll(); }
+};
+
+class QtPanel : public Panel {
+ public:
+  explicit QtPanel(QWidget* widget) : widget_(widget) {}
+  void SetVisible(bool visible) override;
+  bool Visible() const override { return !widget_->isHidden(); }
+  bool HasFocus() const override;
+
+ private:
+  QWidget* widget_;
+};
+
+// Hidden. Its controls bear the names of FindBar; its keys press its buttons.
+QWidget* NewFindBar(QWidget* parent);
+
+}  // namespace verlume::qt

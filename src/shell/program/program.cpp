@@ -1,0 +1,205 @@
+#include "shell/program/program.h"
+
+namespace verlume {
+namespace {
+
+// Binds an event to a procedure. The procedures catch their own failures.
+template <class Event, class Room, class Method>
+void On(Event& event, Room& room, Method procedure) {
+  event = [&room, procedure](auto&&... arguments) { (room.*procedure)(arguments...); };
+}
+
+}  // namespace
+
+Program::Program(Platform& platform)
+    : platform_(platform),
+      errors_(
+          state_, platform.dialogs, [this] { EndChatAfterError(); },
+          [this] { platform_.frmMain.window.Unload(); }),
+      settings_(state_, platform.files),
+      statusPanel_(platform, errors_),
+      language_(state_, platform, errors_, settings_),
+      help_(platform, errors_),
+      windowBehaviour_(state_, platform, errors_, settings_),
+      aboutBox_(state_, platform, errors_),
+      log_(state_, platform, errors_, settings_),
+      dialogueFiles_(state_, platform, errors_),
+      macroStore_(state_, platform, errors_, settings_),
+      dialogue_(state_, platform, errors_, settings_, log_),
+      wire_(state_, platform, errors_, {dialogue_, log_, statusPanel_}),
+      connection_(state_, platform, errors_, {settings_, dialogue_, log_, statusPanel_, wire_}),
+      socketEvents_(state_, platform, errors_, wire_, log_),
+      history_(state_, platform, errors_),
+      completion_(state_, platform, errors_, settings_, macroStore_),
+      textFormat_(state_, platform, errors_, settings_, dialogue_),
+      find_(state_, platform, errors_),
+      interpreter_(state_, platform, errors_,
+                   {dialogue_, history_, textFormat_, connection_, wire_}),
+      macroStyle_(state_, platform, errors_),
+      macroEditor_(state_, platform, errors_, macroStore_, macroStyle_),
+      macroSaving_(state_, platform, errors_, macroStore_),
+      startUp_(state_, platform, errors_, settings_, language_,
+               {[this] { ResetConnection(state_, platform_); }, BuildProtocolMarker,
+                [this] { textFormat_.ApplyCommandStyle(); }}),
+      shutDown_(
+          state_, platform, errors_, [this] { connection_.ConfirmExit(); },
+          [this] { ResetConnection(state_, platform_); }) {
+  BindWindow();
+  BindAbout();
+  BindMacros();
+  BindMenus();
+  BindPanes();
+  BindFindBar();
+  BindSocket();
+  BindContextHelp(platform.frmMain);
+}
+
+Program::~Program() = default;
+
+void Program::Start() {
+  startUp_.Form_Load();
+  if (!platform_.application.HasEnded()) platform_.frmMain.window.Show();
+}
+
+// Any error ends the chat: its log is closed, and the status line does not go on telling of it.
+void Program::EndChatAfterError() {
+  const bool wasIdle = StateOf(state_) == ConnectionState::Idle;
+  ResetConnection(state_, platform_);
+  state_.LogOpen = false;
+  if (!wasIdle) platform_.frmMain.lblStatus.SetCaption(u"");
+}
+
+void Program::BindWindow() {
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.window.onQueryUnload, shutDown_, &ShutDown::Form_QueryUnload);
+  On(frmMain.window.onUnload, shutDown_, &ShutDown::Form_Unload);
+  On(frmMain.freeSizer1.onPostLayout, startUp_, &StartUp::freeSizer1_PostLayout);
+  On(frmMain.tmrTimer.onTimer, statusPanel_, &StatusPanel::tmrTimer_Timer);
+}
+
+void Program::BindAbout() {
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.mnuHelpAbout.onClick, aboutBox_, &AboutBox::mnuHelpAbout_Click);
+  On(frmMain.lblCopyright.onMouseDown, aboutBox_, &AboutBox::lblCopyright_MouseDown);
+  On(frmMain.picCopyright.onMouseDown, aboutBox_, &AboutBox::lblCopyright_MouseDown);
+  const AboutWindow& frmAbout = platform_.frmAbout;
+  On(frmAbout.cmdOK.onClick, aboutBox_, &AboutBox::cmdOK_Click);
+  On(frmAbout.cmdSysInfo.onClick, aboutBox_, &AboutBox::cmdSysInfo_Click);
+  BindContextHelp({&frmAbout.lblTitle, &frmAbout.lblVersion, &frmAbout.lblDescription,
+                   &frmAbout.lblDisclaimer, &frmAbout.lblCredit, &frmAbout.picIcon, &frmAbout.cmdOK,
+                   &frmAbout.cmdSysInfo});
+}
+
+void Program::BindMacros() {
+  const MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.mnuFileMacrosFolder.onClick, macroStore_, &MacroStore::ChooseMacrosFolder);
+  On(frmMain.mnuToolsSaveMacro.onClick, macroSaving_, &MacroSaving::SaveCommandPaneAsMacro);
+  On(frmMain.mnuToolsEditMacros.onClick, macroEditor_, &MacroEditor::OpenMacroEditor);
+
+  const MacroWindow& frmMacros = platform_.frmMacros;
+  On(frmMacros.window.onQueryUnload, macroEditor_, &MacroEditor::Form_QueryUnload);
+  On(frmMacros.lstMacroNames.onClick, macroEditor_, &MacroEditor::lstMacroNames_Click);
+  On(frmMacros.rtbMacroText.onGotFocus, macroEditor_, &MacroEditor::rtbMacroText_GotFocus);
+  On(frmMacros.rtbMacroText.onKeyDown, macroEditor_, &MacroEditor::rtbMacroText_KeyDown);
+  On(frmMacros.rtbMacroText.onKeyPress, macroStyle_, &MacroStyle::rtbMacroText_KeyPress);
+  On(frmMacros.rtbMacroText.onSelChange, macroStyle_, &MacroStyle::rtbMacroText_SelChange);
+  On(frmMacros.cmdAdd.onClick, macroEditor_, &MacroEditor::cmdAdd_Click);
+  On(frmMacros.cmdEdit.onClick, macroEditor_, &MacroEditor::cmdEdit_Click);
+  On(frmMacros.cmdSave.onClick, macroEditor_, &MacroEditor::cmdSave_Click);
+  On(frmMacros.cmdSaveAs.onClick, macroEditor_, &MacroEditor::cmdSaveAs_Click);
+  On(frmMacros.cmdCancel.onClick, macroEditor_, &MacroEditor::cmdCancel_Click);
+  On(frmMacros.cmdDelete.onClick, macroEditor_, &MacroEditor::cmdDelete_Click);
+  On(frmMacros.cmdRun.onClick, macroEditor_, &MacroEditor::cmdRun_Click);
+  On(frmMacros.cmdClose.onClick, macroEditor_, &MacroEditor::cmdClose_Click);
+  On(frmMacros.chkBold.onClick, macroStyle_, &MacroStyle::chkBold_Click);
+  On(frmMacros.chkItalics.onClick, macroStyle_, &MacroStyle::chkItalics_Click);
+  On(frmMacros.chkUnderlined.onClick, macroStyle_, &MacroStyle::chkUnderlined_Click);
+  On(frmMacros.lblColour.onMouseDown, macroStyle_, &MacroStyle::lblColour_MouseDown);
+  BindContextHelp({&frmMacros.chkBold, &frmMacros.chkItalics, &frmMacros.chkUnderlined,
+                   &frmMacros.lblColour, &frmMacros.lstMacroNames, &frmMacros.cmdAdd,
+                   &frmMacros.cmdEdit, &frmMacros.cmdSave, &frmMacros.cmdSaveAs,
+                   &frmMacros.cmdCancel, &frmMacros.cmdDelete, &frmMacros.cmdRun,
+                   &frmMacros.cmdClose});
+}
+
+void Program::BindMenus() {
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.mnuFileLogFolder.onClick, log_, &DialogueLog::mnuFileLogFolder_Click);
+  On(frmMain.mnuFileLogRecord.onClick, log_, &DialogueLog::mnuFileLogRecord_Click);
+  On(frmMain.mnuFileLogOpen.onClick, dialogueFiles_, &DialogueFiles::mnuFileLogOpen_Click);
+  On(frmMain.mnuFileLogSaveAs.onClick, dialogueFiles_, &DialogueFiles::mnuFileLogSaveAs_Click);
+  On(frmMain.mnuFileExit.onClick, shutDown_, &ShutDown::mnuFileExit_Click);
+
+  On(frmMain.mnuCommWait.onClick, connection_, &ConnectionActions::mnuCommWait_Click);
+  On(frmMain.mnuCommCall.onClick, connection_, &ConnectionActions::mnuCommCall_Click);
+  On(frmMain.mnuCommCancel.onClick, connection_, &ConnectionActions::mnuCommCancel_Click);
+  On(frmMain.mnuCommClose.onClick, connection_, &ConnectionActions::mnuCommClose_Click);
+  On(frmMain.mnuCommRefresh.onClick, connection_, &ConnectionActions::mnuCommRefresh_Click);
+
+  On(frmMain.mnuFormatFontBold.onClick, textFormat_, &TextFormat::mnuFormatFontBold_Click);
+  On(frmMain.mnuFormatFontItalics.onClick, textFormat_, &TextFormat::mnuFormatFontItalics_Click);
+  On(frmMain.mnuFormatFontUnderline.onClick, textFormat_,
+     &TextFormat::mnuFormatFontUnderline_Click);
+  On(frmMain.mnuFormatFontSize.onClick, textFormat_, &TextFormat::mnuFormatFontSize_Click);
+  On(frmMain.mnuFormatFontColor.onClick, textFormat_, &TextFormat::mnuFormatFontColor_Click);
+  On(frmMain.mnuFormatFontSettings.onClick, textFormat_, &TextFormat::mnuFormatFontSettings_Click);
+  On(frmMain.mnuFormatBackcolorCommands.onClick, textFormat_,
+     &TextFormat::mnuFormatBackcolorCommands_Click);
+  On(frmMain.mnuFormatBackcolorDialogue.onClick, textFormat_,
+     &TextFormat::mnuFormatBackcolorDialogue_Click);
+
+  On(frmMain.mnuToolsNick.onClick, connection_, &ConnectionActions::mnuToolsNick_Click);
+  On(frmMain.mnuToolsFind.onClick, find_, &FindInDialogue::mnuToolsFind_Click);
+  On(frmMain.mnuToolsCompletions.onClick, completion_,
+     &CommandCompletion::mnuToolsCompletions_Click);
+  On(frmMain.mnuToolsClearDialogue.onClick, dialogue_, &Dialogue::mnuToolsClearDialogue_Click);
+  On(frmMain.mnuToolsClearCommands.onClick, history_, &CommandHistory::mnuToolsClearCommands_Click);
+  On(frmMain.mnuToolsClearHistory.onClick, history_, &CommandHistory::mnuToolsClearHistory_Click);
+  On(frmMain.mnuToolsDate.onClick, dialogue_, &Dialogue::mnuToolsDate_Click);
+  On(frmMain.mnuToolsTime.onClick, dialogue_, &Dialogue::mnuToolsTime_Click);
+  On(frmMain.mnuToolsAlwaysOnTop.onClick, windowBehaviour_,
+     &WindowBehaviour::mnuToolsAlwaysOnTop_Click);
+  On(frmMain.mnuToolsLanguageEnglish.onClick, language_, &Language::mnuToolsLanguageEnglish_Click);
+  On(frmMain.mnuToolsLanguageGreek.onClick, language_, &Language::mnuToolsLanguageGreek_Click);
+
+  On(frmMain.mnuHelpDetailed.onClick, help_, &Help::mnuHelpDetailed_Click);
+}
+
+void Program::BindPanes() {
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.rtbData.onLoadProgress, dialogueFiles_, &DialogueFiles::rtbData_LoadProgress);
+  On(frmMain.rtbCommands.onKeyPress, interpreter_, &CommandInterpreter::rtbCommands_KeyPress);
+  frmMain.rtbCommands.onKeyDown = [this](int& keyCode, int shift) {
+    completion_.rtbCommands_KeyDown(keyCode, shift);
+    if (keyCode != 0) history_.rtbCommands_KeyDown(keyCode, shift);
+  };
+  On(frmMain.rtbCommands.onChange, completion_, &CommandCompletion::rtbCommands_Change);
+  On(frmMain.rtbCommands.onLostFocus, completion_, &CommandCompletion::rtbCommands_LostFocus);
+  On(frmMain.completionList.lstCompletions.onClick, completion_,
+     &CommandCompletion::lstCompletions_Click);
+  On(frmMain.rtbCommands.onSelChange, textFormat_, &TextFormat::rtbCommands_SelChange);
+  On(frmMain.chkBold.onClick, textFormat_, &TextFormat::chkBold_Click);
+  On(frmMain.chkItalics.onClick, textFormat_, &TextFormat::chkItalics_Click);
+  On(frmMain.chkUnderline.onClick, textFormat_, &TextFormat::chkUnderline_Click);
+  On(frmMain.lblColor.onMouseDown, textFormat_, &TextFormat::lblColor_MouseDown);
+}
+
+void Program::BindFindBar() {
+  FindBar& bar = platform_.frmMain.findBar;
+  On(bar.txtFind.onChange, find_, &FindInDialogue::txtFind_Change);
+  On(bar.cmdFindPrevious.onClick, find_, &FindInDialogue::cmdFindPrevious_Click);
+  On(bar.cmdFindNext.onClick, find_, &FindInDialogue::cmdFindNext_Click);
+  On(bar.cmdFindClose.onClick, find_, &FindInDialogue::cmdFindClose_Click);
+}
+
+void Program::BindSocket() {
+  Socket& sckControl = platform_.sckControl;
+  On(sckControl.onConnectionRequest, socketEvents_, &SocketEvents::sckControl_ConnectionRequest);
+  On(sckControl.onConnect, socketEvents_, &SocketEvents::sckControl_Connect);
+  On(sckControl.onDataArrival, socketEvents_, &SocketEvents::sckControl_DataArrival);
+  On(sckControl.onAcknowledged, wire_, &WireProtocol::ShowLinesWaiting);
+  On(sckControl.onUndelivered, wire_, &WireProtocol::OnUndelivered);
+  On(sckControl.onClose, socketEvents_, &SocketEvents::sckControl_Close);
+}
+
+}  // namespace verlume

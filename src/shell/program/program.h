@@ -1,0 +1,87 @@
+// The composition root: makes the rooms, hands them to each other, and binds every event of the
+// platform to its procedure.
+#pragma once
+
+#include "commands/completion.h"
+#include "commands/dialogue/dialogue.h"
+#include "commands/find_in_dialogue.h"
+#include "commands/history.h"
+#include "commands/interpreter.h"
+#include "commands/text_format.h"
+#include "connection/connection_actions.h"
+#include "connection/connection_state.h"
+#include "connection/socket_events.h"
+#include "connection/wire_protocol.h"
+#include "macros/macro_editor.h"
+#include "macros/macro_saving.h"
+#include "macros/macro_style.h"
+#include "macros/store/macro_store.h"
+#include "platform/platform.h"
+#include "records/dialogue_files.h"
+#include "records/dialogue_log.h"
+#include "shell/about_box.h"
+#include "shell/app_state.h"
+#include "shell/error_report.h"
+#include "shell/help.h"
+#include "shell/language.h"
+#include "shell/program/shut_down.h"
+#include "shell/program/start_up.h"
+#include "shell/settings.h"
+#include "shell/status_panel.h"
+#include "shell/window_behaviour.h"
+
+namespace verlume {
+
+class Program {
+ public:
+  explicit Program(Platform& platform);
+  ~Program();
+  // The platform's events hold references to this object.
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  // Loads the main window, shows it and starts the clock; from then on the program waits for
+  // events.
+  void Start();
+
+  const AppState& State() const { return state_; }
+
+ private:
+  void EndChatAfterError();
+  void BindWindow();
+  void BindAbout();
+  void BindMacros();
+  void BindMenus();
+  void BindPanes();
+  void BindFindBar();
+  void BindSocket();
+
+  Platform& platform_;
+  AppState state_;
+  ErrorReport errors_;
+  Settings settings_;
+  StatusPanel statusPanel_;
+  Language language_;
+  Help help_;
+  WindowBehaviour windowBehaviour_;
+  AboutBox aboutBox_;
+  DialogueLog log_;
+  DialogueFiles dialogueFiles_;
+  MacroStore macroStore_;
+  Dialogue dialogue_;
+  WireProtocol wire_;
+  ConnectionActions connection_;
+  SocketEvents socketEvents_;
+  CommandHistory history_;
+  CommandCompletion completion_;
+  TextFormat textFormat_;
+  FindInDialogue find_;
+  CommandInterpreter interpreter_;
+  MacroStyle macroStyle_;
+  MacroEditor macroEditor_;
+  MacroSaving macroSaving_;
+  StartUp startUp_;
+  ShutDown shutDown_;
+};
+
+}  // namespace verlume

@@ -1,0 +1,28 @@
+#include "platform_fake/fake_platform.h"
+
+namespace verlume::fake {
+
+FakePlatform::FakePlatform(FakeNetwork& network)
+    : window(files),
+      macros(files),
+      socket(network),
+      platform{
+          .frmMain = window.frmMain,
+          .frmAbout = about.frmAbout,
+          .frmMacros = macros.frmMacros,
+          .sckControl = socket,
+          .dialogs = dialogs,
+          .dlgControl = commonDialog,
+          .files = files,
+          .clock = clock,
+          .locale = locale,
+          .application = application,
+          .help = help,
+          .tools = tools,
+      } {
+  files.MakeFolder(u"/verlume");
+}
+
+FakePlatform::~FakePlatform() = default;
+
+}  // namespace verlume::fake

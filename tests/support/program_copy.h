@@ -1,0 +1,30 @@
+// A whole program in memory, as the tests of the program drive it.
+#pragma once
+
+#include <string>
+
+#include "platform_fake/fake_platform.h"
+#include "shell/program/program.h"
+
+namespace verlume::fake {
+
+// One copy of the program on an in-memory platform, started, with its folders in place.
+struct ProgramCopy {
+  // With its folders chosen, and no stamps on the lines.
+  ProgramCopy(FakeNetwork& network, std::u16string_view nickname);
+
+  struct SettingsFile {};
+  ProgramCopy(FakeNetwork& network, std::u16string_view settings, SettingsFile);
+  ~ProgramCopy();
+
+  void Enter(std::u16string line) { platform.window.rtbCommands.Type(line + u"\r"); }
+  std::u16string Dialogue() const { return platform.window.rtbData.Text(); }
+  std::u16string Status() const { return platform.window.lblStatus.caption; }
+  std::u16string Settings() const { return platform.files.ReadText(u"/verlume/Verlume.ini"); }
+  Color Lamp() const { return platform.window.shpStatus.fill; }
+
+  FakePlatform platform;
+  Program program;
+};
+
+}  // namespace verlume::fake
