@@ -13,13 +13,14 @@ namespace verlume {
 
 enum class CommandKind {
   Plain,              // the command pane is emptied, then the row's action runs
-  Routine,            // the routine reads AppState::CommandLine and empties the pane itself
-  NormalisedRoutine,  // the same, with the blanks of AppState::CommandLine put in order first
+  Routine,            // the routine gets the line, and empties the pane itself
+  NormalisedRoutine,  // the same, with the blanks of the line put in order first
   Action,             // the line is an action line; the row has nothing to perform
 };
 
 // What a row may act upon.
 struct CommandTargets {
+  std::u16string_view line;  // the command with what follows it
   AppState& state;
   MainWindow& frmMain;
   Application& application;

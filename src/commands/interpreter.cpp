@@ -53,7 +53,7 @@ void CommandInterpreter::RunTypedLine() {
   } else if (row->kind == CommandKind::Action) {
     WriteActionLine(FirstWord(line));
   } else if (row->kind == CommandKind::Plain) {
-    PerformPlain(*row);
+    PerformPlain(*row, line);
   } else {
     PerformRoutine(*row, line);
   }
@@ -68,21 +68,21 @@ void CommandInterpreter::LoadMacroNamedBy(std::u16string_view line) {
                                          TextFileFormat::RichText);
 }
 
-void CommandInterpreter::PerformPlain(const CommandRow& row) {
+void CommandInterpreter::PerformPlain(const CommandRow& row, std::u16string_view line) {
   platform_.application.YieldToEvents();
   state_.OutgoingText.clear();
-  with_.dialogue.WriteDialogueLine(u"", CommandPane::Clear);
-  row.perform(Targets());
+  with_.dialogue.ClearCommandPane();
+  row.perform(TargetsOf(line));
   platform_.application.YieldToEvents();
 }
 
-// The line is handed over as it was typed, whatever another line did to AppState meanwhile.
-void CommandInterpreter::PerformRoutine(const CommandRow& row, std::u16string_view line) {
+void CommandInterpreter::PerformRoutine(const CommandRow& row, std::u16string_view typed) {
   platform_.application.YieldToEvents();
   const bool normalised = row.kind == CommandKind::NormalisedRoutine;
-  state_.CommandLine = normalised ? Normalised(line) : std::u16string(line);
+  const std::u16string line = normalised ? Normalised(typed) : std::u16string(typed);
+  state_.CommandLine = line;
   state_.OutgoingText.clear();
-  row.perform(Targets());
+  row.perform(TargetsOf(line));
 }
 
 void CommandInterpreter::WriteChatLine() {
@@ -90,7 +90,7 @@ void CommandInterpreter::WriteChatLine() {
       ExpandPlaceholders(platform_.frmMain.rtbCommands.Rtf(), NicknamesInForce());
   state_.OutgoingText = rtf;
   with_.wire.SendChatLine(rtf);
-  with_.dialogue.WriteDialogueLine(rtf, CommandPane::Clear);
+  with_.dialogue.WriteDialogueLine(rtf, Sender::Local, CommandPane::Clear);
   platform_.application.YieldToEvents();
 }
 
@@ -102,7 +102,7 @@ void CommandInterpreter::WriteActionLine(std::u16string_view typedWord) {
   state_.OutgoingText = rtf;
   state_.RemoteMessage = true;
   with_.wire.SendActionLine(rtf);
-  with_.dialogue.WriteDialogueLine(rtf, CommandPane::Clear);
+  with_.dialogue.WriteDialogueLine(rtf, Sender::NamedInText, CommandPane::Clear);
 }
 
 Nicknames CommandInterpreter::NicknamesInForce() const {
@@ -113,8 +113,13 @@ Nicknames CommandInterpreter::NicknamesInForce() const {
   return nicknames;
 }
 
-CommandTargets CommandInterpreter::Targets() const {
-  return {state_, platform_.frmMain, platform_.application, with_.connection, with_.textFormat};
+CommandTargets CommandInterpreter::TargetsOf(std::u16string_view line) const {
+  return {.line = line,
+          .state = state_,
+          .frmMain = platform_.frmMain,
+          .application = platform_.application,
+          .connection = with_.connection,
+          .textFormat = with_.textFormat};
 }
 
 }  // namespace verlume

@@ -36,12 +36,12 @@ class CommandInterpreter {
  private:
   void RunTypedLine();
   void LoadMacroNamedBy(std::u16string_view line);
-  void PerformPlain(const CommandRow& row);
-  void PerformRoutine(const CommandRow& row, std::u16string_view line);
+  void PerformPlain(const CommandRow& row, std::u16string_view line);
+  void PerformRoutine(const CommandRow& row, std::u16string_view typed);
   void WriteChatLine();
   void WriteActionLine(std::u16string_view typedWord);
   Nicknames NicknamesInForce() const;
-  CommandTargets Targets() const;
+  CommandTargets TargetsOf(std::u16string_view line) const;
 
   AppState& state_;
   Platform& platform_;

@@ -38,8 +38,8 @@ class TextFormat {
   void mnuFormatBackcolorCommands_Click();
   void mnuFormatBackcolorDialogue_Click();
 
-  // The size in AppState::CommandLine, asked for when there is none: a number from 8 to 11.
-  void SetFontSize();
+  // The size in the command line, asked for when there is none: a number from 8 to 11.
+  void SetFontSize(std::u16string_view commandLine);
 
   // The style at the insertion point becomes the local style, and is saved where it differs; in an
   // empty pane the local style stays in force. The insertion point stays. Does nothing before the

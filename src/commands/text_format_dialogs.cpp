@@ -31,9 +31,9 @@ std::optional<double> FontSizeOf(std::u16string_view text) {
 
 }  // namespace
 
-void TextFormat::SetFontSize() {
-  errors_.Guard(Procedure::SetFontSize, [this] {
-    const std::vector<std::u16string> parts = CommandParts(state_.CommandLine, 2);
+void TextFormat::SetFontSize(std::u16string_view commandLine) {
+  errors_.Guard(Procedure::SetFontSize, [this, commandLine] {
+    const std::vector<std::u16string> parts = CommandParts(commandLine, 2);
     std::u16string answer = parts.size() > 1 ? parts[1] : u"";
     if (answer.empty()) {
       answer = platform_.dialogs.AskText(font_size_texts::kPrompt.In(state_.IsGreek),
@@ -44,7 +44,7 @@ void TextFormat::SetFontSize() {
     if (const std::optional<double> size = FontSizeOf(answer)) {
       state_.FontSize = *size;
       ApplyCommandStyle();
-      dialogue_.WriteDialogueLine(u"", CommandPane::Clear);
+      dialogue_.ClearCommandPane();
     } else {
       platform_.dialogs.ShowMessage(Note(font_size_texts::kRange.In(state_.IsGreek),
                                          font_size_texts::kTitle.In(state_.IsGreek)));
@@ -56,7 +56,7 @@ void TextFormat::SetFontSize() {
 void TextFormat::mnuFormatFontSize_Click() {
   state_.CommandLine = u"/SIZE";
   state_.OutgoingText.clear();
-  SetFontSize();
+  SetFontSize(u"/SIZE");
 }
 
 void TextFormat::lblColor_MouseDown(MouseButton button) {

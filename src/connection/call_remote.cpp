@@ -9,14 +9,14 @@ namespace verlume {
 
 namespace texts = connection_texts::call_remote;
 
-void ConnectionActions::CallRemote() {
-  Run(Procedure::CallRemote, [this] {
+void ConnectionActions::CallRemote(std::u16string_view commandLine) {
+  Run(Procedure::CallRemote, [this, commandLine] {
     const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kTitle, texts::kCalling,
                               texts::kTitle};
     ConnectionState agreed;
     if (!MayLeaveState(leave, agreed)) return;
 
-    const auto parts = CommandParts(state_.CommandLine, 3);
+    const auto parts = CommandParts(commandLine, 3);
     std::u16string host = parts.size() > 1 ? parts[1] : u"";
     if (host.empty()) host = AskHost();
     if (host.empty()) return;

@@ -15,11 +15,10 @@ void ConnectionActions::Run(Procedure procedure, const std::function<void()>& ac
   platform_.frmMain.rtbCommands.SetFocus();
 }
 
-void ConnectionActions::RunFromMenu(std::u16string_view commandWord,
-                                    void (ConnectionActions::*action)()) {
+std::u16string_view ConnectionActions::RecordCommand(std::u16string_view commandWord) {
   state_.CommandLine = commandWord;
   state_.OutgoingText.clear();
-  (this->*action)();
+  return commandWord;
 }
 
 bool ConnectionActions::MayLeaveState(const LeaveTexts& texts, ConnectionState& agreed) {
@@ -71,31 +70,34 @@ void ConnectionActions::RecordClosedByUser() {
 }
 
 void ConnectionActions::WriteOutgoingText() {
-  with_.dialogue.WriteDialogueLine(state_.OutgoingText, CommandPane::Clear);
+  with_.dialogue.WriteDialogueLine(state_.OutgoingText, Sender::Local, CommandPane::Clear);
 }
 
 void ConnectionActions::mnuCommCall_Click() {
-  RunFromMenu(u"/CALL", &ConnectionActions::CallRemote);
+  CallRemote(RecordCommand(u"/CALL"));
 }
 
 void ConnectionActions::mnuCommWait_Click() {
-  RunFromMenu(u"/WAIT", &ConnectionActions::WaitForCall);
+  WaitForCall(RecordCommand(u"/WAIT"));
 }
 
 void ConnectionActions::mnuCommCancel_Click() {
-  RunFromMenu(u"/CANCEL", &ConnectionActions::CancelWaitOrCall);
+  RecordCommand(u"/CANCEL");
+  CancelWaitOrCall();
 }
 
 void ConnectionActions::mnuCommClose_Click() {
-  RunFromMenu(u"/CLOSE", &ConnectionActions::CloseConnection);
+  RecordCommand(u"/CLOSE");
+  CloseConnection();
 }
 
 void ConnectionActions::mnuCommRefresh_Click() {
-  RunFromMenu(u"/REFRESH", &ConnectionActions::RefreshLocalIP);
+  RecordCommand(u"/REFRESH");
+  RefreshLocalIP();
 }
 
 void ConnectionActions::mnuToolsNick_Click() {
-  RunFromMenu(u"/NICK", &ConnectionActions::SetNickname);
+  SetNickname(RecordCommand(u"/NICK"));
 }
 
 }  // namespace verlume

@@ -1,6 +1,6 @@
-// The actions behind the connection commands. Each reads AppState::CommandLine, reports its own
-// failures, and ends by giving the focus back to the command pane. The menu entries run them with
-// the bare command word.
+// The actions behind the connection commands. Each reports its own failures, and ends by giving the
+// focus back to the command pane. `commandLine` is the line as it was typed; the menu entries run
+// the actions with the bare command word.
 //
 // Their boxes let socket events through, so a state that was asked about may be gone when the
 // answer comes. An answer counts only for the state it was given in: when another one has taken its
@@ -39,12 +39,12 @@ class ConnectionActions {
                     Collaborators collaborators)
       : state_(state), platform_(platform), errors_(errors), with_(collaborators) {}
 
-  void CallRemote();
-  void WaitForCall();
+  void CallRemote(std::u16string_view commandLine);
+  void WaitForCall(std::u16string_view commandLine);
   void CancelWaitOrCall();
   void CloseConnection();
   void RefreshLocalIP();
-  void SetNickname();
+  void SetNickname(std::u16string_view commandLine);
   // Asks, unless Idle, whether the program may end, and sets AppState::ExitConfirmed.
   void ConfirmExit();
 
@@ -67,7 +67,9 @@ class ConnectionActions {
 
   // Runs an action: its failures are reported, the focus goes back to the command pane.
   void Run(Procedure procedure, const std::function<void()>& action);
-  void RunFromMenu(std::u16string_view commandWord, void (ConnectionActions::*action)());
+  // Notes in AppState what the user has chosen from a menu, as if the word had been typed; returns
+  // the word.
+  std::u16string_view RecordCommand(std::u16string_view commandWord);
 
   // Refuses while Connected, asks while Waiting or Calling. True when the state in force may be
   // left; `agreed` is that state.
@@ -89,7 +91,8 @@ class ConnectionActions {
   void SetStatus(std::u16string_view text);
   // Leaves Connected: status line and log say that the user did it, and the log is closed.
   void RecordClosedByUser();
-  // What the command leaves in the dialogue pane; empties the command pane.
+  // What the command leaves in the dialogue pane, which is usually nothing; empties the command
+  // pane.
   void WriteOutgoingText();
   std::u16string_view In(const TextPair& text) const { return text.In(state_.IsGreek); }
 

@@ -18,9 +18,9 @@ std::u16string WithoutControlCharacters(std::u16string text) {
 
 }  // namespace
 
-void ConnectionActions::SetNickname() {
-  Run(Procedure::SetNickname, [this] {
-    const auto parts = CommandParts(state_.CommandLine, 2);
+void ConnectionActions::SetNickname(std::u16string_view commandLine) {
+  Run(Procedure::SetNickname, [this, commandLine] {
+    const auto parts = CommandParts(commandLine, 2);
     const std::u16string nickname = AskNickname(parts.size() > 1 ? parts[1] : u"");
     if (nickname.empty()) return;
 

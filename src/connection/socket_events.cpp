@@ -50,7 +50,8 @@ void SocketEvents::sckControl_Connect() {
 }
 
 void SocketEvents::sckControl_DataArrival(std::int32_t) {
-  errors_.Guard(Procedure::sckControl_DataArrival, [this] { wire_.OnDataArrival(); });
+  errors_.Guard(Procedure::sckControl_DataArrival,
+                [this] { wire_.OnDataArrival(platform_.sckControl.GetData()); });
 }
 
 void SocketEvents::sckControl_Close() {

@@ -9,15 +9,15 @@ namespace verlume {
 
 namespace texts = connection_texts::wait_for_call;
 
-void ConnectionActions::WaitForCall() {
-  Run(Procedure::WaitForCall, [this] {
+void ConnectionActions::WaitForCall(std::u16string_view commandLine) {
+  Run(Procedure::WaitForCall, [this, commandLine] {
     const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kPortTitle,
                               texts::kCalling, texts::kTitle};
     ConnectionState agreed;
     if (!MayLeaveState(leave, agreed)) return;
 
     // Without a port the system chooses one.
-    const auto parts = CommandParts(state_.CommandLine, 2);
+    const auto parts = CommandParts(commandLine, 2);
     std::u16string portText = parts.size() > 1 ? parts[1] : u"0";
     if (!MendLocalPort(portText)) return;
     const std::int16_t port = PortNumberOf(portText);

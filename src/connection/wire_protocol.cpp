@@ -71,8 +71,7 @@ void WireProtocol::SendActionLine(std::u16string_view rtf) {
   SendToPeer(message, TextKind::Line);
 }
 
-void WireProtocol::OnDataArrival() {
-  const std::u16string data = platform_.sckControl.GetData();
+void WireProtocol::OnDataArrival(std::u16string_view data) {
   AddToCounter(platform_.frmMain.lblBytesReceived, data.size(), platform_.locale);
 
   const char16_t kind = data.starts_with(state_.ProtocolMarker) ? KindOf(data) : u'\0';
@@ -84,9 +83,11 @@ void WireProtocol::OnDataArrival() {
     case kNickname:
       return TakeNickname(data);
     case kActionLine:
-      return WriteRemoteLine(data.substr(kMarkerLength + 1), state_.RemoteMessage);
+      state_.RemoteMessage = true;
+      return WriteRemoteLine(data.substr(kMarkerLength + 1), Sender::NamedInText);
     default:
-      return WriteRemoteLine(data, state_.ForeignText);
+      state_.ForeignText = true;
+      return WriteRemoteLine(data, Sender::Remote);
   }
 }
 
@@ -153,10 +154,9 @@ void WireProtocol::OpenLog(std::u16string_view statusText) {
   with_.log.AppendConnectionLine(statusText);
 }
 
-void WireProtocol::WriteRemoteLine(std::u16string_view text, bool& oneShot) {
-  oneShot = true;
+void WireProtocol::WriteRemoteLine(std::u16string_view text, Sender sender) {
   // Whatever the user is typing stays.
-  with_.dialogue.WriteDialogueLine(text, CommandPane::Keep);
+  with_.dialogue.WriteDialogueLine(text, sender, CommandPane::Keep);
   platform_.frmMain.window.FlagForAttention();
 }
 

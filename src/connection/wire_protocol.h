@@ -39,10 +39,10 @@ class WireProtocol {
   void SendActionLine(std::u16string_view rtf);  // "M"
   void SendChatLine(std::u16string_view rtf) { SendToPeer(rtf, TextKind::Line); }
 
-  // One arrival of data is one message: it is read, counted in lblBytesReceived, and either changes
-  // the connection (handshake), or the peer's nickname, or is a line for the dialogue. Throws
+  // One arrival of data is one message: it is counted in lblBytesReceived, and either changes the
+  // connection (handshake), or the peer's nickname, or is a line for the dialogue. Throws
   // RunTimeFailure 5 when a handshake or nickname message has no end, 6 when the count overflows.
-  void OnDataArrival();
+  void OnDataArrival(std::u16string_view data);
 
   // Shows the lines that the peer's machine has not acknowledged yet.
   void ShowLinesWaiting();
@@ -57,8 +57,7 @@ class WireProtocol {
   std::u16string EnterConversation();
   void OpenLog(std::u16string_view statusText);
   void TakeNickname(std::u16string_view data);
-  // `oneShot` is AppState::ForeignText or RemoteMessage.
-  void WriteRemoteLine(std::u16string_view text, bool& oneShot);
+  void WriteRemoteLine(std::u16string_view text, Sender sender);
   bool SendWithNickname(char16_t kind);
 
   AppState& state_;

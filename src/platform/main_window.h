@@ -76,7 +76,7 @@ struct MainWindow {
 
   RichTextBox& rtbData;      // the dialogue pane
   RichTextBox& rtbCommands;  // the command pane
-  RichTextBox& rtbRemote;    // hidden: turns RTF into plain text
+  RichTextBox& rtbRemote;    // hidden, and without a task of its own
   FindBar findBar;
   CompletionList completionList;
 

@@ -64,9 +64,16 @@ class RichTextBox : public Control {
   // On an insertion point: the format of what is inserted or typed there next.
   virtual void SetSelFormat(const SelectionFormat& format) = 0;
   // Replace the selection; the insertion point is behind it afterwards. Plain text takes the
-  // selection's format, rich text brings its own. Both work in a locked box too.
+  // selection's format, a document brings its own. Both work in a locked box too.
   virtual void SetSelText(std::u16string_view text) = 0;
-  virtual void SetSelRtf(std::u16string_view rtf) = 0;
+  virtual void SetSelDocument(richtext::Document document) = 0;
+
+  // What is done between the two is one change: it is laid out, brought into view and told of
+  // (onSelChange and onChange, once each) at its end. Updates may contain others. No event is
+  // handled meanwhile; SetText, SetRtf, LoadFile and SetLocked have no place in an update. Use
+  // RichTextUpdate, which cannot forget the end.
+  virtual void BeginUpdate() = 0;
+  virtual void EndUpdate() = 0;
 
   // The character set that the box's fonts are written with, 161 for Greek.
   virtual void SetFontCharset(int charset) = 0;
@@ -99,7 +106,7 @@ class RichTextBox : public Control {
   // program's Select, SetText, SetRtf, LoadFile. Never by SetSelFormat.
   std::function<void()> onSelChange;
   // The text has changed, by the user or by a program's SetText, SetRtf, LoadFile, SetSelText,
-  // SetSelRtf, which tell it also where the text is what it was. Once a change, after its
+  // SetSelDocument, which tell it also where the text is what it was. Once a change, after its
   // onSelChange. Never by SetSelFormat.
   std::function<void()> onChange;
   std::function<void()> onGotFocus;
@@ -108,6 +115,18 @@ class RichTextBox : public Control {
   std::function<void(int percent)> onLoadProgress;
   // The keyboard went elsewhere, to another window or to a menu as well.
   std::function<void()> onLostFocus;
+};
+
+// Makes one change of all that is done to a box during its life.
+class RichTextUpdate {
+ public:
+  explicit RichTextUpdate(RichTextBox& box) : box_(box) { box_.BeginUpdate(); }
+  ~RichTextUpdate() { box_.EndUpdate(); }
+  RichTextUpdate(const RichTextUpdate&) = delete;
+  RichTextUpdate& operator=(const RichTextUpdate&) = delete;
+
+ private:
+  RichTextBox& box_;
 };
 
 }  // namespace verlume

@@ -25,6 +25,9 @@ class DialogueLog {
   DialogueLog(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings)
       : state_(state), platform_(platform), errors_(errors), settings_(settings) {}
 
+  // Whether a line appended now is written: logging is on and a conversation is open.
+  bool IsRecording() const;
+
   // Appends one line; does nothing while logging is off or no conversation is open. Line breaks and
   // other control characters inside it are written as blanks. The file is complete after each line.
   // A failure is reported (240), not thrown.
@@ -45,7 +48,6 @@ class DialogueLog {
   void mnuFileLogRecord_Click();
 
  private:
-  bool IsRecording() const;
   void Append(const std::u16string& path, std::u16string line);
   // True unless it failed, which has then been reported (239).
   bool ChooseLogFolder();

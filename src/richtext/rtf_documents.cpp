@@ -43,4 +43,12 @@ std::vector<std::u16string_view> SplitRtfDocuments(std::u16string_view text) {
   return pieces;
 }
 
+std::vector<Document> ReadRtfDocuments(std::u16string_view text) {
+  std::vector<Document> documents;
+  for (const std::u16string_view piece : SplitRtfDocuments(text)) {
+    documents.push_back(ReadRtf(piece));
+  }
+  return documents;
+}
+
 }  // namespace verlume::richtext

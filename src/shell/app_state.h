@@ -49,7 +49,7 @@ struct AppState {
   std::u16string CommandLine;   // its plain text
   std::u16string OutgoingText;  // its rich text, as sent and written into the dialogue pane
 
-  // One-shot flags of the next line written into the dialogue pane.
+  // The line that is being written into the dialogue pane.
   bool ForeignText = false;    // it is the peer's
   bool RemoteMessage = false;  // it names its sender itself: no nickname tag
 

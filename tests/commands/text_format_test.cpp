@@ -379,9 +379,8 @@ class FontSize : public TextFormatTest {
   // Whether the size of a command line is taken.
   bool Takes(std::u16string_view line) {
     state.FontSize = 10;
-    state.CommandLine = line;
     fake.dialogs.messages.clear();
-    textFormat.SetFontSize();
+    textFormat.SetFontSize(line);
     EXPECT_THAT(fake.dialogs.messages, SizeIs(state.FontSize == 10 ? 1 : 0));
     return fake.dialogs.messages.empty();
   }
@@ -430,9 +429,8 @@ TEST_F(FontSize, AnythingElseIsRefusedWithTheRange) {
 
 TEST_F(FontSize, WithoutAnArgumentTheUserIsAsked) {
   state.FontSize = 9.5;
-  state.CommandLine = u"/SIZE";
   fake.dialogs.typed = {u" 11 "};
-  textFormat.SetFontSize();
+  textFormat.SetFontSize(u"/SIZE");
   ASSERT_THAT(fake.dialogs.asked, SizeIs(1));
   EXPECT_EQ(fake.dialogs.asked[0].prompt,
             u"Type the font size.\r\n\r\nYou may type a number between 8 and 11 inclusive.");

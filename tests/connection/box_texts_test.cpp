@@ -12,7 +12,7 @@ Message QuestionWithNoAsDefault(std::u16string_view text, std::u16string_view ti
 
 struct Box {
   ConnectionState state;
-  void (ConnectionActions::*action)();
+  fake::Action action;
   Message (*shape)(std::u16string_view text, std::u16string_view title);
   TextPair text;
   TextPair title;
@@ -20,7 +20,7 @@ struct Box {
 
 const Box kBoxes[] = {
     {ConnectionState::Connected,
-     &ConnectionActions::CallRemote,
+     &fake::Run<&ConnectionActions::CallRemote>,
      &Refusal,
      {u"There is an already active connection to a remote computer, at address 192.0.2.2, "
       u"on port 4000.\r\n\r\n"
@@ -31,7 +31,7 @@ const Box kBoxes[] = {
       u"απομακρυσμένο υπολογιστή."},
      {u"Calling remote computer", u"Κλήση απομακρυσμένου υπολογιστή"}},
     {ConnectionState::Waiting,
-     &ConnectionActions::CallRemote,
+     &fake::Run<&ConnectionActions::CallRemote>,
      &QuestionWithNoAsDefault,
      {u"You are already waiting for an incoming call on port 4001.\r\n\r\n"
       u"Do you want to quit waiting and call a remote computer?",
@@ -39,7 +39,7 @@ const Box kBoxes[] = {
       u"Θέλετε να διακόψετε την αναμονή και να καλέσετε έναν απομακρυσμένο υπολογιστή;"},
      {u"Calling remote computer", u"Κλήση απομακρυσμένου υπολογιστή"}},
     {ConnectionState::Calling,
-     &ConnectionActions::CallRemote,
+     &fake::Run<&ConnectionActions::CallRemote>,
      &QuestionWithNoAsDefault,
      {u"You have already called a remote computer, on port 4000.\r\n\r\n"
       u"Do you want to call another remote computer?",
@@ -47,7 +47,7 @@ const Box kBoxes[] = {
       u"Θέλετε να καλέσετε έναν άλλο απομακρυσμένο υπολογιστή;"},
      {u"Calling remote computer", u"Κλήση απομακρυσμένου υπολογιστή"}},
     {ConnectionState::Connected,
-     &ConnectionActions::WaitForCall,
+     &fake::Run<&ConnectionActions::WaitForCall>,
      &Refusal,
      {u"There is an already active connection to a remote computer, at address 192.0.2.2, "
       u"on port 4000.\r\n\r\n"
@@ -59,7 +59,7 @@ const Box kBoxes[] = {
       u"αναμονής για εισερχόμενη κλήση."},
      {u"Waiting for an incoming call", u"Αναμονή για εισερχόμενη κλήση"}},
     {ConnectionState::Calling,
-     &ConnectionActions::WaitForCall,
+     &fake::Run<&ConnectionActions::WaitForCall>,
      &QuestionWithNoAsDefault,
      {u"You have already called a remote computer, on port 4000.\r\n\r\n"
       u"Do you want to cancel this call and enter a wait state for an incoming call?",
@@ -68,7 +68,7 @@ const Box kBoxes[] = {
       u"κλήση;"},
      {u"Waiting for an incoming call", u"Αναμονή για εισερχόμενη κλήση"}},
     {ConnectionState::Waiting,
-     &ConnectionActions::WaitForCall,
+     &fake::Run<&ConnectionActions::WaitForCall>,
      &QuestionWithNoAsDefault,
      {u"You are already waiting for an incoming call on port 4001.\r\n\r\n"
       u"Do you want to set another port?",
@@ -76,7 +76,7 @@ const Box kBoxes[] = {
       u"Θέλετε να ορίσετε νέα θύρα;"},
      {u"Incoming call port", u"Θύρα εισερχομένης κλήσεως"}},
     {ConnectionState::Idle,
-     &ConnectionActions::CancelWaitOrCall,
+     &fake::Run<&ConnectionActions::CancelWaitOrCall>,
      &Note,
      {u"The '/CANCEL' command is useful only if you want to stop waiting for an incoming "
       u"call or if you cant to cancel a call to a remote computer.\r\n\r\n"
@@ -88,7 +88,7 @@ const Box kBoxes[] = {
       u"απομακρυσμένο υπολογιστή."},
      {u"Command '/CANCEL'", u"Εντολή «/CANCEL» ή «/ΑΚΎΡΩΣΗ»"}},
     {ConnectionState::Connected,
-     &ConnectionActions::CancelWaitOrCall,
+     &fake::Run<&ConnectionActions::CancelWaitOrCall>,
      &Note,
      {u"The '/CANCEL' command is useful only if you want to stop waiting for an incoming "
       u"call or if you cant to cancel a call to a remote computer.\r\n\r\n"
@@ -100,7 +100,7 @@ const Box kBoxes[] = {
       u"απομακρυσμένο υπολογιστή."},
      {u"Command '/CANCEL'", u"Εντολή «/CANCEL» ή «/ΑΚΎΡΩΣΗ»"}},
     {ConnectionState::Idle,
-     &ConnectionActions::CloseConnection,
+     &fake::Run<&ConnectionActions::CloseConnection>,
      &Note,
      {u"The '/CLOSE' command is useful only if there is an active connection to a remote "
       u"computer.\r\n\r\n"
@@ -110,7 +110,7 @@ const Box kBoxes[] = {
       u"Αυτήν την στιγμή, δεν υπάρχει ενεργός σύνδεση με κάποιον απομακρυσμένο υπολογιστή."},
      {u"Command '/CLOSE'", u"Εντολή «/CLOSE» ή «/ΚΛΕΊΣΙΜΟ»"}},
     {ConnectionState::Waiting,
-     &ConnectionActions::CloseConnection,
+     &fake::Run<&ConnectionActions::CloseConnection>,
      &Note,
      {u"The '/CLOSE' command is useful only if there is an active connection to a remote "
       u"computer.\r\n\r\n"
@@ -120,7 +120,7 @@ const Box kBoxes[] = {
       u"Αυτήν την στιγμή, δεν υπάρχει ενεργός σύνδεση με κάποιον απομακρυσμένο υπολογιστή."},
      {u"Command '/CLOSE'", u"Εντολή «/CLOSE» ή «/ΚΛΕΊΣΙΜΟ»"}},
     {ConnectionState::Calling,
-     &ConnectionActions::CloseConnection,
+     &fake::Run<&ConnectionActions::CloseConnection>,
      &Note,
      {u"The '/CLOSE' command is useful only if there is an active connection to a remote "
       u"computer.\r\n\r\n"
@@ -130,13 +130,13 @@ const Box kBoxes[] = {
       u"Αυτήν την στιγμή, δεν υπάρχει ενεργός σύνδεση με κάποιον απομακρυσμένο υπολογιστή."},
      {u"Command '/CLOSE'", u"Εντολή «/CLOSE» ή «/ΚΛΕΊΣΙΜΟ»"}},
     {ConnectionState::Idle,
-     &ConnectionActions::RefreshLocalIP,
+     &fake::Run<&ConnectionActions::RefreshLocalIP>,
      &Note,
      {u"There is no need to refresh the IP address of your computer.",
       u"Η διεύθυνση IP του υπολογιστή σας δεν χρειάζεται ανανέωση."},
      {u"Refresh IP address", u"Ανανέωση διευθύνσεως IP"}},
     {ConnectionState::Connected,
-     &ConnectionActions::RefreshLocalIP,
+     &fake::Run<&ConnectionActions::RefreshLocalIP>,
      &Refusal,
      {u"There is an already active connection to a remote computer, at address 192.0.2.2, "
       u"on port 4000.\r\n\r\n"
@@ -148,7 +148,7 @@ const Box kBoxes[] = {
       u"IP του υπολογιστή σας."},
      {u"Refresh IP address", u"Ανανέωση διευθύνσεως IP"}},
     {ConnectionState::Calling,
-     &ConnectionActions::RefreshLocalIP,
+     &fake::Run<&ConnectionActions::RefreshLocalIP>,
      &QuestionWithNoAsDefault,
      {u"You have already called a remote computer, on port 4000.\r\n\r\n"
       u"Do you want to cancel this call in order to refresh the IP address of your computer?",
@@ -156,7 +156,7 @@ const Box kBoxes[] = {
       u"Θέλετε να διακόψετε την κλήση για να ανανεωθεί η διεύθυνση IP του υπολογιστή σας;"},
      {u"Refresh IP address", u"Ανανέωση διευθύνσεως IP"}},
     {ConnectionState::Waiting,
-     &ConnectionActions::RefreshLocalIP,
+     &fake::Run<&ConnectionActions::RefreshLocalIP>,
      &QuestionWithNoAsDefault,
      {u"You are already waiting for an incoming call on port 4001.\r\n\r\n"
       u"Do you want to quit waiting in order to refresh the IP address of your computer?",
@@ -164,7 +164,7 @@ const Box kBoxes[] = {
       u"Θέλετε να διακόψετε την αναμονή για να ανανεωθεί η διεύθυνση IP του υπολογιστή σας;"},
      {u"Refresh IP address", u"Ανανέωση διευθύνσεως IP"}},
     {ConnectionState::Waiting,
-     &ConnectionActions::ConfirmExit,
+     &fake::Run<&ConnectionActions::ConfirmExit>,
      &QuestionWithNoAsDefault,
      {u"You are currently waiting for an incoming call on port 4001.\r\n\r\n"
       u"Do you really want to shut down the application and return to the Windows "
@@ -174,7 +174,7 @@ const Box kBoxes[] = {
       u"Windows;"},
      {u"Command '/EXIT'", u"Εντολή «/EXIT» ή «/ΈΞΟΔΟΣ»"}},
     {ConnectionState::Calling,
-     &ConnectionActions::ConfirmExit,
+     &fake::Run<&ConnectionActions::ConfirmExit>,
      &QuestionWithNoAsDefault,
      {u"You have placed a call to the remote computer bob, on port 4000 and are currently "
       u"waiting for a response.\r\n\r\n"
@@ -186,7 +186,7 @@ const Box kBoxes[] = {
       u"Windows;"},
      {u"Command '/EXIT'", u"Εντολή «/EXIT» ή «/ΈΞΟΔΟΣ»"}},
     {ConnectionState::Connected,
-     &ConnectionActions::ConfirmExit,
+     &fake::Run<&ConnectionActions::ConfirmExit>,
      &QuestionWithNoAsDefault,
      {u"You are curently connected to the remote computer at address 192.0.2.2, on port "
       u"4000 and the connection is still active.\r\n\r\n"
@@ -234,7 +234,7 @@ TEST_P(BoxTextsTest, EachActionSaysWhatFitsTheState) {
     alice.fake.socket.localIP = hasMoved ? u"198.51.100.7" : u"192.0.2.1";
     dialogs.messages.clear();
     dialogs.answers.assign(1, Answer::No);
-    (alice.actions.*box.action)();
+    box.action(alice.actions, alice.state.CommandLine);
     ASSERT_EQ(dialogs.messages.size(), 1u);
     ExpectMessage(dialogs.messages[0], box.shape(In(box.text), In(box.title)));
     EXPECT_EQ(alice.State(), box.state);

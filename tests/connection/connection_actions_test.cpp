@@ -10,12 +10,10 @@ namespace {
 
 class ConnectionActionsTest : public testing::Test, protected fake::TwoSides {
  protected:
-  using Action = void (ConnectionActions::*)();
-
   // Runs the action and tells whether the focus was given back.
-  bool FocusesAfter(Action action) {
+  bool FocusesAfter(fake::Action action) {
     alice.fake.window.rtbCommands.timesFocused = 0;
-    (alice.actions.*action)();
+    action(alice.actions, alice.state.CommandLine);
     return alice.fake.window.rtbCommands.timesFocused > 0;
   }
   fake::FakeDialogs& dialogs = alice.fake.dialogs;
@@ -23,7 +21,7 @@ class ConnectionActionsTest : public testing::Test, protected fake::TwoSides {
 
 TEST_F(ConnectionActionsTest, MenuEntriesRunTheBareCommand) {
   const struct {
-    Action entry;
+    void (ConnectionActions::*entry)();
     std::u16string_view word;
   } kEntries[] = {{&ConnectionActions::mnuCommCall_Click, u"/CALL"},
                   {&ConnectionActions::mnuCommWait_Click, u"/WAIT"},
@@ -66,23 +64,23 @@ TEST_F(ConnectionActionsTest, MenuEntriesDoWhatTheCommandDoes) {
 TEST_F(ConnectionActionsTest, EveryActionEndsWithTheFocusInTheCommandPane) {
   dialogs.typed = {u"", u""};
   alice.state.CommandLine = u"/CALL";
-  EXPECT_TRUE(FocusesAfter(&ConnectionActions::CallRemote));        // given up
-  EXPECT_TRUE(FocusesAfter(&ConnectionActions::SetNickname));       // given up
-  EXPECT_TRUE(FocusesAfter(&ConnectionActions::CancelWaitOrCall));  // a note
-  EXPECT_TRUE(FocusesAfter(&ConnectionActions::CloseConnection));   // a note
-  EXPECT_TRUE(FocusesAfter(&ConnectionActions::RefreshLocalIP));    // a note
-  EXPECT_TRUE(FocusesAfter(&ConnectionActions::ConfirmExit));       // no question
+  EXPECT_TRUE(FocusesAfter(&fake::Run<&ConnectionActions::CallRemote>));        // given up
+  EXPECT_TRUE(FocusesAfter(&fake::Run<&ConnectionActions::SetNickname>));       // given up
+  EXPECT_TRUE(FocusesAfter(&fake::Run<&ConnectionActions::CancelWaitOrCall>));  // a note
+  EXPECT_TRUE(FocusesAfter(&fake::Run<&ConnectionActions::CloseConnection>));   // a note
+  EXPECT_TRUE(FocusesAfter(&fake::Run<&ConnectionActions::RefreshLocalIP>));    // a note
+  EXPECT_TRUE(FocusesAfter(&fake::Run<&ConnectionActions::ConfirmExit>));       // no question
   Connect();
-  EXPECT_TRUE(FocusesAfter(&ConnectionActions::CallRemote));   // refused
-  EXPECT_TRUE(FocusesAfter(&ConnectionActions::WaitForCall));  // refused
+  EXPECT_TRUE(FocusesAfter(&fake::Run<&ConnectionActions::CallRemote>));   // refused
+  EXPECT_TRUE(FocusesAfter(&fake::Run<&ConnectionActions::WaitForCall>));  // refused
   dialogs.answers = {Answer::No};
-  EXPECT_TRUE(FocusesAfter(&ConnectionActions::ConfirmExit));  // not confirmed
+  EXPECT_TRUE(FocusesAfter(&fake::Run<&ConnectionActions::ConfirmExit>));  // not confirmed
 }
 
 TEST_F(ConnectionActionsTest, AReportedFailureEndsWithTheFocusInTheCommandPaneToo) {
   alice.state.CommandLine = u"/WAIT 70000";
   dialogs.answers = {Answer::No};
-  EXPECT_TRUE(FocusesAfter(&ConnectionActions::WaitForCall));
+  EXPECT_TRUE(FocusesAfter(&fake::Run<&ConnectionActions::WaitForCall>));
   EXPECT_EQ(dialogs.messages.back().title, u"Verlume, 205.");
 }
 

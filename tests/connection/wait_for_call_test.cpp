@@ -59,8 +59,7 @@ TEST_F(WaitForCallTest, TheWholeRestIsThePort) {
 
 TEST_F(WaitForCallTest, ABlankBehindTheWordIsAnEmptyPort) {
   dialogs.typed = {u"4000"};
-  bob.state.CommandLine = u"/WAIT ";
-  bob.actions.WaitForCall();
+  bob.actions.WaitForCall(u"/WAIT ");
   EXPECT_EQ(dialogs.messages.size(), 1u);
   EXPECT_EQ(bob.state.LocalPort, 4000);
 }

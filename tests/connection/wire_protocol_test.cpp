@@ -109,7 +109,7 @@ TEST_F(WireProtocolTest, TextWithoutMarkerIsALineOfThePeer) {
   Arrive(u"{\\rtf1 hello}");
   Arrive(u"from another program");
   EXPECT_EQ(alice.DialoguePane(), u"<Bob>hello\n<Bob>from another program");
-  alice.dialogue.WriteDialogueLine(u"mine", CommandPane::Clear);
+  alice.dialogue.WriteDialogueLine(u"mine", Sender::Local, CommandPane::Clear);
   EXPECT_TRUE(alice.DialoguePane().ends_with(u"\n<Alice>mine"));
 }
 

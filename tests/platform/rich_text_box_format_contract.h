@@ -106,7 +106,7 @@ TYPED_TEST_P(RichTextBoxFormat, RichTextBringsItsOwnFormat) {
   RichTextBox& box = *this->many;
   box.SetSelFormat(Fancy());
   box.SetSelText(u"<nick>");
-  box.SetSelRtf(kBoldRtf);
+  box.SetSelDocument(richtext::ReadRtf(kBoldRtf));
   EXPECT_EQ(box.Text(), u"<nick>one two");
   ExpectFormat(FormatOf(box, 0, 6), Fancy());
   ExpectFormat(FormatOf(box, 6, 3), {u"Tahoma", 9, 0x0000FF, true, false, false, false});
@@ -116,7 +116,7 @@ TYPED_TEST_P(RichTextBoxFormat, RichTextBringsItsOwnFormat) {
 TYPED_TEST_P(RichTextBoxFormat, RichTextBeginsInItsOwnDefaults) {
   RichTextBox& box = *this->many;
   box.SetSelFormat(Fancy());
-  box.SetSelRtf(u"{\\rtf1 a}");
+  box.SetSelDocument(richtext::ReadRtf(u"{\\rtf1 a}"));
   ExpectFormat(FormatOf(box, 0, 1), {u"Arial", 12, 0, false, false, false, false});
 }
 
@@ -144,7 +144,7 @@ TYPED_TEST_P(RichTextBoxFormat, ADialogueLineIsWrittenPieceByPiece) {
     box.SetSelFormat(tag);
     box.SetSelText(u"<B>");
     box.Select(box.TextLength(), 0);
-    box.SetSelRtf(kBoldRtf);
+    box.SetSelDocument(richtext::ReadRtf(kBoldRtf));
     box.Select(box.TextLength(), 0);
   }
   EXPECT_EQ(box.Text(), u"<B>one two\n<B>one two");

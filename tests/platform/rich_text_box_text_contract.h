@@ -35,7 +35,7 @@ TYPED_TEST_P(RichTextBoxText, LineBreaksBecomeBlanksInASingleLine) {
   box.SetRtf(u"{\\rtf1 a\\par b\\line c}");
   EXPECT_EQ(box.Text(), u"a b c");
   box.Select(0, 1);
-  box.SetSelRtf(u"{\\rtf1 x\\par y}");
+  box.SetSelDocument(richtext::ReadRtf(u"{\\rtf1 x\\par y}"));
   EXPECT_EQ(box.Text(), u"x y b c");
   this->platform.Type(box, u"\r");
   EXPECT_EQ(box.Text(), u"x y  b c");
@@ -98,7 +98,7 @@ TYPED_TEST_P(RichTextBoxText, PuttingInReplacesTheSelection) {
   EXPECT_EQ(box.SelStart(), 3u);
   EXPECT_EQ(box.SelLength(), 0u);
   box.Select(0, 1);
-  box.SetSelRtf(kBoldRtf);
+  box.SetSelDocument(richtext::ReadRtf(kBoldRtf));
   EXPECT_EQ(box.Text(), u"one two--f");
   EXPECT_EQ(box.SelStart(), 7u);
 }
@@ -108,7 +108,7 @@ TYPED_TEST_P(RichTextBoxText, ALockedBoxIsChangedByTheProgramAlone) {
   box.SetLocked(true);
   EXPECT_TRUE(box.Locked());
   box.SetSelText(u"line");
-  box.SetSelRtf(kBoldRtf);
+  box.SetSelDocument(richtext::ReadRtf(kBoldRtf));
   EXPECT_EQ(box.Text(), u"lineone two");
   this->platform.Type(box, u"x\r");
   EXPECT_EQ(box.Text(), u"lineone two");
@@ -260,7 +260,7 @@ TYPED_TEST_P(RichTextBoxText, AChangedTextIsToldOnceWhoeverChangedIt) {
   box.SetText(u"abc");
   box.Select(3, 0);
   box.SetSelText(u"d");
-  box.SetSelRtf(u"{\\rtf1 e}");
+  box.SetSelDocument(richtext::ReadRtf(u"{\\rtf1 e}"));
   box.SetSelFormat(Fancy());
   this->platform.Type(box, u"fg");
   box.SetRtf(kBoldRtf);

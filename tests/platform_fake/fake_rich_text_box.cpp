@@ -1,6 +1,7 @@
 #include "platform_fake/fake_rich_text_box.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
@@ -127,9 +128,31 @@ void FakeRichTextBox::SetSelText(std::u16string_view text) {
   RaiseChange();
 }
 
-void FakeRichTextBox::SetSelRtf(std::u16string_view rtf) {
-  Insert(CellsOf(richtext::ReadRtf(rtf)));
+void FakeRichTextBox::SetSelDocument(richtext::Document document) {
+  Insert(CellsOf(document));
   RaiseChange();
+}
+
+void FakeRichTextBox::EndUpdate() {
+  if (--updateDepth_ > 0) return;
+  if (std::exchange(selChanged_, false)) RaiseSelChange();
+  if (std::exchange(changed_, false)) RaiseChange();
+}
+
+void FakeRichTextBox::RaiseSelChange() {
+  if (updateDepth_ > 0) {
+    selChanged_ = true;
+  } else if (onSelChange) {
+    onSelChange();
+  }
+}
+
+void FakeRichTextBox::RaiseChange() {
+  if (updateDepth_ > 0) {
+    changed_ = true;
+  } else if (onChange) {
+    onChange();
+  }
 }
 
 void FakeRichTextBox::Insert(const std::vector<Cell>& cells) {

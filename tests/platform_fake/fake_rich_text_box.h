@@ -33,7 +33,9 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   SelectionFormat SelFormat() const override;
   void SetSelFormat(const SelectionFormat& format) override;
   void SetSelText(std::u16string_view text) override;
-  void SetSelRtf(std::u16string_view rtf) override;
+  void SetSelDocument(richtext::Document document) override;
+  void BeginUpdate() override { ++updateDepth_; }
+  void EndUpdate() override;
   void SetFontCharset(int charset) override { charset_ = charset; }
   void LoadFile(std::u16string_view path, TextFileFormat format) override;
   void SaveFile(std::u16string_view path, TextFileFormat format) const override;
@@ -79,12 +81,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   std::vector<Cell> CellsOf(const richtext::Document& document) const;
   void TakeInsertionLook();
   void ReplaceAll(std::vector<Cell> cells);
-  void RaiseSelChange() {
-    if (onSelChange) onSelChange();
-  }
-  void RaiseChange() {
-    if (onChange) onChange();
-  }
+  void RaiseSelChange();
+  void RaiseChange();
 
   FakeFileSystem& files_;
   Lines lines_;
@@ -93,6 +91,10 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   std::size_t selLength_ = 0;
   Look insertionLook_;
   int charset_ = richtext::kGreekCharset;
+  int updateDepth_ = 0;
+  // What an update has still to tell.
+  bool selChanged_ = false;
+  bool changed_ = false;
 };
 
 }  // namespace verlume::fake

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "commands/dialogue/dialogue.h"
 #include "connection/connection_actions.h"
@@ -60,13 +61,24 @@ struct Side {
 
  private:
   void Command(std::u16string_view word, std::u16string_view rest,
-               void (ConnectionActions::*action)()) {
+               void (ConnectionActions::*action)(std::u16string_view)) {
     state.CommandLine = word;
     if (!rest.empty()) state.CommandLine += u' ';
     state.CommandLine += rest;
-    (actions.*action)();
+    (actions.*action)(state.CommandLine);
   }
 };
+
+// Runs an action; one that reads a command line gets this one.
+using Action = void (*)(ConnectionActions& actions, std::u16string_view commandLine);
+template <auto action>
+void Run(ConnectionActions& actions, std::u16string_view commandLine) {
+  if constexpr (std::is_invocable_v<decltype(action), ConnectionActions&>) {
+    (actions.*action)();
+  } else {
+    (actions.*action)(commandLine);
+  }
+}
 
 // Alice calls, Bob waits.
 struct TwoSides {

@@ -30,72 +30,75 @@ void GoToEnd(RichTextBox& pane) {
 }
 
 void AddInFormat(RichTextBox& pane, std::u16string_view text, double size) {
-  GoToEnd(pane);
   pane.SetSelFormat(PlainBlackArial(size));
   pane.SetSelText(text);
 }
 
 }  // namespace
 
-void Dialogue::WriteDialogueLine(std::u16string_view rtf, CommandPane commandPane) {
-  // First of all, so that a line that fails leaves nothing to the next one.
-  const Sender sender = TakeSender(rtf);
+void Dialogue::WriteDialogueLine(std::u16string_view rtf, Sender sender, CommandPane commandPane) {
+  ClearFlagOf(sender);
   errors_.Guard(Procedure::WriteDialogueLine, [&] {
-    if (!rtf.empty()) WriteLine(rtf, sender);
-    GoToEnd(platform_.frmMain.rtbData);
+    if (rtf.empty()) {
+      GoToEnd(platform_.frmMain.rtbData);
+    } else {
+      WriteLine(rtf, sender);
+    }
     if (commandPane == CommandPane::Clear) platform_.frmMain.rtbCommands.SetText(u"");
   });
-  // Who is typing what is to be found must not find half a word in the next line to be sent.
+  // Words typed into the find bar must not end up in the next line that is sent.
   if (!platform_.frmMain.findBar.fraFind.HasFocus()) platform_.frmMain.rtbCommands.SetFocus();
 }
 
-Dialogue::Sender Dialogue::TakeSender(std::u16string_view rtf) {
-  if (rtf.empty()) state_.ForeignText = false;
-  if (std::exchange(state_.RemoteMessage, false)) return Sender::NamedInText;
-  return std::exchange(state_.ForeignText, false) ? Sender::Remote : Sender::Local;
+void Dialogue::ClearFlagOf(Sender sender) {
+  if (sender == Sender::NamedInText) state_.RemoteMessage = false;
+  if (sender == Sender::Remote) state_.ForeignText = false;
 }
 
 void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
-  RichTextBox& pane = platform_.frmMain.rtbData;
   const std::u16string date = DateText(platform_.clock);
   const std::u16string time = TimeText(platform_.clock);
   const std::u16string both = date + u"_" + time;
-  std::u16string logLine = u"[" + both + u"]";
-
-  GoToEnd(pane);
-  if (pane.TextLength() > 0) pane.SetSelText(u"\r\n");
-  if (state_.DateStamp || state_.TimeStamp) {
-    const std::u16string& stamp = !state_.TimeStamp ? date : !state_.DateStamp ? time : both;
-    AddInFormat(pane, u"[" + stamp + u"]", kStampSize);
-  }
-  if (sender == Sender::NamedInText) {
-    pane.SetSelText(u" ");
-    logLine += u' ';
-  } else {
-    const bool isRemote = sender == Sender::Remote;
-    const std::u16string tag =
-        u"<" + (isRemote ? state_.RemoteNickname : ShowableNickname(state_.Nickname)) + u">";
-    AddInFormat(pane, tag, kTagSize);
-    logLine += tag;
-  }
-  GoToEnd(pane);
+  std::u16string stamp;
+  if (state_.DateStamp) stamp = date;
+  if (state_.TimeStamp) stamp = state_.DateStamp ? both : time;
+  const std::u16string tag = TagOf(sender);
   // Usually one: lines that TCP has joined are shown as one line, all of them.
-  for (const std::u16string_view document : richtext::SplitRtfDocuments(rtf)) {
-    pane.SetSelRtf(document);
-    const std::u16string text = PlainTextOf(document);
-    // And for the end of the line.
-    logLine.reserve(logLine.size() + text.size() + 2);
-    logLine += text;
+  std::vector<richtext::Document> documents = richtext::ReadRtfDocuments(rtf);
+  std::u16string logLine;
+  if (log_.IsRecording()) {
+    logLine = u"[" + both + u"]" + tag;
+    for (const richtext::Document& document : documents) logLine += document.text;
   }
+  AddToPane(stamp, tag, sender, std::move(documents));
   log_.AppendToLog(std::move(logLine));
 }
 
-std::u16string Dialogue::PlainTextOf(std::u16string_view rtf) {
-  RichTextBox& rtbRemote = platform_.frmMain.rtbRemote;
-  rtbRemote.SetRtf(rtf);
-  std::u16string text = rtbRemote.Text();
-  rtbRemote.SetText(u"");
-  return text;
+std::u16string Dialogue::TagOf(Sender sender) const {
+  switch (sender) {
+    case Sender::NamedInText:
+      return u" ";
+    case Sender::Remote:
+      return u"<" + state_.RemoteNickname + u">";
+    case Sender::Local:
+      break;
+  }
+  return u"<" + ShowableNickname(state_.Nickname) + u">";
+}
+
+void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,
+                         std::vector<richtext::Document> documents) {
+  RichTextBox& pane = platform_.frmMain.rtbData;
+  const RichTextUpdate update(pane);
+  GoToEnd(pane);
+  if (pane.TextLength() > 0) pane.SetSelText(u"\r\n");
+  if (!stamp.empty()) AddInFormat(pane, u"[" + std::u16string(stamp) + u"]", kStampSize);
+  if (sender == Sender::NamedInText) {
+    pane.SetSelText(tag);
+  } else {
+    AddInFormat(pane, tag, kTagSize);
+  }
+  for (richtext::Document& document : documents) pane.SetSelDocument(std::move(document));
 }
 
 void Dialogue::mnuToolsDate_Click() {

@@ -1,15 +1,21 @@
 // The dialogue pane. Every line that enters it goes through WriteDialogueLine.
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/platform.h"
 #include "records/dialogue_log.h"
+#include "richtext/document.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
 #include "shell/settings.h"
 
 namespace verlume {
+
+// Who says a line. An action line names its sender itself and gets no tag.
+enum class Sender { Local, Remote, NamedInText };
 
 enum class CommandPane { Keep, Clear };
 
@@ -21,10 +27,12 @@ class Dialogue {
 
   // Writes one line of rich text at the end of the dialogue pane, with stamp and nickname tag, and
   // hands it to the log. An empty text writes nothing. In every case the command pane is then
-  // emptied if asked, and gets the focus, unless the find bar has it. Uses up
-  // AppState::RemoteMessage or else ForeignText. A failure is reported (207), not thrown; the
-  // command pane then keeps its text and gets the focus.
-  void WriteDialogueLine(std::u16string_view rtf, CommandPane commandPane);
+  // emptied if asked, and gets the focus, unless the find bar has it. Clears the flag of AppState
+  // that records such a line. A failure is reported (207), not thrown; the command pane then keeps
+  // its text and gets the focus.
+  void WriteDialogueLine(std::u16string_view rtf, Sender sender, CommandPane commandPane);
+  // The end of a command that writes no line.
+  void ClearCommandPane() { WriteDialogueLine(u"", Sender::Local, CommandPane::Clear); }
 
   // The stamps of the lines written from now on.
   void mnuToolsDate_Click();
@@ -33,11 +41,11 @@ class Dialogue {
   void mnuToolsClearDialogue_Click();
 
  private:
-  enum class Sender { Local, Remote, NamedInText };
-
-  Sender TakeSender(std::u16string_view rtf);
+  void ClearFlagOf(Sender sender);
   void WriteLine(std::u16string_view rtf, Sender sender);
-  std::u16string PlainTextOf(std::u16string_view rtf);
+  std::u16string TagOf(Sender sender) const;
+  void AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,
+                 std::vector<richtext::Document> documents);
   void SwitchStamp(MenuEntry& entry, bool& stampSwitch, std::u16string_view key);
 
   AppState& state_;

@@ -8,6 +8,7 @@
 #include "platform_qt/text/rich_text_widget.h"
 #include "platform_qt/text/text_format.h"
 #include "platform_qt/text/text_loading.h"
+#include "platform_qt/text/text_update.h"
 #include "platform_qt/text/text_writing.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
@@ -16,9 +17,10 @@ namespace verlume::qt {
 
 namespace {
 
-// The length of rich text that a locked box takes at once. What is more comes in while events are
-// handled.
+// The length of documents that a locked box takes in at once, of which each run costs as much as
+// some characters. What is more comes in while events are handled.
 constexpr std::size_t kLengthAtOnce = 8 * 1024;
+constexpr std::size_t kLengthOfRun = 8;
 
 }  // namespace
 
@@ -107,82 +109,125 @@ void QtRichTextBox::Clear(const QTextCharFormat& format) {
   KeepFormatIfEmpty(cursor, format);
 }
 
+QTextCursor QtRichTextBox::Cursor() const {
+  return update_ ? update_->cursor : widget_->textCursor();
+}
+
+void QtRichTextBox::SetCursor(const QTextCursor& cursor) {
+  if (update_) {
+    update_->cursor = cursor;
+  } else {
+    view_->FollowTo(cursor);
+  }
+}
+
+void QtRichTextBox::BeginUpdate() {
+  if (update_) {
+    ++update_->depth;
+  } else {
+    update_ = std::make_unique<TextUpdate>(*view_);
+  }
+}
+
+void QtRichTextBox::EndUpdate() {
+  if (--update_->depth > 0) return;
+  const bool selChanged = update_->selChanged;
+  const bool changed = update_->changed;
+  update_.reset();
+  if (selChanged) RaiseSelChange();
+  if (changed) RaiseChange();
+}
+
+void QtRichTextBox::RaiseSelChange() {
+  if (update_) {
+    update_->selChanged = true;
+  } else if (onSelChange) {
+    onSelChange();
+  }
+}
+
+void QtRichTextBox::RaiseChange() {
+  if (update_) {
+    update_->changed = true;
+  } else if (onChange) {
+    onChange();
+  }
+}
+
 std::size_t QtRichTextBox::SelStart() const {
-  return TextPosition(widget_->textCursor().selectionStart());
+  return TextPosition(Cursor().selectionStart());
 }
 
 std::size_t QtRichTextBox::SelLength() const {
-  const QTextCursor cursor = widget_->textCursor();
+  const QTextCursor cursor = Cursor();
   return TextPosition(cursor.selectionEnd()) - TextPosition(cursor.selectionStart());
 }
 
 void QtRichTextBox::Select(std::size_t start, std::size_t length) {
   {
-    const ProgramChange change(*view_);
+    const RichTextUpdate update(*this);
     const std::size_t from = std::min(start, TextLength());
     const std::size_t to = from + std::min(length, TextLength() - from);
     QTextCursor cursor(widget_->document());
     cursor.setPosition(DocumentPosition(from));
     cursor.setPosition(DocumentPosition(to), QTextCursor::KeepAnchor);
-    widget_->setTextCursor(cursor);
-    widget_->ensureCursorVisible();
+    SetCursor(cursor);
+    RaiseSelChange();
   }
-  if (onSelChange) onSelChange();
 }
 
 SelectionFormat QtRichTextBox::SelFormat() const {
-  return SelectedFormat(widget_->textCursor(), lines_);
+  return SelectedFormat(Cursor(), lines_);
 }
 
 void QtRichTextBox::SetSelFormat(const SelectionFormat& format) {
   const ProgramChange change(*view_);
-  widget_->mergeCurrentCharFormat(ToQt(format));
-  QTextCursor cursor = widget_->textCursor();
+  QTextCursor cursor = Cursor();
+  cursor.mergeCharFormat(ToQt(format));
   KeepFormatIfEmpty(cursor, cursor.charFormat());
+  SetCursor(cursor);
 }
 
 void QtRichTextBox::SetSelText(std::u16string_view text) {
-  {
-    const ProgramChange change(*view_);
-    QTextCursor cursor = widget_->textCursor();
-    InsertText(cursor, text, lines_);
-    FollowTo(cursor);
-  }
+  const RichTextUpdate update(*this);
+  QTextCursor cursor = Cursor();
+  InsertText(cursor, text, lines_);
+  SetCursor(cursor);
   RaiseChange();
 }
 
-void QtRichTextBox::SetSelRtf(std::u16string_view rtf) {
-  if (!FitsIntoThisTurn(rtf.size())) {
-    WriteByAndBy(rtf);
+void QtRichTextBox::SetSelDocument(richtext::Document document) {
+  const RichTextUpdate update(*this);
+  if (FitsIntoThisTurn(document)) {
+    QTextCursor cursor = Cursor();
+    InsertDocument(cursor, std::move(document), lines_);
+    SetCursor(cursor);
   } else {
-    const ProgramChange change(*view_);
-    QTextCursor cursor = widget_->textCursor();
-    InsertDocument(cursor, richtext::ReadRtf(rtf), lines_);
-    FollowTo(cursor);
+    WriteInTurns(std::move(document));
   }
   RaiseChange();
 }
 
-bool QtRichTextBox::FitsIntoThisTurn(std::size_t length) {
+bool QtRichTextBox::FitsIntoThisTurn(const richtext::Document& document) {
   if (!Locked()) return true;
   if (inThisTurn_ == 0) turnEnd_.start(0);
-  inThisTurn_ += length;
-  const bool isBehindOther = std::any_of(writings_.begin(), writings_.end(), [this](const auto& w) {
-    return !w->IsDone() && w->EndsAt(widget_->textCursor().position());
+  inThisTurn_ += document.text.size() + kLengthOfRun * document.runs.size();
+  const int place = Cursor().position();
+  const bool isBehindOther = std::any_of(writings_.begin(), writings_.end(), [&](const auto& w) {
+    return !w->IsDone() && w->EndsAt(place);
   });
   return !isBehindOther && inThisTurn_ <= kLengthAtOnce;
 }
 
-void QtRichTextBox::WriteByAndBy(std::u16string_view rtf) {
-  const QTextCursor cursor = widget_->textCursor();
+void QtRichTextBox::WriteInTurns(richtext::Document document) {
+  const QTextCursor cursor = Cursor();
   std::erase_if(writings_, [](const auto& writing) { return writing->IsDone(); });
   const auto same = std::find_if(writings_.begin(), writings_.end(), [&](const auto& writing) {
     return !cursor.hasSelection() && writing->EndsAt(cursor.position());
   });
-  if (same != writings_.end()) return (*same)->Add(rtf);
-  const ProgramChange change(*view_);
+  if (same != writings_.end()) return (*same)->Add(std::move(document));
   writings_.push_back(std::make_unique<TextWriting>(*view_, cursor, [this] { NoteWritten(); }));
-  writings_.back()->Add(rtf);
+  writings_.back()->Add(std::move(document));
 }
 
 bool QtRichTextBox::IsTakingIn() const {
@@ -192,12 +237,6 @@ bool QtRichTextBox::IsTakingIn() const {
 
 void QtRichTextBox::NoteWritten() {
   if (!IsTakingIn() && onTakenIn) onTakenIn();
-}
-
-void QtRichTextBox::FollowTo(const QTextCursor& cursor) {
-  // The widget's own cursor moves with what is inserted; setting it costs half a line's time.
-  const QTextCursor own = widget_->textCursor();
-  if (own.hasSelection() || own.position() != cursor.position()) widget_->setTextCursor(cursor);
 }
 
 void QtRichTextBox::SetFontCharset(int charset) {

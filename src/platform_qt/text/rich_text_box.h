@@ -19,6 +19,7 @@ namespace verlume::qt {
 
 class RichTextWidget;
 class TextLoading;
+class TextUpdate;
 class TextWriting;
 
 // Undo is there for the user of a single-line box that is not locked. Ground and letters are the
@@ -47,7 +48,9 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   SelectionFormat SelFormat() const override;
   void SetSelFormat(const SelectionFormat& format) override;
   void SetSelText(std::u16string_view text) override;
-  void SetSelRtf(std::u16string_view rtf) override;
+  void SetSelDocument(richtext::Document document) override;
+  void BeginUpdate() override;
+  void EndUpdate() override;
   void SetFontCharset(int charset) override;
   void LoadFile(std::u16string_view path, TextFileFormat format) override;
   void SaveFile(std::u16string_view path, TextFileFormat format) const override;
@@ -61,8 +64,11 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
  private:
   QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines);
 
-  bool FitsIntoThisTurn(std::size_t length);
-  void WriteByAndBy(std::u16string_view rtf);
+  // The cursor of the update, or of the widget.
+  QTextCursor Cursor() const;
+  void SetCursor(const QTextCursor& cursor);
+  bool FitsIntoThisTurn(const richtext::Document& document);
+  void WriteInTurns(richtext::Document document);
   void NoteWritten();
   richtext::Document Content() const;
   // What is put in afterwards is in this format, until another is set.
@@ -71,13 +77,11 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   // With all of a file that is still coming in.
   QTextCursor Everything() const;
   void WaitForTheRest() const;
-  void FollowTo(const QTextCursor& cursor);
   // A position in the text, and in the document: they differ in a long single line.
   std::size_t TextPosition(int position) const;
   int DocumentPosition(std::size_t position) const;
-  void RaiseChange() {
-    if (onChange) onChange();
-  }
+  void RaiseSelChange();
+  void RaiseChange();
 
   QPointer<RichTextWidget> view_;
   FileSystem& files_;
@@ -85,6 +89,7 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   std::u16string tag_;
   std::unique_ptr<TextLoading> loading_;                // the last one, done or not
   std::vector<std::unique_ptr<TextWriting>> writings_;  // done or not, in no order
+  std::unique_ptr<TextUpdate> update_;                  // while one is on
   std::size_t inThisTurn_ = 0;  // the length of what was written since events were handled last
   QTimer turnEnd_;
 };

@@ -152,6 +152,15 @@ void RichTextWidget::resizeEvent(QResizeEvent* event) {
   if (showsEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
+void RichTextWidget::FollowTo(const QTextCursor& cursor) {
+  const QTextCursor own = textCursor();
+  if (own.position() == cursor.position() && own.anchor() == cursor.anchor() &&
+      own.charFormat() == cursor.charFormat()) {
+    return;
+  }
+  setTextCursor(cursor);
+}
+
 bool RichTextWidget::ShowsEndWithin(const QSize& size) const {
   QTextCursor end(document());
   end.movePosition(QTextCursor::End);

@@ -21,6 +21,10 @@ class RichTextWidget : public QPlainTextEdit {
   Lines lines() const { return lines_; }
   const Seams& seams() const { return seams_; }
 
+  // Makes its cursor like this one. Its own moves with what is inserted, and setting it costs half
+  // a line's time: it is left alone where it is like that already.
+  void FollowTo(const QTextCursor& cursor);
+
   // Whether the end of the text can be seen, and scrolling so that it can.
   bool ShowsEnd() const { return ShowsEndWithin(viewport()->size()); }
   void ShowEnd();

@@ -2,8 +2,6 @@
 
 #include <QTextBlock>
 #include <algorithm>
-#include <map>
-#include <tuple>
 #include <utility>
 
 #include "platform_qt/convert/text.h"
@@ -44,72 +42,7 @@ int RoomAt(const QTextCursor& cursor) {
 // How far back from the end of a block a blank is looked for, to end it there.
 constexpr qsizetype kLongestWord = 256;
 
-// Qt ends blocks, frames and tables with these and puts U+FFFC for objects.
-char16_t SafeUnit(char16_t unit, Lines lines) {
-  switch (unit) {
-    case u'\n':
-    case u'\r':
-    case u'\u2028':
-    case u'\u2029':
-      return lines == Lines::Single ? u' ' : u'\n';
-    case u'\0':
-    case u'\uFFFC':
-      return u'\uFFFD';
-    default:
-      return unit >= 0xFDD0 && unit <= 0xFDEF ? u'\uFFFD' : unit;
-  }
-}
-
-// The run model counts every unit, so here none is dropped.
-QString SafeUnits(std::u16string_view text, Lines lines) {
-  QString safe = ToQt(text);
-  for (QChar& c : safe) c = SafeUnit(c.unicode(), lines);
-  return safe;
-}
-
-// A format of a long document is made once, not with each of its runs.
-class FormatCache {
- public:
-  explicit FormatCache(const std::vector<richtext::Font>& fonts) : fonts_(fonts) {}
-
-  const QTextCharFormat& Of(const richtext::CharFormat& format) {
-    const Key key(format.font, format.halfPoints, format.color, format.bold, format.italic,
-                  format.underline, format.strikethrough);
-    const auto known = made_.find(key);
-    return known != made_.end() ? known->second
-                                : made_.emplace(key, ToQt(format, fonts_)).first->second;
-  }
-
- private:
-  using Key = std::tuple<int, int, Color, bool, bool, bool, bool>;
-
-  const std::vector<richtext::Font>& fonts_;
-  std::map<Key, QTextCharFormat> made_;
-};
-
 }  // namespace
-
-QString SafeText(std::u16string_view text, Lines lines) {
-  std::u16string joined;
-  joined.reserve(text.size());
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool first = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
-    if (!first) joined += text[i];
-  }
-  return SafeUnits(joined, lines);
-}
-
-FormattedText::FormattedText(std::u16string_view plain, const QTextCharFormat& format, Lines lines)
-    : text(SafeText(plain, lines)), pieces{{text.size(), format}} {}
-
-FormattedText::FormattedText(const richtext::Document& document, Lines lines)
-    : text(SafeUnits(document.text, lines)) {
-  FormatCache formats(document.fonts);
-  pieces.reserve(document.runs.size());
-  for (const richtext::Run& run : document.runs) {
-    pieces.push_back({static_cast<qsizetype>(run.length), formats.Of(run.format)});
-  }
-}
 
 TextInsertion::TextInsertion(const QTextCursor& cursor, FormattedText text, Lines lines)
     : cursor_(cursor), text_(std::move(text)), size_(text_.text.size()), lines_(lines) {
@@ -117,7 +50,7 @@ TextInsertion::TextInsertion(const QTextCursor& cursor, FormattedText text, Line
   cursor_.setKeepPositionOnInsert(true);
 }
 
-void TextInsertion::GoOnWith(FormattedText text) {
+void TextInsertion::StartNext(FormattedText text) {
   text_ = std::move(text);
   size_ = text_.text.size();
   at_ = inPiece_ = 0;
@@ -207,9 +140,9 @@ void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines) {
   KeepFormatIfEmpty(cursor, format);
 }
 
-void InsertDocument(QTextCursor& cursor, const richtext::Document& document, Lines lines) {
+void InsertDocument(QTextCursor& cursor, richtext::Document document, Lines lines) {
   const QTextCharFormat before = FormatOfFirst(cursor);
-  Insert(cursor, FormattedText(document, lines), lines);
+  Insert(cursor, FormattedText(std::move(document), lines), lines);
   KeepFormatIfEmpty(cursor, before);
 }
 

@@ -4,13 +4,11 @@
 #include <QScrollBar>
 #include <utility>
 
+#include "platform_qt/text/turn.h"
+
 namespace verlume::qt {
 namespace {
 
-// Shorter than a frame of the screen, so that no key or click waits for long; and a pause, so that
-// one who handles the events that wait finds an end of them.
-constexpr qint64 kTurnMilliseconds = 10;
-constexpr int kPauseMilliseconds = 1;
 constexpr qsizetype kUnitsPerStep = 16 * 1024;
 constexpr qsizetype kUnitsAtOnce = 64 * 1024;
 constexpr int kAll = 100;
@@ -27,8 +25,8 @@ TextLoading::TextLoading(RichTextWidget& widget, const QTextCursor& cursor, Form
     told_ = kAll;
     return;
   }
-  QObject::connect(&next_, &QTimer::timeout, &next_, [this] { Continue(); });
-  next_.start(kPauseMilliseconds);
+  QObject::connect(&nextTurn_, &QTimer::timeout, &nextTurn_, [this] { RunTurn(); });
+  nextTurn_.start(kPauseBetweenTurns);
 }
 
 void TextLoading::Finish() {
@@ -37,7 +35,7 @@ void TextLoading::Finish() {
 }
 
 void TextLoading::Abandon() {
-  next_.stop();
+  nextTurn_.stop();
   Tell(kAll);
 }
 
@@ -50,11 +48,11 @@ void TextLoading::PutIn(qsizetype units) {
   if (showsEnd) widget_.ShowEnd();
 }
 
-void TextLoading::Continue() {
+void TextLoading::RunTurn() {
   QElapsedTimer turn;
   turn.start();
-  while (!insertion_.IsDone() && turn.elapsed() < kTurnMilliseconds) PutIn(kUnitsPerStep);
-  if (insertion_.IsDone()) next_.stop();
+  while (!insertion_.IsDone() && !turn.hasExpired(kTurn.count())) PutIn(kUnitsPerStep);
+  if (insertion_.IsDone()) nextTurn_.stop();
   Tell(insertion_.Percent());
 }
 

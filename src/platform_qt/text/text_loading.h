@@ -13,7 +13,7 @@ class TextLoading {
  public:
   // Puts in the first piece at once, at the cursor. `onProgress` hears of every further per cent,
   // and of 100 once; of none when the first piece is all. What is still to come when the loading
-  // dies is never put in.
+  // is destroyed is never put in.
   TextLoading(RichTextWidget& widget, const QTextCursor& cursor, FormattedText text,
               std::function<void(int percent)> onProgress);
 
@@ -24,14 +24,14 @@ class TextLoading {
 
  private:
   void PutIn(qsizetype units);
-  void Continue();
+  void RunTurn();
   void Tell(int percent);
 
   RichTextWidget& widget_;
   TextInsertion insertion_;
   std::function<void(int percent)> onProgress_;
   int told_ = 0;
-  QTimer next_;
+  QTimer nextTurn_;
 };
 
 }  // namespace verlume::qt

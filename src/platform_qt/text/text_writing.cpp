@@ -4,13 +4,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform_qt/text/turn.h"
+
 namespace verlume::qt {
 namespace {
 
-// As for a file that is loaded.
-constexpr qint64 kTurnMilliseconds = 10;
-constexpr int kPauseMilliseconds = 1;
-// Of RTF, and of the text that it holds: as much as takes about a millisecond.
+// Units of text: as many as take about a millisecond.
 constexpr std::size_t kShortestStep = 512;
 constexpr std::size_t kLongestStep = 16 * 1024;
 constexpr qint64 kStepMicroseconds = 1000;
@@ -23,58 +22,50 @@ TextWriting::TextWriting(RichTextWidget& widget, const QTextCursor& cursor,
       insertion_(cursor, FormattedText(), widget.lines()),
       before_(FormatOfFirst(cursor)),
       onDone_(std::move(onDone)) {
-  QObject::connect(&next_, &QTimer::timeout, &next_, [this] { Continue(); });
+  QObject::connect(&nextTurn_, &QTimer::timeout, &nextTurn_, [this] { RunTurn(); });
 }
 
-void TextWriting::Add(std::u16string_view rtf) {
-  if (reading_) {
-    waiting_.emplace_back(rtf);
-  } else {
-    reading_.emplace(std::u16string(rtf));
-  }
-  next_.start(kPauseMilliseconds);
+void TextWriting::Add(richtext::Document document) {
+  waiting_.emplace_back(std::move(document), widget_.lines());
+  nextTurn_.start(kPauseBetweenTurns);
 }
 
 void TextWriting::Finish() {
-  while (!IsDone()) PutIn();
+  while (!IsDone()) PutInStep();
 }
 
-void TextWriting::Continue() {
+void TextWriting::RunTurn() {
   QElapsedTimer turn;
   turn.start();
-  while (!IsDone() && turn.elapsed() < kTurnMilliseconds) PutIn();
+  while (!IsDone() && !turn.hasExpired(kTurn.count())) PutInStep();
   if (!IsDone()) return;
-  next_.stop();
+  nextTurn_.stop();
   onDone_();
 }
 
-void TextWriting::PutIn() {
-  const RichTextWidget::ProgramChange change(widget_);
-  if (!insertion_.IsDone()) return PutInStep();
-  if (!reading_->IsDone()) {
-    insertion_.GoOnWith(FormattedText(reading_->Next(step_), widget_.lines()));
-    return;
-  }
-  reading_.reset();
-  if (!waiting_.empty()) {
-    reading_.emplace(std::move(waiting_.front()));
-    waiting_.pop_front();
-  } else {
-    QTextCursor cursor = insertion_.cursor();
-    KeepFormatIfEmpty(cursor, before_);
-  }
-}
-
-// What is laid out slowly comes by smaller steps.
 void TextWriting::PutInStep() {
+  const RichTextWidget::ProgramChange change(widget_);
+  if (insertion_.IsDone()) return TakeNextPart();
   QElapsedTimer timer;
   timer.start();
   const bool showsEnd = widget_.ShowsEnd();
-  insertion_.PutIn(static_cast<qsizetype>(step_));
+  insertion_.PutIn(insertion_.UnitsToCome());
   widget_.document()->clearUndoRedoStacks();
   if (showsEnd) widget_.ShowEnd();
+  // What is laid out slowly comes by smaller steps.
   const bool isSlow = timer.nsecsElapsed() / 1000 > kStepMicroseconds;
   step_ = std::clamp(isSlow ? step_ / 2 : step_ * 2, kShortestStep, kLongestStep);
+}
+
+void TextWriting::TakeNextPart() {
+  if (!waiting_.front().IsDone()) {
+    insertion_.StartNext(waiting_.front().Next(step_));
+    return;
+  }
+  waiting_.pop_front();
+  if (!waiting_.empty()) return;
+  QTextCursor cursor = insertion_.cursor();
+  KeepFormatIfEmpty(cursor, before_);
 }
 
 }  // namespace verlume::qt

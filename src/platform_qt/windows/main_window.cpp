@@ -5,7 +5,7 @@ namespace verlume::qt {
 QtMainWindow::QtMainWindow(FileSystem& files)
     : rtbData(form_.centralWidget(), files, Lines::Many),
       rtbCommands(form_.centralWidget(), files, Lines::Single),
-      rtbRemote(form_.centralWidget(), files),
+      rtbRemote(form_.centralWidget(), files, Lines::Many),
       view_{
           .window = window,
           .freeSizer1 = freeSizer1,
@@ -98,6 +98,7 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   form_.PlacePane(rtbCommands.widget(), "rtbCommands");
   form_.PlaceCompletionList(rtbCommands.widget());
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
+  rtbRemote.widget()->hide();
   rtbData.SetLocked(true);
   QFont strong;
   strong.setWeight(QFont::DemiBold);

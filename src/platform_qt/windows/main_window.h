@@ -4,7 +4,6 @@
 #include "platform/main_window.h"
 #include "platform_qt/controls/controls.h"
 #include "platform_qt/controls/list_box.h"
-#include "platform_qt/text/hidden_text_box.h"
 #include "platform_qt/text/rich_text_box.h"
 #include "platform_qt/windows/find_bar.h"
 #include "platform_qt/windows/main_window_form.h"
@@ -74,7 +73,7 @@ class QtMainWindow {
 
   QtRichTextBox rtbData;
   QtRichTextBox rtbCommands;
-  QtHiddenTextBox rtbRemote;
+  QtRichTextBox rtbRemote;
 
   QtPanel fraFind{form_.Find<QWidget>("fraFind")};
   QtTextField txtFind{form_.Find<QLineEdit>("txtFind")};

@@ -28,7 +28,11 @@ class DialogueTest : public RoomTest {
            richtext::EscapeForRtf(text) + u"}";
   }
   void Write(std::u16string_view text, CommandPane commandPane = CommandPane::Keep) {
-    dialogue.WriteDialogueLine(text.empty() ? u"" : Message(text), commandPane);
+    WriteAs(Sender::Local, text, commandPane);
+  }
+  void WriteAs(Sender sender, std::u16string_view text,
+               CommandPane commandPane = CommandPane::Keep) {
+    dialogue.WriteDialogueLine(text.empty() ? u"" : Message(text), sender, commandPane);
   }
   SelectionFormat FormatAt(std::size_t start, std::size_t length) {
     pane.Select(start, length);
@@ -82,7 +86,7 @@ TEST_F(DialogueTest, LogHasDateAndTimeWhateverTheSwitchesSay) {
 
 TEST_F(DialogueTest, RemoteLineHasTheRemoteNicknameAndTheNextLocalLineTheLocalOne) {
   state.ForeignText = true;
-  Write(u"γεια");
+  WriteAs(Sender::Remote, u"γεια");
   EXPECT_FALSE(state.ForeignText);
   Write(u"hello");
   EXPECT_EQ(pane.Text(), u"<Νίκος>γεια\n<Bob>hello");
@@ -93,7 +97,7 @@ TEST_F(DialogueTest, RemoteLineHasTheRemoteNicknameAndTheNextLocalLineTheLocalOn
 
 TEST_F(DialogueTest, ActionLineBeginsWithASpaceAndHasNoTag) {
   state.RemoteMessage = true;
-  Write(u"Bob waves");
+  WriteAs(Sender::NamedInText, u"Bob waves");
   EXPECT_FALSE(state.RemoteMessage);
   Write(u"hello");
   EXPECT_EQ(pane.Text(), u" Bob waves\n<Bob>hello");
@@ -103,17 +107,20 @@ TEST_F(DialogueTest, ActionLineBeginsWithASpaceAndHasNoTag) {
 }
 
 TEST_F(DialogueTest, ActionLineFollowsItsStamp) {
-  state.TimeStamp = state.RemoteMessage = true;
-  Write(u"Bob waves");
+  state.TimeStamp = true;
+  WriteAs(Sender::NamedInText, u"Bob waves");
   EXPECT_EQ(pane.Text(), u"[09:05:30] Bob waves");
 }
 
-TEST_F(DialogueTest, ActionLineLeavesTheForeignFlagToItsOwnLine) {
+TEST_F(DialogueTest, ALineClearsNoFlagButItsOwn) {
   state.RemoteMessage = state.ForeignText = true;
-  Write(u"Bob waves");
-  EXPECT_TRUE(state.ForeignText);
   Write(u"hello");
-  EXPECT_EQ(pane.Text(), u" Bob waves\n<Νίκος>hello");
+  EXPECT_TRUE(state.RemoteMessage && state.ForeignText);
+  WriteAs(Sender::NamedInText, u"Bob waves");
+  EXPECT_TRUE(state.ForeignText);
+  WriteAs(Sender::Remote, u"hello");
+  EXPECT_FALSE(state.RemoteMessage || state.ForeignText);
+  EXPECT_EQ(pane.Text(), u"<Bob>hello\n Bob waves\n<Νίκος>hello");
 }
 
 TEST_F(DialogueTest, StampAndTagAreSmallBlackArialAfterAColouredMessage) {
@@ -140,8 +147,7 @@ TEST_F(DialogueTest, MessageKeepsItsOwnFormat) {
 
 TEST_F(DialogueTest, SpaceOfAnActionLineHasTheFormatOfTheEndOfThePane) {
   Write(u"one");
-  state.RemoteMessage = true;
-  Write(u"Bob waves");
+  WriteAs(Sender::NamedInText, u"Bob waves");
   EXPECT_EQ(FormatAt(9, 1).fontName, u"Courier New");
 }
 
@@ -155,8 +161,7 @@ TEST_F(DialogueTest, LinesAreAddedAtTheEndWhereverTheSelectionStands) {
 }
 
 TEST_F(DialogueTest, TextThatIsNoRichTextIsWrittenAsItStands) {
-  state.ForeignText = true;
-  dialogue.WriteDialogueLine(u"<b>plain</b>", CommandPane::Keep);
+  dialogue.WriteDialogueLine(u"<b>plain</b>", Sender::Remote, CommandPane::Keep);
   EXPECT_EQ(pane.Text(), u"<Νίκος><b>plain</b>");
 }
 
@@ -185,11 +190,32 @@ TEST_F(DialogueTest, EmptyTextShowsTheLastLineAndEmptiesAndFocusesTheCommandPane
   EXPECT_EQ(commands.timesFocused, 1);
 }
 
-TEST_F(DialogueTest, EmptyTextLeavesNoFlagToTheNextLine) {
+TEST_F(DialogueTest, EmptyTextLeavesNoFlagBehind) {
   state.RemoteMessage = state.ForeignText = true;
-  Write(u"");
+  WriteAs(Sender::Remote, u"");
+  WriteAs(Sender::NamedInText, u"");
+  EXPECT_FALSE(state.RemoteMessage || state.ForeignText);
+  EXPECT_EQ(pane.Text(), u"");
+}
+
+TEST_F(DialogueTest, ALineIsOneChangeOfThePane) {
+  int changes = 0;
+  int selChanges = 0;
+  pane.onChange = [&] { ++changes; };
+  pane.onSelChange = [&] { ++selChanges; };
+  state.DateStamp = true;
+  Write(u"one");
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(selChanges, 1);
+}
+
+TEST_F(DialogueTest, AFailureOfTheLogIsAskedAboutOnceTheLineIsWhole) {
+  pane.onChange = [&] { EXPECT_TRUE(fake.dialogs.messages.empty()); };
+  fake.dialogs.whileOpen = [&] { EXPECT_EQ(pane.Text(), u"<Bob>hello"); };
+  fake.files.writesFail = FailureNumber::DiskFull;
+  AnswerNoToErrors();
   Write(u"hello");
-  EXPECT_EQ(pane.Text(), u"<Bob>hello");
+  EXPECT_EQ(fake.dialogs.messages.size(), 1u);
 }
 
 TEST_F(DialogueTest, CommandPaneIsEmptiedOnlyWhenAskedAndAlwaysFocused) {
@@ -230,19 +256,22 @@ TEST_F(DialogueTest, VanishedLogFolderLeavesTheProgramUsable) {
 }
 
 TEST_F(DialogueTest, LineThatFailsIsReportedAndLeavesNothingToTheNextOne) {
-  pane.onSelChange = [] { throw RunTimeFailure(FailureNumber::InvalidProcedureCall); };
-  for (bool AppState::*flag : {&AppState::RemoteMessage, &AppState::ForeignText}) {
+  pane.formatFails = FailureNumber::InvalidProcedureCall;
+  state.TimeStamp = state.RemoteMessage = state.ForeignText = true;
+  for (const Sender sender : {Sender::NamedInText, Sender::Remote}) {
     commands.SetText(u"hello");
     commands.timesFocused = 0;
-    state.*flag = true;
     AnswerNoToErrors();
-    Write(u"lost", CommandPane::Clear);
+    WriteAs(sender, u"lost", CommandPane::Clear);
     ExpectReported(u"5", u"Verlume, 207.");
-    EXPECT_FALSE(state.*flag);
     EXPECT_EQ(commands.Text(), u"hello");
     EXPECT_EQ(commands.timesFocused, 1);
   }
-  pane.onSelChange = nullptr;
+  EXPECT_FALSE(state.RemoteMessage || state.ForeignText);
+  EXPECT_EQ(Log(), "");
+  pane.formatFails.reset();
+  pane.SetText(u"");
+  state.TimeStamp = false;
   Write(u"next");
   EXPECT_EQ(pane.Text(), u"<Bob>next");
 }
@@ -316,8 +345,7 @@ TEST_F(DialogueTest, ClearingTheDialogueEmptiesThePaneAndLeavesTheLog) {
 TEST_F(DialogueTest, LineLeavesTheFocusWithWhoeverTypesIntoTheFindBar) {
   fake.window.fraFind.hasFocus = true;
   commands.timesFocused = 0;
-  state.ForeignText = true;
-  Write(u"hello");
+  WriteAs(Sender::Remote, u"hello");
   EXPECT_EQ(pane.Text(), u"<Νίκος>hello");
   EXPECT_EQ(commands.timesFocused, 0);
   fake.window.fraFind.hasFocus = false;

@@ -1,4 +1,5 @@
 #include "platform_qt/text/rich_text_box.h"
+#include "richtext/rtf_reader.h"
 
 #include <gtest/gtest.h>
 
@@ -366,7 +367,7 @@ TEST_F(QtRichTextBoxTest, AWrittenLineComesIntoViewFromAnywhere) {
   many.Select(0, 4);
   EXPECT_EQ(many.widget()->verticalScrollBar()->value(), 0);
   many.Select(many.TextLength(), 0);
-  many.SetSelRtf(u"{\\rtf1 last}");
+  many.SetSelDocument(richtext::ReadRtf(u"{\\rtf1 last}"));
   many.Select(many.TextLength(), 0);
   EXPECT_TRUE(ShowsCaret(many));
   many.widget()->resize(200, 100);

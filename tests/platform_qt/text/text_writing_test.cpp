@@ -8,6 +8,7 @@
 
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/text/rich_text_box.h"
+#include "richtext/rtf_reader.h"
 
 namespace verlume::qt {
 namespace {
@@ -23,7 +24,7 @@ class QtTextWritingTest : public testing::Test {
 
   void Write(std::u16string_view rtf) {
     box.Select(box.TextLength(), 0);
-    box.SetSelRtf(rtf);
+    box.SetSelDocument(richtext::ReadRtf(rtf));
   }
   bool HandlesEventsUntilTakenIn() {
     return QTest::qWaitFor([this] { return !box.IsTakingIn(); }, 60'000);
@@ -145,7 +146,7 @@ TEST_F(QtTextWritingTest, WhoLooksAtOlderLinesGoesOnDoingSo) {
 TEST_F(QtTextWritingTest, ABoxMayGoWhileItsTextComesIn) {
   auto gone = std::make_unique<QtRichTextBox>(&window, files, Lines::Many);
   gone->SetLocked(true);
-  gone->SetSelRtf(longRtf);
+  gone->SetSelDocument(richtext::ReadRtf(longRtf));
   gone.reset();
   Write(longRtf);
   EXPECT_TRUE(HandlesEventsUntilTakenIn());

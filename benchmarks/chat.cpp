@@ -1,0 +1,55 @@
+#include "benchmarks/chat.h"
+
+#include <QApplication>
+#include <QWidget>
+#include <map>
+
+#include "connection/connection_state.h"
+
+namespace verlume {
+
+Chat::Chat(std::int64_t lines) {
+  state_.ProtocolMarker = BuildProtocolMarker();
+  state_.RemoteNickname = u"nickname";
+  state_.DateStamp = state_.TimeStamp = true;
+  platform_.View().frmMain.window.Show();
+  for (std::int64_t line = 0; line < lines; ++line) {
+    WriteLine();
+    // What is written between two turns of the event loop is put in at once only while it is short.
+    if (line % 64 == 0) QApplication::processEvents();
+  }
+  QApplication::processEvents();
+}
+
+void Chat::Resize(int width, int height) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* pane = window->findChild<QWidget*>("rtbData")) pane->resize(width, height);
+  }
+}
+
+void Chat::OpenFindBar(std::u16string_view words) {
+  platform_.View().frmMain.findBar.txtFind.SetText(words);
+  find_.mnuToolsFind_Click();
+}
+
+std::int32_t Chat::Listen() {
+  Socket& socket = platform_.View().sckControl;
+  socket.onConnectionRequest = [this, &socket](std::int64_t id) {
+    socket.Accept(id);
+    EnterState(state_, ConnectionState::Connected);
+  };
+  socket.onDataArrival = [this, &socket](std::int32_t) {
+    wire_.OnDataArrival(socket.GetData());
+    ++arrivals_;
+  };
+  socket.SetLocalPort(0);
+  socket.Listen();
+  return socket.LocalPort();
+}
+
+Chat& ChatOf(std::int64_t lines) {
+  static auto& chats = *new std::map<std::int64_t, Chat>;
+  return chats.try_emplace(lines, lines).first->second;
+}
+
+}  // namespace verlume

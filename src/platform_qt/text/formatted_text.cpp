@@ -1,0 +1,86 @@
+#include "platform_qt/text/formatted_text.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform_qt/convert/text.h"
+#include "platform_qt/text/text_format.h"
+
+namespace verlume::qt {
+namespace {
+
+// Qt ends blocks, frames and tables with these and puts U+FFFC for objects.
+char16_t SafeUnit(char16_t unit, Lines lines) {
+  switch (unit) {
+    case u'\n':
+    case u'\r':
+    case u'\u2028':
+    case u'\u2029':
+      return lines == Lines::Single ? u' ' : u'\n';
+    case u'\0':
+    case u'\uFFFC':
+      return u'\uFFFD';
+    default:
+      return unit >= 0xFDD0 && unit <= 0xFDEF ? u'\uFFFD' : unit;
+  }
+}
+
+// The run model counts every unit, so here none is dropped.
+QString SafeUnits(std::u16string_view text, Lines lines) {
+  QString safe = ToQt(text);
+  for (QChar& c : safe) c = SafeUnit(c.unicode(), lines);
+  return safe;
+}
+
+}  // namespace
+
+QString SafeText(std::u16string_view text, Lines lines) {
+  std::u16string joined;
+  joined.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool first = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
+    if (!first) joined += text[i];
+  }
+  return SafeUnits(joined, lines);
+}
+
+FormattedText::FormattedText(std::u16string_view plain, const QTextCharFormat& format, Lines lines)
+    : text(SafeText(plain, lines)), pieces{{text.size(), format}} {}
+
+FormattedText::FormattedText(richtext::Document document, Lines lines)
+    : FormattedText(DocumentParts(std::move(document), lines).Next(std::u16string::npos)) {}
+
+DocumentParts::DocumentParts(richtext::Document document, Lines lines)
+    : document_(std::move(document)), lines_(lines) {}
+
+FormattedText DocumentParts::Next(std::size_t units) {
+  const std::size_t begin = at_;
+  std::size_t end = begin + std::min(units, document_.text.size() - begin);
+  const bool splitsPair =
+      end > begin && end < document_.text.size() && QChar::isHighSurrogate(document_.text[end - 1]);
+  if (splitsPair) ++end;
+  FormattedText part;
+  part.text = SafeUnits(std::u16string_view(document_.text).substr(begin, end - begin), lines_);
+  while (at_ < end) {
+    const richtext::Run& run = document_.runs[run_];
+    const std::size_t length = std::min(run.length - inRun_, end - at_);
+    part.pieces.push_back({static_cast<qsizetype>(length), FormatOf(run.format)});
+    at_ += length;
+    inRun_ += length;
+    if (inRun_ < run.length) break;
+    ++run_;
+    inRun_ = 0;
+  }
+  return part;
+}
+
+const QTextCharFormat& DocumentParts::FormatOf(const richtext::CharFormat& format) {
+  const Key key(format.font, format.halfPoints, format.color, format.bold, format.italic,
+                format.underline, format.strikethrough);
+  const auto known = formats_.find(key);
+  return known != formats_.end()
+             ? known->second
+             : formats_.emplace(key, ToQt(format, document_.fonts)).first->second;
+}
+
+}  // namespace verlume::qt
