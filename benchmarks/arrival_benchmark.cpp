@@ -1,5 +1,6 @@
 // What a line costs from the socket to the pane: the processor time of the whole program, both
-// threads and the painting, less that of the peer.
+// threads, less that of the peer. With and without the painting, which in a flood is done once for
+// many lines; and beside it what Qt's bare widget takes to show a line.
 #include <arpa/inet.h>
 #include <benchmark/benchmark.h>
 #include <netinet/in.h>
@@ -13,10 +14,13 @@
 #include <string>
 #include <thread>
 
+#include "benchmarks/bare_pane.h"
 #include "benchmarks/chat.h"
 
 namespace verlume {
 namespace {
+
+constexpr std::int64_t kLines = 2'000;  // in the pane, and that arrive
 
 double Seconds(clockid_t clock) {
   timespec time{};
@@ -60,8 +64,8 @@ class Peer {
 };
 
 void BM_ArrivingLine(benchmark::State& state) {
-  constexpr std::int64_t kLines = 2'000;
-  Chat chat(10'000);
+  Chat& chat = ChatOf(kLines);
+  chat.SetPainted(state.range(0) != 0);
   Peer peer(chat.Listen());
   const auto sendLine = [&] {
     const std::int64_t before = chat.Arrivals();
@@ -77,7 +81,22 @@ void BM_ArrivingLine(benchmark::State& state) {
     state.SetIterationTime((used - (peer.ProcessorSeconds() - peerBefore)) / kLines);
   }
 }
-BENCHMARK(BM_ArrivingLine)->Iterations(3)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_ArrivingLine)
+    ->ArgName("painted")
+    ->Arg(0)
+    ->Arg(1)
+    ->Iterations(3)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
+void BM_BareLineShown(benchmark::State& state) {
+  BarePane& pane = BarePaneOf(kLines);
+  for (auto _ : state) {
+    pane.WriteLine();
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(BM_BareLineShown)->Iterations(2'000)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace verlume

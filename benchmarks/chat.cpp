@@ -7,8 +7,22 @@
 #include "connection/connection_state.h"
 
 namespace verlume {
+namespace {
 
-Chat::Chat(std::int64_t lines) {
+// The main window that was made last.
+QWidget* LastWindow() {
+  static int made = 0;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() != "frmMain") continue;
+    window->setObjectName(QStringLiteral("frmMain of chat %1").arg(++made));
+    return window;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+Chat::Chat(std::int64_t lines) : window_(LastWindow()) {
   state_.ProtocolMarker = BuildProtocolMarker();
   state_.RemoteNickname = u"nickname";
   state_.DateStamp = state_.TimeStamp = true;
@@ -22,9 +36,11 @@ Chat::Chat(std::int64_t lines) {
 }
 
 void Chat::Resize(int width, int height) {
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (auto* pane = window->findChild<QWidget*>("rtbData")) pane->resize(width, height);
-  }
+  window_->findChild<QWidget*>("rtbData")->resize(width, height);
+}
+
+void Chat::SetPainted(bool isPainted) {
+  window_->setUpdatesEnabled(isPainted);
 }
 
 void Chat::OpenFindBar(std::u16string_view words) {

@@ -26,6 +26,8 @@ class Chat {
   void WriteLine() { dialogue_.WriteDialogueLine(kMessage, Sender::Remote, CommandPane::Keep); }
   // The dialogue pane alone.
   void Resize(int width, int height);
+  // Whether the window paints what changes.
+  void SetPainted(bool isPainted);
 
   void OpenFindBar(std::u16string_view words);
   void CloseFindBar() { find_.cmdFindClose_Click(); }
@@ -39,6 +41,7 @@ class Chat {
 
  private:
   qt::QtPlatform platform_;
+  QWidget* const window_;
   AppState state_;
   ErrorReport errors_{state_, platform_.View().dialogs, [] {}, [] {}};
   Settings settings_{state_, platform_.View().files};

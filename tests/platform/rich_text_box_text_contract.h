@@ -282,6 +282,49 @@ TYPED_TEST_P(RichTextBoxText, AChangedTextIsToldBehindItsSelection) {
   EXPECT_EQ(told, "scsc");
 }
 
+TYPED_TEST_P(RichTextBoxText, AnUpdateIsToldOfOnceAtItsEnd) {
+  RichTextBox& box = *this->many;
+  std::string told;
+  box.onSelChange = [&] { told += 's'; };
+  box.onChange = [&] { told += 'c'; };
+  {
+    const RichTextUpdate update(box);
+    box.SetSelText(u"one");
+    {
+      const RichTextUpdate inner(box);
+      box.Select(0, 1);
+      EXPECT_EQ(box.SelLength(), 1u);
+      box.SetSelFormat(Fancy());
+      box.SetSelText(u"O");
+    }
+    box.Select(box.TextLength(), 0);
+    box.SetSelDocument(richtext::ReadRtf(u"{\\rtf1 , two}"));
+    EXPECT_EQ(told, "");
+  }
+  EXPECT_EQ(told, "sc");
+  EXPECT_EQ(box.Text(), u"One, two");
+  EXPECT_EQ(box.SelStart(), 8u);
+  ExpectFormat(FormatOf(box, 0, 1), Fancy());
+}
+
+TYPED_TEST_P(RichTextBoxText, AFormatSetInAnUpdateIsOfWhatIsPutInNext) {
+  RichTextBox& box = *this->many;
+  {
+    const RichTextUpdate update(box);
+    box.SetSelText(u"plain");
+    box.SetSelFormat(Fancy());
+  }
+  box.SetSelText(u"fancy");
+  ExpectFormat(FormatOf(box, 5, 5), Fancy());
+  EXPECT_EQ(FormatOf(box, 0, 5).bold, false);
+}
+
+TYPED_TEST_P(RichTextBoxText, AnUpdateThatChangesNothingTellsNothing) {
+  RichTextBox& box = *this->many;
+  box.onSelChange = box.onChange = [] { ADD_FAILURE(); };
+  const RichTextUpdate update(box);
+}
+
 REGISTER_TYPED_TEST_SUITE_P(
     RichTextBoxText, ABoxBeginsEmpty, LineBreaksAreOneUnit, LineBreaksBecomeBlanksInASingleLine,
     SeparatorsAndObjectMarksAreHarmless, NoBreakSpacesAndSurrogatesStay,
@@ -291,6 +334,7 @@ REGISTER_TYPED_TEST_SUITE_P(
     AFailureLeavesTheBoxAndTheFile, TheTagAndTheGroundAreKept, KeysPassTheHandlersBeforeTheBox,
     AKeySwallowedOnItsWayDownTypesNothing, TheProgramsChangesOfTheSelectionAreTold,
     AChangedTextIsToldOnceWhoeverChangedIt, AChangedTextIsToldBehindItsSelection,
-    ALongTextIsOneTextInAnyBox, SavedRichTextIsForWordProcessorsToo);
+    ALongTextIsOneTextInAnyBox, SavedRichTextIsForWordProcessorsToo, AnUpdateIsToldOfOnceAtItsEnd,
+    AFormatSetInAnUpdateIsOfWhatIsPutInNext, AnUpdateThatChangesNothingTellsNothing);
 
 }  // namespace verlume

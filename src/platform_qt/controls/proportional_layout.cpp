@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace verlume::qt {
 namespace {
@@ -26,7 +27,7 @@ void ProportionalLayout::Place(QWidget* widget, const QRect& design) {
   for (PlacedItem& place : places_) {
     if (place.item->widget() != widget) continue;
     place.design = design;
-    invalidate();
+    QLayout::invalidate();
     return;
   }
   addChildWidget(widget);
@@ -88,6 +89,24 @@ QSize ProportionalLayout::minimumSize() const {
     }
   }
   return {int(std::ceil(design_.width() * across)), int(std::ceil(design_.height() * down))};
+}
+
+std::vector<ProportionalLayout::Need> ProportionalLayout::Needs() const {
+  std::vector<Need> needs;
+  needs.reserve(2 * places_.size());
+  for (const PlacedItem& place : places_) {
+    const QWidget* widget = place.item->widget();
+    needs.push_back({widget ? widget->minimumSizeHint() : QSize(), !place.item->isEmpty()});
+    if (place.foot) needs.push_back({place.foot->sizeHint(), !place.foot->isEmpty()});
+  }
+  return needs;
+}
+
+void ProportionalLayout::invalidate() {
+  std::vector<Need> needs = Needs();
+  if (needs == needs_) return;
+  needs_ = std::move(needs);
+  QLayout::invalidate();
 }
 
 void ProportionalLayout::setGeometry(const QRect& area) {

@@ -31,8 +31,19 @@ class ProportionalLayout : public QLayout {
   // The design, enlarged where the user's font needs more height than the design gives.
   QSize minimumSize() const override;
   void setGeometry(const QRect& area) override;
+  // A widget says this with every text it is given. Nothing is laid out anew unless a widget needs
+  // another room than before, or has been shown or hidden.
+  void invalidate() override;
 
  private:
+  // What the layout asks of an item: its needs, and whether it is shown.
+  struct Need {
+    QSize least;
+    bool isShown;
+    bool operator==(const Need&) const = default;
+  };
+  std::vector<Need> Needs() const;
+
   struct PlacedItem {
     std::unique_ptr<QLayoutItem> item;
     QRect design;
@@ -41,6 +52,7 @@ class ProportionalLayout : public QLayout {
 
   QSize design_;
   std::vector<PlacedItem> places_;
+  std::vector<Need> needs_;  // when it was laid out last
 };
 
 // The height of a widget in its design's units, or in pixels where no such layout holds it.

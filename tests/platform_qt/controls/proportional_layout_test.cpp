@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QPlainTextEdit>
 #include <QWidget>
+#include <utility>
+
+#include "platform_qt/controls/controls_label.h"
 
 namespace verlume::qt {
 namespace {
@@ -95,6 +99,41 @@ TEST_F(ProportionalLayoutTest, WidgetElsewhereHasItsHeightInPixels) {
   SetDesignHeight(&inside, 41);
   EXPECT_EQ(inside.height(), 41);
   EXPECT_EQ(DesignHeight(&inside), 41);
+}
+
+// How often a widget is told to lay out anew.
+class LayoutRequests : public QObject {
+ public:
+  explicit LayoutRequests(QWidget& widget) { widget.installEventFilter(this); }
+  int Count() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    return std::exchange(count_, 0);
+  }
+
+ private:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::LayoutRequest) ++count_;
+    return false;
+  }
+  int count_ = 0;
+};
+
+TEST_F(ProportionalLayoutTest, OnlyAnotherNeedLaysOutAnew) {
+  auto* label = new ElidedLabel(&area);
+  layout->Place(label, QRect(0, 0, 50, 20));
+  area.show();
+  LayoutRequests requests(area);
+  requests.Count();
+  label->setText("1,234,567");
+  EXPECT_EQ(requests.Count(), 0);
+  QFont large = label->font();
+  large.setPointSize(60);
+  label->setFont(large);
+  EXPECT_GT(requests.Count(), 0);
+  label->hide();
+  EXPECT_GT(requests.Count(), 0);
+  layout->Place(label, QRect(0, 0, 60, 20));
+  EXPECT_GT(requests.Count(), 0);
 }
 
 }  // namespace

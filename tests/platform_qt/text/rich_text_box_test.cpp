@@ -1,5 +1,4 @@
 #include "platform_qt/text/rich_text_box.h"
-#include "richtext/rtf_reader.h"
 
 #include <gtest/gtest.h>
 
@@ -15,6 +14,7 @@
 
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/windows/window_focus.h"
+#include "richtext/rtf_reader.h"
 
 namespace verlume::qt {
 namespace {
@@ -385,6 +385,48 @@ TEST_F(QtRichTextBoxTest, AHundredThousandLinesAreResizedAtOnce) {
   // Laying out every line would take many seconds in this build.
   EXPECT_LT(clock.elapsed(), 3'000);
   EXPECT_EQ(many.widget()->document()->blockCount(), 100'001);
+}
+
+TEST_F(QtRichTextBoxTest, AnUpdateIsOneChangeOfTheDocument) {
+  int changes = 0;
+  QObject::connect(many.widget()->document(), &QTextDocument::contentsChange, [&] { ++changes; });
+  {
+    const RichTextUpdate update(many);
+    many.SetSelText(u"[stamp]");
+    SelectionFormat small;
+    small.fontSize = 8;
+    many.SetSelFormat(small);
+    many.SetSelText(u"<tag>");
+    many.SetSelDocument(richtext::ReadRtf(u"{\\rtf1\\b bold\\b0  and not}"));
+    EXPECT_EQ(changes, 0);
+  }
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(many.Text(), u"[stamp]<tag>bold and not");
+}
+
+TEST_F(QtRichTextBoxTest, AnUpdateBringsItsEndIntoView) {
+  {
+    const RichTextUpdate update(many);
+    for (int line = 0; line < 100; ++line) many.SetSelText(u"line\n");
+    many.Select(many.TextLength(), 0);
+  }
+  EXPECT_TRUE(ShowsCaret(many));
+  EXPECT_GT(many.widget()->verticalScrollBar()->value(), 0);
+}
+
+TEST_F(QtRichTextBoxTest, AnUpdateThatNeedsSeamsKeepsItsPositions) {
+  const std::u16string word(5'000, u'w');
+  {
+    const RichTextUpdate update(many);
+    many.SetSelText(word);
+    many.Select(many.TextLength(), 0);
+    many.SetSelText(word);
+    many.Select(many.TextLength(), 0);
+    many.SetSelText(u"end");
+  }
+  EXPECT_TRUE(many.Text() == word + word + u"end");
+  EXPECT_EQ(many.TextLength(), many.Text().size());
+  EXPECT_EQ(many.SelStart(), many.TextLength());
 }
 
 }  // namespace
