@@ -9,9 +9,8 @@
 namespace verlume::qt {
 namespace {
 
-// A peer that says nothing is probed, and often: on a link that loses much, single probes without
-// an answer mean nothing. Linux counts no probes where there is a limit for the unacknowledged, but
-// applies that limit to the silence as well.
+// An idle peer is probed often: on a link that loses many packets a few lost probes mean nothing.
+// With a TCP_USER_TIMEOUT Linux does not count the probes; it applies that timeout instead.
 constexpr int kIdleSeconds = 6;
 constexpr int kProbeSeconds = 1;
 constexpr int kProbes = 10;
@@ -21,7 +20,7 @@ int DescriptorOf(const QTcpSocket& socket) {
   return static_cast<int>(socket.socketDescriptor());
 }
 
-// A system that knows no such option leaves the connection as it was.
+// Without effect on a system that does not know the option.
 void SetTcpOption(QTcpSocket& socket, int option, int value) {
   ::setsockopt(DescriptorOf(socket), IPPROTO_TCP, option, &value, sizeof value);
 }

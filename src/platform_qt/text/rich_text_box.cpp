@@ -180,9 +180,11 @@ void QtRichTextBox::WriteByAndBy(std::u16string_view rtf) {
     return !cursor.hasSelection() && writing->EndsAt(cursor.position());
   });
   if (same != writings_.end()) return (*same)->Add(rtf);
+  const bool wasTakingIn = IsTakingIn();
   const ProgramChange change(*view_);
   writings_.push_back(std::make_unique<TextWriting>(*view_, cursor, [this] { NoteWritten(); }));
   writings_.back()->Add(rtf);
+  if (!wasTakingIn && onTakingIn) onTakingIn();
 }
 
 bool QtRichTextBox::IsTakingIn() const {
