@@ -45,7 +45,7 @@ class Chat {
  private:
   qt::QtPlatform platform_;
   AppState state_;
-  ErrorReport errors_{state_, platform_.View().dialogs, [] {}, [] {}};
+  ErrorReport errors_{state_, platform_.View(), [] {}, [] {}};
   Settings settings_{state_, platform_.View().files};
   DialogueLog log_{state_, platform_.View(), errors_, settings_};
   Dialogue dialogue_{state_, platform_.View(), errors_, settings_, log_};

@@ -14,7 +14,7 @@ void On(Event& event, Room& room, Method procedure) {
 Program::Program(Platform& platform)
     : platform_(platform),
       errors_(
-          state_, platform.dialogs, [this] { EndChatAfterError(); },
+          state_, platform, [this] { EndChatAfterError(); },
           [this] { platform_.frmMain.window.Unload(); }),
       settings_(state_, platform.files),
       statusPanel_(platform, errors_),
