@@ -43,7 +43,7 @@ class Chat {
   qt::QtPlatform platform_;
   QWidget* const window_;
   AppState state_;
-  ErrorReport errors_{state_, platform_.View().dialogs, [] {}, [] {}};
+  ErrorReport errors_{state_, platform_.View(), [] {}, [] {}};
   Settings settings_{state_, platform_.View().files};
   StatusPanel statusPanel_{platform_.View(), errors_};
   DialogueLog log_{state_, platform_.View(), errors_, settings_};

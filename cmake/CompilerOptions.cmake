@@ -24,7 +24,7 @@ include(CheckPIESupported)
 check_pie_supported()
 add_compile_options(-fstack-protector-strong -fstack-clash-protection)
 add_link_options(-Wl,-z,relro,-z,now)
-if(NOT VERLUME_SANITIZE AND NOT VERLUME_FUZZ)  # those look closer
+if(NOT VERLUME_SANITIZE AND NOT VERLUME_THREAD_SANITIZE AND NOT VERLUME_FUZZ)  # those look closer
   add_compile_options($<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE>
                       $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
 endif()
@@ -34,6 +34,12 @@ if(VERLUME_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+endif()
+
+# Not together with the above: the runtime libraries exclude each other.
+if(VERLUME_THREAD_SANITIZE)
+  add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=thread)
 endif()
 
 if(VERLUME_FUZZ)

@@ -1,6 +1,7 @@
 // What a peer's socket delivers. The first byte says how: bit 0 whether the program called or was
 // called, bit 1 whether the handshake has been made, bit 2 whether the pieces come slowly, the
 // others how long each piece is (0: all in one). The other bytes are the stream.
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -14,16 +15,18 @@
 namespace verlume::fuzz {
 namespace {
 
+constexpr std::chrono::milliseconds kQuick{1};
+
 struct Delivery {
   explicit Delivery(std::uint8_t how)
       : role(how & 1 ? Role::Caller : Role::Callee),
         shakesHands((how & 2) == 0),
-        pause(how & 4 ? stream::ArrivalAssembler::kPatience : 1),
+        pause(how & 4 ? stream::ArrivalAssembler::kTimeout : kQuick),
         length(how >> 3) {}
 
   Role role;
   bool shakesHands;
-  std::int64_t pause;
+  std::chrono::milliseconds pause;
   std::size_t length;
 };
 
@@ -36,7 +39,7 @@ std::string Deliver(std::string_view stream, const Delivery& how, FuzzedCopy& co
     delivered += *bytes;
     copy.PeerSends(*bytes);
   };
-  std::int64_t now = 0;
+  stream::TimePoint now;
   while (!stream.empty()) {
     const std::string_view piece = stream.substr(0, how.length == 0 ? stream.npos : how.length);
     stream.remove_prefix(piece.size());
@@ -44,9 +47,9 @@ std::string Deliver(std::string_view stream, const Delivery& how, FuzzedCopy& co
     arrive(assembler.Take(now));
     now += how.pause;
     arrive(assembler.Take(now));
-    Check(how.pause == 1 || !assembler.Deadline(), "what is overdue does not wait");
+    Check(how.pause == kQuick || !assembler.Deadline(), "what has timed out is not held back");
   }
-  arrive(assembler.TakeAll());
+  arrive(assembler.Flush());
   Check(!assembler.Deadline(), "at the end nothing waits");
   return delivered;
 }

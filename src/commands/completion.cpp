@@ -115,7 +115,7 @@ void CommandCompletion::mnuToolsCompletions_Click() {
   platform_.frmMain.rtbCommands.SetFocus();
 }
 
-// A folder that cannot be read has none: the list is no place to tell of it.
+// None in a folder that cannot be read: whoever only types gets no error report.
 std::vector<std::u16string> CommandCompletion::MacrosThatRun() const {
   if (state_.MacrosFolder.empty()) return {};
   try {
@@ -128,7 +128,11 @@ std::vector<std::u16string> CommandCompletion::MacrosThatRun() const {
     });
     names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
-  } catch (const RunTimeFailure&) {
+  } catch (const RunTimeFailure& failure) {
+    // That the folder is missing is no error.
+    if (failure.number != FailureNumber::PathNotFound) {
+      errors_.LogException(Procedure::CommandCompletion);
+    }
     return {};
   }
 }

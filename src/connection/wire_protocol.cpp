@@ -9,9 +9,13 @@
 #include "shell/language_texts.h"
 #include "shell/maker_texts.h"
 #include "shell/nickname.h"
+#include "stream/protocol_marker.h"
 
 namespace verlume {
 namespace {
+
+using stream::kMarkerLength;
+using stream::kMarkerTextLength;
 
 constexpr char16_t kStart = u'S';
 constexpr char16_t kConfirm = u'C';
@@ -20,8 +24,6 @@ constexpr char16_t kActionLine = u'M';
 
 constexpr std::u16string_view kMarkerParts[] = {kMainWindowTitle.greek, kMainWindowTitle.english,
                                                 kMakersCredit.greek, kMakersCredit.english};
-constexpr std::size_t kMarkerTextLength = 67;
-constexpr std::size_t kMarkerLength = kMarkerTextLength + 2;
 
 constexpr std::size_t LengthOfMarkerParts() {
   std::size_t length = 0;

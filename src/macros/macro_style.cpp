@@ -100,7 +100,8 @@ void MacroStyle::SetFlag(bool& flag, const CheckBox& box) {
   try {
     ApplyMacroStyle();
   } catch (...) {
-    // The box shows what was wished, and the next key tries again.
+    // No report: the check box shows the user's choice, and the next key tries again.
+    errors_.LogException(Procedure::frmMacros_Load);
   }
 }
 

@@ -113,6 +113,12 @@ class RichTextBox : public Control {
   // How much of a long file is in the box by now, from 1 to 100: each value at most once, and 100
   // last, also when the rest is abandoned. A short file raises none.
   std::function<void(int percent)> onLoadProgress;
+  // A long document that SetSelDocument was given comes into a locked box piece by piece, while
+  // events are handled. onTakingIn: such a document has begun to come in; raised inside
+  // SetSelDocument. onTakenIn: all that was written so is in, or has been abandoned. A box that
+  // never does this raises neither.
+  std::function<void()> onTakingIn;
+  std::function<void()> onTakenIn;
   // The keyboard went elsewhere, to another window or to a menu as well.
   std::function<void()> onLostFocus;
 };

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace verlume {
@@ -54,7 +53,7 @@ constexpr std::u16string_view DescriptionOf(FailureNumber number) {
 
 struct RunTimeFailure {
   FailureNumber number;
-  std::u16string description;
+  std::u16string_view description;  // always that of the number: no text of a user gets into it
 
   explicit RunTimeFailure(FailureNumber failure)
       : number(failure), description(DescriptionOf(failure)) {}

@@ -15,10 +15,10 @@ namespace verlume {
 // The classic numbers; text is sent only in Connected.
 enum class SocketState { Closed = 0, Listening = 2, Connecting = 6, Connected = 7 };
 
-// Of what is sent: a line that people read, or a word between the programs.
+// What a text is for: a line is shown to people, a signal is read by the peer's program.
 enum class TextKind { Line, Signal };
 
-// What fits into the 16 bits with a sign in which callers keep a port.
+// The greatest port that callers can name: they keep it in 16 bits with a sign.
 inline constexpr std::int32_t kGreatestNameablePort = 32767;
 
 class Socket {
@@ -34,53 +34,58 @@ class Socket {
   // The name or address to call, and its port.
   virtual void SetRemoteHost(std::u16string_view host) = 0;
   virtual void SetRemotePort(std::int32_t port) = 0;
-  // The peer's, or the asking caller's; "" and the last port set where there is none. An IPv4 peer
-  // is shown as plain IPv4 however it came.
+  // The address and port of the peer, or of the caller that is asked about; without one, "" and the
+  // last port set. An IPv4 peer is shown as plain IPv4 even if it came over IPv6.
   virtual std::u16string RemoteHostIP() const = 0;
   virtual std::int32_t RemotePort() const = 0;
   // The machine's own address (not a loopback one where there is another) and host name.
   virtual std::u16string LocalIP() const = 0;
   virtual std::u16string LocalHostName() const = 0;
 
-  // Listens on the local port, IPv4 and IPv6. Throws RunTimeFailure 10048 when the port is taken,
-  // 70 when it is not allowed. Raises onConnectionRequest for one caller; further callers wait
-  // unanswered until the socket is closed.
+  // Listens on the local port, IPv4 and IPv6. Throws RunTimeFailure 10048 when the port is in use,
+  // 70 when it is not allowed. Raises onConnectionRequest for one caller; further callers wait in
+  // the backlog until the socket is closed.
   virtual void Listen() = 0;
   // Calls the remote host. Raises onConnect, or onClose within 15 s when no connection can be made.
   virtual void Connect() = 0;
-  // Takes the call `requestId` after Close has ended the listening. A caller that has left
-  // meanwhile, or an id that is not known, raises onClose.
+  // Accepts the call `requestId`, right after Close has ended the listening. Raises onClose if the
+  // caller has left meanwhile, or the id is unknown.
   virtual void Accept(std::int64_t requestId) = 0;
-  // Ends whatever there is; no event but onUndelivered follows. Texts that wait are still sent, for
-  // 2 s at most.
+  // Ends the connection, the call or the listening; of its events only onUndelivered can follow.
+  // Queued texts are still sent, for 2 s at most.
   virtual void Close() = 0;
 
-  // One text as one send, in the order of the calls; returns at once. A text waits until the peer's
-  // machine has acknowledged all before it, so that none arrives joined with another. Ignored
-  // unless Connected.
+  // Queues a text and returns at once. Texts are sent in the order of the calls, each when the
+  // peer's machine has acknowledged those before it, so that none arrives joined with another.
+  // Ignored unless Connected.
   virtual void SendData(std::u16string_view text, TextKind kind) = 0;
-  // How many of the lines sent over the connection the peer's machine has not acknowledged; 0
-  // unless Connected.
+  // How many lines of this connection the peer's machine has not acknowledged; 0 unless Connected.
   virtual std::size_t LinesWaiting() const = 0;
-  // Sends what waits of connections that were closed, at once: comes back when it is acknowledged,
-  // or after 2 s. onUndelivered is raised meanwhile.
+  // Waits until connections that were closed have sent what is queued: until it is acknowledged, or
+  // for 2 s. Raises onUndelivered itself.
   virtual void FinishSending() = 0;
-  // All that the arrival being raised holds; "" when nothing waits.
+  // The text of the arrival that onDataArrival has told of; "" once it has been read.
   virtual std::u16string GetData() = 0;
+
+  // Back-pressure, for a program that is busy with earlier arrivals. While paused neither
+  // onDataArrival is raised nor the onClose that comes after the arrivals: they wait in order, and
+  // when several mebibytes wait, TCP's flow control slows the peer down. It holds for every
+  // connection until ResumeArrivals. Pausing or resuming twice does no harm.
+  virtual void PauseArrivals() = 0;
+  virtual void ResumeArrivals() = 0;
 
   std::function<void(std::int64_t requestId)> onConnectionRequest;
   std::function<void()> onConnect;
-  // One arrival. A rich text whose pieces are still on their way is held back until it is whole
-  // (20 s after its last byte or 4 MiB at most); everything else is delivered at once. No arrival
-  // comes before the dialogue pane has taken in the one before it.
+  // One arrival. A rich text that is still incomplete is held back until it is complete, but at
+  // most 20 s after its last byte, or 4 MiB of it; everything else is raised at once.
   std::function<void(std::int32_t bytesTotal)> onDataArrival;
   // The peer's machine has acknowledged lines: LinesWaiting is less than it was.
   std::function<void()> onAcknowledged;
-  // A connection has ended, and the peer's machine never acknowledged the last `lines` lines sent
+  // A connection has ended, and the peer's machine has not acknowledged the last `lines` lines sent
   // over it. Raised right before onClose, or up to 3 s after Close.
   std::function<void(std::size_t lines)> onUndelivered;
-  // The peer closed, the connection broke, or the call could not be made. What had arrived before
-  // has been delivered.
+  // The peer closed the connection, it broke, or the call could not be made. Everything that had
+  // arrived has been raised before.
   std::function<void()> onClose;
 };
 

@@ -53,6 +53,9 @@ class Application {
   // Ends the program: every window closes, and no further event reaches a handler.
   virtual void End() = 0;
   virtual bool HasEnded() const = 0;
+  // Writes one line to standard error, for whoever looks for the cause of a failure. UTF-8, without
+  // the line end. Never holds a text of the conversation.
+  virtual void LogError(std::string_view line) = 0;
 };
 
 class HelpViewer {

@@ -30,9 +30,6 @@ QtPlatform::QtPlatform()
           .tools = tools_,
       } {
   QApplication::setStyle(new ReadableStyle);
-  QtRichTextBox& pane = window_.DialoguePane();
-  socket_.mustWait = [&pane] { return pane.IsTakingIn(); };
-  pane.onTakenIn = [this] { socket_.GoOn(); };
 }
 
 }  // namespace verlume::qt

@@ -1,5 +1,7 @@
 #include "shell/error_report.h"
 
+#include <exception>
+#include <string>
 #include <utility>
 
 #include "platform/run_time_failure.h"
@@ -23,12 +25,27 @@ constexpr TextPair kErrorText = {
     u"Θέλετε να διακοπεί η λειτουργία της εφαρμογής και "
     u"να επιστρέψετε στο περιβάλλον των Windows;"};
 
+// What the exception that is being handled tells of itself.
+std::string HandledException() {
+  try {
+    throw;
+  } catch (const RunTimeFailure& failure) {
+    // The descriptions are ASCII.
+    return "error " + std::to_string(static_cast<std::int32_t>(failure.number)) + ", " +
+           std::string(failure.description.begin(), failure.description.end());
+  } catch (const std::exception& exception) {
+    return std::string("exception, ") + exception.what();
+  } catch (...) {
+    return "exception of an unknown type";
+  }
+}
+
 }  // namespace
 
-ErrorReport::ErrorReport(const AppState& state, Dialogs& dialogs,
+ErrorReport::ErrorReport(const AppState& state, Platform& platform,
                          std::function<void()> resetConnection, std::function<void()> unload)
     : state_(state),
-      dialogs_(dialogs),
+      platform_(platform),
       resetConnection_(std::move(resetConnection)),
       unload_(std::move(unload)) {}
 
@@ -37,14 +54,20 @@ bool ErrorReport::Guard(Procedure procedure, const std::function<void()>& body) 
     body();
     return true;
   } catch (const RunTimeFailure& failure) {
-    if (failure.number != FailureNumber::Cancelled) {
-      Report(static_cast<std::int32_t>(failure.number), failure.description, procedure);
-    }
+    if (failure.number == FailureNumber::Cancelled) return false;
+    LogException(procedure);
+    Report(static_cast<std::int32_t>(failure.number), failure.description, procedure);
   } catch (...) {
+    LogException(procedure);
     const RunTimeFailure internal(FailureNumber::InternalError);
     Report(static_cast<std::int32_t>(internal.number), internal.description, procedure);
   }
   return false;
+}
+
+void ErrorReport::LogException(Procedure procedure) {
+  const std::string number = std::to_string(static_cast<int>(procedure));
+  platform_.application.LogError("procedure " + number + " failed: " + HandledException());
 }
 
 void ErrorReport::Report(std::int32_t errorNumber, std::u16string_view description,
@@ -56,7 +79,7 @@ void ErrorReport::Report(std::int32_t errorNumber, std::u16string_view descripti
   resetConnection_();
   Message box = Question(text, title, Answer::No);
   box.unexpected = true;
-  if (dialogs_.ShowMessage(box) == Answer::Yes) unload_();
+  if (platform_.dialogs.ShowMessage(box) == Answer::Yes) unload_();
 }
 
 }  // namespace verlume

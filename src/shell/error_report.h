@@ -5,7 +5,7 @@
 #include <functional>
 #include <string_view>
 
-#include "platform/dialogs.h"
+#include "platform/platform.h"
 #include "shell/app_state.h"
 #include "shell/procedure_number.h"
 
@@ -15,13 +15,17 @@ class ErrorReport {
  public:
   // `resetConnection` closes the connection; `unload` unloads the main window, which ends the
   // program.
-  ErrorReport(const AppState& state, Dialogs& dialogs, std::function<void()> resetConnection,
+  ErrorReport(const AppState& state, Platform& platform, std::function<void()> resetConnection,
               std::function<void()> unload);
 
-  // Runs the body of a procedure. Whatever exception leaves it ends the procedure here: a
-  // RunTimeFailure is reported with its own number, any other exception as an internal error. A
-  // cancelled dialog is a silent end. True when the body ran to its end.
+  // Runs the body of a procedure. Whatever exception leaves it ends the procedure here, is written
+  // to standard error and reported: a RunTimeFailure with its own number, any other exception as an
+  // internal error. A cancelled dialog is a silent end. True when the body ran to its end.
   bool Guard(Procedure procedure, const std::function<void()>& body);
+
+  // For a catch that needs no report: writes the exception that is being handled, and the number of
+  // the procedure, to standard error.
+  void LogException(Procedure procedure);
 
   // Closes the connection, tells the user and asks whether to end the program; No is the default.
   // Returns after No with the connection Idle.
@@ -29,7 +33,7 @@ class ErrorReport {
 
  private:
   const AppState& state_;
-  Dialogs& dialogs_;
+  Platform& platform_;
   std::function<void()> resetConnection_;
   std::function<void()> unload_;
 };

@@ -3,35 +3,35 @@
 #include <utility>
 
 #include "richtext/rtf_cut.h"
+#include "stream/protocol_marker.h"
 
 namespace verlume::stream {
 namespace {
 
 constexpr std::string_view kOpening = "{\\rtf";
-// NUL, 67 characters, NUL.
-constexpr std::size_t kMarkerLength = 69;
 
 bool IsLineEnd(char byte) {
   return byte == '\r' || byte == '\n' || byte == '\0';
 }
 
-// Whether the first byte, which comes after a whole document, still ends that document's line. A
-// NUL may also open the next message's marker; what follows it tells.
-bool EndsTheLine(std::string_view bytes) {
+// Whether the first byte, which follows a complete document, belongs to that document's line end. A
+// NUL may also open the marker of the next message; the byte behind it decides.
+bool IsPartOfLineEnd(std::string_view bytes) {
   if (bytes[0] == '\0' && bytes.size() > 1) return IsLineEnd(bytes[1]) || bytes[1] == '{';
   return IsLineEnd(bytes[0]);
 }
 
 }  // namespace
 
-void ArrivalAssembler::Add(std::string_view bytes, std::int64_t now) {
+void ArrivalAssembler::Add(std::string_view bytes, TimePoint now) {
   if (bytes.empty()) return;
-  if (waiting_.empty() && at_ == At::AfterDocument) {
-    // The document itself is delivered; the end of its line comes late and is not shown again.
-    if (now - lastByte_ >= patience_) at_ = At::Start;
-    while (at_ == At::AfterDocument && !bytes.empty() && EndsTheLine(bytes)) bytes.remove_prefix(1);
+  if (buffer_.empty() && at_ == At::AfterDocument) {
+    // The document is already delivered. Its line end comes late and must not become an arrival.
+    if (now - lastByte_ >= timeout_) at_ = At::Start;
+    while (at_ == At::AfterDocument && !bytes.empty() && IsPartOfLineEnd(bytes))
+      bytes.remove_prefix(1);
   }
-  waiting_.append(bytes);
+  buffer_.append(bytes);
   lastByte_ = now;
   Scan(bytes);
 }
@@ -42,39 +42,39 @@ void ArrivalAssembler::Scan(std::string_view bytes) {
     if (bytes.empty()) break;
     switch (at_) {
       case At::Start:
-        Begin(bytes[0]);
+        ScanFirst(bytes[0]);
         break;
       case At::Marker:
-        FeedMarker(bytes[0]);
+        ScanMarker(bytes[0]);
         break;
       case At::Kind:
         at_ = At::Opening;
         matched_ = 0;
         break;
       case At::Opening:
-        FeedOpening(bytes[0]);
+        ScanOpening(bytes[0]);
         break;
       case At::Document:
         if (document_.Feed(bytes[0])) at_ = At::AfterDocument;
         break;
       case At::AfterDocument:
-        // A second document in the same read is not torn either.
-        if (!EndsTheLine(bytes)) Begin(bytes[0]);
+        // A second document in the same read is held together as well.
+        if (!IsPartOfLineEnd(bytes)) ScanFirst(bytes[0]);
         break;
       case At::OtherText:
         break;
     }
-    if (at_ == At::AfterDocument) whole_ = waiting_.size() - bytes.size() + 1;
+    if (at_ == At::AfterDocument) complete_ = buffer_.size() - bytes.size() + 1;
   }
-  if (at_ == At::OtherText) whole_ = waiting_.size();
+  if (at_ == At::OtherText) complete_ = buffer_.size();
 }
 
-void ArrivalAssembler::Begin(char byte) {
+void ArrivalAssembler::ScanFirst(char byte) {
   matched_ = 1;
   at_ = byte == '\0' ? At::Marker : byte == kOpening[0] ? At::Opening : At::OtherText;
 }
 
-void ArrivalAssembler::FeedMarker(char byte) {
+void ArrivalAssembler::ScanMarker(char byte) {
   ++matched_;
   const bool isLast = matched_ == kMarkerLength;
   if ((byte == '\0') != isLast) {
@@ -84,7 +84,7 @@ void ArrivalAssembler::FeedMarker(char byte) {
   }
 }
 
-void ArrivalAssembler::FeedOpening(char byte) {
+void ArrivalAssembler::ScanOpening(char byte) {
   if (byte != kOpening[matched_]) {
     at_ = At::OtherText;
   } else if (++matched_ == kOpening.size()) {
@@ -93,44 +93,45 @@ void ArrivalAssembler::FeedOpening(char byte) {
   }
 }
 
-std::optional<std::string> ArrivalAssembler::Take(std::int64_t now) {
-  if (waiting_.empty()) return std::nullopt;
-  if (whole_ > 0) return TakeWhole();
-  if (waiting_.size() >= kLargest) return TakePiece();
+std::optional<std::string> ArrivalAssembler::Take(TimePoint now) {
+  if (buffer_.empty()) return std::nullopt;
+  if (complete_ > 0) return TakeComplete();
+  if (buffer_.size() >= kLongestHeldBack) return TakePart();
   if (now < *Deadline()) return std::nullopt;
-  return TakeAll();
+  return Flush();
 }
 
-std::string ArrivalAssembler::TakeWhole() {
+std::string ArrivalAssembler::TakeComplete() {
   if (at_ == At::OtherText) at_ = At::Start;
-  std::string whole = std::exchange(waiting_, waiting_.substr(whole_));
-  whole.resize(std::exchange(whole_, 0));
-  return whole;
+  std::string complete = std::exchange(buffer_, buffer_.substr(complete_));
+  complete.resize(std::exchange(complete_, 0));
+  return complete;
 }
 
-// Only a document waits for so long. Half of it is cut off: to cut and to show it takes no longer
-// than to show the longest whole one, and the end of what has come, which may cut a word, is far.
-std::string ArrivalAssembler::TakePiece() {
-  const std::size_t begin = waiting_[0] == '\0' ? kMarkerLength + 1 : 0;
-  const std::string_view document = std::string_view(waiting_).substr(begin);
+// Only a document gets so long. Its first half is taken: cutting and showing that takes no longer
+// than showing the longest complete one, and the cut stays away from the end of the buffer, where a
+// word may be incomplete.
+std::string ArrivalAssembler::TakePart() {
+  const std::size_t begin = buffer_[0] == '\0' ? kMarkerLength + 1 : 0;
+  const std::string_view document = std::string_view(buffer_).substr(begin);
   richtext::CutDocument cut = richtext::CutRtf(document, document.size() / 2);
-  std::string piece = waiting_.substr(0, begin) + cut.before;
-  waiting_ = std::move(cut.behind);
+  std::string part = buffer_.substr(0, begin) + cut.before;
+  buffer_ = std::move(cut.behind);
   at_ = At::Start;
-  Scan(waiting_);
-  return piece;
+  Scan(buffer_);
+  return part;
 }
 
-std::optional<std::string> ArrivalAssembler::TakeAll() {
-  if (waiting_.empty()) return std::nullopt;
+std::optional<std::string> ArrivalAssembler::Flush() {
+  if (buffer_.empty()) return std::nullopt;
   if (at_ != At::AfterDocument) at_ = At::Start;
-  whole_ = 0;
-  return std::exchange(waiting_, {});
+  complete_ = 0;
+  return std::exchange(buffer_, {});
 }
 
-std::optional<std::int64_t> ArrivalAssembler::Deadline() const {
-  if (waiting_.empty()) return std::nullopt;
-  return lastByte_ + patience_;
+std::optional<TimePoint> ArrivalAssembler::Deadline() const {
+  if (buffer_.empty()) return std::nullopt;
+  return lastByte_ + timeout_;
 }
 
 }  // namespace verlume::stream

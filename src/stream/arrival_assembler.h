@@ -1,64 +1,66 @@
-// Makes arrivals out of the bytes that a connection brings. Standard C++ only; time is passed in,
-// as milliseconds of any clock that never goes back.
+// Assembles arrivals from the bytes that a connection brings. Standard C++ only; the caller passes
+// the time in.
 //
-// TCP cuts a text where it likes. An RTF document (with or without the protocol marker and its kind
+// TCP splits a text anywhere. An RTF document (with or without the protocol marker and its kind
 // character before it) is held back until its braces are balanced; everything else is ready at
-// once. What has come whole does not wait for what comes behind it. A document that is too long to
-// wait for comes out in pieces, each of them a document.
+// once. What is complete does not wait for what follows it. A document that is too long to be held
+// back comes out in parts, each of them a document.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "richtext/document_scan.h"
+#include "stream/time_point.h"
 
 namespace verlume::stream {
 
 class ArrivalAssembler {
  public:
-  // How long a document may wait for its next byte: a link may stall in the middle of it, and its
+  // How long an incomplete document waits for its next byte. A link may stall for a while, and the
   // sender's machine gives up sooner than this.
-  static constexpr std::int64_t kPatience = 20'000;
-  // How many bytes of a document may wait.
-  static constexpr std::size_t kLargest = 4 << 20;
+  static constexpr std::chrono::milliseconds kTimeout = std::chrono::seconds(20);
+  // How many bytes of an incomplete document are held back.
+  static constexpr std::size_t kLongestHeldBack = 4 << 20;
 
-  explicit ArrivalAssembler(std::int64_t patience = kPatience) : patience_(patience) {}
+  explicit ArrivalAssembler(std::chrono::milliseconds timeout = kTimeout) : timeout_(timeout) {}
 
-  // Adds what one read brought. Each byte is looked at once.
-  void Add(std::string_view bytes, std::int64_t now);
+  // Adds what one read returned. Scans each byte once.
+  void Add(std::string_view bytes, TimePoint now);
 
-  // What waits and is whole; of what is too large, a piece; all that waits, when it is overdue;
-  // nothing otherwise. What stands before a document stands before its first piece alone.
-  std::optional<std::string> Take(std::int64_t now);
+  // What is complete; otherwise a part of a document that is too long, or an incomplete one whose
+  // timeout has passed; otherwise nothing. The marker comes with the first part only.
+  std::optional<std::string> Take(TimePoint now);
 
-  // All that waits, whole or not: nothing more will come.
-  std::optional<std::string> TakeAll();
+  // Everything that is left, complete or not. For the end of the connection.
+  std::optional<std::string> Flush();
 
-  // Bytes may have come meanwhile that could not be read yet: the next byte is waited for anew.
-  void StartWaitingAnew(std::int64_t now) { lastByte_ = now; }
+  // Restarts the timeout. For a pause in reading: the next byte may have come, but was not read.
+  void RestartTimeout(TimePoint now) { lastByte_ = now; }
 
-  // When Take gives what waits at the latest; nothing when nothing waits.
-  std::optional<std::int64_t> Deadline() const;
+  // When the timeout of what is held back passes; nothing when nothing is held back.
+  std::optional<TimePoint> Deadline() const;
 
  private:
   enum class At { Start, Marker, Kind, Opening, Document, AfterDocument, OtherText };
 
-  std::string TakeWhole();
-  std::string TakePiece();
+  std::string TakeComplete();
+  std::string TakePart();
   void Scan(std::string_view bytes);
-  void Begin(char byte);
-  void FeedMarker(char byte);
-  void FeedOpening(char byte);
+  void ScanFirst(char byte);
+  void ScanMarker(char byte);
+  void ScanOpening(char byte);
 
-  std::int64_t patience_;
-  std::string waiting_;
-  std::size_t whole_ = 0;  // how much of it ends with a document, and with its line
+  std::chrono::milliseconds timeout_;
+  std::string buffer_;
+  std::size_t complete_ = 0;  // length of what can be taken, up to the end of a document's line
   At at_ = At::Start;
   std::size_t matched_ = 0;  // bytes of the marker or of the opening seen so far
   richtext::DocumentScan document_;
-  std::int64_t lastByte_ = 0;
+  TimePoint lastByte_;
 };
 
 }  // namespace verlume::stream

@@ -16,18 +16,19 @@ void ArrivalQueue::End() {
   isEnded_ = true;
 }
 
-std::optional<std::u16string> ArrivalQueue::Take() {
+std::optional<ArrivalQueue::Taken> ArrivalQueue::Take() {
   const std::lock_guard lock(mutex_);
   if (arrivals_.empty()) return std::nullopt;
+  const bool wasFull = size_ >= limit_;
   std::u16string arrival = std::move(arrivals_.front());
   arrivals_.pop_front();
   size_ -= arrival.size();
-  return arrival;
+  return Taken{std::move(arrival), wasFull && size_ < limit_};
 }
 
 bool ArrivalQueue::IsFull() const {
   const std::lock_guard lock(mutex_);
-  return size_ >= kLimit;
+  return size_ >= limit_;
 }
 
 bool ArrivalQueue::IsEmpty() const {

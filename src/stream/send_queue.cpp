@@ -9,19 +9,19 @@ void SendQueue::Add(OutgoingText text) {
   texts_.push_back(std::move(text));
 }
 
-void SendQueue::Acknowledge(std::int64_t now) {
-  if (!onItsWay_) return;
-  if (onItsWay_ == TextKind::Line) --linesWaiting_;
-  onItsWay_.reset();
+void SendQueue::Acknowledge(TimePoint now) {
+  if (!inFlight_) return;
+  if (inFlight_ == TextKind::Line) --linesWaiting_;
+  inFlight_.reset();
   acknowledged_ = now;
 }
 
-std::optional<std::string> SendQueue::Take(std::int64_t now) {
+std::optional<std::string> SendQueue::Take(TimePoint now) {
   const bool isRead = !acknowledged_ || now - *acknowledged_ >= kReadingTime;
-  if (onItsWay_ || !isRead || texts_.empty()) return std::nullopt;
+  if (inFlight_ || !isRead || texts_.empty()) return std::nullopt;
   OutgoingText text = std::move(texts_.front());
   texts_.pop_front();
-  onItsWay_ = text.kind;
+  inFlight_ = text.kind;
   return std::move(text.bytes);
 }
 

@@ -1,18 +1,18 @@
-// Keeps the texts that are sent apart. Standard C++ only; time is passed in, as milliseconds of any
-// clock that never goes back.
+// Keeps texts apart on their way to the peer. Standard C++ only; the caller passes the time in.
 //
-// TCP carries bytes, not texts: what is sent while earlier bytes are still on their way may arrive
-// joined with them. So a text leaves only when the peer's machine has acknowledged every byte
-// before it, and the program there has had the time to read them.
+// TCP carries bytes, not texts: a text that is sent while earlier bytes are in flight may arrive
+// joined with them. So a text is sent only after the peer's machine has acknowledged every byte
+// before it, and the program there has had time to read them.
 #pragma once
 
-#include <cstdint>
+#include <chrono>
 #include <deque>
 #include <optional>
 #include <string>
 #include <utility>
 
 #include "platform/socket.h"
+#include "stream/time_point.h"
 
 namespace verlume::stream {
 
@@ -25,29 +25,29 @@ struct OutgoingText {
 
 class SendQueue {
  public:
-  // How long the peer's program gets to read what its machine has acknowledged.
-  static constexpr std::int64_t kReadingTime = 20;
+  // The time between an acknowledgement and the next text, in which the peer's program reads.
+  static constexpr std::chrono::milliseconds kReadingTime{20};
 
-  // A signal that repeats the one before it, while that waits, is left out: a peer that asks and
-  // asks, and takes no answer, costs nothing.
+  // Appends a text. A signal that equals the one before it in the queue is dropped: a peer that
+  // keeps asking, and never reads the answer, must not fill the memory.
   void Add(OutgoingText text);
 
-  // The peer's machine has acknowledged every byte of what was taken.
-  void Acknowledge(std::int64_t now);
+  // The peer's machine has acknowledged every byte that was taken.
+  void Acknowledge(TimePoint now);
 
-  // The text to be sent now, if there is one.
-  std::optional<std::string> Take(std::int64_t now);
+  // The text to send now; nothing while one is in flight, or the peer's program reads.
+  std::optional<std::string> Take(TimePoint now);
 
-  // Everything is acknowledged: neither need be called.
-  bool IsDone() const { return texts_.empty() && !onItsWay_; }
-  // How many lines are not: on their way, or behind what is.
+  // Every text is acknowledged.
+  bool IsDone() const { return texts_.empty() && !inFlight_; }
+  // How many lines are not acknowledged, in flight or queued.
   std::size_t LinesWaiting() const { return linesWaiting_; }
 
  private:
   std::deque<OutgoingText> texts_;
-  std::optional<TextKind> onItsWay_;
+  std::optional<TextKind> inFlight_;
   std::size_t linesWaiting_ = 0;
-  std::optional<std::int64_t> acknowledged_;  // when the last text was
+  std::optional<TimePoint> acknowledged_;  // when the last text was
 };
 
 }  // namespace verlume::stream

@@ -159,6 +159,15 @@ TEST_F(Completions, OfAFolderThatIsGoneAreTheCommands) {
   pane.Type(u"/wa");
   EXPECT_THAT(Rows(), ElementsAre(u"/WAIT"));
   EXPECT_TRUE(fake.dialogs.messages.empty());
+  EXPECT_TRUE(fake.application.loggedErrors.empty());
+}
+
+TEST_F(Completions, OfAFolderThatCannotBeReadAreTheCommands) {
+  fake.files.listingFails = FailureNumber::PermissionDenied;
+  pane.Type(u"/wa");
+  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT"));
+  EXPECT_TRUE(fake.dialogs.messages.empty());
+  EXPECT_FALSE(fake.application.loggedErrors.empty());
 }
 
 TEST_F(Completions, WithNoFolderChosenHoldNothingOfTheRoot) {

@@ -28,7 +28,7 @@ class FindTest : public testing::Test {
   fake::FakeMainWindow& window = fake.window;
   fake::FakeRichTextBox& pane = window.rtbData;
   AppState state;
-  ErrorReport errors{state, fake.dialogs, [] {}, [] {}};
+  ErrorReport errors{state, fake.platform, [] {}, [] {}};
   FindInDialogue find{state, fake.platform, errors};
 };
 

@@ -35,7 +35,7 @@ class History : public testing::Test {
   fake::FakeRichTextBox& pane = fake.window.rtbCommands;
   AppState state;
   int connectionsReset = 0;
-  ErrorReport errors{state, fake.dialogs, [this] { ++connectionsReset; }, [] {}};
+  ErrorReport errors{state, fake.platform, [this] { ++connectionsReset; }, [] {}};
   CommandHistory history{state, fake.platform, errors};
 };
 

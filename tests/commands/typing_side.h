@@ -42,7 +42,7 @@ class TypingSide : public testing::Test {
   FakeMainWindow& window = fake.window;
   FakeSocket peer{network};
   AppState state;
-  ErrorReport errors{state, fake.dialogs, [this] { ResetConnection(state, fake.platform); },
+  ErrorReport errors{state, fake.platform, [this] { ResetConnection(state, fake.platform); },
                      [this] { window.window.Unload(); }};
   Settings settings{state, fake.files};
   DialogueLog log{state, fake.platform, errors, settings};

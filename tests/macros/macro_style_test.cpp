@@ -7,6 +7,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 constexpr Color kRed = 0x0000FF;
 constexpr Color kBlue = 0xFF0000;
@@ -96,6 +97,7 @@ TEST_F(MacroStyleTest, FailureInABoxIsIgnored) {
     EXPECT_TRUE(state.MacroBold && state.MacroItalic && state.MacroUnderline);
   });
   EXPECT_THAT(Titles(), IsEmpty());
+  EXPECT_THAT(fake.application.loggedErrors, SizeIs(3)) << "one for each box";
 }
 
 TEST_F(MacroStyleTest, BoxesLeaveAMacroThatIsOnlyShown) {

@@ -44,7 +44,7 @@ class RoomTest : public testing::Test {
   AppState state;
   int timesReset = 0;
   int timesUnloaded = 0;
-  ErrorReport errors{state, fake.dialogs, [this] { ++timesReset; }, [this] { ++timesUnloaded; }};
+  ErrorReport errors{state, fake.platform, [this] { ++timesReset; }, [this] { ++timesUnloaded; }};
   Settings settings{state, fake.files};
 };
 

@@ -1,5 +1,5 @@
-// A whole program, its windows in memory, whose socket is that of a World (see socket_contract.h),
-// and two others for whoever calls it.
+// A whole program with windows in memory and a socket of a World (see socket_contract.h), and two
+// more sockets that call it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -50,13 +50,13 @@ class CallersFixture : public testing::Test {
     user.socket.SetRemotePort(port);
     user.socket.Connect();
   }
-  // What the user does in the next box, before it is answered.
+  // Runs `body` once while the next message box is open.
   void WhileOpen(std::function<void()> body) {
     fake.dialogs.whileOpen = [body, done = false]() mutable {
       if (!std::exchange(done, true)) body();
     };
   }
-  // The peer calls, and the user answers, after what is done while the question is open.
+  // The peer calls, and the user answers; `whileOpen` runs before the answer.
   void AnswerTheCall(
       Answer answer, std::function<void()> whileOpen = [] {}) {
     WhileOpen([this, whileOpen] {
@@ -68,7 +68,7 @@ class CallersFixture : public testing::Test {
     Call(peer);
     ASSERT_TRUE(world.Wait([&] { return fake.dialogs.answers.empty(); }));
   }
-  // The peer is accepted, and says nothing to that.
+  // The user accepts the peer, which does not confirm.
   void Accept() {
     ASSERT_NO_FATAL_FAILURE(AnswerTheCall(Answer::Yes));
     ASSERT_TRUE(world.Wait([&] { return peer.texts.size() == 1; }));
@@ -90,7 +90,7 @@ class CallersFixture : public testing::Test {
   bool StatusEndsIn(std::u16string_view end) const {
     return fake.window.lblStatus.caption.ends_with(end);
   }
-  // Nothing is left of any call, and the user can wait for one, reject it, and give up a wait.
+  // The program is idle again, and the user can wait for a call, reject it, and cancel a wait.
   void ExpectUsable() {
     EXPECT_EQ(State(), ConnectionState::Idle);
     EXPECT_EQ(socket.State(), SocketState::Closed);

@@ -86,6 +86,20 @@ class SocketContract : public testing::Test {
   bool WaitForClose(SocketUser& user) {
     return world.Wait([&] { return user.closes > 0; });
   }
+  void SendAndClose(const std::vector<std::u16string>& texts) {
+    for (const std::u16string& text : texts) caller.socket.SendData(text, TextKind::Line);
+    caller.socket.Close();
+  }
+  // After SendAndClose: the end of the connection arrives behind the texts.
+  bool WaitUntilAllHasArrived() {
+    const bool hasEnded = world.Wait([&] { return callee.socket.State() == SocketState::Closed; });
+    LetEventsThrough();
+    return hasEnded;
+  }
+  void LetEventsThrough() {
+    int rounds = 0;
+    world.Wait([&] { return ++rounds > 3; });
+  }
 
   World world;
   SocketUser callee;
@@ -270,7 +284,7 @@ TYPED_TEST_P(SocketContract, ArrivalsComeBeforeTheCloseWhichComesOnce) {
   EXPECT_EQ(this->callee.textsBeforeClose, this->callee.texts.size());
   EXPECT_EQ(this->callee.socket.State(), SocketState::Closed);
   EXPECT_EQ(this->callee.closes, 1u);
-  EXPECT_EQ(this->caller.closes, 0u) << "who closes is not told";
+  EXPECT_EQ(this->caller.closes, 0u) << "the side that closes gets no event";
 }
 
 TYPED_TEST_P(SocketContract, WordsSentOnAnsweringStillArriveWhenTheCalleeClosesAtOnce) {
@@ -328,6 +342,71 @@ TYPED_TEST_P(SocketContract, ClosingTwiceIsHarmlessAndTheSocketServesAgain) {
   EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"again"; }));
 }
 
+TYPED_TEST_P(SocketContract, PausedArrivalsAndTheCloseBehindThemWaitInOrder) {
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->callee.socket.PauseArrivals();
+  this->SendAndClose({u"one ", u"two ", u"three"});
+  ASSERT_TRUE(this->WaitUntilAllHasArrived());
+  EXPECT_EQ(this->callee.texts.size(), 0u);
+  EXPECT_EQ(this->callee.closes, 0u);
+  this->callee.socket.ResumeArrivals();
+  EXPECT_EQ(this->callee.texts.size(), 0u) << "operations raise nothing themselves";
+  ASSERT_TRUE(this->WaitForClose(this->callee));
+  EXPECT_EQ(this->callee.Received(), u"one two three");
+  EXPECT_EQ(this->callee.textsBeforeClose, this->callee.texts.size());
+  EXPECT_EQ(this->callee.closes, 1u);
+}
+
+TYPED_TEST_P(SocketContract, PausingInsideAnArrivalHoldsTheNextOneBack) {
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->callee.socket.onDataArrival = [this](std::int32_t) {
+    this->callee.texts.push_back(this->callee.socket.GetData());
+    this->callee.socket.PauseArrivals();
+  };
+  this->caller.socket.SendData(u"one ", TextKind::Line);
+  ASSERT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"one "; }));
+  this->SendAndClose({u"two"});
+  ASSERT_TRUE(this->WaitUntilAllHasArrived());
+  EXPECT_EQ(this->callee.Received(), u"one ");
+  this->callee.socket.ResumeArrivals();
+  ASSERT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"one two"; }));
+  this->LetEventsThrough();
+  EXPECT_EQ(this->callee.closes, 0u);
+  this->callee.socket.ResumeArrivals();
+  EXPECT_TRUE(this->WaitForClose(this->callee));
+}
+
+TYPED_TEST_P(SocketContract, APausedSocketStillSends) {
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->callee.socket.PauseArrivals();
+  this->callee.socket.SendData(u"hello", TextKind::Line);
+  EXPECT_TRUE(this->world.Wait([&] { return this->caller.Received() == u"hello"; }));
+}
+
+TYPED_TEST_P(SocketContract, APauseHoldsForTheNextConnectionToo) {
+  this->callee.socket.PauseArrivals();
+  this->callee.socket.PauseArrivals();
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->SendAndClose({u"hello"});
+  ASSERT_TRUE(this->WaitUntilAllHasArrived());
+  EXPECT_EQ(this->callee.texts.size(), 0u);
+  this->callee.socket.ResumeArrivals();
+  ASSERT_TRUE(this->WaitForClose(this->callee));
+  EXPECT_EQ(this->callee.Received(), u"hello");
+}
+
+TYPED_TEST_P(SocketContract, ClosingDropsPausedArrivals) {
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  this->callee.socket.PauseArrivals();
+  this->SendAndClose({u"never read"});
+  ASSERT_TRUE(this->WaitUntilAllHasArrived());
+  this->callee.socket.Close();
+  this->callee.socket.ResumeArrivals();
+  this->LetEventsThrough();
+  EXPECT_EQ(this->callee.texts.size(), 0u);
+  EXPECT_EQ(this->callee.closes, 0u);
+}
+
 TYPED_TEST_P(SocketContract, SidesMayChangeTheirRoles) {
   ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
   this->caller.socket.Close();
@@ -351,6 +430,8 @@ REGISTER_TYPED_TEST_SUITE_P(
     AnsweringAnUnknownCallCloses, ArrivalsComeBeforeTheCloseWhichComesOnce,
     WordsSentOnAnsweringStillArriveWhenTheCalleeClosesAtOnce, ACallThatNobodyTakesCloses,
     ACancelledCallRaisesNothing, ClosingInsideAnEventEndsTheEvents,
-    ClosingTwiceIsHarmlessAndTheSocketServesAgain, SidesMayChangeTheirRoles);
+    ClosingTwiceIsHarmlessAndTheSocketServesAgain, PausedArrivalsAndTheCloseBehindThemWaitInOrder,
+    PausingInsideAnArrivalHoldsTheNextOneBack, APausedSocketStillSends,
+    APauseHoldsForTheNextConnectionToo, ClosingDropsPausedArrivals, SidesMayChangeTheirRoles);
 
 }  // namespace verlume

@@ -89,6 +89,7 @@ std::u16string_view FakeFileSystem::Stored(std::u16string_view path) const noexc
 std::vector<std::u16string> FakeFileSystem::ListFiles(std::u16string_view folder,
                                                       std::u16string_view extension) const {
   if (!IsFolder(folder)) throw RunTimeFailure(FailureNumber::PathNotFound);
+  if (listingFails) throw RunTimeFailure(*listingFails);
   std::vector<std::u16string> names;
   for (const auto& [path, bytes] : files) {
     if (FolderOf(path) == WithoutSeparator(folder) && EndsIn(path, extension)) {

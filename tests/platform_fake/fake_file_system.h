@@ -32,6 +32,7 @@ class FakeFileSystem : public FileSystem {
   // Every write, and every read, fails with this while it is set.
   std::optional<FailureNumber> writesFail;
   std::optional<FailureNumber> readsFail;
+  std::optional<FailureNumber> listingFails;
   // "A.rtf" and "a.rtf" name one file, under the name that it was made with.
   bool ignoresCase = false;
   std::map<std::u16string, std::string, std::less<>> files;  // path -> bytes

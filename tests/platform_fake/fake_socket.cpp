@@ -108,8 +108,9 @@ void FakeSocket::Close() {
   }
   state_ = SocketState::Closed;
   remoteHostIP_.clear();
-  unread_.clear();
+  arrivals_.clear();
   arrival_.clear();
+  isCloseWaiting_ = false;
   ++generation_;
   if (request_ == 0) return;
   Post([this] {
@@ -122,9 +123,13 @@ void FakeSocket::Close() {
 }
 
 void FakeSocket::LosePeer() {
-  LoseWaiting();
+  // A call that fails has no arrivals to wait for.
+  const bool wasConnected = state_ == SocketState::Connected || isCloseWaiting_;
   state_ = SocketState::Closed;
   peer_ = nullptr;
+  LoseWaiting();
+  isCloseWaiting_ = wasConnected && arePaused_;
+  if (isCloseWaiting_) return;
   RaiseUndelivered();
   if (onClose) onClose();
 }
@@ -176,19 +181,24 @@ void FakeSocket::FinishSending() {
 }
 
 void FakeSocket::Arrive(std::u16string text) {
-  if (!network_.joinArrivals) {
-    return Post([this, text = std::move(text)] {
-      arrival_ = text;
-      if (onDataArrival) onDataArrival(static_cast<std::int32_t>(text.size()));
-    });
-  }
-  unread_ += text;
-  Post([this] {
-    arrival_ = std::exchange(unread_, {});
-    if (!arrival_.empty() && onDataArrival) {
-      onDataArrival(static_cast<std::int32_t>(arrival_.size()));
-    }
-  });
+  arrivals_.push_back(std::move(text));
+  Post([this] { DeliverArrival(); });
+}
+
+void FakeSocket::DeliverArrival() {
+  if (arePaused_ || arrivals_.empty()) return;
+  arrival_.clear();
+  do {
+    arrival_ += arrivals_.front();
+    arrivals_.pop_front();
+  } while (network_.joinArrivals && !arrivals_.empty());
+  if (onDataArrival) onDataArrival(static_cast<std::int32_t>(arrival_.size()));
+}
+
+void FakeSocket::ResumeArrivals() {
+  if (!std::exchange(arePaused_, false)) return;
+  for (std::size_t i = 0; i < arrivals_.size(); ++i) Post([this] { DeliverArrival(); });
+  if (isCloseWaiting_) Post([this] { LosePeer(); });
 }
 
 std::u16string FakeSocket::GetData() {

@@ -19,7 +19,7 @@ class FakeNetwork {
   // Raises every event that waits, and those that follow from them.
   void RunUntilIdle();
 
-  // All that waits for one reader becomes one arrival, as TCP may do.
+  // Texts that wait for the same socket arrive joined, as TCP may do.
   bool joinArrivals = false;
 
   // Nothing more that is sent arrives, or is acknowledged, until Mend.
@@ -58,6 +58,8 @@ class FakeSocket : public Socket {
   std::size_t LinesWaiting() const override;
   void FinishSending() override;
   std::u16string GetData() override;
+  void PauseArrivals() override { arePaused_ = true; }
+  void ResumeArrivals() override;
 
   std::u16string remoteHost;
   std::u16string localIP = u"192.0.2.1";
@@ -76,6 +78,7 @@ class FakeSocket : public Socket {
   void RaiseUndelivered();
   void Post(std::function<void()> event);
   void Arrive(std::u16string text);
+  void DeliverArrival();
   void LosePeer();
   void AskNextCaller();
 
@@ -90,10 +93,12 @@ class FakeSocket : public Socket {
   FakeSocket* pending_ = nullptr;      // that caller, until it leaves
   std::vector<std::u16string> early_;  // sent before the call was answered
   std::deque<Text> waiting_;           // while the network is cut
-  std::size_t undelivered_ = 0;        // lines of ended connections, still to be told of
-  std::u16string unread_;
+  std::size_t undelivered_ = 0;        // lines of ended connections, not raised yet
+  std::deque<std::u16string> arrivals_;
   std::u16string arrival_;
-  int generation_ = 0;  // events of an earlier connection are dropped
+  bool arePaused_ = false;       // the arrivals
+  bool isCloseWaiting_ = false;  // while paused
+  int generation_ = 0;           // events of an earlier connection are dropped
 };
 
 }  // namespace verlume::fake

@@ -47,10 +47,12 @@ class FakeApplication : public Application {
   }
   void End() override { ended = true; }
   bool HasEnded() const override { return ended; }
+  void LogError(std::string_view line) override { loggedErrors.emplace_back(line); }
 
   std::function<void()> onYield;
   int timesYielded = 0;
   bool ended = false;
+  std::vector<std::string> loggedErrors;
 };
 
 class FakeHelpViewer : public HelpViewer {

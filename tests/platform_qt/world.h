@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QTimer>
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,10 +17,10 @@ namespace verlume::qt {
 // after every event, where QTest::qWaitFor looks every 10 ms.
 template <class Condition>
 bool WaitFor(Condition condition) {
-  constexpr int kLimit = 10000;  // ms
+  constexpr std::chrono::seconds kLimit{10};
   const QDeadlineTimer limit(kLimit);
   QTimer tick;  // for what is no event of this process
-  tick.start(5);
+  tick.start(std::chrono::milliseconds(5));
   while (!condition()) {
     if (limit.hasExpired()) return false;
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

@@ -99,6 +99,48 @@ TEST_F(ErrorReportTest, AnyOtherExceptionIsAnInternalError) {
       u"Error condition 51 with the description 'Internal error' has occured."));
 }
 
+TEST_F(ErrorReportTest, AFailureIsLoggedWithItsProcedure) {
+  fake.dialogs.answers = {Answer::No};
+  Fail(FailureNumber::DiskFull, Procedure::AppendToLog);
+  EXPECT_EQ(fake.application.loggedErrors,
+            std::vector<std::string>{"procedure 240 failed: error 61, Disk full"});
+}
+
+TEST_F(ErrorReportTest, AFailureIsLoggedBeforeTheUserAnswers) {
+  std::size_t loggedWhileOpen = 0;
+  fake.dialogs.whileOpen = [&] { loggedWhileOpen = fake.application.loggedErrors.size(); };
+  fake.dialogs.answers = {Answer::No};
+  Fail(FailureNumber::DiskFull);
+  EXPECT_EQ(loggedWhileOpen, 1u);
+}
+
+TEST_F(ErrorReportTest, OtherExceptionsAreLoggedWithWhatTheySay) {
+  fake.dialogs.answers = {Answer::No, Answer::No};
+  errors.Guard(Procedure::tmrTimer_Timer, [] { throw std::out_of_range("position 5 of 3"); });
+  errors.Guard(Procedure::tmrTimer_Timer, [] { throw 7; });
+  EXPECT_EQ(fake.application.loggedErrors,
+            (std::vector<std::string>{"procedure 226 failed: exception, position 5 of 3",
+                                      "procedure 226 failed: exception of an unknown type"}));
+}
+
+TEST_F(ErrorReportTest, WhatDoesNotFailIsNotLogged) {
+  errors.Guard(Procedure::Form_Load, [] {});
+  errors.Guard(Procedure::Form_Load, [] { throw RunTimeFailure(FailureNumber::Cancelled); });
+  EXPECT_TRUE(fake.application.loggedErrors.empty());
+}
+
+TEST_F(ErrorReportTest, AnExceptionThatNeedsNoReportIsOnlyLogged) {
+  try {
+    throw RunTimeFailure(FailureNumber::PermissionDenied);
+  } catch (...) {
+    errors.LogException(Procedure::CommandCompletion);
+  }
+  EXPECT_EQ(fake.application.loggedErrors,
+            std::vector<std::string>{"procedure 255 failed: error 70, Permission denied"});
+  EXPECT_TRUE(fake.dialogs.messages.empty());
+  EXPECT_EQ(resets, 0);
+}
+
 TEST_F(ErrorReportTest, ADescriptionThatLooksLikeAPatternIsShownAsItIs) {
   fake.dialogs.answers = {Answer::No};
   errors.Report(7, u"100%1 %2", Procedure::Form_Load);

@@ -30,7 +30,8 @@ class ShellTest : public testing::Test {
   Platform& platform = fake.platform;
   AppState state;
   int resets = 0;
-  ErrorReport errors{state, fake.dialogs, [this] { ++resets; }, [this] { window.window.Unload(); }};
+  ErrorReport errors{state, fake.platform, [this] { ++resets; },
+                     [this] { window.window.Unload(); }};
   Settings settings{state, fake.files};
 };
 

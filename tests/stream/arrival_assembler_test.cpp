@@ -5,23 +5,26 @@
 #include <vector>
 
 #include "richtext/rtf_reader.h"
+#include "stream/protocol_marker.h"
 
 namespace verlume::stream {
 namespace {
 
+using namespace std::chrono_literals;
 using namespace std::string_literals;
 
 using Arrival = std::optional<std::string>;
 
-const std::string kMarker = '\0' + std::string(67, 'm') + '\0';
+constexpr TimePoint kStart;
+const std::string kMarker = '\0' + std::string(kMarkerTextLength, 'm') + '\0';
 
-// Adds and takes at one moment.
-Arrival Read(ArrivalAssembler& assembler, std::string_view bytes, std::int64_t now = 0) {
+// Adds and takes at the same time.
+Arrival Read(ArrivalAssembler& assembler, std::string_view bytes, TimePoint now = kStart) {
   assembler.Add(bytes, now);
   return assembler.Take(now);
 }
 
-// The text comes out whole although its bytes come one by one; nothing comes out earlier.
+// The text comes out complete although its bytes come one by one; nothing comes out before.
 void ExpectHeldTogether(const std::string& text) {
   ArrivalAssembler assembler;
   for (std::size_t i = 0; i + 1 < text.size(); ++i) {
@@ -30,10 +33,10 @@ void ExpectHeldTogether(const std::string& text) {
   EXPECT_EQ(Read(assembler, text.substr(text.size() - 1)), Arrival(text)) << text;
 }
 
-TEST(ArrivalAssembler, NothingComesOutOfNothing) {
+TEST(ArrivalAssembler, AnEmptyOneHasNothing) {
   ArrivalAssembler assembler;
-  EXPECT_EQ(assembler.Take(0), std::nullopt);
-  EXPECT_EQ(assembler.TakeAll(), std::nullopt);
+  EXPECT_EQ(assembler.Take(kStart), std::nullopt);
+  EXPECT_EQ(assembler.Flush(), std::nullopt);
   EXPECT_EQ(assembler.Deadline(), std::nullopt);
 }
 
@@ -82,20 +85,20 @@ TEST(ArrivalAssembler, OtherWordsAndEmptyDataHoldNoBinaryData) {
   ExpectHeldTogether(R"({\rtf1{\abin3 }})");
 }
 
-TEST(ArrivalAssembler, ADataLengthBeyondAllBoundsIsHarmless) {
+TEST(ArrivalAssembler, AHugeDataLengthIsHarmless) {
   ArrivalAssembler assembler;
   EXPECT_EQ(Read(assembler, R"({\rtf1\bin99999999999999999999999999 }})"), std::nullopt);
-  EXPECT_NE(assembler.Take(ArrivalAssembler::kPatience), std::nullopt);
+  EXPECT_NE(assembler.Take(kStart + ArrivalAssembler::kTimeout), std::nullopt);
 }
 
-TEST(ArrivalAssembler, WhatFollowsADocumentInTheSameReadBelongsToIt) {
+TEST(ArrivalAssembler, TextThatFollowsADocumentInTheSameReadJoinsIt) {
   for (const std::string& tail : {"tail"s, "\r\n\0"s, "{\\rtf1 b}"s, kMarker + "M{\\rtf1 b}"}) {
     ArrivalAssembler assembler;
     EXPECT_EQ(Read(assembler, R"({\rtf1 a})" + tail), Arrival(R"({\rtf1 a})" + tail));
   }
 }
 
-TEST(ArrivalAssembler, ASecondDocumentInTheSameReadIsNotTorn) {
+TEST(ArrivalAssembler, ASecondDocumentInTheSameReadIsHeldTogether) {
   for (const std::string& between : {""s, "\r\n"s, "\r\n\0"s}) {
     ArrivalAssembler assembler;
     const std::string first = R"({\rtf1 a})" + between;
@@ -105,15 +108,15 @@ TEST(ArrivalAssembler, ASecondDocumentInTheSameReadIsNotTorn) {
   }
 }
 
-TEST(ArrivalAssembler, AMessageBehindADocumentIsNotTorn) {
+TEST(ArrivalAssembler, AMessageBehindADocumentIsHeldTogether) {
   ArrivalAssembler assembler;
   const std::string next = kMarker + R"(M{\rtf1 {b}})";
   EXPECT_EQ(Read(assembler, R"({\rtf1 a})" + next.substr(0, 75)), Arrival(R"({\rtf1 a})"));
   EXPECT_EQ(Read(assembler, next.substr(75)), Arrival(next));
 }
 
-// However a flood is cut, each of its documents comes out whole, and soon.
-TEST(ArrivalAssembler, NoDocumentWaitsForThoseBehindIt) {
+// However a stream of documents is split, each comes out complete, and as soon as it is.
+TEST(ArrivalAssembler, NoDocumentWaitsForTheNextOne) {
   const std::string document = R"({\rtf1 {a} line\par})";
   std::string flood;
   for (int i = 0; i < 1'000; ++i) flood += document;
@@ -130,50 +133,50 @@ TEST(ArrivalAssembler, NoDocumentWaitsForThoseBehindIt) {
   }
 }
 
-TEST(ArrivalAssembler, ADocumentWaitsTwentySecondsAfterItsLastByte) {
+TEST(ArrivalAssembler, ADocumentIsHeldBackUntilTwentySecondsAfterItsLastByte) {
   ArrivalAssembler assembler;
-  EXPECT_EQ(Read(assembler, R"({\rtf1 a)", 1000), std::nullopt);
-  EXPECT_EQ(assembler.Deadline(), 21'000);
-  EXPECT_EQ(Read(assembler, "b", 2500), std::nullopt);
-  EXPECT_EQ(assembler.Deadline(), 22'500);
-  EXPECT_EQ(assembler.Take(22'499), std::nullopt);
-  EXPECT_EQ(assembler.Take(22'500), Arrival(R"({\rtf1 ab)"));
+  EXPECT_EQ(Read(assembler, R"({\rtf1 a)", kStart + 1s), std::nullopt);
+  EXPECT_EQ(assembler.Deadline(), kStart + 21s);
+  EXPECT_EQ(Read(assembler, "b", kStart + 2500ms), std::nullopt);
+  EXPECT_EQ(assembler.Deadline(), kStart + 22'500ms);
+  EXPECT_EQ(assembler.Take(kStart + 22'499ms), std::nullopt);
+  EXPECT_EQ(assembler.Take(kStart + 22'500ms), Arrival(R"({\rtf1 ab)"));
   EXPECT_EQ(assembler.Deadline(), std::nullopt);
 }
 
-TEST(ArrivalAssembler, TheRestOfAnOverdueDocumentIsReadyAtOnce) {
+TEST(ArrivalAssembler, TheRestOfADocumentThatTimedOutIsReadyAtOnce) {
   ArrivalAssembler assembler;
-  assembler.Add(R"({\rtf1 a)", 0);
-  ASSERT_NE(assembler.Take(20'000), std::nullopt);
-  EXPECT_EQ(Read(assembler, "b}", 20'001), Arrival("b}"));
+  assembler.Add(R"({\rtf1 a)", kStart);
+  ASSERT_NE(assembler.Take(kStart + 20s), std::nullopt);
+  EXPECT_EQ(Read(assembler, "b}", kStart + 20'001ms), Arrival("b}"));
 }
 
-TEST(ArrivalAssembler, ABeginningWaitsTwentySecondsToo) {
+TEST(ArrivalAssembler, AnIncompleteBeginningIsHeldBackForTwentySeconds) {
   for (const std::string& begun : {"{"s, "{\\rt"s, "\0mm"s, kMarker, kMarker + "M"}) {
     ArrivalAssembler assembler;
     EXPECT_EQ(Read(assembler, begun), std::nullopt);
-    EXPECT_EQ(assembler.Take(19'999), std::nullopt);
-    EXPECT_EQ(assembler.Take(20'000), Arrival(begun));
+    EXPECT_EQ(assembler.Take(kStart + 19'999ms), std::nullopt);
+    EXPECT_EQ(assembler.Take(kStart + 20s), Arrival(begun));
   }
 }
 
-TEST(ArrivalAssembler, ABeginningThatTurnsOutOtherwiseIsReadyAtOnce) {
+TEST(ArrivalAssembler, ABeginningThatTurnsOutToBeOtherTextIsReadyAtOnce) {
   ArrivalAssembler assembler;
   EXPECT_EQ(Read(assembler, "{\\"), std::nullopt);
   EXPECT_EQ(Read(assembler, "x"), Arrival("{\\x"));
 }
 
-// All that comes out of a text that comes in reads of 256 KiB.
-std::vector<std::string> Pieces(const std::string& text) {
+// What comes out of a text that is read 256 KiB at a time.
+std::vector<std::string> Parts(const std::string& text) {
   constexpr std::size_t kRead = 256 << 10;
   ArrivalAssembler assembler;
-  std::vector<std::string> pieces;
+  std::vector<std::string> parts;
   for (std::size_t at = 0; at < text.size(); at += kRead) {
-    const Arrival piece = Read(assembler, std::string_view(text).substr(at, kRead));
-    if (piece) pieces.push_back(*piece);
+    const Arrival part = Read(assembler, std::string_view(text).substr(at, kRead));
+    if (part) parts.push_back(*part);
   }
-  if (const Arrival piece = assembler.TakeAll()) pieces.push_back(*piece);
-  return pieces;
+  if (const Arrival part = assembler.Flush()) parts.push_back(*part);
+  return parts;
 }
 
 std::string Repeat(std::string_view part, std::size_t size) {
@@ -182,58 +185,58 @@ std::string Repeat(std::string_view part, std::size_t size) {
   return text;
 }
 
-TEST(ArrivalAssembler, AtMostFourMebibytesOfADocumentWait) {
+TEST(ArrivalAssembler, AtMostFourMebibytesOfADocumentAreHeldBack) {
   ArrivalAssembler assembler;
-  const std::string begun = R"({\rtf1 )" + std::string(ArrivalAssembler::kLargest - 8, 'x');
+  const std::string begun = R"({\rtf1 )" + std::string(ArrivalAssembler::kLongestHeldBack - 8, 'x');
   EXPECT_EQ(Read(assembler, begun), std::nullopt);
-  const Arrival piece = Read(assembler, "y");
-  ASSERT_TRUE(piece);
-  EXPECT_LT(piece->size(), begun.size());
+  const Arrival part = Read(assembler, "y");
+  ASSERT_TRUE(part);
+  EXPECT_LT(part->size(), begun.size());
   const Arrival rest = Read(assembler, "the rest}");
   ASSERT_TRUE(rest);
   EXPECT_TRUE(rest->ends_with("ythe rest}"));
   EXPECT_EQ(Read(assembler, R"({\rtf1 next})"), Arrival(R"({\rtf1 next})"));
 }
 
-TEST(ArrivalAssembler, EachPieceOfALongDocumentIsADocument) {
+TEST(ArrivalAssembler, EachPartOfALongDocumentIsADocument) {
   const std::string content = Repeat(R"(some {\b words\'e1} and \u945?\fs20 more, )", 10 << 20);
   const std::string document = R"({\rtf1\ansi{\fonttbl{\f0 Some font;}}\f0 )" + content + "}";
-  const std::vector<std::string> pieces = Pieces(document);
-  ASSERT_GE(pieces.size(), 3u);
+  const std::vector<std::string> parts = Parts(document);
+  ASSERT_GE(parts.size(), 3u);
   std::u16string text;
-  for (const std::string& piece : pieces) {
-    EXPECT_TRUE(piece.starts_with(R"({\rtf1)"));
-    EXPECT_TRUE(piece.ends_with('}'));
-    EXPECT_LE(piece.size(), ArrivalAssembler::kLargest);
-    const richtext::Document shown = richtext::ReadRtf(piece);
+  for (const std::string& part : parts) {
+    EXPECT_TRUE(part.starts_with(R"({\rtf1)"));
+    EXPECT_TRUE(part.ends_with('}'));
+    EXPECT_LE(part.size(), ArrivalAssembler::kLongestHeldBack);
+    const richtext::Document shown = richtext::ReadRtf(part);
     EXPECT_EQ(shown.fonts.front().name, u"Some font");
     text += shown.text;
   }
   EXPECT_TRUE(text == richtext::ReadRtf(document).text);
 }
 
-TEST(ArrivalAssembler, TheMarkerStandsBeforeTheFirstPieceAlone) {
-  for (const std::string& marker : {kMarker, '\0' + std::string(67, '{') + '\0'}) {
-    const std::vector<std::string> pieces =
-        Pieces(marker + R"(M{\rtf1 )" + Repeat("some words ", 5 << 20) + "}");
-    ASSERT_EQ(pieces.size(), 2u);
-    EXPECT_TRUE(pieces[0].starts_with(marker + R"(M{\rtf1 some)"));
-    EXPECT_TRUE(pieces[0].ends_with('}') && !pieces[0].ends_with("}}"));
-    EXPECT_TRUE(pieces[1].starts_with(R"({\rtf1 )"));
+TEST(ArrivalAssembler, TheMarkerComesWithTheFirstPartOnly) {
+  for (const std::string& marker : {kMarker, '\0' + std::string(kMarkerTextLength, '{') + '\0'}) {
+    const std::vector<std::string> parts =
+        Parts(marker + R"(M{\rtf1 )" + Repeat("some words ", 5 << 20) + "}");
+    ASSERT_EQ(parts.size(), 2u);
+    EXPECT_TRUE(parts[0].starts_with(marker + R"(M{\rtf1 some)"));
+    EXPECT_TRUE(parts[0].ends_with('}') && !parts[0].ends_with("}}"));
+    EXPECT_TRUE(parts[1].starts_with(R"({\rtf1 )"));
   }
 }
 
-TEST(ArrivalAssembler, WhatIsNotShownComesOutAsNothingShown) {
+TEST(ArrivalAssembler, PartsOfHiddenDataShowNothing) {
   for (const std::string& data : {R"({\pict )"s, R"({\*\word )"s, R"({\bin9000000 )"s}) {
     std::u16string text;
-    for (const std::string& piece : Pieces(R"({\rtf1 a)" + data + std::string(9'000'000, '0'))) {
-      text += richtext::ReadRtf(piece).text;
+    for (const std::string& part : Parts(R"({\rtf1 a)" + data + std::string(9'000'000, '0'))) {
+      text += richtext::ReadRtf(part).text;
     }
     EXPECT_EQ(text.substr(0, 10), u"a") << data;
   }
 }
 
-TEST(ArrivalAssembler, TheEndOfADocumentsLineMayComeLater) {
+TEST(ArrivalAssembler, ALateLineEndOfADocumentIsDropped) {
   ArrivalAssembler assembler;
   ASSERT_NE(Read(assembler, R"({\rtf1 a})"), std::nullopt);
   EXPECT_EQ(Read(assembler, "\r"), std::nullopt);
@@ -242,7 +245,7 @@ TEST(ArrivalAssembler, TheEndOfADocumentsLineMayComeLater) {
   EXPECT_EQ(Read(assembler, "next"), Arrival("next"));
 }
 
-TEST(ArrivalAssembler, TheEndOfADocumentsLineIsTakenFromTheNextOne) {
+TEST(ArrivalAssembler, ALateLineEndIsRemovedFromTheNextMessage) {
   for (const std::string& end : {"\r\n\0"s, "\0"s, "\n"s}) {
     for (const std::string& next : {R"({\rtf1 {b}})"s, kMarker + R"(M{\rtf1 {b}})"}) {
       ArrivalAssembler assembler;
@@ -260,18 +263,19 @@ TEST(ArrivalAssembler, AMarkerAfterADocumentKeepsItsNul) {
   EXPECT_EQ(Read(assembler, message), Arrival(message));
 }
 
-TEST(ArrivalAssembler, LineEndsThatFollowNoDocumentAreShown) {
+TEST(ArrivalAssembler, LineEndsThatFollowNoDocumentAreDelivered) {
   ArrivalAssembler assembler;
   EXPECT_EQ(Read(assembler, "\r\n"), Arrival("\r\n"));
-  ASSERT_NE(Read(assembler, R"({\rtf1 a})", 100), std::nullopt);
-  EXPECT_EQ(Read(assembler, "\r\n", 20'100), Arrival("\r\n")) << "long after the document";
+  ASSERT_NE(Read(assembler, R"({\rtf1 a})", kStart + 100ms), std::nullopt);
+  EXPECT_EQ(Read(assembler, "\r\n", kStart + 20'100ms), Arrival("\r\n"))
+      << "long after the document";
 }
 
-TEST(ArrivalAssembler, AllThatWaitsIsTakenWhenNothingMoreComes) {
+TEST(ArrivalAssembler, FlushGivesTheIncompleteRest) {
   ArrivalAssembler assembler;
-  assembler.Add(R"({\rtf1 a)", 0);
-  EXPECT_EQ(assembler.TakeAll(), Arrival(R"({\rtf1 a)"));
-  EXPECT_EQ(assembler.TakeAll(), std::nullopt);
+  assembler.Add(R"({\rtf1 a)", kStart);
+  EXPECT_EQ(assembler.Flush(), Arrival(R"({\rtf1 a)"));
+  EXPECT_EQ(assembler.Flush(), std::nullopt);
 }
 
 }  // namespace

@@ -5,9 +5,11 @@
 namespace verlume::stream {
 namespace {
 
+using namespace std::chrono_literals;
 using Bytes = std::optional<std::string>;
 
-constexpr std::int64_t kRead = SendQueue::kReadingTime;
+constexpr TimePoint kStart;
+constexpr auto kRead = SendQueue::kReadingTime;
 
 class SendQueueTest : public testing::Test {
  protected:
@@ -15,53 +17,53 @@ class SendQueueTest : public testing::Test {
   SendQueue queue;
 };
 
-TEST_F(SendQueueTest, TheFirstTextLeavesAtOnce) {
+TEST_F(SendQueueTest, TheFirstTextIsSentAtOnce) {
   Add("one");
-  EXPECT_EQ(queue.Take(5), Bytes("one"));
+  EXPECT_EQ(queue.Take(kStart), Bytes("one"));
 }
 
 TEST_F(SendQueueTest, ATextWaitsUntilThoseBeforeItAreAcknowledged) {
   Add("one");
   Add("two");
-  queue.Take(0);
-  EXPECT_EQ(queue.Take(1'000'000), std::nullopt);
+  queue.Take(kStart);
+  EXPECT_EQ(queue.Take(kStart + 1h), std::nullopt);
 }
 
-TEST_F(SendQueueTest, ThePeerGetsTheTimeToReadBeforeTheNextLeaves) {
+TEST_F(SendQueueTest, ThePeerGetsTimeToReadBeforeTheNextText) {
   Add("one");
   Add("two");
-  queue.Take(0);
-  queue.Acknowledge(100);
-  EXPECT_EQ(queue.Take(100), std::nullopt);
-  EXPECT_EQ(queue.Take(100 + kRead - 1), std::nullopt);
-  EXPECT_EQ(queue.Take(100 + kRead), Bytes("two"));
+  queue.Take(kStart);
+  queue.Acknowledge(kStart + 100ms);
+  EXPECT_EQ(queue.Take(kStart + 100ms), std::nullopt);
+  EXPECT_EQ(queue.Take(kStart + 100ms + kRead - 1ms), std::nullopt);
+  EXPECT_EQ(queue.Take(kStart + 100ms + kRead), Bytes("two"));
 }
 
-TEST_F(SendQueueTest, ThePeerGetsThatTimeAlsoWhenNothingWaited) {
+TEST_F(SendQueueTest, ThePeerGetsThatTimeEvenWhenTheQueueWasEmpty) {
   Add("one");
-  queue.Take(0);
-  queue.Acknowledge(100);
+  queue.Take(kStart);
+  queue.Acknowledge(kStart + 100ms);
   Add("two");
-  EXPECT_EQ(queue.Take(101), std::nullopt);
-  EXPECT_EQ(queue.Take(100 + kRead), Bytes("two"));
+  EXPECT_EQ(queue.Take(kStart + 101ms), std::nullopt);
+  EXPECT_EQ(queue.Take(kStart + 100ms + kRead), Bytes("two"));
 }
 
-TEST_F(SendQueueTest, AcknowledgingAgainDoesNotProlongThatTime) {
+TEST_F(SendQueueTest, AcknowledgingAgainDoesNotExtendThatTime) {
   Add("one");
   Add("two");
-  queue.Take(0);
-  queue.Acknowledge(100);
-  queue.Acknowledge(100 + kRead - 1);
-  EXPECT_EQ(queue.Take(100 + kRead), Bytes("two"));
+  queue.Take(kStart);
+  queue.Acknowledge(kStart + 100ms);
+  queue.Acknowledge(kStart + 100ms + kRead - 1ms);
+  EXPECT_EQ(queue.Take(kStart + 100ms + kRead), Bytes("two"));
 }
 
-TEST_F(SendQueueTest, TextsLeaveInTheirOrder) {
+TEST_F(SendQueueTest, TextsAreSentInOrder) {
   for (const char* text : {"a", "b", "c"}) Add(text);
   std::string sent;
-  for (std::int64_t now = 0; !queue.IsDone(); now += kRead) {
+  for (TimePoint now = kStart; !queue.IsDone(); now += kRead) {
     queue.Acknowledge(now);
     if (const Bytes text = queue.Take(now)) sent += *text;
-    ASSERT_LT(now, 100 * kRead);
+    ASSERT_LT(now, kStart + 100 * kRead);
   }
   EXPECT_EQ(sent, "abc");
 }
@@ -71,42 +73,42 @@ TEST_F(SendQueueTest, ALineWaitsUntilItIsAcknowledged) {
   Add("one");
   Add("two");
   EXPECT_EQ(queue.LinesWaiting(), 2u);
-  queue.Take(0);
+  queue.Take(kStart);
   EXPECT_EQ(queue.LinesWaiting(), 2u);
-  queue.Acknowledge(100);
+  queue.Acknowledge(kStart + 100ms);
   EXPECT_EQ(queue.LinesWaiting(), 1u);
-  queue.Take(100 + kRead);
-  queue.Acknowledge(200);
+  queue.Take(kStart + 100ms + kRead);
+  queue.Acknowledge(kStart + 200ms);
   EXPECT_EQ(queue.LinesWaiting(), 0u);
 }
 
-TEST_F(SendQueueTest, WordsBetweenTheProgramsAreNoLines) {
+TEST_F(SendQueueTest, SignalsAreNotCountedAsLines) {
   Add("my name", TextKind::Signal);
   EXPECT_EQ(queue.LinesWaiting(), 0u);
   EXPECT_FALSE(queue.IsDone());
-  queue.Take(0);
+  queue.Take(kStart);
   EXPECT_FALSE(queue.IsDone());
-  queue.Acknowledge(0);
+  queue.Acknowledge(kStart);
   EXPECT_EQ(queue.LinesWaiting(), 0u);
   EXPECT_TRUE(queue.IsDone());
 }
 
-TEST_F(SendQueueTest, ASignalIsNotRepeatedWhileItWaits) {
+TEST_F(SendQueueTest, ASignalIsNotQueuedTwiceInARow) {
   Add("answer", TextKind::Signal);
-  queue.Take(0);
+  queue.Take(kStart);
   for (int time = 0; time < 3; ++time) Add("answer", TextKind::Signal);
   Add("name", TextKind::Signal);
   Add("answer", TextKind::Signal);
   std::string sent;
-  for (std::int64_t now = kRead; !queue.IsDone(); now += kRead) {
+  for (TimePoint now = kStart + kRead; !queue.IsDone(); now += kRead) {
     queue.Acknowledge(now - kRead);
     if (const Bytes text = queue.Take(now)) sent += *text + ' ';
-    ASSERT_LT(now, 100 * kRead);
+    ASSERT_LT(now, kStart + 100 * kRead);
   }
   EXPECT_EQ(sent, "answer name answer ");
 }
 
-TEST_F(SendQueueTest, ALineMayBeRepeated) {
+TEST_F(SendQueueTest, EqualLinesAreAllQueued) {
   Add("yes");
   Add("yes");
   EXPECT_EQ(queue.LinesWaiting(), 2u);

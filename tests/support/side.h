@@ -48,7 +48,7 @@ struct Side {
 
   FakePlatform fake;
   AppState state;
-  ErrorReport errors{state, fake.dialogs, [this] { ResetConnection(state, fake.platform); },
+  ErrorReport errors{state, fake.platform, [this] { ResetConnection(state, fake.platform); },
                      [this] { fake.window.window.Unload(); }};
   Settings settings{state, fake.files};
   DialogueLog log{state, fake.platform, errors, settings};

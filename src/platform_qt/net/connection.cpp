@@ -3,7 +3,6 @@
 #include <sys/socket.h>
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 #include "platform_qt/net/socket_options.h"
@@ -12,45 +11,49 @@
 namespace verlume::qt {
 namespace {
 
-// How much one read takes at most.
-constexpr qint64 kLargestRead = 256 << 10;
-constexpr int kSendingLimit = 2000;  // ms
-constexpr int kLeavingLimit = 3000;  // ms
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+// From Close to the end of the connection.
+constexpr std::chrono::seconds kClosingLimit = Connection::kSendingLimit + std::chrono::seconds(1);
+
+std::string_view View(const QByteArray& bytes) {
+  return {bytes.data(), static_cast<std::size_t>(bytes.size())};
+}
 
 }  // namespace
 
-Connection::Connection(QTcpSocket* socket, QThread& thread, std::int64_t patienceForTheRest,
-                       Events events)
+Connection::Connection(QTcpSocket* socket, QThread& network, milliseconds timeout, Events events)
     : socket_(socket),
       events_(std::move(events)),
       isOpen_(socket->state() == QAbstractSocket::ConnectedState),
-      assembler_(patienceForTheRest) {
+      assembler_(timeout) {
   socket_->disconnect();
   socket_->setParent(this);
-  clock_.start();
-  patience_.setSingleShot(true);
-  patience_.setTimerType(Qt::PreciseTimer);
-  connect(&patience_, &QTimer::timeout, this, &Connection::LosePatience);
-  moveToThread(&thread);
-  QMetaObject::invokeMethod(this, &Connection::Begin, Qt::QueuedConnection);
+  timeout_.setSingleShot(true);
+  timeout_.setTimerType(Qt::PreciseTimer);
+  connect(&timeout_, &QTimer::timeout, this, &Connection::DeliverOverdue);
+  moveToThread(&network);
+  QMetaObject::invokeMethod(this, &Connection::Start, Qt::QueuedConnection);
 }
 
 Connection::~Connection() {
-  // What happens to the socket now is nobody's any more.
+  // The socket's signals must not reach members that are already destroyed.
   socket_->disconnect();
 }
 
-void Connection::Begin() {
+void Connection::Start() {
+  CheckThread();
   sender_ = new Sender(socket_);
-  sender_->onAcknowledged = [this](std::size_t lines) { NoteAcknowledged(lines); };
-  // What the peer's machine has acknowledged can no longer be asked once the connection has ended.
-  connect(socket_, &QTcpSocket::stateChanged, sender_, [sender = sender_] { sender->GoOn(); });
+  sender_->onAcknowledged = [this](std::size_t lines) { OnAcknowledged(lines); };
+  // The system tells what the peer's machine has acknowledged only until the connection ends.
+  connect(socket_, &QTcpSocket::stateChanged, sender_, &Sender::Flush);
   connect(socket_, &QTcpSocket::readyRead, this, &Connection::Read);
-  connect(socket_, &QTcpSocket::disconnected, this, &Connection::End);
+  connect(socket_, &QTcpSocket::disconnected, this, &Connection::OnDisconnected);
   SetConnectionOptions(*socket_);
-  // What has come, or that the peer has left, was signalled while nobody listened.
+  // Signals for what came before, or for the end of the connection, found no receiver.
   Read();
-  if (socket_->state() != QAbstractSocket::ConnectedState) End();
+  if (socket_->state() != QAbstractSocket::ConnectedState) OnDisconnected();
 }
 
 void Connection::Send(stream::OutgoingText text) {
@@ -60,115 +63,126 @@ void Connection::Send(stream::OutgoingText text) {
       Qt::QueuedConnection);
 }
 
-void Connection::NoteAcknowledged(std::size_t lines) {
+void Connection::OnAcknowledged(std::size_t lines) {
+  CheckThread();
   linesWaiting_ -= lines;
   if (lines > 0) events_.onAcknowledged();
 }
 
 std::optional<std::u16string> Connection::NextArrival() {
-  const bool wasFull = arrivals_.IsFull();
-  auto arrival = arrivals_.Take();
-  if (wasFull && !arrivals_.IsFull()) {
-    QMetaObject::invokeMethod(this, &Connection::ReadOn, Qt::QueuedConnection);
+  auto taken = arrivals_.Take();
+  if (!taken) return std::nullopt;
+  if (taken->madeRoom) {
+    QMetaObject::invokeMethod(this, &Connection::ResumeReading, Qt::QueuedConnection);
   }
-  return arrival;
+  return std::move(taken->arrival);
 }
 
 void Connection::Read() {
-  // A connection that was cut has nothing left, and is not open.
+  CheckThread();
+  // A connection that was reset has nothing left to read, and is not open.
   while (socket_->isOpen() && socket_->bytesAvailable() > 0 && !arrivals_.IsFull()) {
-    const QByteArray bytes = socket_->read(kLargestRead);
+    const QByteArray bytes = socket_->read(kReadSize);
     AcknowledgeAtOnce(*socket_);
-    assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
-    HandOn();
+    assembler_.Add(View(bytes), steady_clock::now());
+    Deliver();
   }
 }
 
-void Connection::ReadOn() {
-  assembler_.StartWaitingAnew(clock_.elapsed());
+void Connection::ResumeReading() {
+  CheckThread();
+  assembler_.RestartTimeout(steady_clock::now());
   Read();
-  LosePatience();
+  DeliverOverdue();
 }
 
-// A text is not overdue while nothing is read.
-void Connection::LosePatience() {
-  if (!arrivals_.IsFull()) HandOn();
+// The timeout does not count while nothing is read.
+void Connection::DeliverOverdue() {
+  CheckThread();
+  if (!arrivals_.IsFull()) Deliver();
 }
 
-void Connection::HandOn() {
-  while (const auto arrival = assembler_.Take(clock_.elapsed())) Add(*arrival);
-  patience_.stop();
+void Connection::Deliver() {
+  CheckThread();
+  while (const auto arrival = assembler_.Take(steady_clock::now())) Enqueue(*arrival);
+  timeout_.stop();
   if (const auto deadline = assembler_.Deadline()) {
-    patience_.start(static_cast<int>(std::max<std::int64_t>(0, *deadline - clock_.elapsed())));
+    const auto rest = std::chrono::ceil<milliseconds>(*deadline - steady_clock::now());
+    timeout_.start(std::max(rest, milliseconds(0)));
   }
 }
 
-void Connection::Add(std::string_view arrival) {
+void Connection::Enqueue(std::string_view arrival) {
+  CheckThread();
   if (arrivals_.Add(richtext::DecodeGreek(arrival))) events_.onArrival();
 }
 
-void Connection::End() {
-  patience_.stop();
-  const QByteArray bytes = socket_->isOpen() ? socket_->readAll() : QByteArray();
-  assembler_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())}, clock_.elapsed());
-  if (const auto rest = assembler_.TakeAll()) Add(*rest);
+void Connection::OnDisconnected() {
+  CheckThread();
+  timeout_.stop();
+  if (socket_->isOpen()) assembler_.Add(View(socket_->readAll()), steady_clock::now());
+  if (const auto rest = assembler_.Flush()) Enqueue(*rest);
   arrivals_.End();
   isOpen_ = false;
   events_.onArrival();
 }
 
-void Connection::Leave() {
+void Connection::Close() {
   isOpen_ = false;
-  QMetaObject::invokeMethod(this, &Connection::BeginLeaving, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, &Connection::StartClosing, Qt::QueuedConnection);
 }
 
-void Connection::BeginLeaving() {
+void Connection::StartClosing() {
+  CheckThread();
   socket_->disconnect(this);
-  patience_.stop();
-  if (socket_->state() != QAbstractSocket::ConnectedState) return Cut();
+  timeout_.stop();
+  if (socket_->state() != QAbstractSocket::ConnectedState) return Abort();
   connect(socket_, &QTcpSocket::readyRead, this, [this] { socket_->readAll(); });
-  connect(socket_, &QTcpSocket::disconnected, this, &Connection::Cut);
+  connect(socket_, &QTcpSocket::disconnected, this, &Connection::Abort);
   QTimer::singleShot(kSendingLimit, this, [this] {
-    if (!sender_->IsDone()) Cut();
+    if (!sender_->IsDone()) Abort();
   });
-  QTimer::singleShot(kLeavingLimit, this, &Connection::Cut);
+  QTimer::singleShot(kClosingLimit, this, &Connection::Abort);
   sender_->onAcknowledged = [this](std::size_t lines) {
     linesWaiting_ -= lines;
-    EndSending();
+    ShutDownSending();
   };
   socket_->readAll();
-  EndSending();
+  ShutDownSending();
 }
 
-// Says that no more will be sent. Closing outright with arrivals unread would make the system throw
-// away what the peer has not read yet.
-void Connection::EndSending() {
+// Half-closes the connection once everything is sent. A full close while bytes are unread would
+// reset it, and the peer would lose what it has not read yet.
+void Connection::ShutDownSending() {
+  CheckThread();
   if (!sender_->IsDone()) return;
   ::shutdown(static_cast<int>(socket_->socketDescriptor()), SHUT_WR);
-  NoteSent();
+  WakeFinishSending();
 }
 
-void Connection::NoteSent() {
-  const std::lock_guard lock(sentMutex_);
-  isSent_ = true;
-  sent_.notify_all();
+void Connection::WakeFinishSending() {
+  CheckThread();
+  const std::lock_guard lock(sendingMutex_);
+  hasSendingEnded_ = true;
+  sendingEnded_.notify_all();
 }
 
-void Connection::Cut() {
-  if (isGone_) return;
+void Connection::Abort() {
+  CheckThread();
+  if (isClosed_) return;
   socket_->disconnect(this);
   socket_->abort();
-  isGone_ = true;
-  NoteSent();
-  events_.onGone();
+  isClosed_ = true;
+  WakeFinishSending();
+  events_.onClosed();
 }
 
-void Connection::FinishSending(const QDeadlineTimer& limit) {
-  const auto rest = std::chrono::milliseconds(limit.remainingTime());
-  std::unique_lock lock(sentMutex_);
-  const bool isSent = sent_.wait_for(lock, rest, [this] { return isSent_; });
+void Connection::FinishSending(stream::TimePoint deadline) {
+  std::unique_lock lock(sendingMutex_);
+  const bool hasEnded =
+      sendingEnded_.wait_until(lock, deadline, [this] { return hasSendingEnded_; });
   lock.unlock();
-  if (!isSent) QMetaObject::invokeMethod(this, &Connection::Cut, Qt::BlockingQueuedConnection);
+  if (!hasEnded) QMetaObject::invokeMethod(this, &Connection::Abort, Qt::BlockingQueuedConnection);
 }
 
 }  // namespace verlume::qt

@@ -1,14 +1,13 @@
-// A TCP connection that was made. It lives on a thread of its own: however busy the windows are,
-// what comes is read at once, so that two texts of the peer's do not become one, and what waits is
-// sent as soon as it may be.
+// An established TCP connection. It lives on the network thread: however busy the windows are, what
+// the peer sends is read at once, so that two texts do not become one, and what is queued is sent
+// as soon as it may be.
 #pragma once
 
-#include <QDeadlineTimer>
-#include <QElapsedTimer>
 #include <QTcpSocket>
 #include <QThread>
 #include <QTimer>
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -20,72 +19,81 @@
 
 namespace verlume::qt {
 
-// All that is public may be called from the thread that made it.
+// The public operations are for the thread that created it. They return at once, except for
+// FinishSending.
 class Connection : public QObject {
  public:
-  // Raised on the connection's own thread.
+  // Raised on the network thread.
   struct Events {
     std::function<void()> onArrival;       // NextArrival has one where it had none, or IsOver
     std::function<void()> onAcknowledged;  // LinesWaiting is less than it was
-    std::function<void()> onGone;          // after Leave: nothing more will happen
+    std::function<void()> onClosed;        // after Close: nothing more will happen
   };
 
-  // Takes the socket, which has no parent, to `thread`. A text waits `patienceForTheRest`
-  // milliseconds for its next byte.
-  Connection(QTcpSocket* socket, QThread& thread, std::int64_t patienceForTheRest, Events events);
+  // How long a closing connection goes on sending.
+  static constexpr std::chrono::seconds kSendingLimit{2};
+  // How many bytes one read returns at most.
+  static constexpr qint64 kReadSize = 256 << 10;
+
+  // Moves the socket, which has no parent, to the network thread. `timeout` is how long an
+  // incomplete text waits for its next byte.
+  Connection(QTcpSocket* socket, QThread& network, std::chrono::milliseconds timeout,
+             Events events);
   ~Connection() override;
 
   // Whether texts can be sent: the connection has not ended, as far as the system knows.
   bool IsOpen() const { return isOpen_; }
 
   void Send(stream::OutgoingText text);
-  // How many lines the peer's machine has not acknowledged; the last number when it has ended.
+  // How many lines the peer's machine has not acknowledged; the last number once it has ended.
   std::size_t LinesWaiting() const { return linesWaiting_; }
 
-  // What has come, in its order. Who takes nothing slows the peer down after some mebibytes.
+  // The oldest arrival, if there is one. While several mebibytes of them wait no more is read, and
+  // TCP's flow control slows the peer down.
   std::optional<std::u16string> NextArrival();
   bool HasArrival() const { return !arrivals_.IsEmpty(); }
-  // The connection has ended, and all that had come before has been taken.
+  // The connection has ended, and every arrival has been taken.
   bool IsOver() const { return arrivals_.IsOver(); }
 
-  // Ends it: what waits is sent, for 2 s at most; then the peer has another second to end it too.
-  void Leave();
-  bool IsGone() const { return isGone_; }
-  // After Leave: waits until all is sent, and cuts the connection when the limit has passed.
-  void FinishSending(const QDeadlineTimer& limit);
+  // Sends what is queued, for kSendingLimit at most; then the peer gets another second to close.
+  void Close();
+  bool IsClosed() const { return isClosed_; }
+  // After Close: blocks until everything is sent, and aborts the connection at the deadline.
+  void FinishSending(stream::TimePoint deadline);
 
  private:
-  void Begin();
+  // All of these run on the network thread.
+  void CheckThread() const { Q_ASSERT(QThread::currentThread() == thread()); }
+  void Start();
   void Read();
-  void ReadOn();
-  void LosePatience();
-  void HandOn();
-  void Add(std::string_view arrival);
-  void End();
-  void NoteAcknowledged(std::size_t lines);
-  void BeginLeaving();
-  void EndSending();
-  void NoteSent();
-  void Cut();
+  void ResumeReading();
+  void DeliverOverdue();
+  void Deliver();
+  void Enqueue(std::string_view arrival);
+  void OnDisconnected();
+  void OnAcknowledged(std::size_t lines);
+  void StartClosing();
+  void ShutDownSending();
+  void WakeFinishSending();
+  void Abort();
 
   QTcpSocket* const socket_;
   const Events events_;
   std::atomic<bool> isOpen_;
   std::atomic<std::size_t> linesWaiting_ = 0;
   stream::ArrivalQueue arrivals_;
-  std::atomic<bool> isGone_ = false;
-  std::mutex sentMutex_;
-  std::condition_variable sent_;
-  bool isSent_ = false;
+  std::atomic<bool> isClosed_ = false;
+  std::mutex sendingMutex_;
+  std::condition_variable sendingEnded_;
+  bool hasSendingEnded_ = false;
 
-  // These belong to the connection's own thread.
+  // For the network thread only.
   Sender* sender_ = nullptr;
   stream::ArrivalAssembler assembler_;
-  QElapsedTimer clock_;
-  QTimer patience_{this};  // for the rest of a document
+  QTimer timeout_{this};  // of an incomplete text
 };
 
-// A connection dies on its own thread.
+// A connection is destroyed on its own thread.
 struct DeleteOnItsThread {
   void operator()(Connection* connection) const { connection->deleteLater(); }
 };

@@ -1,5 +1,6 @@
 #include "platform_qt/net/sender.h"
 
+#include <chrono>
 #include <utility>
 
 #include "platform_qt/net/socket_options.h"
@@ -7,33 +8,36 @@
 namespace verlume::qt {
 namespace {
 
-// The system has no event for an acknowledgement.
-constexpr int kPollMilliseconds = 5;
+using std::chrono::steady_clock;
+
+// The system signals no acknowledgement: it has to be polled.
+constexpr std::chrono::milliseconds kPollInterval{5};
 
 }  // namespace
 
 Sender::Sender(QTcpSocket* connection) : QObject(connection), connection_(connection) {
-  clock_.start();
   poll_.setTimerType(Qt::PreciseTimer);
-  poll_.setInterval(kPollMilliseconds);
-  connect(&poll_, &QTimer::timeout, this, [this] { GoOn(); });
+  poll_.setInterval(kPollInterval);
+  connect(&poll_, &QTimer::timeout, this, &Sender::Flush);
 }
 
 void Sender::Send(stream::OutgoingText text) {
+  CheckThread();
   queue_.Add(std::move(text));
-  GoOn();
+  Flush();
 }
 
-void Sender::GoOn() {
+void Sender::Flush() {
+  CheckThread();
   const bool wasDone = IsDone();
   const std::size_t waited = LinesWaiting();
-  LookForAcknowledgement();
+  CheckAcknowledgement();
   while (const auto bytes = TextToSend()) {
     connection_->write(bytes->data(), static_cast<qint64>(bytes->size()));
     // At once, so that one text is one send.
     connection_->flush();
-    // A near peer has acknowledged it already.
-    LookForAcknowledgement();
+    // A peer nearby has acknowledged it already.
+    CheckAcknowledgement();
   }
   if (IsDone()) {
     poll_.stop();
@@ -45,13 +49,15 @@ void Sender::GoOn() {
   if (isNews && onAcknowledged) onAcknowledged(acknowledged);
 }
 
-void Sender::LookForAcknowledgement() {
-  if (Unacknowledged(*connection_) == 0) queue_.Acknowledge(clock_.elapsed());
+void Sender::CheckAcknowledgement() {
+  CheckThread();
+  if (Unacknowledged(*connection_) == 0) queue_.Acknowledge(steady_clock::now());
 }
 
 std::optional<std::string> Sender::TextToSend() {
+  CheckThread();
   const bool canSend = connection_->state() == QAbstractSocket::ConnectedState;
-  return canSend ? queue_.Take(clock_.elapsed()) : std::nullopt;
+  return canSend ? queue_.Take(steady_clock::now()) : std::nullopt;
 }
 
 }  // namespace verlume::qt

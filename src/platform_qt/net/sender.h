@@ -1,8 +1,8 @@
 // Sends texts over a connection so that each arrives by itself.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QTcpSocket>
+#include <QThread>
 #include <QTimer>
 #include <functional>
 #include <optional>
@@ -12,32 +12,32 @@
 
 namespace verlume::qt {
 
-// It belongs to the connection that it sends over, and dies with it.
+// A child of its socket, and used on the socket's thread only.
 class Sender : public QObject {
  public:
   explicit Sender(QTcpSocket* connection);
 
-  // Returns at once; the text leaves when those before it have arrived.
+  // Returns at once; the text is sent when the peer's machine has those before it.
   void Send(stream::OutgoingText text);
   // The peer's machine has acknowledged everything.
   bool IsDone() const { return queue_.IsDone(); }
-  // How many lines it has not.
+  // How many lines it has not acknowledged.
   std::size_t LinesWaiting() const { return queue_.LinesWaiting(); }
-  // Looks at what has been acknowledged, and sends what may leave. Happens by itself while texts
-  // wait and events are handled.
-  void GoOn();
+  // Checks what has been acknowledged, and sends what may be sent. While texts are queued a timer
+  // calls it.
+  void Flush();
 
-  // The peer's machine has acknowledged so many more lines, or all there is. May come from within
-  // GoOn and Send.
+  // The peer's machine has acknowledged this many more lines, or everything. May be raised from
+  // inside Flush and Send.
   std::function<void(std::size_t lines)> onAcknowledged;
 
  private:
-  void LookForAcknowledgement();
+  void CheckThread() const { Q_ASSERT(QThread::currentThread() == thread()); }
+  void CheckAcknowledgement();
   std::optional<std::string> TextToSend();
 
   QTcpSocket* connection_;
   stream::SendQueue queue_;
-  QElapsedTimer clock_;
   QTimer poll_;
 };
 

@@ -18,11 +18,10 @@
 namespace verlume::qt {
 namespace {
 
-constexpr int kConnectLimit = 15000;  // ms
-constexpr int kAcceptPause = 1000;    // ms
-// What a caller may send before it is taken, and what is read ahead afterwards.
-constexpr qint64 kReadBuffer = 256 << 10;
-constexpr int kSendingLimit = 2000;  // ms
+constexpr std::chrono::seconds kConnectLimit{15};
+constexpr std::chrono::seconds kAcceptPause{1};
+// What a caller may send before it is accepted, and what Qt reads ahead afterwards.
+constexpr qint64 kReadBuffer = Connection::kReadSize;
 constexpr std::int32_t kLastPort = 65535;
 
 // The system's own choice lies mostly above what a caller can name.
@@ -39,29 +38,29 @@ bool ListenOnFreePort(QTcpServer& server) {
 
 }  // namespace
 
-QtSocket::QtSocket(std::int64_t patienceForTheRest) : patienceForTheRest_(patienceForTheRest) {
+QtSocket::QtSocket(std::chrono::milliseconds timeout) : timeout_(timeout) {
   network_.setObjectName("network");
   network_.start();
   server_.setProxy(QNetworkProxy::NoProxy);
-  // One caller is taken and asked about; those behind it wait in the system's backlog.
+  // One caller is asked about; the others wait in the system's backlog.
   server_.setMaxPendingConnections(1);
   connect(&server_, &QTcpServer::newConnection, this,
           [this] { Post(&QtSocket::RaiseConnectionRequest); });
-  // The system was out of descriptors or memory: the server has stopped, the caller still waits.
+  // The system has no descriptor or memory left: the server has stopped, the caller still waits.
   connect(&server_, &QTcpServer::acceptError, this, [this] { acceptPause_.start(kAcceptPause); });
   acceptPause_.setSingleShot(true);
   connect(&acceptPause_, &QTimer::timeout, &server_, &QTcpServer::resumeAccepting);
   connectLimit_.setSingleShot(true);
   connectLimit_.setTimerType(Qt::PreciseTimer);
-  connect(&connectLimit_, &QTimer::timeout, this, [this] { Lose(); });
+  connect(&connectLimit_, &QTimer::timeout, this, [this] { EndConnection(); });
 }
 
 QtSocket::~QtSocket() {
   onUndelivered = nullptr;
   Close();
-  DropCaller();
+  AbortCaller();
   FinishSending();
-  leaving_.clear();
+  closing_.clear();
   network_.quit();
   network_.wait();
 }
@@ -76,9 +75,9 @@ void QtSocket::Post(void (QtSocket::*step)(), std::uint64_t generation) {
 }
 
 SocketState QtSocket::State() const {
-  // The system may have ended a connection whose end is still to be raised.
-  const bool isGone = connection_ && !connection_->IsOpen();
-  return isGone ? SocketState::Closed : state_;
+  // A connection may have ended although onClose has not been raised yet.
+  const bool hasEnded = connection_ && !connection_->IsOpen();
+  return hasEnded ? SocketState::Closed : state_;
 }
 
 void QtSocket::SetRemoteHost(std::u16string_view host) {
@@ -124,8 +123,8 @@ void QtSocket::Listen() {
 void QtSocket::RaiseConnectionRequest() {
   QTcpSocket* socket = server_.nextPendingConnection();
   if (!socket) return;
-  // Who has cut the connection before it was taken has no address, and nobody is there to be asked
-  // about. The server goes on to the next one.
+  // A caller that has reset the connection already has no address, and is not asked about. The
+  // server goes on to the next one.
   if (socket->peerAddress().isNull()) return socket->deleteLater();
   server_.pauseAccepting();
   socket->setParent(this);
@@ -138,8 +137,8 @@ void QtSocket::RaiseConnectionRequest() {
 void QtSocket::Accept(std::int64_t requestId) {
   const Caller caller = requestId == caller_.id ? std::exchange(caller_, {}) : Caller{};
   Close();
-  if (!caller.socket) return Post(&QtSocket::Lose);
-  BeginConnection(caller.socket);
+  if (!caller.socket) return Post(&QtSocket::EndConnection);
+  StartConnection(caller.socket);
   peer_ = caller.peer;
 }
 
@@ -147,7 +146,9 @@ void QtSocket::Connect() {
   Close();
   state_ = SocketState::Connecting;
   const QString host = HostToCall(remoteHost_);
-  if (host.isEmpty() || remotePort_ <= 0 || remotePort_ > kLastPort) return Post(&QtSocket::Lose);
+  if (host.isEmpty() || remotePort_ <= 0 || remotePort_ > kLastPort) {
+    return Post(&QtSocket::EndConnection);
+  }
   auto* socket = new QTcpSocket(this);
   socket->setProxy(QNetworkProxy::NoProxy);
   socket->setReadBufferSize(kReadBuffer);
@@ -156,7 +157,7 @@ void QtSocket::Connect() {
     localPort_ = calling_->localPort();
     Post(&QtSocket::RaiseConnect);
   });
-  connect(socket, &QTcpSocket::errorOccurred, this, [this] { Post(&QtSocket::LoseCall); });
+  connect(socket, &QTcpSocket::errorOccurred, this, [this] { Post(&QtSocket::FailCall); });
   calling_ = socket;
   connectLimit_.start(kConnectLimit);
   if (QHostAddress(host).isNull()) {
@@ -166,9 +167,9 @@ void QtSocket::Connect() {
   }
 }
 
-// The socket could do it itself, but would not tell how long the system is busy with it. What is
-// found it finds in Qt's cache. The application receives the answer: Qt forgets to free what
-// belongs to a receiver that has gone meanwhile.
+// QTcpSocket could look the name up itself, but would not tell until when the system is busy with
+// it; it finds the answer in Qt's cache. The receiver of the answer is the application, because Qt
+// leaks the answer to a receiver that has been destroyed.
 void QtSocket::LookUp(const QString& host) {
   ++lookUps_;
   const auto take = [socket = QPointer(this), generation = generation_](const QHostInfo& found) {
@@ -180,26 +181,26 @@ void QtSocket::LookUp(const QString& host) {
 void QtSocket::TakeLookUp(const QHostInfo& found, std::uint64_t generation) {
   --lookUps_;
   if (generation != generation_) return;
-  if (found.error() != QHostInfo::NoError) return Post(&QtSocket::Lose);
+  if (found.error() != QHostInfo::NoError) return Post(&QtSocket::EndConnection);
   calling_->connectToHost(found.hostName(), static_cast<quint16>(remotePort_));
 }
 
 void QtSocket::RaiseConnect() {
   connectLimit_.stop();
-  BeginConnection(std::exchange(calling_, nullptr));
+  StartConnection(std::exchange(calling_, nullptr));
   if (onConnect) onConnect();
 }
 
-void QtSocket::BeginConnection(QTcpSocket* socket) {
+void QtSocket::StartConnection(QTcpSocket* socket) {
   const auto post = [this, generation = generation_](void (QtSocket::*step)()) {
     return [this, step, generation] { Post(step, generation); };
   };
-  const auto look = [this] {
-    QMetaObject::invokeMethod(this, &QtSocket::LookAtThoseLeaving, Qt::QueuedConnection);
+  const auto removeClosed = [this] {
+    QMetaObject::invokeMethod(this, &QtSocket::RemoveClosed, Qt::QueuedConnection);
   };
-  connection_.reset(
-      new Connection(socket, network_, patienceForTheRest_,
-                     {post(&QtSocket::TakeArrival), post(&QtSocket::RaiseAcknowledged), look}));
+  connection_.reset(new Connection(
+      socket, network_, timeout_,
+      {post(&QtSocket::DeliverArrival), post(&QtSocket::RaiseAcknowledged), removeClosed}));
   state_ = SocketState::Connected;
 }
 
@@ -207,27 +208,28 @@ void QtSocket::RaiseAcknowledged() {
   if (onAcknowledged) onAcknowledged();
 }
 
-void QtSocket::TakeArrival() {
-  if (MustWait()) return;
+void QtSocket::DeliverArrival() {
+  if (arrivalsPaused_) return;
+  if (connection_->IsOver()) return EndConnection();
   auto arrival = connection_->NextArrival();
-  // Before the handlers, which may wait for the user.
-  if (connection_->HasArrival()) Post(&QtSocket::TakeArrival);
-  if (connection_->IsOver()) Post(&QtSocket::Lose);
+  // Posted before the handler runs, which may open a modal box.
+  if (connection_->HasArrival() || connection_->IsOver()) Post(&QtSocket::DeliverArrival);
   if (arrival) RaiseArrival(std::move(*arrival));
 }
 
-void QtSocket::GoOn() {
-  if (connection_) Post(&QtSocket::TakeArrival);
+void QtSocket::ResumeArrivals() {
+  if (!std::exchange(arrivalsPaused_, false)) return;
+  if (connection_) Post(&QtSocket::DeliverArrival);
 }
 
-// A call that was answered first may still have brought something.
-void QtSocket::LoseCall() {
-  if (calling_) Lose();
+// A call that has been answered meanwhile ends like any connection, after its arrivals.
+void QtSocket::FailCall() {
+  if (calling_) EndConnection();
 }
 
-void QtSocket::Lose() {
-  const ConnectionOwner lost = std::move(connection_);
-  const std::size_t undelivered = lost ? lost->LinesWaiting() : 0;
+void QtSocket::EndConnection() {
+  const ConnectionOwner ended = std::move(connection_);
+  const std::size_t undelivered = ended ? ended->LinesWaiting() : 0;
   Close();
   if (undelivered > 0) RaiseUndelivered(undelivered);
   if (onClose) onClose();
@@ -251,36 +253,36 @@ void QtSocket::Close() {
   connectLimit_.stop();
   acceptPause_.stop();
   server_.close();
-  Release();
-  // The caller that is being asked about is kept for an Accept that follows at once.
-  if (caller_.socket) Post(&QtSocket::DropCaller);
+  StartClosing();
+  // The caller that is asked about is kept for an Accept that follows at once.
+  if (caller_.socket) Post(&QtSocket::AbortCaller);
 }
 
-void QtSocket::Release() {
+void QtSocket::StartClosing() {
   if (connection_) {
-    connection_->Leave();
-    leaving_.push_back(std::move(connection_));
+    connection_->Close();
+    closing_.push_back(std::move(connection_));
   }
-  Drop(std::exchange(calling_, nullptr));
+  Abort(std::exchange(calling_, nullptr));
 }
 
-// Whoever is told of what did not arrive may close a connection.
-void QtSocket::LookAtThoseLeaving() {
-  const auto isGone = [](const ConnectionOwner& connection) { return connection->IsGone(); };
-  const auto gone = std::stable_partition(leaving_.begin(), leaving_.end(), std::not_fn(isGone));
-  const std::vector<ConnectionOwner> left(std::make_move_iterator(gone),
-                                          std::make_move_iterator(leaving_.end()));
-  leaving_.erase(gone, leaving_.end());
-  for (const ConnectionOwner& connection : left) {
+// First removes, then raises: a handler of onUndelivered may close another connection.
+void QtSocket::RemoveClosed() {
+  const auto isClosed = [](const ConnectionOwner& connection) { return connection->IsClosed(); };
+  const auto first = std::stable_partition(closing_.begin(), closing_.end(), std::not_fn(isClosed));
+  const std::vector<ConnectionOwner> closed(std::make_move_iterator(first),
+                                            std::make_move_iterator(closing_.end()));
+  closing_.erase(first, closing_.end());
+  for (const ConnectionOwner& connection : closed) {
     if (const std::size_t lines = connection->LinesWaiting(); lines > 0) RaiseUndelivered(lines);
   }
 }
 
-void QtSocket::DropCaller() {
-  Drop(std::exchange(caller_, {}).socket);
+void QtSocket::AbortCaller() {
+  Abort(std::exchange(caller_, {}).socket);
 }
 
-void QtSocket::Drop(QTcpSocket* socket) {
+void QtSocket::Abort(QTcpSocket* socket) {
   if (!socket) return;
   socket->disconnect();
   socket->abort();
@@ -297,9 +299,9 @@ std::size_t QtSocket::LinesWaiting() const {
 }
 
 void QtSocket::FinishSending() {
-  const QDeadlineTimer limit(kSendingLimit);
-  for (const ConnectionOwner& connection : leaving_) connection->FinishSending(limit);
-  LookAtThoseLeaving();
+  const auto deadline = std::chrono::steady_clock::now() + Connection::kSendingLimit;
+  for (const ConnectionOwner& connection : closing_) connection->FinishSending(deadline);
+  RemoveClosed();
 }
 
 std::u16string QtSocket::GetData() {

@@ -1,15 +1,17 @@
 // The TCP socket made real by Qt Network.
 //
-// Every signal of Qt's becomes an event of the queue, which carries the generation of the
-// connection it belongs to: so no event comes from inside an operation, handlers may open modal
-// boxes (further events are raised inside those), and an ended connection raises nothing more. A
-// connection that is made lives on a thread of its own.
+// Every signal of Qt is posted to the event loop, together with the generation of the connection
+// that it belongs to. So no event is raised from inside an operation, handlers may open modal boxes
+// (further events are raised inside those), and a connection that has ended raises nothing more.
+// Established connections live on the network thread (connection.h), all else on the
+// user-interface thread.
 #pragma once
 
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QThread>
 #include <QTimer>
+#include <chrono>
 #include <vector>
 
 #include "platform/socket.h"
@@ -21,9 +23,9 @@ namespace verlume::qt {
 
 class QtSocket : public QObject, public Socket {
  public:
-  // `patienceForTheRest` is how long a text may wait for its next byte, in milliseconds.
-  explicit QtSocket(std::int64_t patienceForTheRest = stream::ArrivalAssembler::kPatience);
-  // Sends what was handed over before, for a few seconds at most.
+  // `timeout` is how long an incomplete text waits for its next byte.
+  explicit QtSocket(std::chrono::milliseconds timeout = stream::ArrivalAssembler::kTimeout);
+  // Blocks until what is queued has been sent, for 2 s at most.
   ~QtSocket() override;
 
   SocketState State() const override;
@@ -43,17 +45,15 @@ class QtSocket : public QObject, public Socket {
   std::size_t LinesWaiting() const override;
   void FinishSending() override;
   std::u16string GetData() override;
+  void PauseArrivals() override { arrivalsPaused_ = true; }
+  void ResumeArrivals() override;
 
-  // Whether the system is still busy with the name of a host, be the call cancelled or not. It
-  // cannot be stopped, and the end of the application waits for it.
+  // Whether the system is still looking up a host name, even of a cancelled call. It cannot be
+  // stopped, and the end of the application waits for it.
   bool IsLookingUp() const { return lookUps_ > 0; }
-  // While this is true no arrival is raised; those that come wait, some mebibytes of them, and then
-  // the peer is slowed down. GoOn when it no longer is.
-  std::function<bool()> mustWait;
-  void GoOn();
 
  private:
-  // Who is at the other end, or asks to be.
+  // The peer, or a caller.
   struct Peer {
     QString address;  // "" for nobody
     std::int32_t port = 0;
@@ -66,33 +66,33 @@ class QtSocket : public QObject, public Socket {
 
   static Peer PeerOf(const QTcpSocket& socket);
 
-  // Runs a step from the event loop, unless the connection has ended by then.
+  // Runs a step from the event loop, unless the connection has ended by then. Steps may be posted
+  // from the network thread too.
   void Post(void (QtSocket::*step)()) { Post(step, generation_); }
   void Post(void (QtSocket::*step)(), std::uint64_t generation);
   void LookUp(const QString& host);
   void TakeLookUp(const QHostInfo& found, std::uint64_t generation);
-  void Release();
-  void DropCaller();
-  static void Drop(QTcpSocket* socket);
+  void StartClosing();
+  void AbortCaller();
+  static void Abort(QTcpSocket* socket);
 
   void RaiseConnectionRequest();
   void RaiseConnect();
-  void BeginConnection(QTcpSocket* socket);
+  void StartConnection(QTcpSocket* socket);
   void RaiseAcknowledged();
   void RaiseUndelivered(std::size_t lines);
-  bool MustWait() const { return mustWait && mustWait(); }
-  void TakeArrival();
-  void LoseCall();
-  void Lose();
-  void LookAtThoseLeaving();
+  void DeliverArrival();
+  void FailCall();
+  void EndConnection();
+  void RemoveClosed();
   void RaiseArrival(std::u16string arrival);
 
   QTcpServer server_;
-  QTcpSocket* calling_ = nullptr;  // until the connection is made
-  Caller caller_;                  // the one that is being asked about
-  QThread network_{this};          // of the connections that are made
+  QTcpSocket* calling_ = nullptr;  // of a call, until it is answered
+  Caller caller_;                  // the one that is asked about
+  QThread network_{this};          // where established connections live
   ConnectionOwner connection_;
-  std::vector<ConnectionOwner> leaving_;  // closed, but not gone yet
+  std::vector<ConnectionOwner> closing_;
   Peer peer_;
   std::int64_t lastRequest_ = 0;
   int lookUps_ = 0;  // under way
@@ -103,10 +103,11 @@ class QtSocket : public QObject, public Socket {
   QString remoteHost_;
   std::int32_t remotePort_ = 0;
 
-  const std::int64_t patienceForTheRest_;
+  const std::chrono::milliseconds timeout_;
   std::u16string arrival_;
-  QTimer connectLimit_;  // for a call to be answered
-  QTimer acceptPause_;   // after a caller that could not be taken
+  bool arrivalsPaused_ = false;
+  QTimer connectLimit_;  // of a call that is not answered
+  QTimer acceptPause_;   // after a caller that could not be accepted
 };
 
 }  // namespace verlume::qt

@@ -6,23 +6,26 @@
 #include <sys/ioctl.h>
 #include <sys/socket.h>
 
+#include <chrono>
+#include <cstdint>
+
 namespace verlume::qt {
 namespace {
 
-// A peer that says nothing is probed, and often: on a link that loses much, single probes without
-// an answer mean nothing. Linux counts no probes where there is a limit for the unacknowledged, but
-// applies that limit to the silence as well.
-constexpr int kIdleSeconds = 6;
-constexpr int kProbeSeconds = 1;
+// An idle peer is probed often: on a link that loses many packets a few lost probes mean nothing.
+// With a TCP_USER_TIMEOUT Linux does not count the probes; it applies that timeout instead.
+constexpr std::chrono::seconds kIdleTime{6};
+constexpr std::chrono::seconds kProbeInterval{1};
 constexpr int kProbes = 10;
-constexpr int kUnacknowledgedLimit = 17'000;  // ms
+constexpr std::chrono::milliseconds kUserTimeout = std::chrono::seconds(17);
 
 int DescriptorOf(const QTcpSocket& socket) {
   return static_cast<int>(socket.socketDescriptor());
 }
 
-// A system that knows no such option leaves the connection as it was.
-void SetTcpOption(QTcpSocket& socket, int option, int value) {
+// Without effect on a system that does not know the option.
+void SetTcpOption(QTcpSocket& socket, int option, std::int64_t number) {
+  const int value = static_cast<int>(number);
   ::setsockopt(DescriptorOf(socket), IPPROTO_TCP, option, &value, sizeof value);
 }
 
@@ -31,10 +34,10 @@ void SetTcpOption(QTcpSocket& socket, int option, int value) {
 void SetConnectionOptions(QTcpSocket& socket) {
   socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
   socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
-  SetTcpOption(socket, TCP_KEEPIDLE, kIdleSeconds);
-  SetTcpOption(socket, TCP_KEEPINTVL, kProbeSeconds);
+  SetTcpOption(socket, TCP_KEEPIDLE, kIdleTime.count());
+  SetTcpOption(socket, TCP_KEEPINTVL, kProbeInterval.count());
   SetTcpOption(socket, TCP_KEEPCNT, kProbes);
-  SetTcpOption(socket, TCP_USER_TIMEOUT, kUnacknowledgedLimit);
+  SetTcpOption(socket, TCP_USER_TIMEOUT, kUserTimeout.count());
   AcknowledgeAtOnce(socket);
 }
 

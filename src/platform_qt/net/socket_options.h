@@ -1,20 +1,20 @@
-// What Qt does not ask of a TCP connection by itself.
+// Options of a TCP connection that Qt does not set.
 #pragma once
 
 #include <QTcpSocket>
 
 namespace verlume::qt {
 
-// Each text leaves at once. A peer that has vanished is noticed: within 30 s while nothing is said,
-// within 20 s of a text that its machine does not acknowledge.
+// Each text is sent at once. A peer that has vanished is detected: within 30 s while the connection
+// is idle, within 20 s of a text that its machine does not acknowledge.
 void SetConnectionOptions(QTcpSocket& socket);
 
-// Has this machine tell the peer's at once what has arrived. The system forgets it, so it is asked
-// for after every read.
+// Makes this machine acknowledge at once what has arrived. The system resets the option, so it is
+// set after every read.
 void AcknowledgeAtOnce(QTcpSocket& socket);
 
-// How many of the bytes written to the socket the peer's machine has not acknowledged. Of a
-// connection that has ended nothing more is known: 1.
+// How many of the bytes written to the socket the peer's machine has not acknowledged; 1 once the
+// connection has ended, because the system no longer knows.
 qint64 Unacknowledged(const QTcpSocket& socket);
 
 }  // namespace verlume::qt

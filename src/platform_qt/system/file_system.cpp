@@ -54,8 +54,8 @@ std::optional<QString> TextOf(const std::string& name) {
 bool IsOfType(std::u16string_view path, mode_t type) noexcept try {
   struct stat found;
   return Find(NameOf(path), found) && (found.st_mode & S_IFMT) == type;
-} catch (...) {
-  return false;
+} catch (const RunTimeFailure&) {
+  return false;  // no file can have such a name
 }
 
 // Where the content of a path lies: the end of its links, or the path itself. The end of a link

@@ -49,6 +49,7 @@ class QtApplication : public QObject, public Application {
   // of the handlers runs to its end; boxes that it opens return at once.
   void End() override;
   bool HasEnded() const override { return hasEnded_; }
+  void LogError(std::string_view line) override;
 
   // The program's event loop, until End; returns at once when the program has ended before.
   int Run();

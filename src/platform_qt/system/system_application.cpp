@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QWidget>
+#include <iostream>
 
 #include "platform_qt/convert/text.h"
 #include "platform_qt/system/system.h"
@@ -75,6 +76,10 @@ void QtApplication::YieldToEvents() {
   constexpr int kLimitMilliseconds = 20;
   if (hasEnded_) return;
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kLimitMilliseconds);
+}
+
+void QtApplication::LogError(std::string_view line) {
+  std::cerr << "verlume: " << line << std::endl;
 }
 
 void QtApplication::End() {

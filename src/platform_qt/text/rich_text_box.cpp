@@ -226,8 +226,10 @@ void QtRichTextBox::WriteInTurns(richtext::Document document) {
     return !cursor.hasSelection() && writing->EndsAt(cursor.position());
   });
   if (same != writings_.end()) return (*same)->Add(std::move(document));
+  const bool wasTakingIn = IsTakingIn();
   writings_.push_back(std::make_unique<TextWriting>(*view_, cursor, [this] { NoteWritten(); }));
   writings_.back()->Add(std::move(document));
+  if (!wasTakingIn && onTakingIn) onTakingIn();
 }
 
 bool QtRichTextBox::IsTakingIn() const {

@@ -32,10 +32,8 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   QtRichTextBox(QWidget* parent, FileSystem& files, Lines lines);
   ~QtRichTextBox() override;
 
-  // Whether texts that were written are still coming in, and the end of that. Who fills the box
-  // with what others send waits meanwhile.
+  // Whether texts that were written are still coming in: from onTakingIn to onTakenIn.
   bool IsTakingIn() const;
-  std::function<void()> onTakenIn;
 
   std::u16string Text() const override;
   std::size_t TextLength() const override;

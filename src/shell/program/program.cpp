@@ -14,7 +14,7 @@ void On(Event& event, Room& room, Method procedure) {
 Program::Program(Platform& platform)
     : platform_(platform),
       errors_(
-          state_, platform.dialogs, [this] { EndChatAfterError(); },
+          state_, platform, [this] { EndChatAfterError(); },
           [this] { platform_.frmMain.window.Unload(); }),
       settings_(state_, platform.files),
       statusPanel_(platform, errors_),
@@ -197,6 +197,9 @@ void Program::BindSocket() {
   On(sckControl.onConnectionRequest, socketEvents_, &SocketEvents::sckControl_ConnectionRequest);
   On(sckControl.onConnect, socketEvents_, &SocketEvents::sckControl_Connect);
   On(sckControl.onDataArrival, socketEvents_, &SocketEvents::sckControl_DataArrival);
+  // A peer that sends faster than the dialogue pane shows is slowed down.
+  On(platform_.frmMain.rtbData.onTakingIn, sckControl, &Socket::PauseArrivals);
+  On(platform_.frmMain.rtbData.onTakenIn, sckControl, &Socket::ResumeArrivals);
   On(sckControl.onAcknowledged, wire_, &WireProtocol::ShowLinesWaiting);
   On(sckControl.onUndelivered, wire_, &WireProtocol::OnUndelivered);
   On(sckControl.onClose, socketEvents_, &SocketEvents::sckControl_Close);

@@ -1,4 +1,4 @@
-// The descriptors that this process has open.
+// The open descriptors of this process.
 #pragma once
 
 #include <netinet/in.h>
@@ -14,7 +14,7 @@ inline QStringList Descriptors() {
       .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System);
 }
 
-// The one that reads the folder is among them each time.
+// Always includes the one that reads the folder.
 inline qsizetype DescriptorsInUse() {
   return Descriptors().size();
 }

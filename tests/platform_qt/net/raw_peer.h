@@ -1,4 +1,4 @@
-// A peer made of nothing but the system's own socket: it does what no copy of the program would.
+// A peer that is a bare system socket, and can do what the program never does.
 #pragma once
 
 #include <arpa/inet.h>
@@ -16,8 +16,8 @@ namespace verlume::qt {
 
 class RawPeer {
  public:
-  // Begins a call to a port of this machine. The system there takes it whether or not the program
-  // does, as long as it has room for callers that wait. `sendBuffer` in bytes, 0 for the usual.
+  // Starts connecting to a port of this machine. The system accepts it into the backlog, if there
+  // is room, before the program does. `sendBuffer` in bytes, 0 for the system's default.
   explicit RawPeer(std::int32_t port, int sendBuffer = 0)
       : descriptor_(::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0)) {
     if (sendBuffer > 0) {
@@ -33,7 +33,7 @@ class RawPeer {
   RawPeer& operator=(RawPeer&&) = delete;
   ~RawPeer() { Close(); }
 
-  // Whether the call has got through: true for who waits to be accepted, too.
+  // Whether the connection is established; true in the backlog already.
   bool IsConnected() const {
     sockaddr_in address = {};
     socklen_t size = sizeof address;
@@ -46,12 +46,12 @@ class RawPeer {
     return ntohs(address.sin_port);
   }
 
-  // How much of the bytes the system takes without waiting.
+  // Sends without blocking; returns how many bytes the system took.
   std::size_t Send(std::string_view bytes) {
     const ssize_t sent = ::send(descriptor_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
     return sent < 0 ? 0 : static_cast<std::size_t>(sent);
   }
-  // Adds to Received(); true once the other side has closed, cut or refused the connection.
+  // Appends to Received(); true once the other side has closed, reset or refused the connection.
   bool HasEnded() {
     char buffer[4096];
     for (;;) {
@@ -63,12 +63,12 @@ class RawPeer {
   }
   const std::string& Received() const { return received_; }
 
-  // Says that it will send no more, and goes on listening.
+  // Shuts down sending, and goes on receiving.
   void HalfClose() { ::shutdown(descriptor_, SHUT_WR); }
   void Close() {
     if (descriptor_ >= 0) ::close(std::exchange(descriptor_, -1));
   }
-  // Ends the connection as a machine does that knows nothing of it.
+  // Closes with an RST.
   void Reset() {
     const linger none = {1, 0};
     ::setsockopt(descriptor_, SOL_SOCKET, SO_LINGER, &none, sizeof none);

@@ -1,12 +1,13 @@
-// What happens between a text that is handed over and its arrival at the peer's machine.
+// The way of a text from SendData to the acknowledgement by the peer's machine.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
 
-#include <QElapsedTimer>
 #include <QTcpServer>
+#include <chrono>
+#include <thread>
 
 #include "platform_qt/net/descriptors.h"
 #include "platform_qt/net/socket.h"
@@ -15,9 +16,11 @@
 namespace verlume::qt {
 namespace {
 
+using namespace std::chrono_literals;
+using std::chrono::steady_clock;
 using testing::ElementsAre;
 
-// A socket that has called a plain peer, which reads at once or not at all.
+// A socket that has called a plain TCP peer, which reads at once or not at all.
 class QtSenderTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -41,7 +44,7 @@ class QtSenderTest : public testing::Test {
   void PeerReads() {
     QObject::connect(peer.get(), &QTcpSocket::readyRead, [this] { read += peer->readAll(); });
   }
-  // More than the systems between the two hold, so that the line stays on its way while the peer
+  // More than the buffers of both systems hold, so that the line stays in flight while the peer
   // does not read.
   void SendMoreThanFits() {
     peer->setReadBufferSize(1);
@@ -91,7 +94,7 @@ TEST_F(QtSenderTest, ALineWaitsUntilThePeersMachineHasAllOfIt) {
   EXPECT_EQ(waitingWhenAcknowledged.back(), 0u);
 }
 
-TEST_F(QtSenderTest, ABrokenConnectionTellsOfTheLinesBeforeItCloses) {
+TEST_F(QtSenderTest, ABrokenConnectionRaisesUndeliveredBeforeClose) {
   SendMoreThanFits();
   socket.SendData(u"second", TextKind::Line);
   socket.SendData(u"my name", TextKind::Signal);
@@ -101,7 +104,7 @@ TEST_F(QtSenderTest, ABrokenConnectionTellsOfTheLinesBeforeItCloses) {
   EXPECT_EQ(closesBefore, 0);
 }
 
-TEST_F(QtSenderTest, WhatThePeersMachineHasTakenIsDelivered) {
+TEST_F(QtSenderTest, WhatThePeersMachineHasAcknowledgedIsDelivered) {
   PeerReads();
   socket.SendData(u"one", TextKind::Line);
   ASSERT_TRUE(WaitFor([&] { return read == "one"; }));
@@ -110,7 +113,7 @@ TEST_F(QtSenderTest, WhatThePeersMachineHasTakenIsDelivered) {
   EXPECT_THAT(undelivered, ElementsAre());
 }
 
-TEST_F(QtSenderTest, AClosedConnectionTellsOfWhatItCouldNotSend) {
+TEST_F(QtSenderTest, AClosedConnectionRaisesUndeliveredForWhatItCouldNotSend) {
   SendMoreThanFits();
   socket.Close();
   EXPECT_THAT(undelivered, ElementsAre());
@@ -120,7 +123,7 @@ TEST_F(QtSenderTest, AClosedConnectionTellsOfWhatItCouldNotSend) {
   EXPECT_EQ(closes, 0);
 }
 
-TEST_F(QtSenderTest, AClosedConnectionStillSendsAllThatWaits) {
+TEST_F(QtSenderTest, AClosedConnectionStillSendsWhatIsQueued) {
   PeerReads();
   for (const char16_t* text : {u"one ", u"two ", u"three"}) socket.SendData(text, TextKind::Line);
   socket.Close();
@@ -129,31 +132,29 @@ TEST_F(QtSenderTest, AClosedConnectionStillSendsAllThatWaits) {
   EXPECT_THAT(undelivered, ElementsAre());
 }
 
-TEST_F(QtSenderTest, FinishingWaitsForWhatIsSentOnlySoLong) {
+TEST_F(QtSenderTest, FinishSendingWaitsTwoSecondsAtMost) {
   SendMoreThanFits();
   socket.Close();
-  QElapsedTimer clock;
-  clock.start();
+  const auto start = steady_clock::now();
   socket.FinishSending();
-  EXPECT_GE(clock.elapsed(), 1900);
-  EXPECT_LT(clock.elapsed(), 4000);
+  EXPECT_GE(steady_clock::now() - start, 1900ms);
+  EXPECT_LT(steady_clock::now() - start, 4s);
   EXPECT_THAT(undelivered, ElementsAre(1));
 }
 
-TEST_F(QtSenderTest, FinishingIsOverWhenAllIsSent) {
+TEST_F(QtSenderTest, FinishSendingReturnsWhenEverythingIsSent) {
   socket.SendData(u"one ", TextKind::Line);
   socket.SendData(u"two", TextKind::Line);
   socket.Close();
-  QElapsedTimer clock;
-  clock.start();
+  const auto start = steady_clock::now();
   socket.FinishSending();
-  EXPECT_LT(clock.elapsed(), 1000);
+  EXPECT_LT(steady_clock::now() - start, 1s);
   EXPECT_THAT(undelivered, ElementsAre());
   PeerReads();
   EXPECT_TRUE(WaitFor([&] { return read == "one two"; }));
 }
 
-TEST_F(QtSenderTest, VanishedPeersAreLookedForInTime) {
+TEST_F(QtSenderTest, VanishedPeersAreDetectedInTime) {
   const int connection = DescriptorConnectedTo(server.serverPort());
   ASSERT_GE(connection, 0);
   EXPECT_TRUE(WaitFor([&] { return Option(connection, IPPROTO_TCP, TCP_USER_TIMEOUT) > 0; }));
@@ -162,6 +163,13 @@ TEST_F(QtSenderTest, VanishedPeersAreLookedForInTime) {
   const int probes =
       Option(connection, IPPROTO_TCP, TCP_KEEPINTVL) * Option(connection, IPPROTO_TCP, TCP_KEEPCNT);
   EXPECT_LE(Option(connection, IPPROTO_TCP, TCP_KEEPIDLE) + probes, 30);
+}
+
+TEST(QtSenderThreadTest, UseOnAnotherThreadIsCaughtInDebugBuilds) {
+  QTcpSocket connection;
+  Sender sender(&connection);
+  sender.Flush();
+  EXPECT_DEATH(std::thread([&] { sender.Flush(); }).join(), "ASSERT.*thread");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Callers that mean no good: the socket of the program against bare ones.
+// Hostile callers: plain TCP sockets that misbehave.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QTest>
 #include <QTimer>
+#include <chrono>
 #include <iostream>
 #include <list>
 
@@ -35,10 +36,10 @@ class QtSocketCallers : public testing::Test {
   }
   ~QtSocketCallers() override {
     qInstallMessageHandler(nullptr);
-    EXPECT_EQ(warnings, 0) << "a caller fills nobody's log";
+    EXPECT_EQ(warnings, 0) << "a caller must not be able to fill the log";
   }
 
-  // Each socket has one, which opens a descriptor of its own when it begins.
+  // The network thread opens a descriptor of its own when it starts.
   static void WaitForThread(const QtSocket& owner) {
     const auto* thread = owner.findChild<QThread*>();
     ASSERT_NE(thread, nullptr);
@@ -57,17 +58,17 @@ class QtSocketCallers : public testing::Test {
     ASSERT_EQ(socket.State(), SocketState::Connected);
     ASSERT_TRUE(peer.IsConnected());
   }
-  // How often the event loop wakes up in a third of a second in which nothing happens.
-  int WakesWhileNothingHappens() {
-    int wakes = 0;
+  // How often the event loop wakes up while nothing happens for 300 ms.
+  int WakeUpsWhileIdle() {
+    int wakeUps = 0;
     QEventLoop loop;
     QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &loop,
-                     [&] { ++wakes; });
-    QTimer::singleShot(300, &loop, &QEventLoop::quit);
+                     [&] { ++wakeUps; });
+    QTimer::singleShot(std::chrono::milliseconds(300), &loop, &QEventLoop::quit);
     loop.exec();
-    return wakes;
+    return wakeUps;
   }
-  // What has been read for a connection, and waits for the program.
+  // How many bytes Qt has read ahead.
   qint64 BytesHeld() const {
     qint64 held = 0;
     for (const QTcpSocket* each : socket.findChildren<QTcpSocket*>())
@@ -83,13 +84,13 @@ class QtSocketCallers : public testing::Test {
 TEST_F(QtSocketCallers, OneThatSaysNothingCostsNothing) {
   RawPeer peer(port);
   ASSERT_TRUE(WaitForRequest());
-  EXPECT_LE(WakesWhileNothingHappens(), 5) << "while it is asked about";
+  EXPECT_LE(WakeUpsWhileIdle(), 5) << "while it is asked about";
   Answer();
-  EXPECT_LE(WakesWhileNothingHappens(), 5) << "once it is answered";
+  EXPECT_LE(WakeUpsWhileIdle(), 5) << "once it is answered";
   EXPECT_EQ(user.Events(), 1u);
 }
 
-TEST_F(QtSocketCallers, OneThatSaysNothingIsSentAwayAtOnce) {
+TEST_F(QtSocketCallers, OneThatSaysNothingIsClosedAtOnce) {
   RawPeer peer(port);
   ASSERT_NO_FATAL_FAILURE(ConnectTo(peer));
   socket.Close();
@@ -98,7 +99,7 @@ TEST_F(QtSocketCallers, OneThatSaysNothingIsSentAwayAtOnce) {
   EXPECT_EQ(user.Events(), 1u);
 }
 
-TEST_F(QtSocketCallers, OneThatTalksBeforeItIsAnsweredIsHeldUp) {
+TEST_F(QtSocketCallers, OneThatFloodsBeforeItIsAcceptedIsSlowedDown) {
   RawPeer peer(port, 64 << 10);
   ASSERT_TRUE(WaitForRequest());
   const std::string bytes(64 << 10, 'x');
@@ -121,7 +122,7 @@ TEST_F(QtSocketCallers, OneThatTalksBeforeItIsAnsweredIsHeldUp) {
   EXPECT_TRUE(WaitFor([&] { return user.Received().size() == sent; }));
 }
 
-TEST_F(QtSocketCallers, OneThatIsGoneBeforeItIsTakenIsNotAskedAbout) {
+TEST_F(QtSocketCallers, OneThatHasResetBeforeItIsTakenIsNotAskedAbout) {
   for (int i = 0; i < 20; ++i) RawPeer(port).Reset();
   RawPeer peer(port);
   ASSERT_TRUE(WaitForRequest());
@@ -130,7 +131,7 @@ TEST_F(QtSocketCallers, OneThatIsGoneBeforeItIsTakenIsNotAskedAbout) {
   EXPECT_EQ(user.requests.size(), 1u);
 }
 
-TEST_F(QtSocketCallers, OneThatCutsTheConnectionWhileAskedAboutCloses) {
+TEST_F(QtSocketCallers, OneThatResetsWhileAskedAboutCloses) {
   RawPeer peer(port);
   peer.Send("hello");
   ASSERT_TRUE(WaitForRequest());
@@ -141,7 +142,7 @@ TEST_F(QtSocketCallers, OneThatCutsTheConnectionWhileAskedAboutCloses) {
   EXPECT_EQ(socket.State(), SocketState::Closed);
 }
 
-TEST_F(QtSocketCallers, OneThatCutsTheConnectionBehindALotOfTextCloses) {
+TEST_F(QtSocketCallers, OneThatResetsAfterALotOfTextCloses) {
   RawPeer peer(port);
   const std::string bytes(1 << 20, 'x');
   ASSERT_TRUE(WaitForRequest());
@@ -156,7 +157,7 @@ TEST_F(QtSocketCallers, OneThatCutsTheConnectionBehindALotOfTextCloses) {
   EXPECT_EQ(user.textsBeforeClose, user.texts.size());
 }
 
-TEST_F(QtSocketCallers, OneThatSendsNoMoreHasLeft) {
+TEST_F(QtSocketCallers, OneThatHalfClosesHasLeft) {
   RawPeer asked(port);
   ASSERT_TRUE(WaitForRequest());
   asked.HalfClose();
@@ -174,7 +175,7 @@ TEST_F(QtSocketCallers, OneThatSendsNoMoreHasLeft) {
   EXPECT_TRUE(WaitFor([&] { return connected.HasEnded(); }));
 }
 
-TEST_F(QtSocketCallers, AThousandBehindTheOneAskedAboutCostNoDescriptor) {
+TEST_F(QtSocketCallers, AThousandInTheBacklogCostNoDescriptor) {
   RawPeer first(port);
   ASSERT_TRUE(WaitForRequest());
   const qsizetype before = DescriptorsInUse();
@@ -195,7 +196,7 @@ TEST_F(QtSocketCallers, AThousandBehindTheOneAskedAboutCostNoDescriptor) {
   }));
 }
 
-TEST_F(QtSocketCallers, HundredsThatAreRefusedLeaveNothingBehind) {
+TEST_F(QtSocketCallers, HundredsThatAreRefusedLeakNothing) {
   const qsizetype before = DescriptorsInUse();
   for (std::size_t i = 0; i < 300; ++i) {
     socket.SetLocalPort(port);
@@ -211,7 +212,7 @@ TEST_F(QtSocketCallers, HundredsThatAreRefusedLeaveNothingBehind) {
   EXPECT_TRUE(WaitFor([&] { return socket.findChildren<QTcpSocket*>().isEmpty(); }));
 }
 
-TEST_F(QtSocketCallers, WaitingAndCallingInQuickAlternationLeaveNothingBehind) {
+TEST_F(QtSocketCallers, AlternatingListenAndConnectLeaksNothing) {
   QtSocket callee;
   callee.SetLocalPort(0);
   callee.Listen();
@@ -233,7 +234,7 @@ TEST_F(QtSocketCallers, WaitingAndCallingInQuickAlternationLeaveNothingBehind) {
   EXPECT_TRUE(WaitForRequest()) << "and it still listens";
 }
 
-TEST_F(QtSocketCallers, NobodyGetsThroughDuringAConversation) {
+TEST_F(QtSocketCallers, OthersAreRefusedDuringAConversation) {
   RawPeer peer(port);
   ASSERT_NO_FATAL_FAILURE(ConnectTo(peer));
   for (int i = 0; i < 10; ++i) {
@@ -245,7 +246,7 @@ TEST_F(QtSocketCallers, NobodyGetsThroughDuringAConversation) {
   EXPECT_FALSE(peer.HasEnded());
 }
 
-TEST_F(QtSocketCallers, ThoseWhoWaitedAreRefusedWhenTheFirstIsAnswered) {
+TEST_F(QtSocketCallers, TheBacklogIsRefusedWhenTheFirstIsAccepted) {
   RawPeer first(port);
   ASSERT_TRUE(WaitForRequest());
   std::list<RawPeer> waiting;
@@ -257,7 +258,7 @@ TEST_F(QtSocketCallers, ThoseWhoWaitedAreRefusedWhenTheFirstIsAnswered) {
   EXPECT_EQ(user.Events(), 1u);
 }
 
-// As many descriptors as the process may have, until it goes.
+// Uses up the descriptors of the process while it exists.
 class NoDescriptors {
  public:
   NoDescriptors() {
@@ -276,13 +277,13 @@ class NoDescriptors {
   std::vector<int> taken_;
 };
 
-TEST_F(QtSocketCallers, OneThatCouldNotBeTakenIsAskedAboutLater) {
-  // Sanitizers need descriptors of their own when they meet a class for the first time.
-  WakesWhileNothingHappens();
+TEST_F(QtSocketCallers, OneThatCouldNotBeAcceptedIsAskedAboutLater) {
+  // Sanitizers open descriptors when they see a class for the first time.
+  WakeUpsWhileIdle();
   RawPeer peer(port);
   {
     const NoDescriptors none;
-    EXPECT_LE(WakesWhileNothingHappens(), 10) << "it is no busy loop";
+    EXPECT_LE(WakeUpsWhileIdle(), 10) << "no busy loop";
     EXPECT_EQ(user.Events(), 0u);
   }
   EXPECT_TRUE(WaitForRequest());

@@ -1,24 +1,26 @@
-// Two sockets that talk to each other as fast as they can.
+// Two sockets that send to each other as fast as they can.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <chrono>
 #include <random>
 
 #include "platform/socket_contract.h"
 #include "platform_qt/net/socket.h"
+#include "stream/protocol_marker.h"
 
 namespace verlume::qt {
 namespace {
 
-constexpr int kLimit = 30'000;  // ms
+constexpr std::chrono::milliseconds kLimit = std::chrono::seconds(30);
 
-// What the program sends: chat lines, action lines, nicknames; and short texts as other programs
-// send them. Each holds its number, so no two are the same.
+// What the program sends: chat lines, action lines, nicknames; and short texts that other programs
+// may send. Each contains its number.
 std::vector<std::u16string> MixedMessages(std::uint64_t seed, std::size_t count) {
   std::mt19937_64 random(seed);
-  // What opens a message of the program's own looks like this.
-  const std::u16string marker = u'\0' + std::u16string(67, u'm') + u'\0';
+  // In the form of the protocol marker.
+  const std::u16string marker = u'\0' + std::u16string(stream::kMarkerTextLength, u'm') + u'\0';
   std::vector<std::u16string> messages;
   for (std::size_t i = 0; i < count; ++i) {
     const std::size_t size = i == count / 2 ? 64 << 10 : random() % (random() % 5 ? 200 : 5000);
@@ -63,7 +65,7 @@ class QtSocketConversationTest : public testing::Test {
     caller.socket.Connect();
     ASSERT_TRUE(QTest::qWaitFor(
         [this] { return callee.socket.State() == SocketState::Connected && caller.connects == 1; },
-        kLimit));
+        static_cast<int>(kLimit.count())));
   }
 
   void ExpectEachMessageByItself() {
@@ -77,7 +79,7 @@ class QtSocketConversationTest : public testing::Test {
         [&] {
           return callee.texts.size() >= toCallee.size() && caller.texts.size() >= toCaller.size();
         },
-        kLimit));
+        static_cast<int>(kLimit.count())));
     EXPECT_EQ(callee.texts.size(), toCallee.size());
     EXPECT_EQ(caller.texts.size(), toCaller.size());
     EXPECT_EQ(FirstDifference(callee.texts, toCallee), toCallee.size());

@@ -127,6 +127,13 @@ class QtApplicationFolders : public testing::Test {
   QTemporaryDir folder_;
 };
 
+TEST(QtApplicationErrors, AnErrorIsOneLineOfStandardError) {
+  testing::internal::CaptureStderr();
+  QtApplication().LogError("procedure 203 failed: error 13, Type mismatch");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "verlume: procedure 203 failed: error 13, Type mismatch\n");
+}
+
 TEST_F(QtApplicationFolders, TheProgramLiesWhereItsExecutableLies) {
   EXPECT_EQ(QtApplication().ProgramFolder(), FromQt(QCoreApplication::applicationDirPath()));
 }

@@ -17,6 +17,7 @@ class QtTextWritingTest : public testing::Test {
  protected:
   QtTextWritingTest() {
     box.SetLocked(true);
+    box.onTakingIn = [this] { ++takingIn; };
     box.onTakenIn = [this] { ++takenIn; };
     while (longText.size() < 500'000) longText += u"some words ";
     longRtf = u"{\\rtf1\\ansi " + longText + u"}";
@@ -35,6 +36,7 @@ class QtTextWritingTest : public testing::Test {
   QtRichTextBox box{&window, files, Lines::Many};
   std::u16string longText;
   std::u16string longRtf;
+  int takingIn = 0;
   int takenIn = 0;
 };
 
@@ -42,12 +44,24 @@ TEST_F(QtTextWritingTest, AShortTextIsInAtOnce) {
   Write(u"{\\rtf1 short}");
   EXPECT_FALSE(box.IsTakingIn());
   EXPECT_EQ(box.Text(), u"short");
+  EXPECT_EQ(takingIn, 0);
   EXPECT_EQ(takenIn, 0);
+}
+
+TEST_F(QtTextWritingTest, TheBeginningIsRaisedOncePerTakingIn) {
+  Write(longRtf);
+  Write(longRtf);
+  EXPECT_EQ(takingIn, 1);
+  ASSERT_TRUE(HandlesEventsUntilTakenIn());
+  EXPECT_EQ(takenIn, 1);
+  Write(longRtf);
+  EXPECT_EQ(takingIn, 2);
 }
 
 TEST_F(QtTextWritingTest, ALongTextComesInWhileEventsAreHandled) {
   Write(longRtf);
   EXPECT_TRUE(box.IsTakingIn());
+  EXPECT_EQ(takingIn, 1);
   EXPECT_LT(box.TextLength(), longText.size());
   int handled = 0;
   QTimer other;

@@ -88,6 +88,18 @@ TEST_F(ProgramTest, LineArrivesInTheStyleItWasTypedIn) {
   EXPECT_EQ(pane.SelFormat().fontSize, 8);
 }
 
+TEST_F(ProgramTest, ArrivalsWaitWhileTheDialoguePaneTakesIn) {
+  Connect();
+  auto& pane = bob.platform.window.rtbData;
+  pane.onTakingIn();
+  ann.Enter(u"hello");
+  network.RunUntilIdle();
+  EXPECT_EQ(bob.Dialogue(), u"");
+  pane.onTakenIn();
+  network.RunUntilIdle();
+  EXPECT_EQ(bob.Dialogue(), u"<Άννα>hello");
+}
+
 TEST_F(ProgramTest, ActionLineNamesItsSenderItself) {
   Connect();
   ann.Enter(u"/εγώ χαιρετώ");
