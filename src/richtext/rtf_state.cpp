@@ -41,7 +41,7 @@ void RtfState::CloseGroup() {
     return;
   }
   ended_ = outerGroups_.size() <= 1;
-  if (ended_) return;
+  if (outerGroups_.empty()) return;
   group_ = outerGroups_.back();
   outerGroups_.pop_back();
   if (InBody()) fonts_.End();  // the declaration of a font ends with its table
