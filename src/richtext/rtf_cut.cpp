@@ -57,7 +57,7 @@ bool Cutter::IsUnfinished(const Parser& parser) const {
   if (first != '\\') return !IsAscii(first) && left < kLookAhead;
   if (left == 0) return true;
   const char symbol = token.At()[1];
-  return (symbol == '\'' || symbol == '*') && left < kLookAhead;
+  return (symbol == '\'' || symbol == '*' || !IsAscii(symbol)) && left < kLookAhead;
 }
 
 // A brace ends the fallback whatever is left of it.

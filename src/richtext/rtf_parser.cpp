@@ -107,7 +107,7 @@ void RtfParser<Ch, Listener>::ReadControl() {
 template <typename Ch, typename Listener>
 void RtfParser<Ch, Listener>::ReadSymbol() {
   const Ch symbol = tokens_.Peek();
-  if (!IsAscii(symbol)) return;
+  if (!IsAscii(symbol)) return ReadText();
   tokens_.Skip(1);
   switch (symbol) {
     case '\'':

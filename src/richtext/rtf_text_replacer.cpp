@@ -51,9 +51,13 @@ void Replacer::ReadToken() {
   const int fallbackLeft = parser_.FallbackLeft();
   NoteUndelimitedWord(begin);
   parser_.ReadToken();
-  const std::u16string_view token(begin, parser_.At());
-  if (!isShown || IsMarkup(token.front())) return;
-  ReplaceIn(token.substr(std::min(static_cast<std::size_t>(fallbackLeft), token.size())));
+  std::u16string_view text(begin, parser_.At());
+  // What is put right behind a stray backslash would become part of an escape.
+  const bool hasStrayBackslash = text.size() > 1 && text[0] == u'\\' && !IsAscii(text[1]);
+  if (hasStrayBackslash) text.remove_prefix(1);
+  if (!isShown || IsMarkup(text.front())) return;
+  const auto unsearched = static_cast<std::size_t>(std::max<int>(fallbackLeft, hasStrayBackslash));
+  ReplaceIn(text.substr(std::min(unsearched, text.size())));
 }
 
 // Text put right behind such a word would become part of it.

@@ -142,6 +142,10 @@ TEST(RtfCut, AFontOfTheTextBeforeMayBeDeclaredBehindTheCut) {
   ExpectTheSameWhereverCut(R"({\rtf1 a{{b\pict 00}c{\fonttbl\f0 A;\f2 B;}d}\deff2 e\deff9 f})");
 }
 
+TEST(RtfCut, AStrayBackslashStaysWithWhatFollows) {
+  ExpectTheSameWhereverCut(kHeader + "a\\\xE1z{b\\\xE2\\\xE3}c and more text}");
+}
+
 TEST(RtfCut, TheCodePageStays) {
   ExpectTheSameWhereverCut(R"({\rtf1\pc a\'e1\ansicpg65001 \'e1\mac \'e1\'ce\'b1\pca \'e1 b})");
   ExpectTheSameWhereverCut(R"({\rtf1 a\'e1{\ansicpg1253 \'e1}\'e1\ansicpg1 \'e1 and more text})");
