@@ -66,6 +66,12 @@ const char16_t* UpperHalf(int codePage) {
   return (table != nullptr ? table : FindTable(kWesternPage))->high.data();
 }
 
+int CodePageOf(const char16_t* upperHalf) {
+  const auto found = std::ranges::find(
+      kCodePageTables, upperHalf, [](const CodePageTable& table) { return table.high.data(); });
+  return found->codePage;
+}
+
 char16_t DecodeByte(unsigned char byte, int codePage) {
   return byte < 0x80 ? byte : UpperHalf(codePage)[byte - 0x80];
 }

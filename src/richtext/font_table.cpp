@@ -21,7 +21,7 @@ std::uint16_t IndexIn(std::vector<Font>& fonts, const Font& font) {
 
 }  // namespace
 
-FontTable::FontTable() : documentCodePage_(kAnsiPage), documentUpperHalf_(UpperHalf(kAnsiPage)) {
+FontTable::FontTable() : documentUpperHalf_(UpperHalf(kAnsiPage)) {
   entries_.reserve(4);
   entries_.emplace_back();
 }
@@ -33,19 +33,18 @@ void FontTable::Begin(int number) {
   if (place >= indexOfNumber_.size()) indexOfNumber_.resize(place + 1, kDefaultFont);
   current_ = static_cast<std::uint16_t>(entries_.size());
   indexOfNumber_[place] = current_;
-  entries_.push_back({number, {{}, kDefaultCharset}, 0, nullptr});
+  entries_.push_back({{{}, kDefaultCharset}, number, nullptr});
 }
 
 void FontTable::SetCharset(int charset) {
   if (!isOpen_) return;
   entries_[current_].font.charset = charset;
-  SetCodePage(CodePageOfCharset(charset));
+  const int codePage = CodePageOfCharset(charset);
+  if (codePage != 0) entries_[current_].upperHalf = UpperHalf(codePage);
 }
 
 void FontTable::SetCodePage(int codePage) {
-  if (!isOpen_ || !IsKnownCodePage(codePage)) return;
-  entries_[current_].codePage = codePage;
-  entries_[current_].upperHalf = UpperHalf(codePage);
+  if (isOpen_ && IsKnownCodePage(codePage)) entries_[current_].upperHalf = UpperHalf(codePage);
 }
 
 void FontTable::AppendName(char16_t unit) {
@@ -55,8 +54,7 @@ void FontTable::AppendName(char16_t unit) {
 }
 
 void FontTable::SetDocumentCodePage(int codePage) {
-  documentCodePage_ = IsKnownCodePage(codePage) ? codePage : kAnsiPage;
-  documentUpperHalf_ = UpperHalf(documentCodePage_);
+  documentUpperHalf_ = UpperHalf(codePage);
 }
 
 void FontTable::GiveFontsTo(Document& document) const {

@@ -11,10 +11,9 @@
 namespace verlume::richtext {
 
 struct FontDeclaration {
-  int number = 0;
   Font font;
-  int codePage = 0;                     // 0: the document's
-  const char16_t* upperHalf = nullptr;  // of the code page; null: the document's
+  int number = 0;
+  const char16_t* upperHalf = nullptr;  // of its code page; null: the document's
 };
 
 class FontTable {
@@ -39,7 +38,7 @@ class FontTable {
 
   // Which fonts that name no code page of their own follow; an unknown one is Windows-1252.
   void SetDocumentCodePage(int codePage);
-  int DocumentCodePage() const { return documentCodePage_; }
+  const char16_t* DocumentUpperHalf() const { return documentUpperHalf_; }
 
   // kDefaultFont for numbers that are not declared.
   std::uint16_t IndexOf(int number) const {
@@ -71,7 +70,6 @@ class FontTable {
 
   std::vector<FontDeclaration> entries_;  // the first is the font without a name
   std::vector<std::uint16_t> indexOfNumber_;
-  int documentCodePage_;
   const char16_t* documentUpperHalf_;
   int defaultNumber_ = 0;
   std::uint16_t current_ = 0;

@@ -6,11 +6,6 @@
 
 namespace verlume::richtext {
 
-void RtfContent::CloseGroup() {
-  RtfState::CloseGroup();
-  if (!Ended()) builder_.SetFormat(FormatInForce());
-}
-
 void RtfContent::AppendCodePoint(char32_t codePoint) {
   std::u16string units;
   richtext::AppendCodePoint(units, codePoint);
@@ -24,11 +19,6 @@ void RtfContent::AppendBreak(bool endsParagraph) {
   } else {
     builder_.Append(u'\n');
   }
-}
-
-void RtfContent::Apply(const ControlToken& token) {
-  RtfState::Apply(token);
-  builder_.SetFormat(FormatInForce());
 }
 
 Document RtfContent::TakePart() {

@@ -16,7 +16,10 @@ class RtfContent : public RtfState {
   // `expectedLength` of a part's text.
   explicit RtfContent(std::size_t expectedLength) : builder_(expectedLength) {}
 
-  void CloseGroup();
+  void CloseGroup() {
+    RtfState::CloseGroup();
+    if (!Ended()) builder_.SetFormat(FormatInForce());
+  }
 
   template <typename Ch>
   void Append(const Ch* begin, const Ch* end) {
@@ -33,7 +36,9 @@ class RtfContent : public RtfState {
   void AppendCodePoint(char32_t codePoint);
   // A line break; one that ends a paragraph adds no empty line at the document's end.
   void AppendBreak(bool endsParagraph);
-  void Apply(const ControlToken& token);
+  void Apply(const ControlToken& token) {
+    if (RtfState::Apply(token)) builder_.SetFormat(FormatInForce());
+  }
 
   // Whether the first half of a surrogate pair came last.
   bool EndsInsidePair() const { return builder_.EndsInsidePair(); }

@@ -42,7 +42,7 @@ class Cutter {
 
 // Reads to a place between two tokens, or to the next such place.
 Parser Cutter::ReadTo(const char* place) const {
-  Parser parser(Begin(), End(), RtfState());
+  Parser parser(Begin(), End());
   parser.ReadOn(static_cast<std::size_t>(place - Begin()));
   return parser;
 }

@@ -66,7 +66,7 @@ std::string OpeningWriter::Write() {
 void OpeningWriter::WriteCodePage() {
   constexpr int kAnsiPage = 1252;
   constexpr int kUtf8Page = 65001;
-  const int page = state_.Fonts().DocumentCodePage();
+  const int page = CodePageOf(state_.Fonts().DocumentUpperHalf());
   if (state_.IsUtf8()) Word("ansicpg", kUtf8Page);
   if (page == kAnsiPage) return;
   // Words that leave it to the document whether it is UTF-8.
@@ -187,8 +187,8 @@ std::string WriteFont(const FontDeclaration& declaration) {
   const Font& font = declaration.font;
   std::string rtf = "\\f" + std::to_string(declaration.number);
   rtf += "\\fcharset" + std::to_string(font.charset);
-  const bool hasOwnPage = declaration.codePage != CodePageOfCharset(font.charset);
-  if (hasOwnPage) rtf += "\\cpg" + std::to_string(declaration.codePage);
+  const int page = declaration.upperHalf == nullptr ? 0 : CodePageOf(declaration.upperHalf);
+  if (page != CodePageOfCharset(font.charset)) rtf += "\\cpg" + std::to_string(page);
   rtf += ' ';
   for (const char16_t unit : font.name) {
     if (!IsAscii(unit)) {

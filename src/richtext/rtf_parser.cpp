@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <utility>
 
 #include "richtext/utf8.h"
 
@@ -18,10 +17,6 @@ constexpr char16_t kNoBreakHyphen = 0x2011;
 constexpr char16_t kReplacement = 0xFFFD;
 
 }  // namespace
-
-template <typename Ch, typename Listener>
-RtfParser<Ch, Listener>::RtfParser(const Ch* begin, const Ch* end, Listener listener)
-    : limit_(begin), token_(begin), tokens_(begin, end), listener_(std::move(listener)) {}
 
 template <typename Ch, typename Listener>
 void RtfParser<Ch, Listener>::ReadOn(std::size_t length) {

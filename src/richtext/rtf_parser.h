@@ -13,7 +13,10 @@ namespace verlume::richtext {
 template <typename Ch, typename Listener>
 class RtfParser {
  public:
-  RtfParser(const Ch* begin, const Ch* end, Listener listener);
+  // `arguments` are those of the listener.
+  template <typename... Arguments>
+  RtfParser(const Ch* begin, const Ch* end, Arguments... arguments)
+      : limit_(begin), token_(begin), tokens_(begin, end), listener_(arguments...) {}
 
   // Reads on to the end of a token, about so many characters further. Does not part the halves of
   // a surrogate pair, where the listener keeps text.

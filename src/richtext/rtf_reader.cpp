@@ -10,7 +10,7 @@ namespace {
 
 template <typename Ch>
 Document ReadMarkup(std::basic_string_view<Ch> rtf) {
-  RtfParser<Ch, RtfContent> parser(rtf.data(), rtf.data() + rtf.size(), RtfContent(rtf.size() / 2));
+  RtfParser<Ch, RtfContent> parser(rtf.data(), rtf.data() + rtf.size(), rtf.size() / 2);
   parser.ReadOn(rtf.size());
   return parser.GetListener().TakePart();
 }

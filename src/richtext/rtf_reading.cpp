@@ -19,7 +19,7 @@ bool IsOneThing(char16_t before, char16_t behind) {
 
 RtfReading::RtfReading(std::u16string rtf) : rtf_(std::move(rtf)) {
   if (!LooksLikeRtf(rtf_)) return;
-  parser_.emplace(rtf_.data(), rtf_.data() + rtf_.size(), RtfContent(0));
+  parser_.emplace(rtf_.data(), rtf_.data() + rtf_.size(), std::size_t{0});
 }
 
 Document RtfReading::Next(std::size_t length) {
@@ -44,8 +44,7 @@ void AppendRtfText(std::u16string_view rtf, std::u16string& text) {
   }
   // It has no more characters than that; what is not needed costs nothing.
   text.reserve(text.size() + rtf.size());
-  RtfParser<char16_t, RtfContent> parser(rtf.data(), rtf.data() + rtf.size(),
-                                         RtfContent(kPartLength));
+  RtfParser<char16_t, RtfContent> parser(rtf.data(), rtf.data() + rtf.size(), kPartLength);
   while (!parser.IsDone()) {
     parser.ReadOn(kPartLength);
     text += parser.GetListener().TakePart().text;

@@ -67,17 +67,24 @@ void RtfState::AppendToTable(char16_t unit) {
   }
 }
 
-void RtfState::Apply(const ControlToken& token) {
+bool RtfState::Apply(const ControlToken& token) {
   switch (group_.destination) {
     case Destination::kFontTable:
-      return ApplyToFonts(token);
+      ApplyToFonts(token);
+      return false;
     case Destination::kColorTable:
-      return ApplyToColors(token);
+      ApplyToColors(token);
+      return false;
     case Destination::kBody:
       break;
   }
-  if (excessDepth_ != 0) return ApplyBeyondDepth(token);
-  if (!ApplyFormat(token)) ApplyToDocument(token);
+  if (excessDepth_ != 0) {
+    ApplyBeyondDepth(token);
+    return false;
+  }
+  const bool isFormat = ApplyFormat(token);
+  if (!isFormat) ApplyToDocument(token);
+  return isFormat;
 }
 
 // Only what cannot cost text: fewer characters to pass over behind \u.

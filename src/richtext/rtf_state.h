@@ -53,7 +53,8 @@ class RtfState {
   }
 
   // Does what a control word says of formats, the document and its tables; other words do nothing.
-  void Apply(const ControlToken& token);
+  // True when it may have changed the format in force.
+  bool Apply(const ControlToken& token);
 
   // Sends the text of the group to a table. False where the group is too deep to be kept: it has to
   // be passed over.

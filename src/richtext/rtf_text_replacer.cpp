@@ -12,7 +12,7 @@ class Replacer {
  public:
   Replacer(std::u16string_view rtf, std::span<const RtfReplacement> list)
       : end_(rtf.data() + rtf.size()),
-        parser_(rtf.data(), end_, RtfState()),
+        parser_(rtf.data(), end_),
         copied_(rtf.data()),
         list_(list),
         isUsed_(list.size(), false) {
