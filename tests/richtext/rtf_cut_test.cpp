@@ -6,6 +6,7 @@
 
 #include "richtext/document_dump.h"
 #include "richtext/document_join.h"
+#include "richtext/rtf_limits.h"
 #include "richtext/rtf_reader.h"
 
 namespace verlume::richtext {
@@ -147,8 +148,11 @@ TEST(RtfCut, AStrayBackslashStaysWithWhatFollows) {
 }
 
 TEST(RtfCut, TheCodePageStays) {
-  ExpectTheSameWhereverCut(R"({\rtf1\pc a\'e1\ansicpg65001 \'e1\mac \'e1\'ce\'b1\pca \'e1 b})");
-  ExpectTheSameWhereverCut(R"({\rtf1 a\'e1{\ansicpg1253 \'e1}\'e1\ansicpg1 \'e1 and more text})");
+  for (const std::string& page : {R"(\pc )"s, R"(\pca )"s, R"(\mac )"s, R"(\ansicpg1253 )"s}) {
+    ExpectTheSameWhereverCut(R"({\rtf1 \'e0{)" + page + R"(\'e0}\'e0 and more text})");
+    ExpectTheSameWhereverCut(R"({\rtf1\ansicpg65001 \'e0{)" + page +
+                             R"(\'e0}\'ce\'b1\ansicpg1 \'e0 and more text})");
+  }
 }
 
 TEST(RtfCut, TheOpeningStaysShort) {
@@ -168,6 +172,15 @@ TEST(RtfCut, DeepGroupsGoOnBehindTheCut) {
       const CutDocument cut = CutRtf(rtf, length);
       EXPECT_EQ(Dump(Join(cut)), Dump(ReadRtf(rtf))) << inside << length;
     }
+  }
+}
+
+TEST(RtfCut, TablesAreKeptInTheDeepestGroup) {
+  for (const std::size_t depth : {limits::kMaxGroupDepth - 2, limits::kMaxGroupDepth - 1}) {
+    const std::string rtf = R"({\rtf1{\fonttbl{\f0 A;}{\f1 B;}{\f2 C;}})" +
+                            std::string(depth, '{') + R"(\f1 a\f2 b\f0 c and more text)";
+    const CutDocument cut = CutRtf(rtf, rtf.find("a\\f2") + 1);
+    EXPECT_EQ(Dump(Join(cut)), Dump(ReadRtf(rtf))) << cut.behind;
   }
 }
 
