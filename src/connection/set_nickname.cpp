@@ -2,6 +2,7 @@
 #include "connection/command_parts.h"
 #include "connection/connection_actions.h"
 #include "connection/connection_texts.h"
+#include "richtext/characters.h"
 #include "shell/nickname.h"
 
 namespace verlume {
@@ -12,7 +13,7 @@ namespace texts = connection_texts::set_nickname;
 // A NUL ends a nickname on the wire, and a line break would tear the tag of every dialogue line:
 // no control character is typed, so what a paste brings along is no part of a nickname.
 std::u16string WithoutControlCharacters(std::u16string text) {
-  std::erase_if(text, [](char16_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); });
+  std::erase_if(text, richtext::IsControlCharacter);
   return text;
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/run_time_failure.h"
 #include "records/dialogue_log_texts.h"
+#include "richtext/characters.h"
 #include "shell/conversions.h"
 #include "shell/date_time_text.h"
 #include "shell/folder_choice.h"
@@ -15,9 +16,9 @@ namespace {
 
 using namespace dialogue_log_texts;
 
-bool IsControl(char16_t c) {
+bool IsControlOrLineBreak(char16_t c) {
   const bool isLineBreak = c == 0x2028 || c == 0x2029;
-  return c < 0x20 || (c >= 0x7F && c < 0xA0) || isLineBreak;
+  return richtext::IsControlCharacter(c) || isLineBreak;
 }
 
 bool MayNameAFile(std::u16string_view character) {
@@ -31,7 +32,7 @@ std::u16string EntryOf(std::u16string line) {
   std::size_t length = 0;
   for (std::size_t i = 0; i < line.size(); ++i) {
     if (line[i] == u'\r' && i + 1 < line.size() && line[i + 1] == u'\n') continue;
-    line[length++] = IsControl(line[i]) ? u' ' : line[i];
+    line[length++] = IsControlOrLineBreak(line[i]) ? u' ' : line[i];
   }
   line.resize(length);
   line += u"\r\n";

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "richtext/characters.h"
 #include "richtext/code_page_tables.h"
 #include "richtext/utf8.h"
 
@@ -49,13 +50,6 @@ constexpr GreekEncoder MakeGreekEncoder() {
 constexpr GreekEncoder kGreekEncoder = MakeGreekEncoder();
 constexpr const char16_t* kGreekHigh = FindTable(kGreekPage)->high.data();
 
-bool IsHighSurrogate(char16_t unit) {
-  return (unit & 0xFC00) == 0xD800;
-}
-bool IsLowSurrogate(char16_t unit) {
-  return (unit & 0xFC00) == 0xDC00;
-}
-
 char16_t DecodeGreekByte(char byte) {
   const auto value = static_cast<unsigned char>(byte);
   return value < 0x80 ? value : kGreekHigh[value - 0x80];
@@ -70,6 +64,12 @@ bool IsKnownCodePage(int codePage) {
 const char16_t* UpperHalf(int codePage) {
   const CodePageTable* table = FindTable(codePage);
   return (table != nullptr ? table : FindTable(kWesternPage))->high.data();
+}
+
+int CodePageOf(const char16_t* upperHalf) {
+  const auto found = std::ranges::find(
+      kCodePageTables, upperHalf, [](const CodePageTable& table) { return table.high.data(); });
+  return found->codePage;
 }
 
 char16_t DecodeByte(unsigned char byte, int codePage) {
@@ -121,10 +121,9 @@ std::string EncodeGreek(std::u16string_view text) {
   bytes.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char16_t unit = text[i];
-    const unsigned char byte = unit < 0x80 ? static_cast<unsigned char>(unit) : GreekByte(unit);
+    const unsigned char byte = IsAscii(unit) ? static_cast<unsigned char>(unit) : GreekByte(unit);
     bytes.push_back(byte != 0 || unit == 0 ? static_cast<char>(byte) : '?');
-    const bool pair = IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(text[i + 1]);
-    if (pair) ++i;
+    if (BeginsWithSurrogatePair(text.substr(i))) ++i;
   }
   return bytes;
 }

@@ -18,6 +18,9 @@ char16_t DecodeByte(unsigned char byte, int codePage);
 // runs); of Windows-1252 for an unknown page.
 const char16_t* UpperHalf(int codePage);
 
+// The code page whose upper half this is.
+int CodePageOf(const char16_t* upperHalf);
+
 // The byte of Windows-1253 for a character outside ASCII, or 0 where the page has none.
 unsigned char GreekByte(char16_t character);
 

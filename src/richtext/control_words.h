@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <type_traits>
 
+#include "richtext/characters.h"
 #include "richtext/rtf_limits.h"
 
 namespace verlume::richtext {
@@ -58,11 +58,6 @@ struct ControlWord {
   std::uint16_t value = 0;
 };
 
-template <typename Ch>
-constexpr bool IsAsciiLetter(Ch character) {
-  return (static_cast<std::make_unsigned_t<Ch>>(character) | 0x20u) - 'a' < 26u;
-}
-
 // A control word's name, its letters packed into two numbers so that comparing costs next to
 // nothing. A name too long for them is empty: no known word has it.
 struct ControlWordName {
@@ -97,6 +92,17 @@ struct ControlWordName {
     return packed;
   }
 };
+
+// A control word's number, read digit by digit: begins with 0, takes each digit, and is held within
+// its limit at the end.
+template <typename Ch>
+constexpr int WithDigit(int number, Ch digit) {
+  if (number >= limits::kMaxParameter) return number;
+  return number * 10 + static_cast<int>(CodeOf(digit) - '0');
+}
+constexpr int ControlNumber(int digits) {
+  return std::min(digits, limits::kMaxParameter);
+}
 
 // The row of a control word; a row with Action::kUnknown for any other name.
 const ControlWord& FindControlWord(const ControlWordName& name);

@@ -1,23 +1,6 @@
 #include "richtext/document_scan.h"
 
-#include <string_view>
-
 namespace verlume::richtext {
-namespace {
-
-constexpr std::string_view kBin = "bin";
-// More data than any document may have; keeps the count from overflowing.
-constexpr std::uint64_t kMostData = std::uint64_t{1} << 32;
-
-bool IsLetter(char byte) {
-  return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
-
-bool IsDigit(char byte) {
-  return byte >= '0' && byte <= '9';
-}
-
-}  // namespace
 
 bool DocumentScan::Feed(char byte) {
   switch (in_) {
@@ -28,10 +11,10 @@ bool DocumentScan::Feed(char byte) {
       return false;
     case In::Word:
       return FeedWord(byte);
-    case In::Parameter:
-      return FeedParameter(byte);
+    case In::Number:
+      return FeedNumber(byte);
     case In::Data:
-      if (--parameter_ == 0) in_ = In::Text;
+      if (--number_ == 0) in_ = In::Text;
       return false;
   }
   return false;
@@ -45,44 +28,48 @@ bool DocumentScan::FeedText(char byte) {
 
 // The digits of \'xx are no braces, so they pass as text.
 void DocumentScan::FeedEscape(char byte) {
-  if (!IsLetter(byte)) {
+  if (!IsAsciiLetter(byte)) {
     in_ = In::Text;
     return;
   }
   in_ = In::Word;
-  letters_ = 1;
-  isBin_ = byte == kBin[0];
-  parameter_ = 0;
+  letters_[0] = byte;
+  letterCount_ = 1;
+  number_ = 0;
   isNegative_ = false;
 }
 
 bool DocumentScan::FeedWord(char byte) {
-  if (IsLetter(byte)) {
-    isBin_ = isBin_ && letters_ < 3 && byte == kBin[static_cast<std::size_t>(letters_)];
-    if (letters_ < 3) ++letters_;
+  if (IsAsciiLetter(byte)) {
+    if (letterCount_ < letters_.size()) letters_[letterCount_++] = byte;
     return false;
   }
-  isBin_ = isBin_ && letters_ == 3;
-  in_ = In::Parameter;
-  if (byte == '-') {
-    isNegative_ = true;
-    return false;
-  }
-  return FeedParameter(byte);
-}
-
-bool DocumentScan::FeedParameter(char byte) {
-  if (!IsDigit(byte)) return EndWord(byte);
-  if (parameter_ < kMostData) parameter_ = parameter_ * 10 + static_cast<unsigned>(byte - '0');
+  in_ = In::Number;
+  if (byte != '-') return FeedNumber(byte);
+  isNegative_ = true;
   return false;
 }
 
-// `byte` is the first one behind the word and its parameter: a blank belongs to them, any other
-// byte is data or text already.
+bool DocumentScan::FeedNumber(char byte) {
+  if (!IsAsciiDigit(byte)) return EndWord(byte);
+  number_ = WithDigit(number_, byte);
+  return false;
+}
+
+// `byte` is the first one behind the word and its number: a blank belongs to them, any other byte
+// is data or text already.
 bool DocumentScan::EndWord(char byte) {
-  const bool hasData = isBin_ && !isNegative_ && parameter_ > 0;
-  in_ = hasData ? In::Data : In::Text;
+  number_ = ControlNumber(number_);
+  in_ = IsData() ? In::Data : In::Text;
   return byte != ' ' && Feed(byte);
+}
+
+// Whether data comes behind the word.
+bool DocumentScan::IsData() const {
+  if (isNegative_ || number_ == 0) return false;
+  const char* letters = letters_.data();
+  const auto name = ControlWordName::Read(letters, letters + letterCount_);
+  return FindControlWord(name).action == Action::kBinary;
 }
 
 }  // namespace verlume::richtext

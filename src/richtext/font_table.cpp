@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "richtext/characters.h"
 #include "richtext/code_pages.h"
 #include "richtext/rtf_limits.h"
 
@@ -26,35 +27,30 @@ FontTable::FontTable() : documentUpperHalf_(UpperHalf(kAnsiPage)) {
 }
 
 void FontTable::Begin(int number) {
-  open_ = number >= 0 && number <= limits::kMaxFontNumber && entries_.size() <= limits::kMaxFonts;
-  if (!open_) return;
+  isOpen_ = number >= 0 && number <= limits::kMaxFontNumber && entries_.size() <= limits::kMaxFonts;
+  if (!isOpen_) return;
   const auto place = static_cast<std::size_t>(number);
   if (place >= indexOfNumber_.size()) indexOfNumber_.resize(place + 1, kDefaultFont);
   current_ = static_cast<std::uint16_t>(entries_.size());
   indexOfNumber_[place] = current_;
-  entries_.push_back({{{}, kDefaultCharset}, nullptr});
+  entries_.push_back({{{}, kDefaultCharset}, number, nullptr});
 }
 
 void FontTable::SetCharset(int charset) {
-  if (!open_) return;
+  if (!isOpen_) return;
   entries_[current_].font.charset = charset;
   const int codePage = CodePageOfCharset(charset);
   if (codePage != 0) entries_[current_].upperHalf = UpperHalf(codePage);
 }
 
 void FontTable::SetCodePage(int codePage) {
-  if (open_ && IsKnownCodePage(codePage)) entries_[current_].upperHalf = UpperHalf(codePage);
+  if (isOpen_ && IsKnownCodePage(codePage)) entries_[current_].upperHalf = UpperHalf(codePage);
 }
 
 void FontTable::AppendName(char16_t unit) {
-  const bool isControl = unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
-  if (!open_ || isControl) return;
+  if (!isOpen_ || IsControlCharacter(unit)) return;
   std::u16string& name = entries_[current_].font.name;
   if (name.size() < limits::kMaxFontNameLength) name.push_back(unit);
-}
-
-void FontTable::SetDefault(int number) {
-  defaultNumber_ = number;
 }
 
 void FontTable::SetDocumentCodePage(int codePage) {

@@ -3,11 +3,18 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "richtext/document.h"
 
 namespace verlume::richtext {
+
+struct FontDeclaration {
+  Font font;
+  int number = 0;
+  const char16_t* upperHalf = nullptr;  // of its code page; null: the document's
+};
 
 class FontTable {
  public:
@@ -22,18 +29,26 @@ class FontTable {
   void SetCharset(int charset);
   void SetCodePage(int codePage);
   void AppendName(char16_t unit);
-  void End() { open_ = false; }
+  void End() { isOpen_ = false; }
+  bool IsOpen() const { return isOpen_; }  // the last declaration has begun and not ended
 
-  void SetDefault(int number);
+  void SetDefault(int number) { defaultNumber_ = number; }
+  int DefaultNumber() const { return defaultNumber_; }
+  const Font& DefaultFont() const { return entries_[IndexOf(defaultNumber_)].font; }
 
-  // Which fonts that name no code page of their own follow.
+  // Which fonts that name no code page of their own follow; an unknown one is Windows-1252.
   void SetDocumentCodePage(int codePage);
+  const char16_t* DocumentUpperHalf() const { return documentUpperHalf_; }
 
   // kDefaultFont for numbers that are not declared.
   std::uint16_t IndexOf(int number) const {
     const auto place = static_cast<std::size_t>(number);
     return number >= 0 && place < indexOfNumber_.size() ? indexOfNumber_[place] : kDefaultFont;
   }
+
+  // In the order they came in; the first has index 1. A number may be declared again: it is the
+  // later font's from there on.
+  std::span<const FontDeclaration> Declarations() const { return std::span(entries_).subspan(1); }
 
   // The characters of the bytes 0x80 to 0xFF in the font of this index.
   const char16_t* UpperHalfOf(std::uint16_t index) const {
@@ -49,21 +64,16 @@ class FontTable {
   void GiveFontsTo(Document& document) const;
 
  private:
-  struct Entry {
-    Font font;
-    const char16_t* upperHalf = nullptr;  // null: the document's
-  };
-
   std::uint16_t Resolve(std::uint16_t index) const {
     return index == kDefaultFont ? IndexOf(defaultNumber_) : index;
   }
 
-  std::vector<Entry> entries_;
+  std::vector<FontDeclaration> entries_;  // the first is the font without a name
   std::vector<std::uint16_t> indexOfNumber_;
   const char16_t* documentUpperHalf_;
   int defaultNumber_ = 0;
   std::uint16_t current_ = 0;
-  bool open_ = false;
+  bool isOpen_ = false;
 };
 
 }  // namespace verlume::richtext

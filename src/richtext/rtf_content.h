@@ -1,43 +1,30 @@
-// What has been read of an RTF document: its text and runs, its tables, and the groups that are
-// open. Knows what text and control words do; the parser knows how they are written.
+// What has been read of an RTF document: its text and runs, and what is in force behind them.
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
-#include <vector>
 
 #include "richtext/document.h"
-#include "richtext/font_table.h"
-#include "richtext/rtf_tokens.h"
+#include "richtext/rtf_state.h"
 #include "richtext/run_builder.h"
 
 namespace verlume::richtext {
 
-// Where the text of a group goes.
-enum class Destination : std::uint8_t { kBody, kFontTable, kColorTable };
-
-// What a group inherits from the one around it and loses at its end.
-struct GroupState {
-  CharFormat format;           // its font is an index of FontTable
-  CharFormat eastAsianFormat;  // of text behind \dbch; it differs where associated words say so
-  bool isEastAsian = false;    // such text follows
-  Destination destination = Destination::kBody;
-  std::uint8_t fallbackCount = 1;  // \uc: how many characters stand behind \u for older readers
-};
-
-class RtfContent {
+// The listener of RtfParser that keeps the text. The functions that have the name of one of
+// RtfState are called instead of it.
+class RtfContent : public RtfState {
  public:
-  explicit RtfContent(std::size_t expectedLength);
+  // `expectedLength` of a part's text.
+  explicit RtfContent(std::size_t expectedLength) : builder_(expectedLength) {}
 
-  void OpenGroup();
-  void CloseGroup();
-  bool Ended() const { return ended_; }  // the document's own brace was closed
+  void CloseGroup() {
+    RtfState::CloseGroup();
+    if (!Ended()) builder_.SetFormat(FormatInForce());
+  }
 
-  // Text that needs no decoding: characters of a string, or ASCII bytes.
   template <typename Ch>
   void Append(const Ch* begin, const Ch* end) {
-    if (InBody()) return builder_.Append(begin, end);
-    for (; begin != end; ++begin) AppendToTable(static_cast<char16_t>(*begin));
+    if (!InBody()) return RtfState::Append(begin, end);
+    builder_.Append(begin, end);
   }
 
   void Append(char16_t unit) {
@@ -45,59 +32,23 @@ class RtfContent {
     builder_.Append(unit == u'\r' ? u'\n' : unit);
   }
 
-  // The characters of the bytes 0x80 to 0xFF in the font in force.
-  const char16_t* UpperHalf() const {
-    return InBody() ? fonts_.UpperHalfOf(state_.format.font) : fonts_.UpperHalfOfName();
+  // A character of one or two units.
+  void AppendCodePoint(char32_t codePoint);
+  // A line break; one that ends a paragraph adds no empty line at the document's end.
+  void AppendBreak(bool endsParagraph);
+  void Apply(const ControlToken& token) {
+    if (RtfState::Apply(token)) builder_.SetFormat(FormatInForce());
   }
 
-  void AppendCodePoint(char32_t codePoint);
-  void AppendBreak(bool endsParagraph);
-
-  // Does what a control word says of formats, the document and its tables; other words do nothing.
-  void Apply(const ControlToken& token);
-
-  // Sends the text of the group to a table. False where the group is too deep to be kept: it has to
-  // be passed over.
-  bool OpenTable(Destination table);
-
+  // Whether the first half of a surrogate pair came last.
   bool EndsInsidePair() const { return builder_.EndsInsidePair(); }
 
-  int FallbackCount() const { return state_.fallbackCount; }
-  bool IsUtf8() const { return utf8_; }  // the document declares its bytes as UTF-8
-
-  // What has been read since the last part.
+  // What has been read since the last part. Text in the document's default font has the font that
+  // is known as such by now.
   Document TakePart();
 
  private:
-  bool InBody() const { return state_.destination == Destination::kBody; }
-  void AppendToTable(char16_t unit);
-  bool ApplyFormat(const ControlToken& token);
-  bool ApplyAssociated(const ControlToken& token);
-  template <typename T>
-  void Set(T CharFormat::*member, T value) {
-    state_.format.*member = value;
-    state_.eastAsianFormat.*member = value;
-  }
-  const CharFormat& FormatInForce() const {
-    return state_.isEastAsian ? state_.eastAsianFormat : state_.format;
-  }
-  void ApplyToDocument(const ControlToken& token);
-  void ApplyToFonts(const ControlToken& token);
-  void ApplyToColors(const ControlToken& token);
-  void SetFallbackCount(int count);
-  void SetColorPart(int shift, int value);
-  Color ColorOf(int number) const;
-
   RunBuilder builder_;
-  FontTable fonts_;
-  std::vector<Color> colors_;
-  Color newColor_ = kAutomaticColor;  // the one that is being declared
-
-  GroupState state_;
-  std::vector<GroupState> outerGroups_;
-  std::size_t excessDepth_ = 0;  // groups open beyond the depth that is kept
-  bool utf8_ = false;
-  bool ended_ = false;
 };
 
 }  // namespace verlume::richtext

@@ -17,13 +17,13 @@ std::size_t LengthOfDocument(std::u16string_view text) {
     i += scan.Skippable(text.substr(i));
     if (i == text.size()) break;
     // What is not ASCII is neither a brace nor part of a control word.
-    if (scan.Feed(text[i] < 0x80 ? static_cast<char>(text[i]) : '?')) return i + 1;
+    if (scan.Feed(IsAscii(text[i]) ? static_cast<char>(text[i]) : '?')) return i + 1;
   }
   return text.size();
 }
 
 bool IsLineEndOrNul(char16_t c) {
-  return c == u'\r' || c == u'\n' || c == u'\0';
+  return IsLineEnd(c) || c == u'\0';
 }
 
 }  // namespace

@@ -4,13 +4,15 @@
 #include <charconv>
 #include <cstdint>
 
+#include "richtext/characters.h"
 #include "richtext/code_pages.h"
 
 namespace verlume::richtext {
 namespace {
 
 bool IsPlain(char16_t unit) {
-  return unit >= 0x20 && unit < 0x7F && unit != u'\\' && unit != u'{' && unit != u'}';
+  const bool isMarkup = unit == u'\\' || unit == u'{' || unit == u'}';
+  return IsAscii(unit) && !IsControlCharacter(unit) && !isMarkup;
 }
 
 void AppendHex(std::u16string& rtf, unsigned char byte) {
@@ -20,7 +22,7 @@ void AppendHex(std::u16string& rtf, unsigned char byte) {
 }
 
 void AppendUnit(std::u16string& rtf, char16_t unit, bool greek) {
-  const unsigned char byte = greek && unit >= 0x80 ? GreekByte(unit) : 0;
+  const unsigned char byte = greek && !IsAscii(unit) ? GreekByte(unit) : 0;
   if (byte != 0) return AppendHex(rtf, byte);
   rtf += u"\\u";
   AppendNumber(rtf, static_cast<std::int16_t>(unit));
@@ -65,8 +67,7 @@ void AppendEscaped(std::u16string& rtf, std::u16string_view text, int charset, b
 
 void AppendFontName(std::u16string& rtf, const Font& font) {
   for (const char16_t unit : font.name) {
-    const bool control = unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
-    if (control || unit == u';') continue;
+    if (IsControlCharacter(unit) || unit == u';') continue;
     if (IsPlain(unit)) {
       rtf += unit;
     } else {

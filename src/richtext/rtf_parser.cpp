@@ -18,73 +18,79 @@ constexpr char16_t kReplacement = 0xFFFD;
 
 }  // namespace
 
-template <typename Ch>
-RtfParser<Ch>::RtfParser(const Ch* begin, const Ch* end, std::size_t expectedLength)
-    : partEnd_(begin), tokens_(begin, end), content_(expectedLength) {}
-
-template <typename Ch>
-Document RtfParser<Ch>::ParsePart(std::size_t length) {
-  partEnd_ = tokens_.At() + std::min(length, tokens_.Left());
-  while (!IsDone() && (tokens_.At() < partEnd_ || content_.EndsInsidePair())) {
-    switch (tokens_.Peek()) {
-      case '{':
-      case '}':
-        ReadBrace();
-        break;
-      case '\\':
-        ReadControl();
-        break;
-      case '\r':
-      case '\n':
-      case '\0':
-        tokens_.Skip(1);
-        break;
-      default:
-        ReadText();
-    }
-  }
-  return content_.TakePart();
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ReadOn(std::size_t length) {
+  limit_ = tokens_.At() + std::min(length, tokens_.Left());
+  while (!IsDone() && (tokens_.At() < limit_ || listener_.EndsInsidePair())) ReadNext();
 }
 
-template <typename Ch>
-void RtfParser<Ch>::ReadBrace() {
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ReadToken() {
+  limit_ = tokens_.End();
+  ReadNext();
+}
+
+template <typename Ch, typename Listener>
+inline void RtfParser<Ch, Listener>::ReadNext() {
+  if (isSkipping_) return ReadSkipped();
+  token_ = tokens_.At();
+  switch (tokens_.Peek()) {
+    case '{':
+    case '}':
+      ReadBrace();
+      break;
+    case '\\':
+      ReadControl();
+      break;
+    case '\r':
+    case '\n':
+    case '\0':
+      tokens_.Skip(1);
+      break;
+    default:
+      ReadText();
+  }
+}
+
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ReadBrace() {
   const bool opens = tokens_.Peek() == '{';
   tokens_.Skip(1);
   fallbackLeft_ = 0;
   if (opens) {
-    content_.OpenGroup();
+    listener_.OpenGroup();
   } else {
-    content_.CloseGroup();
+    listener_.CloseGroup();
   }
 }
 
-template <typename Ch>
-void RtfParser<Ch>::ReadText() {
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ReadText() {
   const Ch* begin = tokens_.At();
-  // Where a part ends inside a pair, one more unit.
-  const Ch* end = tokens_.FindTextEnd(std::max(partEnd_, begin + 1));
+  // Behind the limit, where half a surrogate pair has been read, one more unit.
+  const Ch* end = tokens_.FindTextEnd(std::max(limit_, begin + 1));
   if (begin == end) return ReadUpperByte();
   if (fallbackLeft_ != 0) {
     const auto skipped = std::min<std::ptrdiff_t>(fallbackLeft_, end - begin);
     fallbackLeft_ -= static_cast<int>(skipped);
     begin += skipped;
   }
-  content_.Append(begin, end);
+  listener_.Append(begin, end);
   tokens_.GoTo(end);
 }
 
-template <typename Ch>
-void RtfParser<Ch>::ReadUpperByte() {
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ReadUpperByte() {
   const auto byte = static_cast<unsigned char>(tokens_.Peek());
   tokens_.Skip(1);
   EmitByte(byte);
 }
 
-template <typename Ch>
-void RtfParser<Ch>::ReadControl() {
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ReadControl() {
   tokens_.Skip(1);
   if (tokens_.AtEnd()) return;
-  if (tokens_.IsLetter(tokens_.Peek())) {
+  if (IsAsciiLetter(tokens_.Peek())) {
     Apply(tokens_.ReadControlWord());
   } else {
     ReadSymbol();
@@ -93,10 +99,10 @@ void RtfParser<Ch>::ReadControl() {
 
 // A symbol that names nothing is read over, but for what stands outside ASCII: that is text with a
 // stray backslash before it.
-template <typename Ch>
-void RtfParser<Ch>::ReadSymbol() {
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ReadSymbol() {
   const Ch symbol = tokens_.Peek();
-  if (tokens_.Value(symbol) >= 0x80) return;
+  if (!IsAscii(symbol)) return ReadText();
   tokens_.Skip(1);
   switch (symbol) {
     case '\'':
@@ -131,8 +137,8 @@ void RtfParser<Ch>::ReadSymbol() {
 
 // Without two digits the escape stands for nothing and what follows it is text. An escape that the
 // end cuts off is no text.
-template <typename Ch>
-void RtfParser<Ch>::ReadHexCharacter() {
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ReadHexCharacter() {
   const auto byte = tokens_.ReadHexByte();
   if (byte) {
     EmitByte(*byte);
@@ -143,23 +149,23 @@ void RtfParser<Ch>::ReadHexCharacter() {
 
 // \* before a word says that readers who do not know the word shall pass over its group. All this
 // reader knows of such words are the two tables.
-template <typename Ch>
-void RtfParser<Ch>::ReadIgnorable() {
-  while (!tokens_.AtEnd() && (tokens_.Peek() == '\r' || tokens_.Peek() == '\n')) tokens_.Skip(1);
-  if (tokens_.Left() < 2 || tokens_.Peek() != '\\' || !tokens_.IsLetter(tokens_.At()[1])) return;
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ReadIgnorable() {
+  tokens_.SkipLineEnds();
+  if (!tokens_.AtControlWord()) return;
   const Ch* place = tokens_.At();
   tokens_.Skip(1);
   const ControlToken token = tokens_.ReadControlWord();
   const Action action = token.word->action;
   if (action == Action::kFontTable || action == Action::kColorTable) return Apply(token);
   tokens_.GoTo(place);
-  tokens_.SkipGroup();
+  SkipGroup();
 }
 
 // Behind \u, only what stands for a character is passed over: any other word is taken as a sign
 // that the fallback is missing.
-template <typename Ch>
-void RtfParser<Ch>::Apply(const ControlToken& token) {
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::Apply(const ControlToken& token) {
   const ControlWord& word = *token.word;
   switch (word.action) {
     case Action::kCharacter:
@@ -186,75 +192,120 @@ void RtfParser<Ch>::Apply(const ControlToken& token) {
       ApplyTable(Destination::kColorTable);
       break;
     case Action::kUnshown:
-      tokens_.SkipGroup();
+      SkipGroup();
       break;
     default:
-      content_.Apply(token);
+      listener_.Apply(token);
   }
 }
 
 // One UTF-16 unit, signed as it should be or unsigned; some writers put a whole code point there.
-template <typename Ch>
-void RtfParser<Ch>::ApplyUnicode(int number) {
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ApplyUnicode(int number) {
   if (number < INT16_MIN || number > 0x10FFFF) {
-    content_.Append(kReplacement);
+    listener_.Append(kReplacement);
   } else if (number > 0xFFFF) {
-    content_.AppendCodePoint(static_cast<char32_t>(number));
+    listener_.AppendCodePoint(static_cast<char32_t>(number));
   } else {
-    content_.Append(static_cast<char16_t>(number));
+    listener_.Append(static_cast<char16_t>(number));
   }
-  fallbackLeft_ = content_.FallbackCount();
+  unicode_ = token_;
+  unicodeNumber_ = number;
+  fallbackLeft_ = listener_.FallbackCount();
 }
 
-template <typename Ch>
-void RtfParser<Ch>::ApplyBinary(int length) {
-  if (length > 0) tokens_.Skip(static_cast<std::size_t>(length));
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ApplyBinary(int length) {
+  SkipData(length);
   SkipFallback();
 }
 
-template <typename Ch>
-void RtfParser<Ch>::ApplyTable(Destination table) {
-  if (!content_.OpenTable(table)) tokens_.SkipGroup();
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ApplyTable(Destination table) {
+  if (!listener_.OpenTable(table)) SkipGroup();
 }
 
-template <typename Ch>
-void RtfParser<Ch>::Emit(char16_t unit) {
-  if (!SkipFallback()) content_.Append(unit);
+// Nothing is shown of the rest of the group: braces and the data of \bin are all that matters.
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::SkipGroup() {
+  isSkipping_ = true;
+  skippedDepth_ = 0;
+  fallbackLeft_ = 0;
 }
 
-template <typename Ch>
-void RtfParser<Ch>::EmitByte(unsigned char byte) {
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::ReadSkipped() {
+  token_ = tokens_.At();
+  const Ch* end = std::max(limit_, token_ + 1);
+  tokens_.GoTo(std::find_if(tokens_.At(), end, IsMarkup<Ch>));
+  if (tokens_.At() == end) return;
+  token_ = tokens_.At();
+  switch (tokens_.Peek()) {
+    case '\\':
+      return SkipControl();
+    case '{':
+      ++skippedDepth_;
+      break;
+    default:
+      isSkipping_ = skippedDepth_ != 0;
+      if (!isSkipping_) return ReadBrace();
+      --skippedDepth_;
+  }
+  tokens_.Skip(1);
+}
+
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::SkipControl() {
+  tokens_.Skip(1);
+  if (tokens_.AtEnd()) return;
+  if (!IsAsciiLetter(tokens_.Peek())) return tokens_.Skip(1);
+  const ControlToken token = tokens_.ReadControlWord();
+  if (token.word->action == Action::kBinary) SkipData(token.parameter);
+}
+
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::SkipData(int length) {
+  if (length > 0) tokens_.Skip(static_cast<std::size_t>(length));
+}
+
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::Emit(char16_t unit) {
+  if (!SkipFallback()) listener_.Append(unit);
+}
+
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::EmitByte(unsigned char byte) {
   if (SkipFallback()) return;
-  if (byte < 0x80) return content_.Append(byte);
-  const bool emitted = content_.IsUtf8() && TryEmitUtf8(byte);
+  if (byte < 0x80) return listener_.Append(byte);
+  const bool emitted = listener_.IsUtf8() && TryEmitUtf8(byte);
   if (!emitted) EmitUpperBytes(byte);
 }
 
 // Such bytes come in stretches: words of a language with letters of its own.
-template <typename Ch>
-void RtfParser<Ch>::EmitUpperBytes(unsigned char first) {
-  const char16_t* upperHalf = content_.UpperHalf();
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::EmitUpperBytes(unsigned char first) {
+  const char16_t* upperHalf = listener_.UpperHalf();
   std::array<char16_t, 64> units;
   std::size_t count = 0;
   units[count++] = upperHalf[first - 0x80];
-  while (!content_.IsUtf8() && count < units.size()) {
+  while (!listener_.IsUtf8() && count < units.size()) {
     const auto byte = tokens_.ReadUpperByte();
     if (!byte) break;
     units[count++] = upperHalf[*byte - 0x80];
   }
-  content_.Append(units.data(), units.data() + count);
+  listener_.Append(units.data(), units.data() + count);
 }
 
-template <typename Ch>
-void RtfParser<Ch>::EmitBreak(bool endsParagraph) {
+template <typename Ch, typename Listener>
+void RtfParser<Ch, Listener>::EmitBreak(bool endsParagraph) {
   fallbackLeft_ = 0;
-  content_.AppendBreak(endsParagraph);
+  listener_.AppendBreak(endsParagraph);
 }
 
 // In a document that declares UTF-8, bytes that form a character are that character whatever the
 // font says; they may be written as they are or as \'xx. Any other byte is the font's.
-template <typename Ch>
-bool RtfParser<Ch>::TryEmitUtf8(unsigned char first) {
+template <typename Ch, typename Listener>
+bool RtfParser<Ch, Listener>::TryEmitUtf8(unsigned char first) {
   const Ch* place = tokens_.At();
   std::string bytes(1, static_cast<char>(first));
   while (bytes.size() < 4) {
@@ -263,7 +314,7 @@ bool RtfParser<Ch>::TryEmitUtf8(unsigned char first) {
     bytes.push_back(static_cast<char>(*byte));
     const Utf8Character character = DecodeUtf8Character(bytes);
     if (character.length == 0) continue;
-    content_.AppendCodePoint(character.codePoint);
+    listener_.AppendCodePoint(character.codePoint);
     return true;
   }
   tokens_.GoTo(place);
@@ -271,14 +322,16 @@ bool RtfParser<Ch>::TryEmitUtf8(unsigned char first) {
 }
 
 // One of the characters behind \u is passed over, if there are any left.
-template <typename Ch>
-bool RtfParser<Ch>::SkipFallback() {
+template <typename Ch, typename Listener>
+bool RtfParser<Ch, Listener>::SkipFallback() {
   if (fallbackLeft_ == 0) return false;
   --fallbackLeft_;
   return true;
 }
 
-template class RtfParser<char>;
-template class RtfParser<char16_t>;
+template class RtfParser<char, RtfContent>;
+template class RtfParser<char16_t, RtfContent>;
+template class RtfParser<char, RtfState>;
+template class RtfParser<char16_t, RtfState>;
 
 }  // namespace verlume::richtext

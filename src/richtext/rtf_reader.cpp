@@ -10,8 +10,9 @@ namespace {
 
 template <typename Ch>
 Document ReadMarkup(std::basic_string_view<Ch> rtf) {
-  RtfParser<Ch> parser(rtf.data(), rtf.data() + rtf.size(), rtf.size() / 2);
-  return parser.ParsePart(rtf.size());
+  RtfParser<Ch, RtfContent> parser(rtf.data(), rtf.data() + rtf.size(), rtf.size() / 2);
+  parser.ReadOn(rtf.size());
+  return parser.GetListener().TakePart();
 }
 
 }  // namespace

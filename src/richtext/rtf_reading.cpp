@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "richtext/characters.h"
 #include "richtext/rtf_reader.h"
 
 namespace verlume::richtext {
@@ -11,8 +12,7 @@ constexpr std::size_t kPartLength = 64 * 1024;
 
 // Whether what stands before and behind belongs together.
 bool IsOneThing(char16_t before, char16_t behind) {
-  const bool isPair = (before & 0xFC00) == 0xD800 && (behind & 0xFC00) == 0xDC00;
-  return isPair || (before == u'\r' && behind == u'\n');
+  return IsSurrogatePair(before, behind) || (before == u'\r' && behind == u'\n');
 }
 
 }  // namespace
@@ -23,7 +23,9 @@ RtfReading::RtfReading(std::u16string rtf) : rtf_(std::move(rtf)) {
 }
 
 Document RtfReading::Next(std::size_t length) {
-  return parser_ ? parser_->ParsePart(length) : ReadPlainText(NextPlainText(length));
+  if (!parser_) return ReadPlainText(NextPlainText(length));
+  parser_->ReadOn(length);
+  return parser_->GetListener().TakePart();
 }
 
 std::u16string_view RtfReading::NextPlainText(std::size_t length) {
@@ -42,8 +44,11 @@ void AppendRtfText(std::u16string_view rtf, std::u16string& text) {
   }
   // It has no more characters than that; what is not needed costs nothing.
   text.reserve(text.size() + rtf.size());
-  RtfParser<char16_t> parser(rtf.data(), rtf.data() + rtf.size(), kPartLength);
-  while (!parser.IsDone()) text += parser.ParsePart(kPartLength).text;
+  RtfParser<char16_t, RtfContent> parser(rtf.data(), rtf.data() + rtf.size(), kPartLength);
+  while (!parser.IsDone()) {
+    parser.ReadOn(kPartLength);
+    text += parser.GetListener().TakePart().text;
+  }
 }
 
 }  // namespace verlume::richtext

@@ -29,8 +29,8 @@ class RtfReading {
   std::u16string_view NextPlainText(std::size_t length);
 
   std::u16string rtf_;
-  std::size_t at_ = 0;                         // in plain text
-  std::optional<RtfParser<char16_t>> parser_;  // of what is no plain text
+  std::size_t at_ = 0;                                     // in plain text
+  std::optional<RtfParser<char16_t, RtfContent>> parser_;  // of what is no plain text
 };
 
 // Appends the characters of a text without their formats: ReadRtf(rtf).text.

@@ -3,112 +3,100 @@
 #include <algorithm>
 #include <vector>
 
+#include "richtext/rtf_parser.h"
+
 namespace verlume::richtext {
 namespace {
-
-bool IsLetter(char16_t c) {
-  return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
-}
-
-bool IsDigit(char16_t c) {
-  return c >= u'0' && c <= u'9';
-}
-
-// Groups whose content is not text of the document.
-bool BeginsHiddenGroup(std::u16string_view rtf) {
-  constexpr std::u16string_view kHidden[] = {u"{\\*",          u"{\\fonttbl", u"{\\colortbl",
-                                             u"{\\stylesheet", u"{\\info",    u"{\\pict"};
-  return std::any_of(std::begin(kHidden), std::end(kHidden),
-                     [rtf](std::u16string_view opening) { return rtf.starts_with(opening); });
-}
-
-// The length of the group that the text begins with, to its closing brace.
-std::size_t GroupLength(std::u16string_view rtf) {
-  std::size_t depth = 0;
-  for (std::size_t i = 0; i < rtf.size(); ++i) {
-    if (rtf[i] == u'\\') {
-      ++i;
-    } else if (rtf[i] == u'{') {
-      ++depth;
-    } else if (rtf[i] == u'}' && --depth == 0) {
-      return i + 1;
-    }
-  }
-  return rtf.size();
-}
-
-struct Control {
-  std::size_t length = 0;
-  bool needsDelimiter = false;  // text put right behind it would become part of it
-};
-
-// The control word or symbol that the text begins with.
-Control ReadControl(std::u16string_view rtf) {
-  if (rtf.size() < 2 || !IsLetter(rtf[1])) {
-    const std::size_t length = rtf.starts_with(u"\\'") ? 4 : 2;
-    return {std::min(length, rtf.size()), false};
-  }
-  std::size_t end = 1;
-  while (end < rtf.size() && IsLetter(rtf[end])) ++end;
-  if (end + 1 < rtf.size() && rtf[end] == u'-' && IsDigit(rtf[end + 1])) ++end;
-  while (end < rtf.size() && IsDigit(rtf[end])) ++end;
-  if (end < rtf.size() && rtf[end] == u' ') return {end + 1, false};
-  return {end, true};
-}
 
 class Replacer {
  public:
   Replacer(std::u16string_view rtf, std::span<const RtfReplacement> list)
-      : rest_(rtf), list_(list), used_(list.size(), false) {
+      : end_(rtf.data() + rtf.size()),
+        parser_(rtf.data(), end_),
+        copied_(rtf.data()),
+        list_(list),
+        isUsed_(list.size(), false) {
     for (const RtfReplacement& each : list) {
-      if (notable_.find(each.pattern.front()) == notable_.npos) notable_ += each.pattern.front();
+      if (starts_.find(each.pattern.front()) == starts_.npos) starts_ += each.pattern.front();
     }
+    result_.reserve(rtf.size());
   }
 
   std::u16string Run() {
-    result_.reserve(rest_.size());
-    while (!rest_.empty()) {
-      if (rest_.front() == u'\\') {
-        const Control control = ReadControl(rest_);
-        Copy(control.length);
-        afterOpenControl_ = control.needsDelimiter;
-      } else if (BeginsHiddenGroup(rest_)) {
-        Copy(GroupLength(rest_));
-      } else if (!ReplaceHere()) {
-        Copy(std::min(rest_.find_first_of(notable_, 1), rest_.size()));
-      }
-    }
+    while (parser_.At() != end_) ReadToken();
+    CopyTo(end_);
     return std::move(result_);
   }
 
  private:
-  void Copy(std::size_t length) {
-    result_ += rest_.substr(0, length);
-    rest_.remove_prefix(length);
-    afterOpenControl_ = false;
-  }
+  void ReadToken();
+  void NoteUndelimitedWord(const char16_t* place);
+  void ReplaceIn(std::u16string_view text);
+  void ReplaceAt(const char16_t* place);
+  void CopyTo(const char16_t* place);
 
-  bool ReplaceHere() {
-    for (std::size_t i = 0; i < list_.size(); ++i) {
-      const RtfReplacement& each = list_[i];
-      if (!rest_.starts_with(each.pattern) || (each.firstOnly && used_[i])) continue;
-      used_[i] = true;
-      if (afterOpenControl_) result_ += u' ';
-      result_ += each.with;
-      rest_.remove_prefix(each.pattern.size());
-      afterOpenControl_ = false;
-      return true;
-    }
-    return false;
-  }
-
-  std::u16string_view rest_;
+  const char16_t* const end_;
+  RtfParser<char16_t, RtfState> parser_;
+  const char16_t* copied_;                     // what stands before has been copied or replaced
+  const char16_t* undelimitedWord_ = nullptr;  // where a control word ends without a blank
   std::span<const RtfReplacement> list_;
-  std::vector<bool> used_;
-  std::u16string notable_ = u"\\{";  // what begins markup or a pattern
+  std::vector<bool> isUsed_;
+  std::u16string starts_;  // what the patterns begin with
   std::u16string result_;
-  bool afterOpenControl_ = false;
 };
+
+void Replacer::ReadToken() {
+  const char16_t* begin = parser_.At();
+  const bool isShown = !parser_.IsSkipping() && parser_.GetListener().InBody();
+  const int fallbackLeft = parser_.FallbackLeft();
+  NoteUndelimitedWord(begin);
+  parser_.ReadToken();
+  std::u16string_view text(begin, parser_.At());
+  // What is put right behind a stray backslash would become part of an escape.
+  const bool hasStrayBackslash = text.size() > 1 && text[0] == u'\\' && !IsAscii(text[1]);
+  if (hasStrayBackslash) text.remove_prefix(1);
+  if (!isShown || IsMarkup(text.front())) return;
+  const auto unsearched = static_cast<std::size_t>(std::max<int>(fallbackLeft, hasStrayBackslash));
+  ReplaceIn(text.substr(std::min(unsearched, text.size())));
+}
+
+// Text put right behind such a word would become part of it.
+void Replacer::NoteUndelimitedWord(const char16_t* place) {
+  RtfTokens<char16_t> tokens(place, end_);
+  if (!tokens.AtControlWord()) return;
+  tokens.Skip(1);
+  tokens.ReadControlWord();
+  if (tokens.At()[-1] != u' ') undelimitedWord_ = tokens.At();
+}
+
+// A pattern may reach beyond the text that it begins in.
+void Replacer::ReplaceIn(std::u16string_view text) {
+  for (std::size_t i = text.find_first_of(starts_); i != text.npos;
+       i = text.find_first_of(starts_, i + 1)) {
+    const char16_t* place = text.data() + i;
+    if (place >= copied_) ReplaceAt(place);
+  }
+}
+
+// Copies what stands before, puts in the first of the list that fits.
+void Replacer::ReplaceAt(const char16_t* place) {
+  const std::u16string_view rest(place, end_);
+  for (std::size_t i = 0; i < list_.size(); ++i) {
+    const RtfReplacement& each = list_[i];
+    if (!rest.starts_with(each.pattern) || (each.firstOnly && isUsed_[i])) continue;
+    isUsed_[i] = true;
+    CopyTo(place);
+    if (place == undelimitedWord_) result_ += u' ';
+    result_ += each.with;
+    copied_ = place + each.pattern.size();
+    return;
+  }
+}
+
+void Replacer::CopyTo(const char16_t* place) {
+  result_.append(copied_, place);
+  copied_ = place;
+}
 
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "richtext/characters.h"
 #include "richtext/document.h"
 
 namespace verlume::richtext {
@@ -30,7 +31,7 @@ class RunBuilder {
   }
 
   // Whether a character is half there: its other unit comes next, if it comes at all.
-  bool EndsInsidePair() const { return !text_.empty() && (text_.back() & 0xFC00) == 0xD800; }
+  bool EndsInsidePair() const { return !text_.empty() && IsHighSurrogate(text_.back()); }
 
   // Appends a line break that ends a paragraph: the last one of the document adds no empty line.
   void EndParagraph();

@@ -1,5 +1,7 @@
 #include "richtext/utf8.h"
 
+#include "richtext/characters.h"
+
 namespace verlume::richtext {
 namespace {
 
@@ -29,8 +31,8 @@ Utf8Character DecodeUtf8Character(std::string_view bytes) {
     if ((byte & 0xC0) != 0x80) return {};
     codePoint = codePoint << 6 | (byte & 0x3Fu);
   }
-  const bool surrogate = codePoint >= 0xD800 && codePoint < 0xE000;
-  if (codePoint < lead.smallest || codePoint > 0x10FFFF || surrogate) return {};
+  const bool isOutside = codePoint < lead.smallest || codePoint > 0x10FFFF;
+  if (isOutside || IsSurrogate(codePoint)) return {};
   return {codePoint, lead.length};
 }
 

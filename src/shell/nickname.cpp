@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "richtext/characters.h"
 #include "shell/app_state.h"
 
 namespace verlume {
@@ -12,9 +13,8 @@ struct Range {
   char16_t last;
 };
 
+// Besides control characters and halves of surrogate pairs.
 constexpr Range kNotShowable[] = {
-    {0x0000, 0x001F},  // C0
-    {0x007F, 0x009F},  // DEL, C1
     {0x00AD, 0x00AD},  // soft hyphen
     {0x061C, 0x061C},  // Arabic letter mark
     {0x180E, 0x180E},  // Mongolian vowel separator
@@ -22,7 +22,6 @@ constexpr Range kNotShowable[] = {
     {0x200E, 0x200F},  // left-to-right and right-to-left mark
     {0x2028, 0x202E},  // line and paragraph separator, embeddings, overrides
     {0x2060, 0x206F},  // word joiner, invisible operators, isolates, and older such marks
-    {0xD800, 0xDFFF},  // halves of pairs
     {0xFEFF, 0xFEFF},  // byte order mark
     {0xFFF9, 0xFFFB},  // marks of annotations
 };
@@ -31,14 +30,6 @@ template <std::size_t kCount>
 bool IsIn(const Range (&ranges)[kCount], char16_t c) {
   return std::any_of(std::begin(ranges), std::end(ranges),
                      [c](const Range& range) { return c >= range.first && c <= range.last; });
-}
-
-bool IsHigh(char16_t c) {
-  return c >= 0xD800 && c < 0xDC00;
-}
-
-bool IsLow(char16_t c) {
-  return c >= 0xDC00 && c < 0xE000;
 }
 
 std::u16string EscapeOf(char16_t c) {
@@ -51,12 +42,13 @@ std::u16string EscapeOf(char16_t c) {
 }  // namespace
 
 std::u16string_view FirstCharacter(std::u16string_view text) {
-  const bool isPair = text.size() > 1 && IsHigh(text[0]) && IsLow(text[1]);
-  return text.substr(0, isPair ? 2 : 1);
+  return text.substr(0, richtext::BeginsWithSurrogatePair(text) ? 2 : 1);
 }
 
 bool IsShowable(std::u16string_view character) {
-  return character.size() == 2 || !IsIn(kNotShowable, character.front());
+  if (character.size() == 2) return true;
+  const char16_t c = character.front();
+  return !richtext::IsControlCharacter(c) && !richtext::IsSurrogate(c) && !IsIn(kNotShowable, c);
 }
 
 std::u16string ShowableNickname(std::u16string_view nickname) {

@@ -1,6 +1,7 @@
 #include "shell/settings.h"
 
 #include "platform/run_time_failure.h"
+#include "richtext/characters.h"
 #include "shell/ini_text.h"
 
 namespace verlume {
@@ -9,7 +10,7 @@ namespace {
 // At most `length` characters, and none cut in half.
 std::u16string_view CutAt(std::u16string_view text, std::size_t length) {
   if (text.size() <= length) return text;
-  const bool halves = length > 0 && text[length - 1] >= 0xD800 && text[length - 1] < 0xDC00;
+  const bool halves = length > 0 && richtext::IsHighSurrogate(text[length - 1]);
   return text.substr(0, halves ? length - 1 : length);
 }
 

@@ -29,6 +29,22 @@ TEST(RtfTextReplacer, LeavesGroupsThatAreNotTextAlone) {
   }
 }
 
+TEST(RtfTextReplacer, LeavesWhatAReaderDoesNotShowAlone) {
+  EXPECT_EQ(Replaced(u"{\\rtf1 {x\\pict x}{\\footer x}x}", u"x", u"y"),
+            u"{\\rtf1 {y\\pict x}{\\footer x}y}");
+  EXPECT_EQ(Replaced(u"{x\\fonttbl{\\f0 x;}}x", u"x", u"y"), u"{y\\fonttbl{\\f0 x;}}y");
+  EXPECT_EQ(Replaced(u"\\uc2\\u955 xxx\\bin2 xxx", u"x", u"y"), u"\\uc2\\u955 xxy\\bin2 xxy");
+}
+
+TEST(RtfTextReplacer, TakesAStrayBackslashWithTheCharacterBehindIt) {
+  EXPECT_EQ(Replaced(u"\\αxα\\α", u"x", u"y"), u"\\αyα\\α");
+  EXPECT_EQ(Replaced(u"\\αxα\\α", u"α", u"y"), u"\\αxy\\α");
+}
+
+TEST(RtfTextReplacer, ReplacesBehindTheEndOfADocumentToo) {
+  EXPECT_EQ(Replaced(u"{\\rtf1 x}x}{\\rtf1 x}", u"x", u"y"), u"{\\rtf1 y}y}{\\rtf1 y}");
+}
+
 TEST(RtfTextReplacer, CountsEscapedBracesAsCharactersOfAHiddenGroup) {
   const std::u16string table = u"{\\fonttbl{\\f0 A\\}x\\{B;}}";
   EXPECT_EQ(Replaced(u"{\\rtf1" + table + u"x}", u"x", u"y"), u"{\\rtf1" + table + u"y}");
