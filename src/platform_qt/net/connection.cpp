@@ -14,7 +14,6 @@ namespace {
 
 // How much one read takes at most.
 constexpr qint64 kLargestRead = 256 << 10;
-constexpr int kSendingLimit = 2000;  // ms
 constexpr int kLeavingLimit = 3000;  // ms
 
 }  // namespace

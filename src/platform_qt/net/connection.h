@@ -20,6 +20,9 @@
 
 namespace verlume::qt {
 
+// How long what waits is sent after the end of a connection.
+inline constexpr int kSendingLimit = 2000;  // ms
+
 // All that is public may be called from the thread that made it.
 class Connection : public QObject {
  public:
@@ -48,7 +51,7 @@ class Connection : public QObject {
   // The connection has ended, and all that had come before has been taken.
   bool IsOver() const { return arrivals_.IsOver(); }
 
-  // Ends it: what waits is sent, for 2 s at most; then the peer has another second to end it too.
+  // Ends it: what waits is sent, for kSendingLimit at most; then the peer has another second to end it too.
   void Leave();
   bool IsGone() const { return isGone_; }
   // After Leave: waits until all is sent, and cuts the connection when the limit has passed.

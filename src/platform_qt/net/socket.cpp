@@ -22,7 +22,6 @@ constexpr int kConnectLimit = 15000;  // ms
 constexpr int kAcceptPause = 1000;    // ms
 // What a caller may send before it is taken, and what is read ahead afterwards.
 constexpr qint64 kReadBuffer = 256 << 10;
-constexpr int kSendingLimit = 2000;  // ms
 constexpr std::int32_t kLastPort = 65535;
 
 // The system's own choice lies mostly above what a caller can name.

@@ -4,13 +4,11 @@
 #include <QScrollBar>
 #include <utility>
 
+#include "platform_qt/text/turns.h"
+
 namespace verlume::qt {
 namespace {
 
-// Shorter than a frame of the screen, so that no key or click waits for long; and a pause, so that
-// one who handles the events that wait finds an end of them.
-constexpr qint64 kTurnMilliseconds = 10;
-constexpr int kPauseMilliseconds = 1;
 constexpr qsizetype kUnitsPerStep = 16 * 1024;
 constexpr qsizetype kUnitsAtOnce = 64 * 1024;
 constexpr int kAll = 100;

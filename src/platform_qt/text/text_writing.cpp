@@ -4,12 +4,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform_qt/text/turns.h"
+
 namespace verlume::qt {
 namespace {
 
-// As for a file that is loaded.
-constexpr qint64 kTurnMilliseconds = 10;
-constexpr int kPauseMilliseconds = 1;
 // Of RTF, and of the text that it holds: as much as takes about a millisecond.
 constexpr std::size_t kShortestStep = 512;
 constexpr std::size_t kLongestStep = 16 * 1024;
