@@ -51,7 +51,8 @@ class Connection : public QObject {
   // The connection has ended, and all that had come before has been taken.
   bool IsOver() const { return arrivals_.IsOver(); }
 
-  // Ends it: what waits is sent, for kSendingLimit at most; then the peer has another second to end it too.
+  // Ends it: what waits is sent, for kSendingLimit at most; then the peer has another second to end
+  // it too.
   void Leave();
   bool IsGone() const { return isGone_; }
   // After Leave: waits until all is sent, and cuts the connection when the limit has passed.
