@@ -36,7 +36,7 @@ struct FormattedText {
 class TextInsertion {
  public:
   // Replaces the cursor's selection.
-  TextInsertion(const QTextCursor& cursor, FormattedText text, Lines lines);
+  TextInsertion(const QTextCursor& cursor, FormattedText text);
 
   // With another text, when this one is in.
   void GoOnWith(FormattedText text);
@@ -57,7 +57,6 @@ class TextInsertion {
   QTextCursor cursor_;
   FormattedText text_;  // empty once it is in
   qsizetype size_;
-  Lines lines_;
   qsizetype at_ = 0;       // in the text
   std::size_t piece_ = 0;  // the one at that place
   qsizetype inPiece_ = 0;  // and how much of it is in
@@ -65,7 +64,7 @@ class TextInsertion {
 };
 
 // These replace the cursor's selection and leave the cursor behind what came in.
-void Insert(QTextCursor& cursor, FormattedText text, Lines lines);
+void Insert(QTextCursor& cursor, FormattedText text);
 void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines);
 void InsertDocument(QTextCursor& cursor, const richtext::Document& document, Lines lines);
 
