@@ -7,9 +7,8 @@
 
 namespace verlume {
 
-namespace texts = connection_texts::call_remote;
-
 void ConnectionActions::CallRemote(std::u16string_view commandLine) {
+  namespace texts = connection_texts::call_remote;
   Run(Procedure::CallRemote, [this, commandLine] {
     const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kTitle, texts::kCalling,
                               texts::kTitle};
@@ -48,10 +47,12 @@ void ConnectionActions::CallRemote(std::u16string_view commandLine) {
 }
 
 std::u16string ConnectionActions::AskHost() {
+  namespace texts = connection_texts::call_remote;
   return platform_.dialogs.AskText(In(texts::kHostPrompt), In(texts::kHostTitle), u"");
 }
 
 std::int32_t ConnectionActions::AskRemotePort() {
+  namespace texts = connection_texts::call_remote;
   for (;;) {
     const std::u16string typed =
         platform_.dialogs.AskText(In(texts::kPortPrompt), In(texts::kPortTitle), u"");

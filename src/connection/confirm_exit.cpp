@@ -4,9 +4,8 @@
 
 namespace verlume {
 
-namespace texts = connection_texts::confirm_exit;
-
 void ConnectionActions::ConfirmExit() {
+  namespace texts = connection_texts::confirm_exit;
   Run(Procedure::ConfirmExit, [this] {
     state_.ExitConfirmed = false;
     // A call may come to be answered, or end, under the question. Whoever agreed to give up a wait
@@ -27,6 +26,7 @@ void ConnectionActions::ConfirmExit() {
 }
 
 std::u16string ConnectionActions::ExitQuestion(ConnectionState asked) const {
+  namespace texts = connection_texts::confirm_exit;
   const bool isGreek = state_.IsGreek;
   const std::u16string remotePort = DecimalText(state_.RemotePort);
   std::u16string text;

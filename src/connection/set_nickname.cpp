@@ -8,8 +8,6 @@
 namespace verlume {
 namespace {
 
-namespace texts = connection_texts::set_nickname;
-
 // A NUL ends a nickname on the wire, and a line break would tear the tag of every dialogue line:
 // no control character is typed, so what a paste brings along is no part of a nickname.
 std::u16string WithoutControlCharacters(std::u16string text) {
@@ -36,6 +34,7 @@ void ConnectionActions::SetNickname(std::u16string_view commandLine) {
 
 // The candidate, or what the user types until it is a nickname. "" when the user gave up.
 std::u16string ConnectionActions::AskNickname(std::u16string candidate) {
+  namespace texts = connection_texts::set_nickname;
   for (;;) {
     candidate = WithoutControlCharacters(candidate);
     if (candidate.empty()) {

@@ -7,9 +7,8 @@
 
 namespace verlume {
 
-namespace texts = connection_texts::wait_for_call;
-
 void ConnectionActions::WaitForCall(std::u16string_view commandLine) {
+  namespace texts = connection_texts::wait_for_call;
   Run(Procedure::WaitForCall, [this, commandLine] {
     const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kPortTitle,
                               texts::kCalling, texts::kTitle};
@@ -40,6 +39,7 @@ void ConnectionActions::WaitForCall(std::u16string_view commandLine) {
 }
 
 bool ConnectionActions::MendLocalPort(std::u16string& portText) {
+  namespace texts = connection_texts::wait_for_call;
   while (!IsPortNumber(portText, kLeastPort, kGreatestPort)) {
     platform_.dialogs.ShowMessage(Note(In(connection_texts::kWrongPort), In(texts::kPortTitle)));
     portText = platform_.dialogs.AskText(In(texts::kPortPrompt), In(texts::kPortTitle), u"");

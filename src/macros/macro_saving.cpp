@@ -6,11 +6,10 @@
 
 namespace verlume {
 
-namespace texts = macro_saving_texts;
-
 void MacroSaving::SaveCommandPaneAsMacro() {
   errors_.Guard(Procedure::SaveCommandPaneAsMacro, [this] {
-    if (!store_.EnsureMacrosFolder(texts::kNoFolder, texts::kTitle)) return;
+    if (!store_.EnsureMacrosFolder(macro_saving_texts::kNoFolder, macro_saving_texts::kTitle))
+      return;
     if (platform_.frmMain.rtbCommands.TextLength() == 0) {
       OfferTheEditor();
     } else {
@@ -29,8 +28,8 @@ void MacroSaving::SaveUnderAName() {
 }
 
 void MacroSaving::OfferTheEditor() {
-  Message question = Question(texts::kNothingTyped.In(state_.IsGreek),
-                              texts::kTitle.In(state_.IsGreek), Answer::Yes);
+  Message question = Question(macro_saving_texts::kNothingTyped.In(state_.IsGreek),
+                              macro_saving_texts::kTitle.In(state_.IsGreek), Answer::Yes);
   question.icon = MessageIcon::Information;
   if (platform_.dialogs.ShowMessage(question) != Answer::No) {
     platform_.frmMain.mnuToolsEditMacros.Click();
@@ -41,8 +40,8 @@ void MacroSaving::OfferTheEditor() {
 std::u16string MacroSaving::AskName() {
   std::u16string name;
   while (!platform_.application.HasEnded()) {
-    name = AskMacroName(state_, platform_, texts::kNameTitle, texts::kNamePrompt.In(state_.IsGreek),
-                        name);
+    name = AskMacroName(state_, platform_, macro_saving_texts::kNameTitle,
+                        macro_saving_texts::kNamePrompt.In(state_.IsGreek), name);
     if (name.empty()) {
       if (platform_.application.HasEnded() || GivesUpSaving()) return {};
     } else if (!store_.MacroExists(name) || WantsToReplace(name)) {
@@ -53,14 +52,14 @@ std::u16string MacroSaving::AskName() {
 }
 
 bool MacroSaving::GivesUpSaving() {
-  const Message question =
-      Question(texts::kNoName.In(state_.IsGreek), texts::kTitle.In(state_.IsGreek), Answer::Yes);
+  const Message question = Question(macro_saving_texts::kNoName.In(state_.IsGreek),
+                                    macro_saving_texts::kTitle.In(state_.IsGreek), Answer::Yes);
   return platform_.dialogs.ShowMessage(question) == Answer::Yes;
 }
 
 bool MacroSaving::WantsToReplace(std::u16string_view name) {
   Message question = Question(macro_name_texts::kReplace.Fill(state_.IsGreek, {name}),
-                              texts::kNameTitle.In(state_.IsGreek), Answer::No);
+                              macro_saving_texts::kNameTitle.In(state_.IsGreek), Answer::No);
   question.icon = MessageIcon::Stop;
   return platform_.dialogs.ShowMessage(question) == Answer::Yes;
 }

@@ -78,7 +78,7 @@ TEST_F(Callers, APeerThatIsGoneUnderABoxLeavesTheUserFree) {
     ASSERT_NO_FATAL_FAILURE(Connect(peer));
     const qsizetype endsBefore = Ends();
     copy.TypeLine(command);
-    ASSERT_TRUE(WaitUntil([&] { return copy.IsActive(title); }));
+    ASSERT_TRUE(WaitUntil([&, box = title] { return copy.IsActive(box); }));
     peer.abort();
     EXPECT_TRUE(WaitUntil([&] { return Ends() == endsBefore + 1; })) << "the program goes on";
     copy.ClickCloseBox();

@@ -9,7 +9,7 @@
 namespace verlume::richtext {
 namespace {
 
-const std::u16string kHeader =
+const std::u16string kRtfHeader =
     u"{\\rtf1\\ansi\\deff1{\\fonttbl{\\f0 A;}{\\f1\\fcharset161 B;}}{\\colortbl;\\red1;}\\fs20 ";
 
 Document Join(std::u16string_view rtf, std::size_t length) {
@@ -30,10 +30,10 @@ void ExpectSameInParts(const std::u16string& rtf) {
 }
 
 TEST(RtfReading, PartsJoinedAreTheWhole) {
-  ExpectSameInParts(kHeader + u"plain {\\b bold\\i\\f0  and more} \\'e1\\'e2\\cf1 red\\tab x}");
-  ExpectSameInParts(kHeader + u"a\\par b\\par\\par c\\line\\par}");
-  ExpectSameInParts(kHeader + u"\\uc2\\u945 ??\\u946 {?}\\u947 ?? x{\\pict 00{\\x}}{\\*\\y z}w");
-  ExpectSameInParts(kHeader + u"x\\bin5 }}}}}y}behind the document");
+  ExpectSameInParts(kRtfHeader + u"plain {\\b bold\\i\\f0  and more} \\'e1\\'e2\\cf1 red\\tab x}");
+  ExpectSameInParts(kRtfHeader + u"a\\par b\\par\\par c\\line\\par}");
+  ExpectSameInParts(kRtfHeader + u"\\uc2\\u945 ??\\u946 {?}\\u947 ?? x{\\pict 00{\\x}}{\\*\\y z}w");
+  ExpectSameInParts(kRtfHeader + u"x\\bin5 }}}}}y}behind the document");
 }
 
 TEST(RtfReading, PlainTextComesInPartsToo) {
@@ -58,7 +58,7 @@ TEST(RtfReading, NoPairOfSurrogatesIsInTwoParts) {
 }
 
 TEST(RtfReading, APartIsNotMuchLongerThanItWasAskedFor) {
-  RtfReading reading(kHeader + std::u16string(1'000'000, u'x'));
+  RtfReading reading(kRtfHeader + std::u16string(1'000'000, u'x'));
   EXPECT_LE(reading.Next(1'000).text.size(), 1'000u);
   RtfReading plain(std::u16string(1'000'000, u'x'));
   EXPECT_EQ(plain.Next(1'000).text.size(), 1'000u);

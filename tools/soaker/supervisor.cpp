@@ -14,7 +14,7 @@ namespace {
 constexpr int kMinute = 60'000;  // ms
 constexpr int kFewestPeriods = 3;
 // Beyond the minutes asked for: starting, and the last lines.
-constexpr int kPatience = 120'000;  // ms
+constexpr int kPatienceWithCopies = 120'000;  // ms
 
 constexpr int kLeastPort = 12'000;
 constexpr int kPorts = 20'000;
@@ -48,8 +48,8 @@ int Supervisor::Run() {
   Print(TableHead());
   const int port = kLeastPort + static_cast<int>(QCoreApplication::applicationPid() % kPorts);
   for (int side : {1, 0}) Start(side, port);
-  QTimer::singleShot(periods_ * periodMilliseconds_ + kPatience, QCoreApplication::instance(),
-                     [this] {
+  QTimer::singleShot(periods_ * periodMilliseconds_ + kPatienceWithCopies,
+                     QCoreApplication::instance(), [this] {
                        for (Copy& copy : copies_) copy.process.kill();
                      });
   QCoreApplication::exec();

@@ -93,6 +93,7 @@ std::vector<HelpFinding> SearchHelp(const HelpBook& book, const QString& query) 
   std::stable_sort(scored.begin(), scored.end(),
                    [](const auto& one, const auto& other) { return one.first > other.first; });
   std::vector<HelpFinding> findings;
+  findings.reserve(scored.size());
   for (const auto& [score, topic] : scored) findings.push_back({topic, Snippet(*topic, words)});
   return findings;
 }

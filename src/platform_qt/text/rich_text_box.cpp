@@ -92,7 +92,7 @@ void QtRichTextBox::ReplaceAll(FormattedText text) {
   {
     const ProgramChange change(*view_);
     QTextCursor cursor(widget_->document());
-    Insert(cursor, std::move(text), lines_);
+    Insert(cursor, std::move(text));
     widget_->document()->clearUndoRedoStacks();
   }
   Select(0, 0);

@@ -44,8 +44,8 @@ constexpr qsizetype kLongestWord = 256;
 
 }  // namespace
 
-TextInsertion::TextInsertion(const QTextCursor& cursor, FormattedText text, Lines lines)
-    : cursor_(cursor), text_(std::move(text)), size_(text_.text.size()), lines_(lines) {
+TextInsertion::TextInsertion(const QTextCursor& cursor, FormattedText text)
+    : cursor_(cursor), text_(std::move(text)), size_(text_.text.size()) {
   cursor_.removeSelectedText();
   cursor_.setKeepPositionOnInsert(true);
 }
@@ -125,10 +125,10 @@ qsizetype TextInsertion::LengthOfCut(qsizetype begin, qsizetype room) const {
   return end.back().isHighSurrogate() ? room - 1 : room;
 }
 
-void Insert(QTextCursor& cursor, FormattedText text, Lines lines) {
+void Insert(QTextCursor& cursor, FormattedText text) {
   const qsizetype length = text.text.size();
   cursor.beginEditBlock();
-  TextInsertion insertion(cursor, std::move(text), lines);
+  TextInsertion insertion(cursor, std::move(text));
   insertion.PutIn(length);
   cursor.endEditBlock();
   cursor.setPosition(insertion.cursor().position());
@@ -136,13 +136,13 @@ void Insert(QTextCursor& cursor, FormattedText text, Lines lines) {
 
 void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines) {
   const QTextCharFormat format = FormatOfFirst(cursor);
-  Insert(cursor, FormattedText(text, format, lines), lines);
+  Insert(cursor, FormattedText(text, format, lines));
   KeepFormatIfEmpty(cursor, format);
 }
 
 void InsertDocument(QTextCursor& cursor, richtext::Document document, Lines lines) {
   const QTextCharFormat before = FormatOfFirst(cursor);
-  Insert(cursor, FormattedText(std::move(document), lines), lines);
+  Insert(cursor, FormattedText(std::move(document), lines));
   KeepFormatIfEmpty(cursor, before);
 }
 

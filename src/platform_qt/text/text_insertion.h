@@ -15,7 +15,7 @@ namespace verlume::qt {
 class TextInsertion {
  public:
   // Replaces the cursor's selection.
-  TextInsertion(const QTextCursor& cursor, FormattedText text, Lines lines);
+  TextInsertion(const QTextCursor& cursor, FormattedText text);
 
   // Goes on with another text, once this one is in.
   void StartNext(FormattedText text);
@@ -36,7 +36,6 @@ class TextInsertion {
   QTextCursor cursor_;
   FormattedText text_;  // empty once it is in
   qsizetype size_;
-  Lines lines_;
   qsizetype at_ = 0;       // in the text
   std::size_t piece_ = 0;  // the one at that place
   qsizetype inPiece_ = 0;  // and how much of it is in
@@ -44,7 +43,7 @@ class TextInsertion {
 };
 
 // These replace the cursor's selection and leave the cursor behind what came in.
-void Insert(QTextCursor& cursor, FormattedText text, Lines lines);
+void Insert(QTextCursor& cursor, FormattedText text);
 void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines);
 void InsertDocument(QTextCursor& cursor, richtext::Document document, Lines lines);
 

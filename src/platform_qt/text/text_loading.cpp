@@ -17,9 +17,7 @@ constexpr int kAll = 100;
 
 TextLoading::TextLoading(RichTextWidget& widget, const QTextCursor& cursor, FormattedText text,
                          std::function<void(int percent)> onProgress)
-    : widget_(widget),
-      insertion_(cursor, std::move(text), widget.lines()),
-      onProgress_(std::move(onProgress)) {
+    : widget_(widget), insertion_(cursor, std::move(text)), onProgress_(std::move(onProgress)) {
   PutIn(kUnitsAtOnce);
   if (insertion_.IsDone()) {
     told_ = kAll;

@@ -19,7 +19,7 @@ constexpr qint64 kStepMicroseconds = 1000;
 TextWriting::TextWriting(RichTextWidget& widget, const QTextCursor& cursor,
                          std::function<void()> onDone)
     : widget_(widget),
-      insertion_(cursor, FormattedText(), widget.lines()),
+      insertion_(cursor, FormattedText()),
       before_(FormatOfFirst(cursor)),
       onDone_(std::move(onDone)) {
   QObject::connect(&nextTurn_, &QTimer::timeout, &nextTurn_, [this] { RunTurn(); });

@@ -11,7 +11,7 @@ namespace {
 
 // Average characters across the list and the text box, and lines of the latter.
 constexpr int kNameColumns = 24;
-constexpr int kTextColumns = 48;
+constexpr int kMacroTextColumns = 48;
 constexpr int kTextLines = 9;
 constexpr QSize kColour(44, 17);
 
@@ -84,7 +84,7 @@ void MacroForm::LayOut() {
 
 void MacroForm::PlaceText(QWidget* text) {
   text->setObjectName(QStringLiteral("rtbMacroText"));
-  text->setMinimumSize(fontMetrics().averageCharWidth() * kTextColumns,
+  text->setMinimumSize(fontMetrics().averageCharWidth() * kMacroTextColumns,
                        fontMetrics().lineSpacing() * kTextLines);
   textSide_->addWidget(text, 1);
   // The order of Tab: list, style, text, buttons.

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QHelpEvent>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextDocumentFragment>

@@ -20,7 +20,7 @@ class ModalDriver : public QObject {
     poll_.callOnTimeout(this, [this] { Look(); });
     poll_.start(5);
     limit_.setSingleShot(true);
-    limit_.callOnTimeout(this, [this] {
+    limit_.callOnTimeout(this, [] {
       ADD_FAILURE() << "the box stayed open";
       for (QWidget* box = Top(); box && box->isVisible(); box = Top()) box->hide();
     });

@@ -79,8 +79,7 @@ TEST(QtTextInsertion, NoPairOfSurrogatesIsCutInTwoBetweenPieces) {
   QTextDocument shown;
   const std::u16string text =
       std::u16string(4'000, u'x') + u"\U0001F600" + std::u16string(500, u'x');
-  TextInsertion insertion(QTextCursor(&shown), FormattedText(text, {}, Lines::Single),
-                          Lines::Single);
+  TextInsertion insertion(QTextCursor(&shown), FormattedText(text, {}, Lines::Single));
   for (const qsizetype units : {4'001, 1, 1, 1'000}) insertion.PutIn(units);
   EXPECT_TRUE(insertion.IsDone());
   for (QTextBlock block = shown.begin(); block.isValid(); block = block.next()) {
@@ -120,7 +119,7 @@ TEST(QtTextInsertion, LinesThatAreLongComeInTheSameBlocksByStepsOfAnySize) {
                               FromQt(QStringLiteral("hello, you there ").repeated(1'000)) + u"\n";
   for (const qsizetype step : {1'000, 4'095, 4'096, 5'000}) {
     QTextDocument shown;
-    TextInsertion insertion(QTextCursor(&shown), FormattedText(text, {}, Lines::Many), Lines::Many);
+    TextInsertion insertion(QTextCursor(&shown), FormattedText(text, {}, Lines::Many));
     while (!insertion.IsDone()) insertion.PutIn(step);
     EXPECT_LE(LongestBlock(shown), 4096);
     EXPECT_LE(shown.blockCount(), 11) << step;
@@ -146,7 +145,7 @@ TEST(QtTextInsertion, WhatIsPutInPieceByPieceIsTheSameAsAtOnce) {
   QTextDocument shown;
   QTextCursor cursor(&shown);
   const QString text = QStringLiteral("a line\nand another\n").repeated(100);
-  TextInsertion insertion(cursor, FormattedText(FromQt(text), {}, Lines::Many), Lines::Many);
+  TextInsertion insertion(cursor, FormattedText(FromQt(text), {}, Lines::Many));
   int last = insertion.Percent();
   EXPECT_EQ(last, 0);
   while (!insertion.IsDone()) {
@@ -162,7 +161,7 @@ TEST(QtTextInsertion, WhatIsPutInPieceByPieceIsTheSameAsAtOnce) {
 TEST(QtTextInsertion, WhatIsWrittenWhileItRestsStaysBehindIt) {
   QTextDocument shown;
   QTextCursor cursor(&shown);
-  TextInsertion insertion(cursor, FormattedText(u"abcdef", {}, Lines::Many), Lines::Many);
+  TextInsertion insertion(cursor, FormattedText(u"abcdef", {}, Lines::Many));
   insertion.PutIn(3);
   QTextCursor other(&shown);
   other.movePosition(QTextCursor::End);

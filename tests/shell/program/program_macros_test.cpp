@@ -1,18 +1,14 @@
 // Macros on their road through a whole program: written, run, and met by a conversation meanwhile.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/program_copy.h"
+#include "support/text_matchers.h"
 
 namespace verlume {
 namespace {
 
 using fake::FakeNetwork;
 using fake::ProgramCopy;
-
-MATCHER_P(EndsIn, end, "") {
-  return arg.ends_with(end);
-}
 
 class ProgramMacrosTest : public testing::Test {
  protected:

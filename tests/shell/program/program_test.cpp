@@ -4,6 +4,7 @@
 
 #include "richtext/rtf_reader.h"
 #include "support/program_copy.h"
+#include "support/text_matchers.h"
 
 namespace verlume {
 namespace {
@@ -11,16 +12,6 @@ namespace {
 using fake::FakeNetwork;
 using fake::FakePlatform;
 using fake::ProgramCopy;
-
-MATCHER_P(BeginsWith, start, "") {
-  return arg.starts_with(start);
-}
-MATCHER_P(EndsIn, end, "") {
-  return arg.ends_with(end);
-}
-MATCHER_P(Holds, part, "") {
-  return arg.find(part) != arg.npos;
-}
 
 class ProgramTest : public testing::Test {
  protected:
