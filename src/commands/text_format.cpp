@@ -1,39 +1,21 @@
 #include "commands/text_format.h"
 
+#include <utility>
+
 #include "shell/raised.h"
 #include "shell/settings_reader.h"
 
 namespace verlume {
 namespace {
 
-SelectionFormat FormatOf(const AppState& state) {
-  return {.fontName = state.FontName,
-          .fontSize = state.FontSize,
-          .color = state.FontColor,
-          .bold = state.FontBold,
-          .italic = state.FontItalic,
-          .underline = state.FontUnderline,
-          .strikethrough = state.FontStrikethrough};
-}
-
-template <class Value>
-bool Change(Value& value, const Value& newValue) {
-  if (value == newValue) return false;
-  value = newValue;
-  return true;
-}
-
-// The format becomes the local style, its size the nearest one that is accepted; what is
-// undetermined of the four flags is off. True when the style differs from before.
+// The format becomes the local style, its size the nearest one that is accepted. True when the
+// style differs from before.
 bool TakeStyle(AppState& state, const SelectionFormat& format) {
-  bool changed = Change(state.FontName, format.fontName.value_or(state.FontName));
-  changed |= Change(state.FontSize, AcceptedFontSize(format.fontSize.value_or(state.FontSize)));
-  changed |= Change(state.FontColor, format.color.value_or(state.FontColor));
-  changed |= Change(state.FontBold, format.bold.value_or(false));
-  changed |= Change(state.FontItalic, format.italic.value_or(false));
-  changed |= Change(state.FontUnderline, format.underline.value_or(false));
-  changed |= Change(state.FontStrikethrough, format.strikethrough.value_or(false));
-  return changed;
+  TextStyle style = StyleOf(format, state.Font);
+  style.Size = AcceptedFontSize(style.Size);
+  if (style == state.Font) return false;
+  state.Font = std::move(style);
+  return true;
 }
 
 }  // namespace
@@ -53,7 +35,7 @@ void TextFormat::ApplyToPane() {
   RichTextBox& pane = platform_.frmMain.rtbCommands;
   if (pane.TextLength() > 0) pane.Select(pane.TextLength(), 0);
   pane.SetFontCharset(richtext::kGreekCharset);
-  pane.SetSelFormat(FormatOf(state_));
+  pane.SetSelFormat(FormatOf(state_.Font));
 }
 
 // Check boxes, ticks and the colour label agree with the local style.
@@ -61,14 +43,14 @@ void TextFormat::ShowStyle() {
   // The click of a check box would apply the style, which moves the insertion point to the end.
   const Raised showing(settling_);
   MainWindow& frmMain = platform_.frmMain;
-  frmMain.chkBold.SetValue(state_.FontBold ? 1 : 0);
-  frmMain.chkItalics.SetValue(state_.FontItalic ? 1 : 0);
-  frmMain.chkUnderline.SetValue(state_.FontUnderline ? 1 : 0);
-  frmMain.mnuFormatFontBold.SetChecked(state_.FontBold);
-  frmMain.mnuFormatFontItalics.SetChecked(state_.FontItalic);
-  frmMain.mnuFormatFontUnderline.SetChecked(state_.FontUnderline);
+  frmMain.chkBold.SetValue(state_.Font.Bold ? 1 : 0);
+  frmMain.chkItalics.SetValue(state_.Font.Italic ? 1 : 0);
+  frmMain.chkUnderline.SetValue(state_.Font.Underline ? 1 : 0);
+  frmMain.mnuFormatFontBold.SetChecked(state_.Font.Bold);
+  frmMain.mnuFormatFontItalics.SetChecked(state_.Font.Italic);
+  frmMain.mnuFormatFontUnderline.SetChecked(state_.Font.Underline);
   frmMain.lblColor.SetTag(kFromCode);
-  frmMain.lblColor.SetBackColor(state_.FontColor);
+  frmMain.lblColor.SetBackColor(state_.Font.Color);
   frmMain.lblColor.SetTag(u"");
 }
 
@@ -85,7 +67,7 @@ void TextFormat::rtbCommands_SelChange() {
     const SelectionFormat format = pane.SelFormat();
     changed = TakeStyle(state_, format);
     // Text from elsewhere may be of any size; what is typed into it is not.
-    if (format.fontSize && format.fontSize != state_.FontSize) ApplySizeToPane();
+    if (format.fontSize && format.fontSize != state_.Font.Size) ApplySizeToPane();
     ShowStyle();
   });
   if (!changed) return;
@@ -94,7 +76,7 @@ void TextFormat::rtbCommands_SelChange() {
 
 void TextFormat::ApplySizeToPane() {
   SelectionFormat size;
-  size.fontSize = state_.FontSize;
+  size.fontSize = state_.Font.Size;
   platform_.frmMain.rtbCommands.SetSelFormat(size);
 }
 
@@ -106,27 +88,27 @@ void TextFormat::SetFlag(bool& flag, bool wanted) {
 }
 
 void TextFormat::chkBold_Click() {
-  SetFlag(state_.FontBold, platform_.frmMain.chkBold.Value() > 0);
+  SetFlag(state_.Font.Bold, platform_.frmMain.chkBold.Value() > 0);
 }
 
 void TextFormat::chkItalics_Click() {
-  SetFlag(state_.FontItalic, platform_.frmMain.chkItalics.Value() > 0);
+  SetFlag(state_.Font.Italic, platform_.frmMain.chkItalics.Value() > 0);
 }
 
 void TextFormat::chkUnderline_Click() {
-  SetFlag(state_.FontUnderline, platform_.frmMain.chkUnderline.Value() > 0);
+  SetFlag(state_.Font.Underline, platform_.frmMain.chkUnderline.Value() > 0);
 }
 
 void TextFormat::mnuFormatFontBold_Click() {
-  SetFlag(state_.FontBold, !platform_.frmMain.mnuFormatFontBold.Checked());
+  SetFlag(state_.Font.Bold, !platform_.frmMain.mnuFormatFontBold.Checked());
 }
 
 void TextFormat::mnuFormatFontItalics_Click() {
-  SetFlag(state_.FontItalic, !platform_.frmMain.mnuFormatFontItalics.Checked());
+  SetFlag(state_.Font.Italic, !platform_.frmMain.mnuFormatFontItalics.Checked());
 }
 
 void TextFormat::mnuFormatFontUnderline_Click() {
-  SetFlag(state_.FontUnderline, !platform_.frmMain.mnuFormatFontUnderline.Checked());
+  SetFlag(state_.Font.Underline, !platform_.frmMain.mnuFormatFontUnderline.Checked());
 }
 
 }  // namespace verlume

@@ -38,11 +38,11 @@ void TextFormat::SetFontSize() {
     if (answer.empty()) {
       answer = platform_.dialogs.AskText(font_size_texts::kPrompt.In(state_.IsGreek),
                                          font_size_texts::kTitle.In(state_.IsGreek),
-                                         NumberText(state_.FontSize));
+                                         NumberText(state_.Font.Size));
     }
     if (answer.empty()) return;
     if (const std::optional<double> size = FontSizeOf(answer)) {
-      state_.FontSize = *size;
+      state_.Font.Size = *size;
       ApplyCommandStyle();
       dialogue_.WriteDialogueLine(u"", CommandPane::Clear);
     } else {
@@ -63,7 +63,7 @@ void TextFormat::lblColor_MouseDown(MouseButton button) {
   if (button == MouseButton::Right) return;
   if (platform_.frmMain.lblColor.Tag() == kFromCode) return;
   errors_.Guard(Procedure::lblColor_MouseDown, [this] {
-    state_.FontColor = platform_.dlgControl.ShowColor(state_.FontColor);
+    state_.Font.Color = platform_.dlgControl.ShowColor(state_.Font.Color);
     ApplyCommandStyle();
   });
   platform_.frmMain.rtbCommands.SetFocus();
@@ -75,22 +75,9 @@ void TextFormat::mnuFormatFontColor_Click() {
 
 void TextFormat::mnuFormatFontSettings_Click() {
   errors_.Guard(Procedure::mnuFormatFontSettings_Click, [this] {
-    const FontChoice chosen =
-        platform_.dlgControl.ShowFont({.name = state_.FontName,
-                                       .bold = state_.FontBold,
-                                       .italic = state_.FontItalic,
-                                       .underline = state_.FontUnderline,
-                                       .strikethrough = state_.FontStrikethrough,
-                                       .color = state_.FontColor,
-                                       .size = state_.FontSize},
-                                      kSmallestFontSize, kLargestFontSize);
-    state_.FontName = chosen.name;
-    state_.FontBold = chosen.bold;
-    state_.FontItalic = chosen.italic;
-    state_.FontUnderline = chosen.underline;
-    state_.FontStrikethrough = chosen.strikethrough;
-    state_.FontColor = chosen.color;
-    state_.FontSize = AcceptedFontSize(chosen.size);
+    state_.Font = StyleOf(platform_.dlgControl.ShowFont(FontChoiceOf(state_.Font),
+                                                        kSmallestFontSize, kLargestFontSize));
+    state_.Font.Size = AcceptedFontSize(state_.Font.Size);
     ApplyCommandStyle();
   });
   platform_.frmMain.rtbCommands.SetFocus();

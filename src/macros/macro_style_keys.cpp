@@ -79,35 +79,21 @@ void MacroStyle::Perform(int charCode) {
 }
 
 void MacroStyle::ChooseFont() {
-  const FontChoice chosen =
-      platform_.dlgControl.ShowFont({.name = state_.MacroFontName,
-                                     .bold = state_.MacroBold,
-                                     .italic = state_.MacroItalic,
-                                     .underline = state_.MacroUnderline,
-                                     .strikethrough = state_.MacroStrikethrough,
-                                     .color = state_.MacroColor,
-                                     .size = state_.MacroFontSize},
-                                    kSmallestFontSize, kLargestFontSize);
-  state_.MacroFontName = chosen.name;
-  state_.MacroBold = chosen.bold;
-  state_.MacroItalic = chosen.italic;
-  state_.MacroStrikethrough = chosen.strikethrough;
-  state_.MacroUnderline = chosen.underline;
-  state_.MacroColor = chosen.color;
-  state_.MacroFontSize = chosen.size;
+  state_.MacroFont = StyleOf(platform_.dlgControl.ShowFont(FontChoiceOf(state_.MacroFont),
+                                                           kSmallestFontSize, kLargestFontSize));
   ApplyMacroStyle();
   TakeStyleAtCaret();
 }
 
 void MacroStyle::AskFontSize() {
   const std::u16string_view title = font_size_texts::kTitle.In(state_.IsGreek);
-  std::u16string proposed = NumberText(state_.MacroFontSize);
+  std::u16string proposed = NumberText(state_.MacroFont.Size);
   for (;;) {
     const std::u16string answer =
         platform_.dialogs.AskText(font_size_texts::kPrompt.In(state_.IsGreek), title, proposed);
     if (answer.empty()) return;
     if (const std::optional<int> size = FontSizeOf(answer)) {
-      state_.MacroFontSize = *size;
+      state_.MacroFont.Size = *size;
       return ApplyMacroStyle();
     }
     platform_.dialogs.ShowMessage(Note(font_size_texts::kRange.In(state_.IsGreek), title));

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/control.h"
+#include "shell/text_style.h"
 
 namespace verlume {
 
@@ -78,23 +78,8 @@ struct AppState {
   std::u16string MacroToRun;     // rich text that the macro editor hands over
   std::int32_t MacroIndex = -1;  // of the macro shown or edited in the macro editor, -1 for none
 
-  // The local text style.
-  std::u16string FontName;
-  bool FontBold = false;
-  bool FontItalic = false;
-  bool FontStrikethrough = false;
-  bool FontUnderline = false;
-  Color FontColor = 0;
-  double FontSize = 0;  // points
-
-  // The style in force while a macro is edited.
-  std::u16string MacroFontName;
-  bool MacroBold = false;
-  bool MacroItalic = false;
-  bool MacroStrikethrough = false;
-  bool MacroUnderline = false;
-  Color MacroColor = 0;
-  double MacroFontSize = 0;  // points
+  TextStyle Font;       // of what is typed in the command pane
+  TextStyle MacroFont;  // of what is typed in the macro editor
 };
 
 }  // namespace verlume

@@ -105,22 +105,22 @@ constexpr Key kKeys[] = {
        to.frmMain.window.SetTopMost(to.state.AlwaysOnTop);
      }},
     {kFontSection, u"Name", 1024, kNull, IsText,
-     [](Value value, Target to) { TakeText(value, to.state.FontName); }},
+     [](Value value, Target to) { TakeText(value, to.state.Font.Name); }},
     {kFontSection, u"Bold", 20, kNull, IsBoolean,
-     [](Value value, Target to) { TakeBoolean(value, to.state.FontBold); }},
+     [](Value value, Target to) { TakeBoolean(value, to.state.Font.Bold); }},
     {kFontSection, u"Italic", 20, kNull, IsBoolean,
-     [](Value value, Target to) { TakeBoolean(value, to.state.FontItalic); }},
+     [](Value value, Target to) { TakeBoolean(value, to.state.Font.Italic); }},
     {kFontSection, u"Strikethrough", 20, kNull, IsBoolean,
-     [](Value value, Target to) { TakeBoolean(value, to.state.FontStrikethrough); }},
+     [](Value value, Target to) { TakeBoolean(value, to.state.Font.Strikethrough); }},
     {kFontSection, u"Underline", 20, kNull, IsBoolean,
-     [](Value value, Target to) { TakeBoolean(value, to.state.FontUnderline); }},
+     [](Value value, Target to) { TakeBoolean(value, to.state.Font.Underline); }},
     {kFontSection, u"Forecolor", 20, kNull, IsColor,
      [](Value value, Target to) {
-       to.state.FontColor = ColorOf(value).value_or(to.state.FontColor);
+       to.state.Font.Color = ColorOf(value).value_or(to.state.Font.Color);
      }},
     {kFontSection, u"Size", 20, kNull, IsNumber,
      [](Value value, Target to) {
-       if (value) to.state.FontSize = AcceptedFontSize(NumberOf(*value));
+       if (value) to.state.Font.Size = AcceptedFontSize(NumberOf(*value));
      }},
     {kBackColor, u"Commands", 20, kNull, IsColor,
      [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbCommands); }},
@@ -161,14 +161,8 @@ double AcceptedFontSize(double points) {
 }
 
 void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
-  const SelectionFormat pane = frmMain.rtbData.SelFormat();
-  state.FontName = pane.fontName.value_or(state.FontName);
-  state.FontBold = pane.bold.value_or(false);
-  state.FontItalic = pane.italic.value_or(false);
-  state.FontStrikethrough = pane.strikethrough.value_or(false);
-  state.FontUnderline = pane.underline.value_or(false);
-  state.FontColor = pane.color.value_or(0);
-  state.FontSize = pane.fontSize.value_or(kLargestFontSize);
+  state.Font =
+      StyleOf(frmMain.rtbData.SelFormat(), {.Name = state.Font.Name, .Size = kLargestFontSize});
 
   state.Nickname.clear();
   state.MacrosFolder.clear();
@@ -206,13 +200,13 @@ std::u16string_view LanguageText(const AppState& state) {
 }
 
 std::vector<Settings::KeyValue> FontSettings(const AppState& state) {
-  return {{u"Name", state.FontName},
-          {u"Bold", BooleanText(state.FontBold)},
-          {u"Italic", BooleanText(state.FontItalic)},
-          {u"Strikethrough", BooleanText(state.FontStrikethrough)},
-          {u"Underline", BooleanText(state.FontUnderline)},
-          {u"Forecolor", DecimalText(state.FontColor)},
-          {u"Size", NumberText(state.FontSize)}};
+  return {{u"Name", state.Font.Name},
+          {u"Bold", BooleanText(state.Font.Bold)},
+          {u"Italic", BooleanText(state.Font.Italic)},
+          {u"Strikethrough", BooleanText(state.Font.Strikethrough)},
+          {u"Underline", BooleanText(state.Font.Underline)},
+          {u"Forecolor", DecimalText(state.Font.Color)},
+          {u"Size", NumberText(state.Font.Size)}};
 }
 
 void WriteFontSettings(const AppState& state, Settings& settings) {

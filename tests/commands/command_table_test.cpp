@@ -138,8 +138,8 @@ class EveryCommand : public fake::TypingSide,
     for (const Message& message : fake.dialogs.messages) Saw(u"tells of " + message.title);
     if (state.IsWaiting) Saw(u"waits on " + DecimalText(state.LocalPort));
     if (state.IsCalling) Saw(u"calls " + state.RemoteHost + u" " + DecimalText(state.RemotePort));
-    if (state.FontSize != 10) Saw(u"size " + DecimalText(static_cast<int>(state.FontSize)));
-    if (state.FontColor != 0) Saw(u"colour " + DecimalText(state.FontColor));
+    if (state.Font.Size != 10) Saw(u"size " + DecimalText(static_cast<int>(state.Font.Size)));
+    if (state.Font.Color != 0) Saw(u"colour " + DecimalText(state.Font.Color));
     if (state.Nickname != u"Bob") Saw(u"nickname " + state.Nickname);
     if (!window.rtbData.Text().empty()) Saw(u"writes " + window.rtbData.Text());
     if (window.window.unloaded) Saw(u"unloads");

@@ -183,15 +183,15 @@ TEST_F(Interpreter, GreekWordsKeepTheirAccents) {
 TEST_F(Interpreter, BothLanguagesWorkWhateverTheInterfaceSpeaks) {
   state.IsGreek = true;
   Enter(u"/bold");
-  EXPECT_TRUE(state.FontBold);
+  EXPECT_TRUE(state.Font.Bold);
   state.IsGreek = false;
   Enter(u"/όχιέντονα");
-  EXPECT_FALSE(state.FontBold);
+  EXPECT_FALSE(state.Font.Bold);
 }
 
 TEST_F(Interpreter, ACommandIgnoresWhatFollowsIt) {
   Enter(u"/Bold extra words");
-  EXPECT_TRUE(state.FontBold);
+  EXPECT_TRUE(state.Font.Bold);
   EXPECT_EQ(Shown(), u"");
 }
 
@@ -222,10 +222,10 @@ TEST_F(Interpreter, APlainCommandYieldsBeforeAndAfterItsAction) {
 TEST_F(Interpreter, ARoutineYieldsBeforeItRuns) {
   pane.Type(u"/size 9");
   std::vector<double> sizes;
-  fake.application.onYield = [&] { sizes.push_back(state.FontSize); };
+  fake.application.onYield = [&] { sizes.push_back(state.Font.Size); };
   Press(13);
   EXPECT_THAT(sizes, ElementsAre(10, 10));
-  EXPECT_EQ(state.FontSize, 9);
+  EXPECT_EQ(state.Font.Size, 9);
 }
 
 TEST_F(Interpreter, BlanksOfALineWithArgumentsArePutInOrder) {
@@ -279,19 +279,19 @@ TEST_F(Interpreter, OnAndOffCommandsCanBeRepeated) {
 TEST_F(Interpreter, AStyleCommandCanBeRepeated) {
   for (int times = 0; times < 2; ++times) {
     Enter(u"/italics");
-    EXPECT_TRUE(state.FontItalic && window.mnuFormatFontItalics.checked);
+    EXPECT_TRUE(state.Font.Italic && window.mnuFormatFontItalics.checked);
     EXPECT_EQ(window.chkItalics.value, 1);
   }
   for (int times = 0; times < 2; ++times) {
     Enter(u"/notitalics");
-    EXPECT_FALSE(state.FontItalic || window.mnuFormatFontItalics.checked);
+    EXPECT_FALSE(state.Font.Italic || window.mnuFormatFontItalics.checked);
     EXPECT_EQ(window.chkItalics.value, 0);
   }
 }
 
 TEST_F(Interpreter, ASizeOutOfRangeIsRefused) {
   Enter(u"/size 12");
-  EXPECT_EQ(state.FontSize, 10);
+  EXPECT_EQ(state.Font.Size, 10);
   EXPECT_THAT(fake.dialogs.messages, SizeIs(1));
 }
 
@@ -352,14 +352,14 @@ TEST_F(Interpreter, TheMacrosFolderMayEndInASeparator) {
 TEST_F(Interpreter, AMacroTakesThePlaceOfACommand) {
   KeepMacro(u"BOLD", u"not bold at all");
   Enter(u"/BOLD");
-  EXPECT_FALSE(state.FontBold);
+  EXPECT_FALSE(state.Font.Bold);
   EXPECT_EQ(Shown(), u"<Bob>not bold at all");
 }
 
 TEST_F(Interpreter, AMacroMayHoldACommand) {
   KeepMacro(u"b", u"/bold");
   Enter(u"/b");
-  EXPECT_TRUE(state.FontBold);
+  EXPECT_TRUE(state.Font.Bold);
   EXPECT_EQ(Shown(), u"");
 }
 
@@ -376,7 +376,7 @@ TEST_F(Interpreter, TheWholeLineIsTheMacrosName) {
   EXPECT_EQ(Shown(), u"<Bob>macro");
   KeepMacro(u"size", u"macro");
   Enter(u"/size 9");
-  EXPECT_EQ(state.FontSize, 9);
+  EXPECT_EQ(state.Font.Size, 9);
 }
 
 TEST_F(Interpreter, ALineWithoutASlashIsNoMacro) {

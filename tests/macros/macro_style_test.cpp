@@ -23,10 +23,10 @@ class MacroStyleTest : public MacroEditorTest {
 };
 
 TEST_F(MacroStyleTest, BeginsAsTheCommandPanesStyle) {
-  state.FontName = u"Georgia";
-  state.FontBold = state.FontUnderline = state.FontStrikethrough = true;
-  state.FontColor = kRed;
-  state.FontSize = 11;
+  state.Font.Name = u"Georgia";
+  state.Font.Bold = state.Font.Underline = state.Font.Strikethrough = true;
+  state.Font.Color = kRed;
+  state.Font.Size = 11;
   Open([this] {
     EXPECT_EQ(window.chkBold.value, 1);
     EXPECT_EQ(window.chkItalics.value, 0);
@@ -51,7 +51,7 @@ TEST_F(MacroStyleTest, BeginsAfreshEachTime) {
   Open([this] { window.chkBold.SetValue(1); });
   Open([this] {
     EXPECT_EQ(window.chkBold.value, 0);
-    EXPECT_FALSE(state.MacroBold);
+    EXPECT_FALSE(state.MacroFont.Bold);
   });
 }
 
@@ -62,7 +62,7 @@ TEST_F(MacroStyleTest, BoxesSetTheStyleOfWhatIsTypedNext) {
     window.chkItalics.SetValue(1);
     window.chkUnderlined.SetValue(1);
     EXPECT_EQ(text.timesFocused, focused + 3);
-    EXPECT_TRUE(state.MacroBold && state.MacroItalic && state.MacroUnderline);
+    EXPECT_TRUE(state.MacroFont.Bold && state.MacroFont.Italic && state.MacroFont.Underline);
     text.Type(u"a");
     window.chkBold.SetValue(0);
     text.Type(u"b");
@@ -73,7 +73,7 @@ TEST_F(MacroStyleTest, BoxesSetTheStyleOfWhatIsTypedNext) {
     text.Select(1, 1);
     EXPECT_EQ(text.SelFormat().bold, false);
   });
-  EXPECT_FALSE(state.FontBold) << "the command pane's style is another one";
+  EXPECT_FALSE(state.Font.Bold) << "the command pane's style is another one";
 }
 
 TEST_F(MacroStyleTest, BoxesSetTheStyleOfTheSelection) {
@@ -93,7 +93,7 @@ TEST_F(MacroStyleTest, FailureInABoxIsIgnored) {
     window.chkBold.SetValue(1);
     window.chkItalics.SetValue(1);
     window.chkUnderlined.SetValue(1);
-    EXPECT_TRUE(state.MacroBold && state.MacroItalic && state.MacroUnderline);
+    EXPECT_TRUE(state.MacroFont.Bold && state.MacroFont.Italic && state.MacroFont.Underline);
   });
   EXPECT_THAT(Titles(), IsEmpty());
 }
@@ -125,7 +125,7 @@ TEST_F(MacroStyleTest, CaretShowsTheStyleUnderIt) {
     Choose(u"hello");
     EXPECT_EQ(window.chkBold.value, 1);
     EXPECT_EQ(window.lblColour.backColor, kRed);
-    EXPECT_EQ(state.MacroColor, kRed);
+    EXPECT_EQ(state.MacroFont.Color, kRed);
     Choose(u"bye");
     EXPECT_EQ(window.chkBold.value, 0);
     EXPECT_EQ(window.lblColour.backColor, 0);
@@ -136,11 +136,11 @@ TEST_F(MacroStyleTest, SelectionChangesNoStyle) {
   Open([this] {
     Choose(u"bye");
     Edit(u"hello");
-    state.MacroBold = false;
+    state.MacroFont.Bold = false;
     text.Select(0, 4);
-    EXPECT_FALSE(state.MacroBold);
+    EXPECT_FALSE(state.MacroFont.Bold);
     text.Select(4, 0);
-    EXPECT_TRUE(state.MacroBold);
+    EXPECT_TRUE(state.MacroFont.Bold);
   });
 }
 
@@ -150,38 +150,38 @@ TEST_F(MacroStyleTest, UndeterminedStyleIsOffAndLeavesTheColour) {
     text.formatIsMixed = true;
     text.Select(3, 0);
     EXPECT_EQ(window.chkBold.value, 0);
-    EXPECT_FALSE(state.MacroBold);
+    EXPECT_FALSE(state.MacroFont.Bold);
     EXPECT_EQ(window.lblColour.backColor, kRed);
-    EXPECT_EQ(state.MacroColor, kRed);
+    EXPECT_EQ(state.MacroFont.Color, kRed);
   });
 }
 
 TEST_F(MacroStyleTest, ColourIsChosenByAnyButtonButTheRightOne) {
   Write([this] {
-    state.MacroColor = kBlue;
+    state.MacroFont.Color = kBlue;
     window.lblColour.onMouseDown(MouseButton::Right);
     EXPECT_THAT(fake.commonDialog.colorsShown, IsEmpty());
     fake.commonDialog.colors = {kRed, kBlue};
     const int focused = text.timesFocused;
     window.lblColour.onMouseDown(MouseButton::Left);
-    EXPECT_EQ(state.MacroColor, kRed);
+    EXPECT_EQ(state.MacroFont.Color, kRed);
     EXPECT_EQ(window.lblColour.backColor, kRed);
     EXPECT_EQ(text.SelFormat().color, kRed);
     EXPECT_EQ(text.timesFocused, focused + 1);
     window.lblColour.onMouseDown(MouseButton::Other);
-    EXPECT_EQ(state.MacroColor, kBlue);
+    EXPECT_EQ(state.MacroFont.Color, kBlue);
     EXPECT_THAT(fake.commonDialog.colorsShown, ElementsAre(kBlue, kRed));
   });
 }
 
 TEST_F(MacroStyleTest, CancelledDialogsAreSilent) {
   Write([this] {
-    state.MacroColor = kBlue;
+    state.MacroFont.Color = kBlue;
     fake.commonDialog.colors = {std::nullopt, std::nullopt};
     fake.commonDialog.fonts = {std::nullopt};
     window.lblColour.onMouseDown(MouseButton::Left);
     text.Type(u"\x0B\x06");
-    EXPECT_EQ(state.MacroColor, kBlue);
+    EXPECT_EQ(state.MacroFont.Color, kBlue);
     EXPECT_EQ(text.Text(), u"");
   });
   EXPECT_THAT(Titles(), IsEmpty());
@@ -201,7 +201,7 @@ TEST_F(MacroStyleTest, KeysToggleTheBoxes) {
   Write([this] {
     text.Type(u"\x02\x09\x15");
     EXPECT_EQ(window.chkBold.value + window.chkItalics.value + window.chkUnderlined.value, 3);
-    EXPECT_TRUE(state.MacroBold && state.MacroItalic && state.MacroUnderline);
+    EXPECT_TRUE(state.MacroFont.Bold && state.MacroFont.Italic && state.MacroFont.Underline);
     text.Type(u"\x02\x09\x15");
     EXPECT_EQ(window.chkBold.value + window.chkItalics.value + window.chkUnderlined.value, 0);
     EXPECT_EQ(text.Text(), u"") << "they insert nothing";
@@ -236,7 +236,7 @@ TEST_F(MacroStyleTest, ControlKIsAClickOnTheColour) {
   Write([this] {
     fake.commonDialog.colors = {kRed};
     text.Type(u"\x0B");
-    EXPECT_EQ(state.MacroColor, kRed);
+    EXPECT_EQ(state.MacroFont.Color, kRed);
     EXPECT_EQ(window.lblColour.backColor, kRed);
     EXPECT_EQ(text.Text(), u"");
   });
@@ -244,7 +244,7 @@ TEST_F(MacroStyleTest, ControlKIsAClickOnTheColour) {
 
 TEST_F(MacroStyleTest, ControlFChoosesTheFont) {
   Write([this] {
-    state.MacroItalic = true;
+    state.MacroFont.Italic = true;
     fake.commonDialog.fonts = {FontChoice{u"Georgia", true, false, true, true, kRed, 9}};
     text.Type(u"\x06");
     const auto& shown = fake.commonDialog.fontsShown.at(0);
@@ -253,11 +253,11 @@ TEST_F(MacroStyleTest, ControlFChoosesTheFont) {
     EXPECT_TRUE(shown.start.italic);
     EXPECT_EQ(shown.minimumSize, 8);
     EXPECT_EQ(shown.maximumSize, 11);
-    EXPECT_EQ(state.MacroFontName, u"Georgia");
-    EXPECT_EQ(state.MacroFontSize, 9);
-    EXPECT_EQ(state.MacroColor, kRed);
-    EXPECT_TRUE(state.MacroBold && state.MacroUnderline && state.MacroStrikethrough);
-    EXPECT_FALSE(state.MacroItalic);
+    EXPECT_EQ(state.MacroFont.Name, u"Georgia");
+    EXPECT_EQ(state.MacroFont.Size, 9);
+    EXPECT_EQ(state.MacroFont.Color, kRed);
+    EXPECT_TRUE(state.MacroFont.Bold && state.MacroFont.Underline && state.MacroFont.Strikethrough);
+    EXPECT_FALSE(state.MacroFont.Italic);
     EXPECT_EQ(text.SelFormat().fontName, u"Georgia");
     EXPECT_EQ(text.SelFormat().strikethrough, true);
     EXPECT_EQ(window.chkBold.value, 1);
@@ -281,11 +281,11 @@ TEST_F(MacroStyleTest, ControlSAsksForTheSize) {
   Write([this] {
     fake.dialogs.typed = {u" 9 "};
     text.Type(u"\x13");
-    EXPECT_EQ(state.MacroFontSize, 9);
+    EXPECT_EQ(state.MacroFont.Size, 9);
     EXPECT_EQ(text.SelFormat().fontSize, 9);
     fake.dialogs.typed = {u""};
     text.Type(u"\x13");
-    EXPECT_EQ(state.MacroFontSize, 9);
+    EXPECT_EQ(state.MacroFont.Size, 9);
   });
   EXPECT_EQ(fake.dialogs.asked[1].title, u"Font size definition");
   EXPECT_EQ(fake.dialogs.asked[1].prompt,
@@ -307,7 +307,7 @@ TEST_F(MacroStyleTest, SizeOutOfRangeIsToldAndAskedForAgain) {
                 u"The font size must be between 8 and 11 inclusive.");
       EXPECT_EQ(fake.dialogs.messages[0].icon, MessageIcon::Information);
       EXPECT_EQ(fake.dialogs.asked.back().defaultText, u"");
-      EXPECT_EQ(state.MacroFontSize, 11);
+      EXPECT_EQ(state.MacroFont.Size, 11);
     });
   }
 }

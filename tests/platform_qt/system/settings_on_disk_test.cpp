@@ -18,8 +18,8 @@ class SettingsOnDiskTest : public testing::Test {
  protected:
   SettingsOnDiskTest() {
     state.IniFile = FromQt(folder.filePath("Verlume.ini"));
-    state.FontName = u"Arial";
-    state.FontSize = 10;
+    state.Font.Name = u"Arial";
+    state.Font.Size = 10;
   }
 
   QString IniFile() const { return folder.filePath("Verlume.ini"); }

@@ -23,7 +23,7 @@ SelectionFormat StyleOfNextLetter(ProgramCopy& copy) {
 
 void ExpectBoldEverywhere(ProgramCopy& copy, bool isBold) {
   const fake::FakeMainWindow& window = copy.platform.window;
-  EXPECT_EQ(copy.program.State().FontBold, isBold);
+  EXPECT_EQ(copy.program.State().Font.Bold, isBold);
   EXPECT_EQ(window.chkBold.value, isBold ? 1 : 0);
   EXPECT_EQ(window.mnuFormatFontBold.checked, isBold);
   EXPECT_EQ(StyleOfNextLetter(copy).bold, isBold);
@@ -50,10 +50,11 @@ TEST_F(StyleAcrossRuns, EveryChoiceOfTheUserIsThereInTheNextRun) {
 
   ProgramCopy second(network, first.Settings(), ProgramCopy::SettingsFile{});
   const AppState& state = second.program.State();
-  EXPECT_EQ(state.FontName, u"Tahoma");
-  EXPECT_EQ(state.FontSize, 9.5);
-  EXPECT_EQ(state.FontColor, 255);
-  EXPECT_TRUE(state.FontBold && state.FontItalic && state.FontUnderline && state.FontStrikethrough);
+  EXPECT_EQ(state.Font.Name, u"Tahoma");
+  EXPECT_EQ(state.Font.Size, 9.5);
+  EXPECT_EQ(state.Font.Color, 255);
+  EXPECT_TRUE(state.Font.Bold && state.Font.Italic && state.Font.Underline &&
+              state.Font.Strikethrough);
   EXPECT_TRUE(state.DateStamp && state.TimeStamp && state.AlwaysOnTop);
   const fake::FakeMainWindow& shown = second.platform.window;
   EXPECT_TRUE(shown.chkBold.value && shown.chkItalics.value && shown.chkUnderline.value);
@@ -81,9 +82,9 @@ TEST_F(StyleAcrossRuns, AHandEditedFileStartsWithTheNearestSensibleValues) {
                    ProgramCopy::SettingsFile{});
   EXPECT_TRUE(copy.platform.dialogs.messages.empty());
   EXPECT_TRUE(copy.platform.window.window.shown);
-  EXPECT_EQ(copy.program.State().FontSize, 11);
-  EXPECT_EQ(copy.program.State().FontColor, 0);
-  EXPECT_EQ(copy.program.State().FontName, u"No Such Font");
+  EXPECT_EQ(copy.program.State().Font.Size, 11);
+  EXPECT_EQ(copy.program.State().Font.Color, 0);
+  EXPECT_EQ(copy.program.State().Font.Name, u"No Such Font");
   EXPECT_EQ(copy.platform.window.rtbCommands.backColor, 0xFFFFFF);
 }
 
@@ -130,7 +131,7 @@ TEST_F(StyleAcrossRuns, TextOfAnySizeIsTypedOnInASizeThatIsAccepted) {
   fake::FakeRichTextBox& pane = first.platform.window.rtbCommands;
   pane.SetRtf(u"{\\rtf1{\\fonttbl{\\f0 Tahoma;}}\\f0\\fs48 huge}");
   pane.Select(4, 0);
-  EXPECT_EQ(first.program.State().FontSize, 11);
+  EXPECT_EQ(first.program.State().Font.Size, 11);
   EXPECT_EQ(StyleOfNextLetter(first).fontSize, 11);
   pane.Select(0, 1);
   EXPECT_EQ(pane.SelFormat().fontSize, 24);
