@@ -57,10 +57,10 @@ void FindInDialogue::Search(Step step) {
   const Places places = Survey(search, from);
   if (places.count == 0) return ShowNothing(kNotFound.In(state_.IsGreek));
   const bool isPrevious = step == Step::Previous;
-  const Place& wanted = isPrevious ? places.before : places.after;
-  const bool wrapped = wanted.number == 0;
-  const Place& other = isPrevious ? places.last : places.first;
-  ShowPlace(wrapped ? other : wanted, places.count, wrapped, step);
+  const std::optional<Place>& wanted = isPrevious ? places.before : places.after;
+  const std::optional<Place>& other = isPrevious ? places.last : places.first;
+  const bool wrapped = !wanted;
+  ShowPlace(wrapped ? *other : *wanted, places.count, wrapped, step);
 }
 
 FindInDialogue::Places FindInDialogue::Survey(const TextSearch& search, std::size_t from) const {
@@ -68,11 +68,11 @@ FindInDialogue::Places FindInDialogue::Survey(const TextSearch& search, std::siz
   Places places;
   for (auto match = search.Find(text, 0); match;
        match = search.Find(text, match->start + match->length)) {
-    places.last = {++places.count, *match};
-    if (places.count == 1) places.first = places.last;
+    places.last = {.number = ++places.count, .match = *match};
+    if (!places.first) places.first = places.last;
     if (match->start < from) {
       places.before = places.last;
-    } else if (places.after.number == 0) {
+    } else if (!places.after) {
       places.after = places.last;
     }
   }

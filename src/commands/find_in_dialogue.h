@@ -2,6 +2,8 @@
 // and while the bar is closed there is nothing to do.
 #pragma once
 
+#include <optional>
+
 #include "commands/text_search.h"
 #include "platform/platform.h"
 #include "shell/app_state.h"
@@ -30,17 +32,18 @@ class FindInDialogue {
  private:
   enum class Step { Here, Next, Previous };
 
-  // A match, and its place among all; number 0 is none.
+  // A match, and its number among all matches, from 1.
   struct Place {
     std::size_t number = 0;
     TextMatch match;
   };
+  // The matches that a search may go to from a position. Without any match there is none of them.
   struct Places {
     std::size_t count = 0;
-    Place first;
-    Place before;  // the last that starts before the place in question
-    Place after;   // the first that starts there or behind
-    Place last;
+    std::optional<Place> first;
+    std::optional<Place> before;  // the last that starts before the position
+    std::optional<Place> after;   // the first that starts at the position or behind it
+    std::optional<Place> last;
   };
 
   void Search(Step step);

@@ -22,21 +22,21 @@ void ConnectionActions::RunFromMenu(std::u16string_view commandWord,
   (this->*action)();
 }
 
-bool ConnectionActions::MayLeaveState(const LeaveTexts& texts, ConnectionState& agreed) {
+std::optional<ConnectionState> ConnectionActions::AskToLeaveState(const LeaveTexts& texts) {
   // A call may be answered, or end, while its question is open: then the answer is to a question
   // that no longer fits, and the state that has come instead is asked about.
   for (;;) {
-    agreed = StateOf(state_);
+    const ConnectionState asked = StateOf(state_);
     const bool isGreek = state_.IsGreek;
     const std::u16string remotePort = DecimalText(state_.RemotePort);
     bool agrees = true;
-    switch (agreed) {
+    switch (asked) {
       case ConnectionState::Idle:
         break;
       case ConnectionState::Connected:
         platform_.dialogs.ShowMessage(Refusal(
             texts.connected.Fill(isGreek, {state_.RemoteAddress, remotePort}), In(texts.title)));
-        return false;
+        return std::nullopt;
       case ConnectionState::Waiting:
         agrees = UserAgrees(texts.waiting.Fill(isGreek, {DecimalText(state_.LocalPort)}),
                             texts.waitingTitle);
@@ -45,13 +45,13 @@ bool ConnectionActions::MayLeaveState(const LeaveTexts& texts, ConnectionState& 
         agrees = UserAgrees(texts.calling.Fill(isGreek, {remotePort}), texts.title);
         break;
     }
-    if (!agrees) return false;
-    if (StateOf(state_) == agreed) return true;
+    if (!agrees) return std::nullopt;
+    if (StateOf(state_) == asked) return asked;
   }
 }
 
 bool ConnectionActions::MayStillLeaveState(const LeaveTexts& texts, ConnectionState agreed) {
-  return StateOf(state_) == agreed || MayLeaveState(texts, agreed);
+  return StateOf(state_) == agreed || AskToLeaveState(texts).has_value();
 }
 
 bool ConnectionActions::UserAgrees(const std::u16string& text, const TextPair& title) {

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -69,18 +70,19 @@ class ConnectionActions {
   void Run(Procedure procedure, const std::function<void()>& action);
   void RunFromMenu(std::u16string_view commandWord, void (ConnectionActions::*action)());
 
-  // Refuses while Connected, asks while Waiting or Calling. True when the state in force may be
-  // left; `agreed` is that state.
-  bool MayLeaveState(const LeaveTexts& texts, ConnectionState& agreed);
-  // The same for boxes shown since: true at once while the state is the agreed one.
+  // Refuses while Connected, asks while Waiting or Calling. The state that may be left, which is
+  // the one in force; none when it may not.
+  std::optional<ConnectionState> AskToLeaveState(const LeaveTexts& texts);
+  // Whether the state in force may be left after further boxes: yes while it is the agreed one;
+  // else the user is asked again.
   bool MayStillLeaveState(const LeaveTexts& texts, ConnectionState agreed);
   // No is the default.
   bool UserAgrees(const std::u16string& text, const TextPair& title);
 
   // "" when the user gave up.
   std::u16string AskHost();
-  // A port, or -1 when the user gave up.
-  std::int32_t AskRemotePort();
+  // None when the user gave up.
+  std::optional<std::int32_t> AskRemotePort();
   // False when the user gave up.
   bool MendLocalPort(std::u16string& portText);
   std::u16string AskNickname(std::u16string candidate);

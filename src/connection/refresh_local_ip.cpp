@@ -11,10 +11,12 @@ void ConnectionActions::RefreshLocalIP() {
       platform_.dialogs.ShowMessage(Note(In(texts::kNoNeed), In(texts::kTitle)));
       return;
     }
-    const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kTitle, texts::kCalling,
-                              texts::kTitle};
-    ConnectionState agreed;
-    if (!MayLeaveState(leave, agreed)) return;
+    const LeaveTexts leave = {.connected = texts::kConnected,
+                              .waiting = texts::kWaiting,
+                              .waitingTitle = texts::kTitle,
+                              .calling = texts::kCalling,
+                              .title = texts::kTitle};
+    if (!AskToLeaveState(leave)) return;
 
     ResetConnection(state_, platform_);
     // Read again: the machine may have moved on while the question was open.

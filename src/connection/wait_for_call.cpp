@@ -11,10 +11,13 @@ namespace texts = connection_texts::wait_for_call;
 
 void ConnectionActions::WaitForCall() {
   Run(Procedure::WaitForCall, [this] {
-    const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kPortTitle,
-                              texts::kCalling, texts::kTitle};
-    ConnectionState agreed;
-    if (!MayLeaveState(leave, agreed)) return;
+    const LeaveTexts leave = {.connected = texts::kConnected,
+                              .waiting = texts::kWaiting,
+                              .waitingTitle = texts::kPortTitle,
+                              .calling = texts::kCalling,
+                              .title = texts::kTitle};
+    const std::optional<ConnectionState> agreed = AskToLeaveState(leave);
+    if (!agreed) return;
 
     // Without a port the system chooses one.
     const auto parts = CommandParts(state_.CommandLine, 2);
@@ -22,7 +25,7 @@ void ConnectionActions::WaitForCall() {
     if (!MendLocalPort(portText)) return;
     const std::int16_t port = PortNumberOf(portText);
     // The port may have been asked for while the call was being answered.
-    if (!MayStillLeaveState(leave, agreed)) return;
+    if (!MayStillLeaveState(leave, *agreed)) return;
 
     ResetConnection(state_, platform_);
     platform_.sckControl.SetLocalPort(port);
