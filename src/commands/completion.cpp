@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/char_code.h"
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
 #include "shell/raised.h"
+#include "shell/setting_names.h"
 #include "shell/text_pair.h"
 
 namespace verlume {
@@ -67,7 +69,7 @@ void CommandCompletion::rtbCommands_KeyDown(int& keyCode, int shift) {
   if (!platform_.frmMain.completionList.fraCompletions.Visible()) return;
   errors_.Guard(Procedure::CommandCompletion, [this, &keyCode] {
     const int step = keyCode == key_code::kDown ? 1 : -1;
-    keyCode = 0;
+    keyCode = char_code::kSwallowed;
     Walk(step);
   });
 }
@@ -110,7 +112,8 @@ void CommandCompletion::mnuToolsCompletions_Click() {
     state_.SuggestCommands = !state_.SuggestCommands;
     platform_.frmMain.mnuToolsCompletions.SetChecked(state_.SuggestCommands);
     FollowPane();
-    settings_.WriteSetting(u"General", u"Suggestcommands", BooleanText(state_.SuggestCommands));
+    settings_.WriteSetting(setting_section::kGeneral, setting_key::kSuggestCommands,
+                           BooleanText(state_.SuggestCommands));
   });
   platform_.frmMain.rtbCommands.SetFocus();
 }

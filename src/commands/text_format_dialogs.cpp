@@ -8,7 +8,9 @@
 #include "connection/command_parts.h"
 #include "shell/conversions.h"
 #include "shell/font_size_texts.h"
+#include "shell/setting_names.h"
 #include "shell/settings_reader.h"
+#include "shell/trim.h"
 
 namespace verlume {
 namespace {
@@ -16,9 +18,7 @@ namespace {
 // The size that the text names: digits with at most one decimal mark, "." or ",", blanks around
 // them. None where it is no such number, or no size that is allowed.
 std::optional<double> FontSizeOf(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == text.npos) return std::nullopt;
-  std::u16string number(text.substr(first, text.find_last_not_of(u' ') - first + 1));
+  std::u16string number(Trim(text));
   std::replace(number.begin(), number.end(), u',', u'.');
   const bool isPlain = number.find_first_not_of(u"0123456789.") == number.npos &&
                        number.find_first_of(u"0123456789") != number.npos &&
@@ -84,12 +84,12 @@ void TextFormat::mnuFormatFontSettings_Click() {
 }
 
 void TextFormat::mnuFormatBackcolorCommands_Click() {
-  ChooseBackColor(platform_.frmMain.rtbCommands, u"Commands",
+  ChooseBackColor(platform_.frmMain.rtbCommands, setting_key::kCommands,
                   Procedure::mnuFormatBackcolorCommands_Click);
 }
 
 void TextFormat::mnuFormatBackcolorDialogue_Click() {
-  ChooseBackColor(platform_.frmMain.rtbData, u"Dialogue",
+  ChooseBackColor(platform_.frmMain.rtbData, setting_key::kDialogue,
                   Procedure::mnuFormatBackcolorDialogue_Click);
 }
 
@@ -97,7 +97,7 @@ void TextFormat::ChooseBackColor(RichTextBox& pane, std::u16string_view key, Pro
   errors_.Guard(procedure, [this, &pane, key] {
     const Color chosen = platform_.dlgControl.ShowColor(pane.BackColor());
     pane.SetBackColor(chosen);
-    settings_.WriteSetting(u"BackColor", key, DecimalText(chosen));
+    settings_.WriteSetting(setting_section::kBackColor, key, DecimalText(chosen));
   });
   platform_.frmMain.rtbCommands.SetFocus();
 }

@@ -4,15 +4,10 @@
 #include <optional>
 
 #include "platform/run_time_failure.h"
+#include "shell/trim.h"
 
 namespace verlume {
 namespace {
-
-std::u16string_view WithoutBlanks(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
-}
 
 template <class Integer>
 Integer Narrow(std::int64_t value) {
@@ -39,12 +34,12 @@ std::optional<std::int32_t> WholeNumber(std::u16string_view text) {
 }  // namespace
 
 bool IsPortNumber(std::u16string_view text, std::int32_t min, std::int32_t max) {
-  const std::optional<std::int32_t> number = WholeNumber(WithoutBlanks(text));
+  const std::optional<std::int32_t> number = WholeNumber(Trim(text));
   return number && *number >= min && *number <= max;
 }
 
 std::int16_t PortNumberOf(std::u16string_view text) {
-  return Narrow<std::int16_t>(WholeNumber(WithoutBlanks(text)).value_or(0));
+  return Narrow<std::int16_t>(WholeNumber(Trim(text)).value_or(0));
 }
 
 }  // namespace verlume

@@ -3,6 +3,7 @@
 #include "connection/connection_actions.h"
 #include "connection/connection_texts.h"
 #include "shell/nickname.h"
+#include "shell/setting_names.h"
 
 namespace verlume {
 namespace {
@@ -25,7 +26,7 @@ void ConnectionActions::SetNickname() {
     if (nickname.empty()) return;
 
     // Written before it is taken on: a nickname that cannot be kept changes nothing.
-    with_.settings.WriteSetting(u"General", u"Nickname", nickname);
+    with_.settings.WriteSetting(setting_section::kGeneral, setting_key::kNickname, nickname);
     state_.Nickname = nickname;
     platform_.frmMain.lblLocalNickname.SetCaption(ShowableNickname(nickname));
     WriteOutgoingText();

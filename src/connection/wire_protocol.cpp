@@ -4,6 +4,7 @@
 
 #include "connection/connection_state.h"
 #include "connection/status_texts.h"
+#include "platform/protocol_marker.h"
 #include "platform/run_time_failure.h"
 #include "shell/delivery.h"
 #include "shell/language_texts.h"
@@ -20,8 +21,6 @@ constexpr char16_t kActionLine = u'M';
 
 constexpr std::u16string_view kMarkerParts[] = {kMainWindowTitle.greek, kMainWindowTitle.english,
                                                 kMakersCredit.greek, kMakersCredit.english};
-constexpr std::size_t kMarkerTextLength = 67;
-constexpr std::size_t kMarkerLength = kMarkerTextLength + 2;
 
 constexpr std::size_t LengthOfMarkerParts() {
   std::size_t length = 0;

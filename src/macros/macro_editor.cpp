@@ -4,6 +4,7 @@
 
 #include "macros/macro_editor_states.h"
 #include "macros/macro_editor_texts.h"
+#include "platform/char_code.h"
 
 namespace verlume {
 
@@ -71,7 +72,7 @@ void MacroEditor::HandOver() {
   if (macro.empty()) return;
   RichTextBox& pane = platform_.frmMain.rtbCommands;
   pane.SetRtf(macro);
-  int enter = 13;
+  int enter = char_code::kEnter;
   if (pane.onKeyPress) pane.onKeyPress(enter);
 }
 
@@ -136,10 +137,10 @@ void MacroEditor::rtbMacroText_GotFocus() {
 void MacroEditor::rtbMacroText_KeyDown(int& keyCode, int shift) {
   errors_.Guard(Procedure::frmMacros_Load, [this, &keyCode, shift] {
     if (IsBrowsing()) {
-      keyCode = 0;
+      keyCode = char_code::kSwallowed;
       FocusTextOrList();
     } else if (keyCode == key_code::kEscape && shift == 0) {
-      keyCode = 0;
+      keyCode = char_code::kSwallowed;
       platform_.frmMacros.rtbMacroText.SetText(u"");
     }
   });

@@ -5,23 +5,14 @@
 #include <string>
 
 #include "macros/macro_style.h"
+#include "platform/char_code.h"
 #include "shell/conversions.h"
 #include "shell/font_size_texts.h"
 #include "shell/settings_reader.h"
+#include "shell/trim.h"
 
 namespace verlume {
 namespace {
-
-namespace char_code {
-constexpr int kCtrlB = 2;
-constexpr int kCtrlF = 6;
-constexpr int kCtrlI = 9;  // and Tab
-constexpr int kCtrlEnter = 10;
-constexpr int kCtrlK = 11;
-constexpr int kEnter = 13;
-constexpr int kCtrlS = 19;
-constexpr int kCtrlU = 21;
-}  // namespace char_code
 
 bool IsOfTheEditor(int charCode) {
   using namespace char_code;
@@ -36,10 +27,8 @@ void Toggle(CheckBox& box) {
 // The size that the text names: a whole number in digits, blanks around it, from the smallest size
 // to the largest.
 std::optional<int> FontSizeOf(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == text.npos) return std::nullopt;
-  const std::u16string_view digits = text.substr(first, text.find_last_not_of(u' ') - first + 1);
-  if (digits.find_first_not_of(u"0123456789") != digits.npos) return std::nullopt;
+  const std::u16string_view digits = Trim(text);
+  if (digits.empty() || digits.find_first_not_of(u"0123456789") != digits.npos) return std::nullopt;
   int size = 0;
   for (const char16_t digit : digits) {
     size = std::min(size * 10 + (digit - u'0'), 1000);
@@ -54,7 +43,7 @@ void MacroStyle::rtbMacroText_KeyPress(int& charCode) {
   errors_.Guard(Procedure::rtbMacroText_KeyPress, [this, &charCode] {
     // What a key does may fail or take long; it is swallowed all the same.
     const int pressed = charCode;
-    if (IsOfTheEditor(pressed)) charCode = 0;
+    if (IsOfTheEditor(pressed)) charCode = char_code::kSwallowed;
     Perform(pressed);
   });
 }

@@ -9,6 +9,7 @@
 #include "shell/folder_choice.h"
 #include "shell/folders.h"
 #include "shell/nickname.h"
+#include "shell/setting_names.h"
 
 namespace verlume {
 namespace {
@@ -98,7 +99,7 @@ bool DialogueLog::ChooseLogFolder() {
     // A conversation may have begun while the dialog was open.
     if (!folder || RefuseWhileRecording()) return;
     state_.LogFolder = *folder;
-    settings_.WriteSetting(u"Logging", u"Logfolder", *folder);
+    settings_.WriteSetting(setting_section::kLogging, setting_key::kLogFolder, *folder);
   });
 }
 
@@ -134,7 +135,7 @@ bool DialogueLog::AskForLogFolder() {
 void DialogueLog::SwitchLogging(bool on) {
   platform_.frmMain.mnuFileLogRecord.SetChecked(on);
   state_.LogDialogue = on;
-  settings_.WriteSetting(u"Logging", u"Logdialogue", BooleanText(on));
+  settings_.WriteSetting(setting_section::kLogging, setting_key::kLogDialogue, BooleanText(on));
 }
 
 }  // namespace verlume

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "shell/trim.h"
+
 namespace verlume::ini_text {
 namespace {
 
@@ -9,10 +11,8 @@ constexpr std::u16string_view kBlanks = u" \t";
 constexpr std::u16string_view kLineBreaks = u"\r\n";
 constexpr char16_t kByteOrderMark = 0xFEFF;
 
-std::u16string_view Trim(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+std::u16string_view TrimBlanks(std::u16string_view text) {
+  return Trim(text, kBlanks);
 }
 
 std::u16string_view Unquote(std::u16string_view value) {
@@ -37,7 +37,7 @@ struct Line {
     std::u16string_view content = text.substr(start, end - start);
     // An editor's mark at the start of the file.
     if (start == 0 && content.starts_with(kByteOrderMark)) content.remove_prefix(1);
-    return Trim(content);
+    return TrimBlanks(content);
   }
 };
 
@@ -51,13 +51,13 @@ Line LineAt(std::u16string_view text, std::size_t start) {
 std::optional<std::u16string_view> SectionNameOf(std::u16string_view content) {
   const std::size_t close = content.find(u']');
   if (!content.starts_with(u'[') || close == content.npos) return std::nullopt;
-  return Trim(content.substr(1, close - 1));
+  return TrimBlanks(content.substr(1, close - 1));
 }
 
 bool IsLineOfKey(std::u16string_view content, std::u16string_view key) {
   const std::size_t equals = content.find(u'=');
   return equals != content.npos && !content.starts_with(u';') &&
-         SameName(Trim(content.substr(0, equals)), key);
+         SameName(TrimBlanks(content.substr(0, equals)), key);
 }
 
 // Where a key stands, or where it would have to be put.
@@ -110,7 +110,7 @@ std::optional<std::u16string_view> Read(std::u16string_view text, std::u16string
                                         std::u16string_view key) {
   const Place place = Find(text, section, key);
   if (!place.keyFound) return std::nullopt;
-  return Unquote(Trim(text.substr(place.valueStart, place.valueEnd - place.valueStart)));
+  return Unquote(TrimBlanks(text.substr(place.valueStart, place.valueEnd - place.valueStart)));
 }
 
 std::u16string Write(std::u16string_view text, std::u16string_view section, std::u16string_view key,

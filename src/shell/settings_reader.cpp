@@ -7,6 +7,7 @@
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
 #include "shell/nickname.h"
+#include "shell/setting_names.h"
 #include "shell/text_pair.h"
 
 namespace verlume {
@@ -79,62 +80,59 @@ struct Key {
   void (*take)(Value value, Target to);  // no value: missing
 };
 
-constexpr std::u16string_view kGeneral = u"General";
-constexpr std::u16string_view kBackColor = u"BackColor";
-constexpr std::u16string_view kLogging = u"Logging";
 constexpr std::u16string_view kNull = u"NULL";
 
 // In the order in which they are read.
 constexpr Key kKeys[] = {
-    {kGeneral, u"Nickname", 32, u"", IsText,
+    {setting_section::kGeneral, setting_key::kNickname, 32, u"", IsText,
      [](Value value, Target to) {
        TakeText(value, to.state.Nickname);
        to.frmMain.lblLocalNickname.SetCaption(ShowableNickname(to.state.Nickname));
      }},
-    {kGeneral, u"DateStamp", 20, kNull, IsBoolean,
+    {setting_section::kGeneral, setting_key::kDateStamp, 20, kNull, IsBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.DateStamp, to.frmMain.mnuToolsDate);
      }},
-    {kGeneral, u"TimeStamp", 20, kNull, IsBoolean,
+    {setting_section::kGeneral, setting_key::kTimeStamp, 20, kNull, IsBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.TimeStamp, to.frmMain.mnuToolsTime);
      }},
-    {kGeneral, u"AlwaysOnTop", 20, kNull, IsBoolean,
+    {setting_section::kGeneral, setting_key::kAlwaysOnTop, 20, kNull, IsBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.AlwaysOnTop, to.frmMain.mnuToolsAlwaysOnTop);
        to.frmMain.window.SetTopMost(to.state.AlwaysOnTop);
      }},
-    {kFontSection, u"Name", 1024, kNull, IsText,
+    {setting_section::kFont, setting_key::kFontName, 1024, kNull, IsText,
      [](Value value, Target to) { TakeText(value, to.state.Font.Name); }},
-    {kFontSection, u"Bold", 20, kNull, IsBoolean,
+    {setting_section::kFont, setting_key::kFontBold, 20, kNull, IsBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.Font.Bold); }},
-    {kFontSection, u"Italic", 20, kNull, IsBoolean,
+    {setting_section::kFont, setting_key::kFontItalic, 20, kNull, IsBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.Font.Italic); }},
-    {kFontSection, u"Strikethrough", 20, kNull, IsBoolean,
+    {setting_section::kFont, setting_key::kFontStrikethrough, 20, kNull, IsBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.Font.Strikethrough); }},
-    {kFontSection, u"Underline", 20, kNull, IsBoolean,
+    {setting_section::kFont, setting_key::kFontUnderline, 20, kNull, IsBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.Font.Underline); }},
-    {kFontSection, u"Forecolor", 20, kNull, IsColor,
+    {setting_section::kFont, setting_key::kFontColor, 20, kNull, IsColor,
      [](Value value, Target to) {
        to.state.Font.Color = ColorOf(value).value_or(to.state.Font.Color);
      }},
-    {kFontSection, u"Size", 20, kNull, IsNumber,
+    {setting_section::kFont, setting_key::kFontSize, 20, kNull, IsNumber,
      [](Value value, Target to) {
        if (value) to.state.Font.Size = AcceptedFontSize(NumberOf(*value));
      }},
-    {kBackColor, u"Commands", 20, kNull, IsColor,
+    {setting_section::kBackColor, setting_key::kCommands, 20, kNull, IsColor,
      [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbCommands); }},
-    {kBackColor, u"Dialogue", 20, kNull, IsColor,
+    {setting_section::kBackColor, setting_key::kDialogue, 20, kNull, IsColor,
      [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbData); }},
-    {kLogging, u"Logfolder", 1024, u"", IsText,
+    {setting_section::kLogging, setting_key::kLogFolder, 1024, u"", IsText,
      [](Value value, Target to) { TakeText(value, to.state.LogFolder); }},
-    {kLogging, u"Logdialogue", 20, kNull, IsBoolean,
+    {setting_section::kLogging, setting_key::kLogDialogue, 20, kNull, IsBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.LogDialogue, to.frmMain.mnuFileLogRecord);
      }},
-    {kGeneral, u"Macrosfolder", 1024, u"", IsText,
+    {setting_section::kGeneral, setting_key::kMacrosFolder, 1024, u"", IsText,
      [](Value value, Target to) { TakeText(value, to.state.MacrosFolder); }},
-    {kGeneral, u"Suggestcommands", 20, kNull, IsText,
+    {setting_section::kGeneral, setting_key::kSuggestCommands, 20, kNull, IsText,
      [](Value value, Target to) {
        SetSwitch(to.state.SuggestCommands, IsNotOff(value), to.frmMain.mnuToolsCompletions);
      }},
@@ -175,8 +173,8 @@ void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
 }
 
 void ReadLanguage(AppState& state, const Settings& settings) {
-  state.IsGreek =
-      NumericPrefixOf(settings.ReadSetting(kLanguageSection, kLanguageKey, u"0", 5)) == 1;
+  state.IsGreek = NumericPrefixOf(settings.ReadSetting(setting_section::kGeneral,
+                                                       setting_key::kLanguage, u"0", 5)) == 1;
 }
 
 void ReadSettings(AppState& state, const MainWindow& frmMain, const Settings& settings) {
@@ -200,17 +198,17 @@ std::u16string_view LanguageText(const AppState& state) {
 }
 
 std::vector<Settings::KeyValue> FontSettings(const AppState& state) {
-  return {{u"Name", state.Font.Name},
-          {u"Bold", BooleanText(state.Font.Bold)},
-          {u"Italic", BooleanText(state.Font.Italic)},
-          {u"Strikethrough", BooleanText(state.Font.Strikethrough)},
-          {u"Underline", BooleanText(state.Font.Underline)},
-          {u"Forecolor", DecimalText(state.Font.Color)},
-          {u"Size", NumberText(state.Font.Size)}};
+  return {{setting_key::kFontName, state.Font.Name},
+          {setting_key::kFontBold, BooleanText(state.Font.Bold)},
+          {setting_key::kFontItalic, BooleanText(state.Font.Italic)},
+          {setting_key::kFontStrikethrough, BooleanText(state.Font.Strikethrough)},
+          {setting_key::kFontUnderline, BooleanText(state.Font.Underline)},
+          {setting_key::kFontColor, DecimalText(state.Font.Color)},
+          {setting_key::kFontSize, NumberText(state.Font.Size)}};
 }
 
 void WriteFontSettings(const AppState& state, Settings& settings) {
-  settings.WriteSettings(kFontSection, FontSettings(state));
+  settings.WriteSettings(setting_section::kFont, FontSettings(state));
 }
 
 }  // namespace verlume

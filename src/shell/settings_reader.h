@@ -30,10 +30,7 @@ void ReadSettings(AppState& state, const MainWindow& frmMain, const Settings& se
 // Whether ReadSettings can read them all.
 bool EveryValueIsOfItsKind(const Settings& settings);
 
-// Where the language and the local font stand, and as what they are written.
-inline constexpr std::u16string_view kLanguageSection = u"General";
-inline constexpr std::u16string_view kLanguageKey = u"Language";
-inline constexpr std::u16string_view kFontSection = u"FontLocal";
+// What the file says of the language and the local font.
 std::u16string_view LanguageText(const AppState& state);
 std::vector<Settings::KeyValue> FontSettings(const AppState& state);
 

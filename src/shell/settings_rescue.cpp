@@ -2,6 +2,7 @@
 
 #include "platform/run_time_failure.h"
 #include "shell/ini_text.h"
+#include "shell/setting_names.h"
 #include "shell/settings_reader.h"
 #include "shell/settings_rescue_texts.h"
 
@@ -26,9 +27,10 @@ SettingsTrouble Inspect(const Settings& settings) {
 
 // What a start that could read no font key makes of a settings file.
 std::u16string AfterAStart(std::u16string text, const AppState& state) {
-  text = ini_text::Write(text, kLanguageSection, kLanguageKey, LanguageText(state));
+  text =
+      ini_text::Write(text, setting_section::kGeneral, setting_key::kLanguage, LanguageText(state));
   for (const auto& [key, value] : FontSettings(state)) {
-    text = ini_text::Write(text, kFontSection, key, value);
+    text = ini_text::Write(text, setting_section::kFont, key, value);
   }
   return text;
 }

@@ -10,17 +10,21 @@
 namespace verlume {
 namespace {
 
+constexpr Color kRed = 0x0000FF;
+constexpr Color kYellow = 0x00FFFF;
+constexpr Color kGreen = 0x00FF00;
+
 struct LampLook {
   Color color;
   TextPair words;
 };
 
-constexpr LampLook kIdle = {255, {u"Connection state: idle", u"Κατάσταση συνδέσεως: αδράνεια"}};
-constexpr LampLook kWaiting = {65535,
+constexpr LampLook kIdle = {kRed, {u"Connection state: idle", u"Κατάσταση συνδέσεως: αδράνεια"}};
+constexpr LampLook kWaiting = {kYellow,
                                {u"Connection state: waiting", u"Κατάσταση συνδέσεως: αναμονή"}};
-constexpr LampLook kCalling = {65535,
+constexpr LampLook kCalling = {kYellow,
                                {u"Connection state: calling", u"Κατάσταση συνδέσεως: κλήση"}};
-constexpr LampLook kConnected = {65280,
+constexpr LampLook kConnected = {kGreen,
                                  {u"Connection state: connected", u"Κατάσταση συνδέσεως: σύνδεση"}};
 
 const LampLook& LookOf(const AppState& state) {

@@ -2,14 +2,13 @@
 
 #include <utility>
 
+#include "platform/protocol_marker.h"
 #include "richtext/rtf_cut.h"
 
 namespace verlume::stream {
 namespace {
 
 constexpr std::string_view kOpening = "{\\rtf";
-// NUL, 67 characters, NUL.
-constexpr std::size_t kMarkerLength = 69;
 
 bool IsLineEnd(char byte) {
   return byte == '\r' || byte == '\n' || byte == '\0';

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "commands/typing_side.h"
+#include "platform/char_code.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 
@@ -64,13 +65,13 @@ TEST_F(Interpreter, EveryKeyYieldsToEvents) {
 }
 
 TEST_F(Interpreter, EnterAndCtrlEnterNeverTypeALineBreak) {
-  EXPECT_EQ(Press(13), 0);
-  EXPECT_EQ(Press(10), 0);
+  EXPECT_EQ(Press(char_code::kEnter), 0);
+  EXPECT_EQ(Press(char_code::kCtrlEnter), 0);
 }
 
 TEST_F(Interpreter, CtrlEnterDoesNothing) {
   pane.Type(u"hello");
-  Press(10);
+  Press(char_code::kCtrlEnter);
   EXPECT_EQ(pane.Text(), u"hello");
   EXPECT_EQ(Shown(), u"");
   EXPECT_EQ(state.History[0], u"0");
@@ -78,7 +79,7 @@ TEST_F(Interpreter, CtrlEnterDoesNothing) {
 
 TEST_F(Interpreter, EnterOnAnEmptyPaneDoesNothing) {
   Connect();
-  Press(13);
+  Press(char_code::kEnter);
   EXPECT_EQ(state.History[0], u"0");
   EXPECT_EQ(Shown(), u"");
   EXPECT_THAT(fake.socket.sent, IsEmpty());
@@ -87,7 +88,7 @@ TEST_F(Interpreter, EnterOnAnEmptyPaneDoesNothing) {
 TEST_F(Interpreter, TheLineIsReadAfterTheFirstYield) {
   pane.Type(u"hello");
   fake.application.onYield = [this] { pane.SetText(u""); };
-  Press(13);
+  Press(char_code::kEnter);
   EXPECT_EQ(Shown(), u"");
   EXPECT_EQ(state.History[0], u"0");
 }
@@ -215,7 +216,7 @@ TEST_F(Interpreter, APlainCommandYieldsBeforeAndAfterItsAction) {
   pane.Type(u"/helpabout");
   fake.application.onYield = [&] { events.push_back(u"yield"); };
   window.mnuHelpAbout.onClick = [&] { events.push_back(u"action"); };
-  Press(13);
+  Press(char_code::kEnter);
   EXPECT_THAT(events, ElementsAre(u"yield", u"yield", u"action", u"yield"));
 }
 
@@ -223,7 +224,7 @@ TEST_F(Interpreter, ARoutineYieldsBeforeItRuns) {
   pane.Type(u"/size 9");
   std::vector<double> sizes;
   fake.application.onYield = [&] { sizes.push_back(state.Font.Size); };
-  Press(13);
+  Press(char_code::kEnter);
   EXPECT_THAT(sizes, ElementsAre(10, 10));
   EXPECT_EQ(state.Font.Size, 9);
 }
@@ -254,7 +255,7 @@ TEST_F(Interpreter, ARoutineGetsItsOwnLineWhateverAnEventLeavesInTheState) {
   fake.application.onYield = [&] {
     if (++yields == 2) state.CommandLine = u"/CALL elsewhere 1";
   };
-  Press(13);
+  Press(char_code::kEnter);
   EXPECT_EQ(state.Nickname, u"Al");
 }
 
@@ -326,7 +327,7 @@ TEST_F(Interpreter, ExitYieldsBetweenTheAnswerAndTheEnd) {
     EXPECT_FALSE(window.window.unloaded);
     if (state.ExitConfirmed) state.ExitConfirmed = false;
   };
-  Press(13);
+  Press(char_code::kEnter);
   EXPECT_FALSE(window.window.unloaded);
 }
 
@@ -471,7 +472,7 @@ TEST_F(ActionLines, ALineTakenAwayMeanwhileIsNotSent) {
     fake.application.onYield = [&] {
       if (++yields == 2) pane.SetText(left);
     };
-    Press(13);
+    Press(char_code::kEnter);
     EXPECT_EQ(Shown(), u"");
     EXPECT_THAT(fake.socket.sent, IsEmpty());
     EXPECT_EQ(pane.Text(), left);
@@ -486,7 +487,7 @@ TEST_F(Interpreter, AFailureIsReportedUnderTheHandlersNumber) {
   pane.Type(u"hello");
   state.History[0] = u"many";
   fake.dialogs.answers = {Answer::No};
-  EXPECT_EQ(Press(13), 0);
+  EXPECT_EQ(Press(char_code::kEnter), 0);
   ASSERT_THAT(fake.dialogs.messages, SizeIs(1));
   EXPECT_EQ(fake.dialogs.messages[0].title, u"Verlume, 204.");
   EXPECT_EQ(fake.socket.State(), SocketState::Closed);
