@@ -299,7 +299,13 @@ TEST_F(TextFormatTest, TheFontDialogStartsFromTheStyleAndSetsIt) {
   state.Font.Size = 9;
   state.Font.Color = 255;
   state.Font.Italic = true;
-  fake.commonDialog.fonts = {FontChoice{u"Verdana", true, false, true, true, 65280, 11}};
+  fake.commonDialog.fonts = {FontChoice{.name = u"Verdana",
+                                        .bold = true,
+                                        .italic = false,
+                                        .underline = true,
+                                        .strikethrough = true,
+                                        .color = 65280,
+                                        .size = 11}};
   textFormat.mnuFormatFontSettings_Click();
   ASSERT_THAT(fake.commonDialog.fontsShown, SizeIs(1));
   const auto& [start, minimumSize, maximumSize] = fake.commonDialog.fontsShown[0];

@@ -48,13 +48,26 @@ class TypingSide : public testing::Test {
   DialogueLog log{state, fake.platform, errors, settings};
   StatusPanel statusPanel{fake.platform, errors};
   Dialogue dialogue{state, fake.platform, errors, settings, log};
-  WireProtocol wire{state, fake.platform, errors, {dialogue, log, statusPanel}};
-  ConnectionActions connection{
-      state, fake.platform, errors, {settings, dialogue, log, statusPanel, wire}};
+  WireProtocol wire{
+      state, fake.platform, errors, {.dialogue = dialogue, .log = log, .statusPanel = statusPanel}};
+  ConnectionActions connection{state,
+                               fake.platform,
+                               errors,
+                               {.settings = settings,
+                                .dialogue = dialogue,
+                                .log = log,
+                                .statusPanel = statusPanel,
+                                .wire = wire}};
   CommandHistory history{state, fake.platform, errors};
   TextFormat textFormat{state, fake.platform, errors, settings, dialogue};
-  CommandInterpreter interpreter{
-      state, fake.platform, errors, {dialogue, history, textFormat, connection, wire}};
+  CommandInterpreter interpreter{state,
+                                 fake.platform,
+                                 errors,
+                                 {.dialogue = dialogue,
+                                  .history = history,
+                                  .textFormat = textFormat,
+                                  .connection = connection,
+                                  .wire = wire}};
 };
 
 }  // namespace verlume::fake

@@ -245,7 +245,13 @@ TEST_F(MacroStyleTest, ControlKIsAClickOnTheColour) {
 TEST_F(MacroStyleTest, ControlFChoosesTheFont) {
   Write([this] {
     state.MacroFont.Italic = true;
-    fake.commonDialog.fonts = {FontChoice{u"Georgia", true, false, true, true, kRed, 9}};
+    fake.commonDialog.fonts = {FontChoice{.name = u"Georgia",
+                                          .bold = true,
+                                          .italic = false,
+                                          .underline = true,
+                                          .strikethrough = true,
+                                          .color = kRed,
+                                          .size = 9}};
     text.Type(u"\x06");
     const auto& shown = fake.commonDialog.fontsShown.at(0);
     EXPECT_EQ(shown.start.name, u"Arial");

@@ -53,9 +53,16 @@ struct Side {
   DialogueLog log{state, fake.platform, errors, settings};
   Dialogue dialogue{state, fake.platform, errors, settings, log};
   StatusPanel statusPanel{fake.platform, errors};
-  WireProtocol wire{state, fake.platform, errors, {dialogue, log, statusPanel}};
-  ConnectionActions actions{
-      state, fake.platform, errors, {settings, dialogue, log, statusPanel, wire}};
+  WireProtocol wire{
+      state, fake.platform, errors, {.dialogue = dialogue, .log = log, .statusPanel = statusPanel}};
+  ConnectionActions actions{state,
+                            fake.platform,
+                            errors,
+                            {.settings = settings,
+                             .dialogue = dialogue,
+                             .log = log,
+                             .statusPanel = statusPanel,
+                             .wire = wire}};
   SocketEvents events{state, fake.platform, errors, wire, log};
 
  private:

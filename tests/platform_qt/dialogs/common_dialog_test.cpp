@@ -280,7 +280,13 @@ class FontDialogTest : public QtCommonDialogTest {
     return dialogs.ShowFont(start, 8, 11);
   }
 
-  FontChoice start{u"DejaVu Sans", true, false, true, false, 0x1234, 10};
+  FontChoice start{.name = u"DejaVu Sans",
+                   .bold = true,
+                   .italic = false,
+                   .underline = true,
+                   .strikethrough = false,
+                   .color = 0x1234,
+                   .size = 10};
 };
 
 TEST_F(FontDialogTest, StyleGoesInAndComesOutUnchanged) {

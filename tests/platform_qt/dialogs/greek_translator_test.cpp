@@ -138,7 +138,7 @@ TEST_F(GreekTranslatorTest, ColorDialogIsGreek) {
 }
 
 TEST_F(GreekTranslatorTest, FontDialogIsGreek) {
-  const FontChoice start{u"DejaVu Sans", false, false, false, false, 0, 10};
+  const FontChoice start{.name = u"DejaVu Sans", .size = 10};
   ExpectGreek([&] { common.ShowFont(start, 8, 11); });
   Look([&] { common.ShowFont(start, 8, 11); },
        [](QDialog& dialog) {

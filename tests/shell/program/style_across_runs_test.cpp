@@ -37,7 +37,13 @@ class StyleAcrossRuns : public testing::Test {
 
 TEST_F(StyleAcrossRuns, EveryChoiceOfTheUserIsThereInTheNextRun) {
   fake::FakeMainWindow& window = first.platform.window;
-  first.platform.commonDialog.fonts = {FontChoice{u"Tahoma", true, true, true, true, 0, 9}};
+  first.platform.commonDialog.fonts = {FontChoice{.name = u"Tahoma",
+                                                  .bold = true,
+                                                  .italic = true,
+                                                  .underline = true,
+                                                  .strikethrough = true,
+                                                  .color = 0,
+                                                  .size = 9}};
   first.platform.commonDialog.colors = {Color{255}, Color{0xC0FFFF}, Color{0xFFFFC0}};
   window.mnuFormatFontSettings.Click();
   window.mnuFormatFontColor.Click();
