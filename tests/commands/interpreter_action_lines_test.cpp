@@ -45,16 +45,6 @@ TEST_F(ActionLines, ALongerWordIsAChatLine) {
   EXPECT_EQ(Shown(), u"<Bob>/mexico");
 }
 
-TEST_F(ActionLines, AFontNamedLikeTheWordIsLeftAlone) {
-  SelectionFormat format;
-  format.fontName = u"A/me";
-  pane.SetSelFormat(format);
-  Enter(u"/me waves");
-  EXPECT_EQ(Shown(), u" Bob waves");
-  window.rtbData.Select(1, 9);
-  EXPECT_EQ(window.rtbData.SelFormat().fontName, u"A/me");
-}
-
 TEST_F(ActionLines, ALineTakenAwayMeanwhileIsNotSent) {
   Connect();
   for (const std::u16string_view left : {u"", u"something else"}) {

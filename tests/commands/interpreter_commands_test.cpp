@@ -141,12 +141,6 @@ TEST_F(InterpreterCommands, AStyleCommandCanBeRepeated) {
   }
 }
 
-TEST_F(InterpreterCommands, ASizeOutOfRangeIsRefused) {
-  Enter(u"/size 12");
-  EXPECT_EQ(state.Font.Size, 10);
-  EXPECT_THAT(fake.dialogs.messages, SizeIs(1));
-}
-
 // Leaving.
 
 TEST_F(InterpreterCommands, ExitUnloadsAtOnceWhileIdle) {

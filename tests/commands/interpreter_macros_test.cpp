@@ -22,13 +22,6 @@ TEST_F(InterpreterMacros, ALineNamedAfterAMacroBecomesTheMacro) {
   EXPECT_EQ(state.CommandLine, u"good morning $r");
 }
 
-TEST_F(InterpreterMacros, TheMacrosFolderMayEndInASeparator) {
-  state.MacrosFolder = u"/macros/";
-  KeepMacro(u"hello", u"good morning");
-  Enter(u"/hello");
-  EXPECT_EQ(Shown(), u"<Bob>good morning");
-}
-
 TEST_F(InterpreterMacros, AMacroTakesThePlaceOfACommand) {
   KeepMacro(u"BOLD", u"not bold at all");
   Enter(u"/BOLD");

@@ -54,10 +54,6 @@ TEST_F(RemoteNicknameTest, ControlCharactersAreSeen) {
   ExpectShown(u"B\r\nob", u"B\\x0D\\x0Aob", u"B_x0D_x0Aob");
 }
 
-TEST_F(RemoteNicknameTest, WhatHasNoWidthIsSeen) {
-  ExpectShown(u"Bo\u00ADb", u"Bo\\xADb", u"Bo_xADb");
-}
-
 TEST_F(RemoteNicknameTest, BidirectionalControlsDoNotCrossTheWire) {
   ExpectShown(u"\u202Eecila", u"?ecila", u"_ecila");
   ExpectShown(u"\u200EAl\u200F", u"?Al?", u"_Al_");

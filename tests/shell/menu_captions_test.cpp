@@ -69,11 +69,5 @@ TEST_F(MenuCaptionsTest, EveryMenuAndEntrySpeaksTheLanguageInForce) {
   }
 }
 
-TEST_F(MenuCaptionsTest, ASwitchPutsTheFocusBackIntoTheCommandPane) {
-  language.mnuToolsLanguageGreek_Click();
-  language.mnuToolsLanguageEnglish_Click();
-  EXPECT_EQ(window.rtbCommands.timesFocused, 2);
-}
-
 }  // namespace
 }  // namespace verlume
