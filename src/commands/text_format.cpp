@@ -2,14 +2,14 @@
 
 #include <utility>
 
-#include "shell/raised.h"
+#include "shell/scoped_flag.h"
 #include "shell/settings_reader.h"
 
 namespace verlume {
 namespace {
 
-// The format becomes the local style, its size the nearest one that is accepted. True when the
-// style differs from before.
+// Makes the format the local style, with the nearest accepted size. True when the style has
+// changed.
 bool TakeStyle(AppState& state, const SelectionFormat& format) {
   TextStyle style = StyleOf(format, state.Font);
   style.Size = AcceptedFontSize(style.Size);
@@ -30,18 +30,18 @@ void TextFormat::ApplyCommandStyle() {
 }
 
 void TextFormat::ApplyToPane() {
-  // Moving the insertion point must not bring the style found there back into force.
-  const Raised applying(settling_);
+  // Moving the insertion point must not make the style found there the local style.
+  const ScopedFlag applying(updating_);
   RichTextBox& pane = platform_.frmMain.rtbCommands;
   if (pane.TextLength() > 0) pane.Select(pane.TextLength(), 0);
   pane.SetFontCharset(richtext::kGreekCharset);
   pane.SetSelFormat(FormatOf(state_.Font));
 }
 
-// Check boxes, ticks and the colour label agree with the local style.
+// Makes check boxes, ticks and the colour label show the local style.
 void TextFormat::ShowStyle() {
-  // The click of a check box would apply the style, which moves the insertion point to the end.
-  const Raised showing(settling_);
+  // A check box raises its click, which would apply the style and move the insertion point.
+  const ScopedFlag showing(updating_);
   MainWindow& frmMain = platform_.frmMain;
   frmMain.chkBold.SetValue(state_.Font.Bold ? 1 : 0);
   frmMain.chkItalics.SetValue(state_.Font.Italic ? 1 : 0);
@@ -55,18 +55,17 @@ void TextFormat::ShowStyle() {
 }
 
 void TextFormat::rtbCommands_SelChange() {
-  // Before the start-up has put the stored style into force, the pane's own format is not the
-  // user's.
-  if (settling_ || !styleInForce_) return;
+  // Until start-up has applied the stored style, the pane's format is not the user's.
+  if (updating_ || !styleInForce_) return;
   bool changed = false;
   errors_.Guard(Procedure::rtbCommands_SelChange, [this, &changed] {
     RichTextBox& pane = platform_.frmMain.rtbCommands;
     if (pane.SelLength() > 0) return;
-    // No character is left whose format could be the user's.
+    // There is no character whose format could be the user's.
     if (pane.TextLength() == 0) return ApplyToPane();
     const SelectionFormat format = pane.SelFormat();
     changed = TakeStyle(state_, format);
-    // Text from elsewhere may be of any size; what is typed into it is not.
+    // Pasted text may have any size, but what is typed into it may not.
     if (format.fontSize && format.fontSize != state_.Font.Size) ApplySizeToPane();
     ShowStyle();
   });
@@ -81,7 +80,7 @@ void TextFormat::ApplySizeToPane() {
 }
 
 void TextFormat::SetFlag(bool& flag, bool wanted) {
-  if (settling_) return;
+  if (updating_) return;
   flag = wanted;
   ApplyCommandStyle();
   platform_.frmMain.rtbCommands.SetFocus();

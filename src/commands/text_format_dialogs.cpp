@@ -1,4 +1,4 @@
-// The part of the text format that asks the user: for a colour, the font, its size.
+// The text format's questions: for a colour, the font, its size.
 #include <algorithm>
 #include <optional>
 #include <string>
@@ -15,8 +15,8 @@
 namespace verlume {
 namespace {
 
-// The size that the text names: digits with at most one decimal mark, "." or ",", blanks around
-// them. None where it is no such number, or no size that is allowed.
+// The size in the text: digits with at most one decimal mark, "." or ",". Blanks around it are
+// ignored. None if the text is anything else or the size is out of range.
 std::optional<double> FontSizeOf(std::u16string_view text) {
   std::u16string number(Trim(text));
   std::replace(number.begin(), number.end(), u',', u'.');

@@ -18,11 +18,11 @@ void MacroEditor::OpenMacroEditor() {
 }
 
 void MacroEditor::ShowWindow() {
-  // What a failure leaves unset is missing in the window.
+  // After a failure the window is shown without what could not be set.
   errors_.Guard(Procedure::frmMacros_Load, [this] { Load(); });
   if (platform_.application.HasEnded()) return;
   platform_.frmMacros.window.ShowModal();
-  if (!platform_.application.HasEnded()) HandOver();
+  if (!platform_.application.HasEnded()) RunChosenMacro();
 }
 
 void MacroEditor::Load() {
@@ -67,7 +67,7 @@ void MacroEditor::SetCaptions() {
   }
 }
 
-void MacroEditor::HandOver() {
+void MacroEditor::RunChosenMacro() {
   const std::u16string macro = std::exchange(state_.MacroToRun, {});
   if (macro.empty()) return;
   RichTextBox& pane = platform_.frmMain.rtbCommands;
@@ -95,12 +95,12 @@ void MacroEditor::lstMacroNames_Click() {
   const int chosen = frmMacros.lstMacroNames.SelectedIndex();
   const std::u16string name = frmMacros.lstMacroNames.Item(chosen);
   if (errors_.Guard(Procedure::lstMacroNames_Click, [this, chosen] { Show(chosen); })) return;
-  // The text of another macro must not stand under this name.
+  // The text shown must not be that of another macro.
   if (store_.MacroExists(name)) return ShowNothing();
-  TakeFromList(chosen);
+  RemoveFromList(chosen);
 }
 
-// Where the file cannot be read this throws and has changed nothing.
+// If the file cannot be read, throws and changes nothing.
 void MacroEditor::Show(int index) {
   const MacroWindow& frmMacros = platform_.frmMacros;
   const std::u16string path = store_.MacroPath(frmMacros.lstMacroNames.Item(index));
@@ -118,7 +118,7 @@ void MacroEditor::ShowNothing() {
   EnterState(frmMacros, MacroEditorState::Empty);
 }
 
-void MacroEditor::TakeFromList(int index) {
+void MacroEditor::RemoveFromList(int index) {
   platform_.frmMacros.lstMacroNames.Remove(index);
   ShowNothing();
 }

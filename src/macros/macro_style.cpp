@@ -1,6 +1,6 @@
 #include "macros/macro_style.h"
 
-#include "shell/raised.h"
+#include "shell/scoped_flag.h"
 
 namespace verlume {
 
@@ -11,8 +11,8 @@ void MacroStyle::TakeCommandStyle() {
 }
 
 void MacroStyle::StartEmptyText() {
-  // The style found in a text that is going must not come into force.
-  const Raised emptying(settling_);
+  // The style of the old text must not become the macro style.
+  const ScopedFlag emptying(updating_);
   platform_.frmMacros.rtbMacroText.SetText(u"");
   ApplyMacroStyle();
 }
@@ -23,7 +23,7 @@ void MacroStyle::ApplyMacroStyle() {
 }
 
 void MacroStyle::ApplyToText() {
-  const Raised applying(settling_);
+  const ScopedFlag applying(updating_);
   RichTextBox& text = platform_.frmMacros.rtbMacroText;
   if (text.TextLength() == 0) text.Select(0, 0);
   text.SetFontCharset(richtext::kGreekCharset);
@@ -37,7 +37,7 @@ void MacroStyle::rtbMacroText_SelChange() {
 
 void MacroStyle::TakeStyleAtCaret() {
   const RichTextBox& text = platform_.frmMacros.rtbMacroText;
-  if (settling_ || text.SelLength() > 0) return;
+  if (updating_ || text.SelLength() > 0) return;
   const SelectionFormat format = text.SelFormat();
   state_.MacroFont = StyleOf(format, state_.MacroFont);
   ShowStyle();
@@ -45,7 +45,7 @@ void MacroStyle::TakeStyleAtCaret() {
 }
 
 void MacroStyle::ShowStyle() {
-  const Raised showing(settling_);
+  const ScopedFlag showing(updating_);
   const MacroWindow& frmMacros = platform_.frmMacros;
   frmMacros.chkBold.SetValue(state_.MacroFont.Bold ? 1 : 0);
   frmMacros.chkItalics.SetValue(state_.MacroFont.Italic ? 1 : 0);
@@ -65,12 +65,12 @@ void MacroStyle::chkUnderlined_Click() {
 }
 
 void MacroStyle::SetFlag(bool& flag, const CheckBox& box) {
-  if (settling_) return;
+  if (updating_) return;
   flag = box.Value() != 0;
   try {
     ApplyMacroStyle();
   } catch (...) {
-    // The box shows what was wished, and the next key tries again.
+    // The check box shows what the user wants, and the next key tries again.
   }
 }
 

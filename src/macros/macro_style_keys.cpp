@@ -1,4 +1,4 @@
-// The keys that set the macro style, and what they ask.
+// The keys that set the macro style, and the questions that they ask.
 #include <algorithm>
 #include <iterator>
 #include <optional>
@@ -14,7 +14,7 @@
 namespace verlume {
 namespace {
 
-bool IsOfTheEditor(int charCode) {
+bool IsEditorKey(int charCode) {
   using namespace char_code;
   const int all[] = {kCtrlB, kCtrlF, kCtrlI, kCtrlEnter, kCtrlK, kEnter, kCtrlS, kCtrlU};
   return std::find(std::begin(all), std::end(all), charCode) != std::end(all);
@@ -24,8 +24,8 @@ void Toggle(CheckBox& box) {
   box.SetValue(box.Value() != 0 ? 0 : 1);
 }
 
-// The size that the text names: a whole number in digits, blanks around it, from the smallest size
-// to the largest.
+// The size in the text: a whole number in digits, from the smallest to the largest size. Blanks
+// around it are ignored.
 std::optional<int> FontSizeOf(std::u16string_view text) {
   const std::u16string_view digits = Trim(text);
   if (digits.empty() || digits.find_first_not_of(u"0123456789") != digits.npos) return std::nullopt;
@@ -41,9 +41,9 @@ std::optional<int> FontSizeOf(std::u16string_view text) {
 
 void MacroStyle::rtbMacroText_KeyPress(int& charCode) {
   errors_.Guard(Procedure::rtbMacroText_KeyPress, [this, &charCode] {
-    // What a key does may fail or take long; it is swallowed all the same.
+    // Swallowed first, because what the key does may fail or take long.
     const int pressed = charCode;
-    if (IsOfTheEditor(pressed)) charCode = char_code::kSwallowed;
+    if (IsEditorKey(pressed)) charCode = char_code::kSwallowed;
     Perform(pressed);
   });
 }

@@ -26,7 +26,7 @@ struct ParsedNumber {
 };
 
 ParsedNumber ParseNumber(std::u16string_view text) {
-  // Only these characters: the standard parser would know "inf" and "nan" too.
+  // Cut to these characters: the standard parser would also accept "inf" and "nan".
   const std::size_t end = std::min(text.find_first_not_of(u"+-.0123456789eE"), text.size());
   const std::string ascii(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(end));
   const std::size_t plus = ascii.starts_with('+') && !ascii.starts_with("+-") ? 1 : 0;

@@ -27,7 +27,7 @@ bool SameName(std::u16string_view a, std::u16string_view b) {
                     [&](char16_t x, char16_t y) { return lower(x) == lower(y); });
 }
 
-// One line of the text: where it starts, where its content ends, where the next line starts.
+// The offsets of a line in the text: its start, the end of its content, the start of the next line.
 struct Line {
   std::size_t start = 0;
   std::size_t end = 0;
@@ -35,7 +35,7 @@ struct Line {
 
   std::u16string_view Content(std::u16string_view text) const {
     std::u16string_view content = text.substr(start, end - start);
-    // An editor's mark at the start of the file.
+    // Some editors put this mark at the start of a file.
     if (start == 0 && content.starts_with(kByteOrderMark)) content.remove_prefix(1);
     return TrimBlanks(content);
   }
@@ -60,13 +60,13 @@ bool IsLineOfKey(std::u16string_view content, std::u16string_view key) {
          SameName(TrimBlanks(content.substr(0, equals)), key);
 }
 
-// Where a key stands, or where it would have to be put.
+// Where a key is, or where it would be added.
 struct Place {
   bool sectionFound = false;
   bool keyFound = false;
-  std::size_t valueStart = 0;  // behind the key's "="
+  std::size_t valueStart = 0;  // after the key's "="
   std::size_t valueEnd = 0;    // the end of the key's line
-  std::size_t sectionEnd = 0;  // behind the last line of the section that is not blank
+  std::size_t sectionEnd = 0;  // after the last line of the section that is not blank
 };
 
 Place Find(std::u16string_view text, std::u16string_view section, std::u16string_view key) {

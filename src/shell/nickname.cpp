@@ -22,7 +22,7 @@ constexpr Range kNotShowable[] = {
     {0x200E, 0x200F},  // left-to-right and right-to-left mark
     {0x2028, 0x202E},  // line and paragraph separator, embeddings, overrides
     {0x2060, 0x206F},  // word joiner, invisible operators, isolates, and older such marks
-    {0xD800, 0xDFFF},  // halves of pairs
+    {0xD800, 0xDFFF},  // surrogates
     {0xFEFF, 0xFEFF},  // byte order mark
     {0xFFF9, 0xFFFB},  // marks of annotations
 };

@@ -39,7 +39,8 @@ void TakeSwitch(Value value, bool& field, MenuEntry& entry) {
   SetSwitch(field, value ? BooleanOf(*value) : field, entry);
 }
 
-// Nobody is to be told at a start that a convenience is spelt wrong.
+// On unless the value clearly says no: a misspelt value of a mere convenience is not worth an error
+// message at every start.
 bool IsNotOff(Value value) {
   try {
     return !value || BooleanOf(*value);
@@ -59,15 +60,15 @@ void TakeBackColor(Value value, RichTextBox& pane) {
   if (const auto color = ColorOf(value)) pane.SetBackColor(*color);
 }
 
-// The kinds of value: each throws where a text is none of it.
-void IsText(std::u16string_view) {}
-void IsBoolean(std::u16string_view text) {
+// One check for each type of value. Throws RunTimeFailure when the text is not a value of the type.
+void CheckText(std::u16string_view) {}
+void CheckBoolean(std::u16string_view text) {
   BooleanOf(text);
 }
-void IsColor(std::u16string_view text) {
+void CheckColor(std::u16string_view text) {
   IntegerOf(text);
 }
-void IsNumber(std::u16string_view text) {
+void CheckNumber(std::u16string_view text) {
   NumberOf(text);
 }
 
@@ -76,7 +77,7 @@ struct Key {
   std::u16string_view key;
   std::size_t size;                   // of the read buffer
   std::u16string_view missingMarker;  // what a missing key reads as
-  void (*kind)(std::u16string_view text);
+  void (*check)(std::u16string_view text);
   void (*take)(Value value, Target to);  // no value: missing
 };
 
@@ -84,55 +85,55 @@ constexpr std::u16string_view kNull = u"NULL";
 
 // In the order in which they are read.
 constexpr Key kKeys[] = {
-    {setting_section::kGeneral, setting_key::kNickname, 32, u"", IsText,
+    {setting_section::kGeneral, setting_key::kNickname, 32, u"", CheckText,
      [](Value value, Target to) {
        TakeText(value, to.state.Nickname);
        to.frmMain.lblLocalNickname.SetCaption(ShowableNickname(to.state.Nickname));
      }},
-    {setting_section::kGeneral, setting_key::kDateStamp, 20, kNull, IsBoolean,
+    {setting_section::kGeneral, setting_key::kDateStamp, 20, kNull, CheckBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.DateStamp, to.frmMain.mnuToolsDate);
      }},
-    {setting_section::kGeneral, setting_key::kTimeStamp, 20, kNull, IsBoolean,
+    {setting_section::kGeneral, setting_key::kTimeStamp, 20, kNull, CheckBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.TimeStamp, to.frmMain.mnuToolsTime);
      }},
-    {setting_section::kGeneral, setting_key::kAlwaysOnTop, 20, kNull, IsBoolean,
+    {setting_section::kGeneral, setting_key::kAlwaysOnTop, 20, kNull, CheckBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.AlwaysOnTop, to.frmMain.mnuToolsAlwaysOnTop);
        to.frmMain.window.SetTopMost(to.state.AlwaysOnTop);
      }},
-    {setting_section::kFont, setting_key::kFontName, 1024, kNull, IsText,
+    {setting_section::kFont, setting_key::kFontName, 1024, kNull, CheckText,
      [](Value value, Target to) { TakeText(value, to.state.Font.Name); }},
-    {setting_section::kFont, setting_key::kFontBold, 20, kNull, IsBoolean,
+    {setting_section::kFont, setting_key::kFontBold, 20, kNull, CheckBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.Font.Bold); }},
-    {setting_section::kFont, setting_key::kFontItalic, 20, kNull, IsBoolean,
+    {setting_section::kFont, setting_key::kFontItalic, 20, kNull, CheckBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.Font.Italic); }},
-    {setting_section::kFont, setting_key::kFontStrikethrough, 20, kNull, IsBoolean,
+    {setting_section::kFont, setting_key::kFontStrikethrough, 20, kNull, CheckBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.Font.Strikethrough); }},
-    {setting_section::kFont, setting_key::kFontUnderline, 20, kNull, IsBoolean,
+    {setting_section::kFont, setting_key::kFontUnderline, 20, kNull, CheckBoolean,
      [](Value value, Target to) { TakeBoolean(value, to.state.Font.Underline); }},
-    {setting_section::kFont, setting_key::kFontColor, 20, kNull, IsColor,
+    {setting_section::kFont, setting_key::kFontColor, 20, kNull, CheckColor,
      [](Value value, Target to) {
        to.state.Font.Color = ColorOf(value).value_or(to.state.Font.Color);
      }},
-    {setting_section::kFont, setting_key::kFontSize, 20, kNull, IsNumber,
+    {setting_section::kFont, setting_key::kFontSize, 20, kNull, CheckNumber,
      [](Value value, Target to) {
        if (value) to.state.Font.Size = AcceptedFontSize(NumberOf(*value));
      }},
-    {setting_section::kBackColor, setting_key::kCommands, 20, kNull, IsColor,
+    {setting_section::kBackColor, setting_key::kCommands, 20, kNull, CheckColor,
      [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbCommands); }},
-    {setting_section::kBackColor, setting_key::kDialogue, 20, kNull, IsColor,
+    {setting_section::kBackColor, setting_key::kDialogue, 20, kNull, CheckColor,
      [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbData); }},
-    {setting_section::kLogging, setting_key::kLogFolder, 1024, u"", IsText,
+    {setting_section::kLogging, setting_key::kLogFolder, 1024, u"", CheckText,
      [](Value value, Target to) { TakeText(value, to.state.LogFolder); }},
-    {setting_section::kLogging, setting_key::kLogDialogue, 20, kNull, IsBoolean,
+    {setting_section::kLogging, setting_key::kLogDialogue, 20, kNull, CheckBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.LogDialogue, to.frmMain.mnuFileLogRecord);
      }},
-    {setting_section::kGeneral, setting_key::kMacrosFolder, 1024, u"", IsText,
+    {setting_section::kGeneral, setting_key::kMacrosFolder, 1024, u"", CheckText,
      [](Value value, Target to) { TakeText(value, to.state.MacrosFolder); }},
-    {setting_section::kGeneral, setting_key::kSuggestCommands, 20, kNull, IsText,
+    {setting_section::kGeneral, setting_key::kSuggestCommands, 20, kNull, CheckText,
      [](Value value, Target to) {
        SetSwitch(to.state.SuggestCommands, IsNotOff(value), to.frmMain.mnuToolsCompletions);
      }},
@@ -181,11 +182,11 @@ void ReadSettings(AppState& state, const MainWindow& frmMain, const Settings& se
   for (const Key& row : kKeys) row.take(FileValue(settings, row).Get(), {state, frmMain});
 }
 
-bool EveryValueIsOfItsKind(const Settings& settings) {
+bool AllValuesAreValid(const Settings& settings) {
   try {
     for (const Key& row : kKeys) {
       const FileValue value(settings, row);
-      if (value.Get()) row.kind(*value.Get());
+      if (value.Get()) row.check(*value.Get());
     }
     return true;
   } catch (const RunTimeFailure&) {

@@ -33,7 +33,8 @@ const LampLook& LookOf(const AppState& state) {
   return state.IsCalling ? kCalling : kIdle;
 }
 
-// The count in the label's tag, grown by `increase`. The tag stays as it is on failure.
+// Adds `increase` to the count in the label's tag and returns the sum. The tag stays as it is on
+// failure.
 std::int32_t GrowCount(Label& counter, std::size_t increase) {
   const std::u16string tag = counter.Tag();
   const std::int32_t count = tag.empty() ? 0 : IntegerOf(tag);

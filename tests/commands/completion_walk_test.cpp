@@ -1,4 +1,4 @@
-// The keys and clicks that take a row from the list.
+// The keys and clicks that choose a row of the list.
 #include "commands/completion.h"
 #include "commands/completion_fixture.h"
 

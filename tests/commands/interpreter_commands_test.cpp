@@ -110,7 +110,8 @@ TEST_F(InterpreterCommands, ARoutineGetsItsOwnLineWhateverAnEventLeavesInTheStat
   EXPECT_EQ(state.Nickname, u"Al");
 }
 
-// The row's own test shows the toggle's tick; here are the switches behind it.
+// The test of the command table checks the ticks of the toggles; this one checks the switches
+// behind them.
 TEST_F(InterpreterCommands, OnAndOffCommandsCanBeRepeated) {
   window.mnuToolsDate.onClick = [this] { dialogue.mnuToolsDate_Click(); };
   window.mnuToolsTime.onClick = [this] { dialogue.mnuToolsTime_Click(); };

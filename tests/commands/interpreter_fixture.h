@@ -26,7 +26,7 @@ class InterpreterSide : public TypingSide {
                            richtext::WriteRtf(document));
   }
 
-  // Everything that reached the dialogue pane, and the texts that went to the peer.
+  // The text of the dialogue pane, and the texts sent to the peer.
   std::u16string Shown() const { return window.rtbData.Text(); }
   std::vector<std::u16string> Sent() const {
     std::vector<std::u16string> texts;

@@ -1,4 +1,4 @@
-// A command pane whose text style is in force.
+// A command pane to which the text style has been applied.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -28,7 +28,7 @@ class TextFormatSide : public TypingSide {
     pane.SetSelText(u"bold!");
   }
 
-  // Makes every write of a file visible: there is no file until the next one.
+  // Deletes the settings file, so that the next write can be noticed.
   void ForgetSettingsFile() { fake.files.files.erase(state.IniFile); }
   bool SettingsWritten() const { return fake.files.files.contains(state.IniFile); }
 

@@ -1,5 +1,5 @@
-// One side of the program as far as typed lines reach: the real rooms on an in-memory platform,
-// with the command pane and the style controls bound as in the program.
+// One side of the program, as far as typed lines need it: the real objects on an in-memory
+// platform, with the command pane and the style controls connected as in the program.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ class TypingSide : public testing::Test {
     window.rtbCommands.Type(u"\r");
   }
 
-  // Somebody at port 2000, connected to this side's socket; what this side sends stands in
+  // Connects a peer at port 2000 to this side's socket. What this side sends is in
   // fake.socket.sent.
   void Connect() {
     peer.SetLocalPort(2000);

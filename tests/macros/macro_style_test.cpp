@@ -13,7 +13,7 @@ constexpr Color kBlue = 0xFF0000;
 
 class MacroStyleTest : public MacroEditorTest {
  protected:
-  // Opens the editor on a new macro.
+  // Opens the editor with a new macro.
   void Write(const std::function<void()>& act) {
     Open([this, act] {
       Add(u"new");

@@ -1,4 +1,4 @@
-// Every caption of the menu bar, in both languages.
+// All captions of the menu bar, in both languages.
 #include <gtest/gtest.h>
 
 #include "shell/language.h"

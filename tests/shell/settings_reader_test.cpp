@@ -8,7 +8,7 @@ namespace {
 
 class SettingsReaderTest : public ShellTest {
  protected:
-  // Reads a file of this text as start-up does.
+  // Reads a file with this text as start-up does.
   void Read(const std::string& text) {
     fake.files.files[kIniFile] = text;
     ReadFile();
@@ -18,7 +18,7 @@ class SettingsReaderTest : public ShellTest {
     ReadLanguage(state, settings);
     ReadSettings(state, window.frmMain, settings);
   }
-  // The number of the failure that reading a file of this text ends in.
+  // The number of the failure that reading a file with this text throws.
   FailureNumber FailureOf(const std::string& text) {
     try {
       Read(text);
@@ -202,7 +202,7 @@ TEST_F(SettingsReaderTest, AnEmptyFontNameLeavesThePanes) {
   EXPECT_EQ(state.Font.Name, u"Arial");
 }
 
-TEST_F(SettingsReaderTest, WhatCannotBeReadIsKnownBeforehand) {
+TEST_F(SettingsReaderTest, InvalidValuesAreFoundBeforehand) {
   const std::pair<const char*, const char*> keys[] = {
       {"General", "Nickname"},     {"General", "DateStamp"},      {"General", "TimeStamp"},
       {"General", "AlwaysOnTop"},  {"FontLocal", "Name"},         {"FontLocal", "Bold"},
@@ -219,7 +219,7 @@ TEST_F(SettingsReaderTest, WhatCannotBeReadIsKnownBeforehand) {
       } catch (const RunTimeFailure&) {
         reads = false;
       }
-      EXPECT_EQ(EveryValueIsOfItsKind(settings), reads) << text;
+      EXPECT_EQ(AllValuesAreValid(settings), reads) << text;
     }
   }
 }

@@ -9,7 +9,7 @@
 namespace verlume {
 namespace {
 
-// No two neighbouring members are alike, so that none can stand in for another.
+// Neighbouring members differ, so that a mix-up is noticed.
 const TextStyle kFancy = {.Name = u"Georgia",
                           .Bold = true,
                           .Italic = false,

@@ -6,9 +6,9 @@ namespace verlume {
 namespace {
 
 // Binds an event to a procedure. The procedures catch their own failures.
-template <class Event, class Room, class Method>
-void On(Event& event, Room& room, Method procedure) {
-  event = [&room, procedure](auto&&... arguments) { (room.*procedure)(arguments...); };
+template <class Event, class Object, class Method>
+void On(Event& event, Object& object, Method procedure) {
+  event = [&object, procedure](auto&&... arguments) { (object.*procedure)(arguments...); };
 }
 
 }  // namespace
@@ -74,7 +74,7 @@ void Program::Start() {
   if (!platform_.application.HasEnded()) platform_.frmMain.window.Show();
 }
 
-// Any error ends the chat: its log is closed, and the status line does not go on telling of it.
+// Any error ends the chat: its log is closed, and the status line no longer shows it.
 void Program::EndChatAfterError() {
   const bool wasIdle = StateOf(state_) == ConnectionState::Idle;
   ResetConnection(state_, platform_);

@@ -1,4 +1,4 @@
-// Macros on their road through a whole program: written, run, and met by a conversation meanwhile.
+// Macros in a whole program: written, run, and edited during a conversation.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// Two whole programs on the in-memory platform: the road of a call and of a typed line.
+// Two whole programs on the in-memory platform: calls and typed lines.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -24,7 +24,7 @@ class StartUpTest : public ShellTest {
     };
   }
 
-  // A settings file of this text, with folders that exist.
+  // Creates a settings file with this text, and the folders.
   void Keep(const std::string& text) { fake.files.files[kIniFile] = text; }
 
   int logFolderChoices = 0;

@@ -1,4 +1,4 @@
-// The user's style through the whole program: from run to run, and whatever becomes of the pane.
+// The user's style in the whole program: from run to run, and when the text of the pane changes.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace {
 using fake::FakeNetwork;
 using fake::ProgramCopy;
 
-// The style of the next letter, told by typing one.
+// The style of the next letter, found by typing one.
 SelectionFormat StyleOfNextLetter(ProgramCopy& copy) {
   fake::FakeRichTextBox& pane = copy.platform.window.rtbCommands;
   const std::size_t at = pane.SelStart();
