@@ -29,7 +29,7 @@ void ConnectionActions::CallRemote() {
       port = PortNumberOf(parts[2]);
     }
     if (!port) port = AskRemotePort();
-    // Host and port may have been asked for while a caller was being accepted.
+    // A caller may have been accepted while host and port were being asked for.
     if (!port || !MayStillLeaveState(leave, *agreed)) return;
 
     ResetConnection(state_, platform_);
@@ -45,7 +45,7 @@ void ConnectionActions::CallRemote() {
     platform_.frmMain.lblRemotePort.SetCaption(portText);
     EnterState(state_, ConnectionState::Calling);
     ShowLamp(state_, platform_.frmMain);
-    // Last: if this line cannot be written, the report of that ends the call.
+    // Last: if this line cannot be written, the error report ends the call.
     WriteOutgoingText();
   });
 }

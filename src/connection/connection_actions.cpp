@@ -1,4 +1,4 @@
-// What the actions share, and the menu entries that run them.
+// What all actions share, and the menu entries that run them.
 #include "connection/connection_actions.h"
 
 #include "connection/status_texts.h"
@@ -7,7 +7,7 @@ namespace verlume {
 
 void ConnectionActions::Run(Procedure procedure, const std::function<void()>& action) {
   const ConnectionState before = StateOf(state_);
-  // A failure ends whatever there was. The status line must not go on telling of it.
+  // A failure ends the connection, call or wait, so the status line must not go on showing it.
   if (!errors_.Guard(procedure, action) && before != ConnectionState::Idle &&
       StateOf(state_) == ConnectionState::Idle) {
     SetStatus(u"");
@@ -23,8 +23,8 @@ void ConnectionActions::RunFromMenu(std::u16string_view commandWord,
 }
 
 std::optional<ConnectionState> ConnectionActions::AskToLeaveState(const LeaveTexts& texts) {
-  // A call may be answered, or end, while its question is open: then the answer is to a question
-  // that no longer fits, and the state that has come instead is asked about.
+  // A call may be answered, or end, while the question is open. Then the answer no longer fits, and
+  // the user is asked about the new state.
   for (;;) {
     const ConnectionState asked = StateOf(state_);
     const bool isGreek = state_.IsGreek;

@@ -17,7 +17,7 @@ Integer Narrow(std::int64_t value) {
   return static_cast<Integer>(value);
 }
 
-// Nothing when the text is no whole number.
+// None when the text is not a whole number.
 std::optional<std::int32_t> WholeNumber(std::u16string_view text) {
   const bool isNegative = text.starts_with(u'-');
   if (isNegative || text.starts_with(u'+')) text.remove_prefix(1);
@@ -25,7 +25,7 @@ std::optional<std::int32_t> WholeNumber(std::u16string_view text) {
   std::int64_t value = 0;
   for (const char16_t digit : text) {
     value = value * 10 + (digit - u'0');
-    // Further digits only make it greater; stopping here keeps the sum itself from overflowing.
+    // Further digits only make it larger; stopping here avoids an overflow of `value`.
     if (value > std::numeric_limits<std::uint32_t>::max()) break;
   }
   return Narrow<std::int32_t>(isNegative ? -value : value);

@@ -19,7 +19,7 @@ void ConnectionActions::RefreshLocalIP() {
     if (!AskToLeaveState(leave)) return;
 
     ResetConnection(state_, platform_);
-    // Read again: the machine may have moved on while the question was open.
+    // Read again: the address may have changed while the question was open.
     state_.LocalAddress = platform_.sckControl.LocalIP();
     platform_.frmMain.lblLocalIP.SetCaption(state_.LocalAddress);
     with_.statusPanel.ClearValues();

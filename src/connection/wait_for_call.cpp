@@ -22,9 +22,9 @@ void ConnectionActions::WaitForCall() {
     // Without a port the system chooses one.
     const auto parts = CommandParts(state_.CommandLine, 2);
     std::u16string portText = parts.size() > 1 ? parts[1] : u"0";
-    if (!MendLocalPort(portText)) return;
+    if (!CorrectLocalPort(portText)) return;
     const std::int16_t port = PortNumberOf(portText);
-    // The port may have been asked for while the call was being answered.
+    // The call may have been answered while the port was being asked for.
     if (!MayStillLeaveState(leave, *agreed)) return;
 
     ResetConnection(state_, platform_);
@@ -37,12 +37,12 @@ void ConnectionActions::WaitForCall() {
     platform_.frmMain.lblLocalPort.SetCaption(portInUse);
     EnterState(state_, ConnectionState::Waiting);
     ShowLamp(state_, platform_.frmMain);
-    // Last: if this line cannot be written, the report of that ends the wait.
+    // Last: if this line cannot be written, the error report ends the wait.
     WriteOutgoingText();
   });
 }
 
-bool ConnectionActions::MendLocalPort(std::u16string& portText) {
+bool ConnectionActions::CorrectLocalPort(std::u16string& portText) {
   while (!IsPortNumber(portText, kLeastPort, kGreatestPort)) {
     platform_.dialogs.ShowMessage(Note(In(connection_texts::kWrongPort), In(texts::kPortTitle)));
     portText = platform_.dialogs.AskText(In(texts::kPortPrompt), In(texts::kPortTitle), u"");

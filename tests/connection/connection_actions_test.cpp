@@ -12,7 +12,7 @@ class ConnectionActionsTest : public testing::Test, protected fake::TwoSides {
  protected:
   using Action = void (ConnectionActions::*)();
 
-  // Runs the action and tells whether the focus was given back.
+  // Runs the action and returns whether the focus was given back.
   bool FocusesAfter(Action action) {
     alice.fake.window.rtbCommands.timesFocused = 0;
     (alice.actions.*action)();

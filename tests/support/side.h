@@ -1,4 +1,4 @@
-// One user's program without its window loop: the rooms up to the connection, on a platform in
+// One user's program without its event loop: the objects up to the connection, on a platform in
 // memory. Sides that share a network can call each other.
 #pragma once
 
@@ -21,7 +21,7 @@ struct Side {
   Side(FakeNetwork& network, std::u16string_view nickname, std::u16string_view address);
   ~Side();
 
-  // Typed commands, as the interpreter hands them over.
+  // Typed commands, as the interpreter passes them on.
   void Call(std::u16string_view rest) { Command(u"/CALL", rest, &ConnectionActions::CallRemote); }
   void Wait(std::u16string_view rest) { Command(u"/WAIT", rest, &ConnectionActions::WaitForCall); }
   void Nick(std::u16string_view rest) { Command(u"/NICK", rest, &ConnectionActions::SetNickname); }
@@ -29,12 +29,12 @@ struct Side {
   ConnectionState State() const { return StateOf(state); }
   std::u16string Status() const { return fake.window.lblStatus.caption; }
   std::u16string DialoguePane() const { return fake.window.rtbData.Text(); }
-  // The lamp's colour; -1 when fill and border differ.
+  // The lamp's colour; -1 if fill and border differ.
   Color Lamp() const {
     const FakeLamp& lamp = fake.window.shpStatus;
     return lamp.fill == lamp.border ? lamp.fill : -1;
   }
-  // Turns logging on; the file of a peer is read with LogOf.
+  // Turns logging on; LogOf reads the log of a peer.
   void RecordDialogues() {
     fake.files.MakeFolder(u"/logs");
     state.LogFolder = u"/logs/";
