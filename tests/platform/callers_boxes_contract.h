@@ -1,4 +1,4 @@
-// Callers and peers that come and go while a box or a window of the user's is open.
+// Callers and peers that come and go while a box or a window is open.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Callers and peers that come and go when it suits nobody.
+// Callers and peers that come and go at inconvenient moments.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-// A whole program, its windows in memory, whose socket is that of a World (see socket_contract.h),
-// and two others for whoever calls it.
+// A whole program with windows in memory and a socket of a World (see socket_contract.h), and two
+// other sockets for callers.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ class CallersFixture : public testing::Test {
   }
 
   void Enter(const std::u16string& line) {
-    fake.window.rtbCommands.SetText(u"");  // a command that was refused is still there
+    fake.window.rtbCommands.SetText(u"");  // a refused command is still there
     fake.window.rtbCommands.Type(line + u"\r");
   }
   void EnterAndAgree(const std::u16string& line) {
@@ -40,7 +40,7 @@ class CallersFixture : public testing::Test {
     return u"/CALL " + world.Host() + u" " + DecimalText(itsPort);
   }
 
-  // The program waits on a free port.
+  // The program waits for a call on a free port.
   void Listen() {
     Enter(u"/WAIT");
     port = program.State().LocalPort;
@@ -50,13 +50,13 @@ class CallersFixture : public testing::Test {
     user.socket.SetRemotePort(port);
     user.socket.Connect();
   }
-  // What the user does in the next box, before it is answered.
+  // What the user does while the next box is open.
   void WhileOpen(std::function<void()> body) {
     fake.dialogs.whileOpen = [body, done = false]() mutable {
       if (!std::exchange(done, true)) body();
     };
   }
-  // The peer calls, and the user answers, after what is done while the question is open.
+  // The peer calls; the act runs while the question is open, and then the user answers.
   void AnswerTheCall(
       Answer answer, std::function<void()> whileOpen = [] {}) {
     WhileOpen([this, whileOpen] {
@@ -68,7 +68,7 @@ class CallersFixture : public testing::Test {
     Call(peer);
     ASSERT_TRUE(world.Wait([&] { return fake.dialogs.answers.empty(); }));
   }
-  // The peer is accepted, and says nothing to that.
+  // The peer is accepted but sends nothing.
   void Accept() {
     ASSERT_NO_FATAL_FAILURE(AnswerTheCall(Answer::Yes));
     ASSERT_TRUE(world.Wait([&] { return peer.texts.size() == 1; }));
@@ -90,7 +90,7 @@ class CallersFixture : public testing::Test {
   bool StatusEndsIn(std::u16string_view end) const {
     return fake.window.lblStatus.caption.ends_with(end);
   }
-  // Nothing is left of any call, and the user can wait for one, reject it, and give up a wait.
+  // Nothing is left of any call: the user can wait for one, reject it, and give up a wait.
   void ExpectUsable() {
     EXPECT_EQ(State(), ConnectionState::Idle);
     EXPECT_EQ(socket.State(), SocketState::Closed);

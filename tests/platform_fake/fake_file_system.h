@@ -29,10 +29,10 @@ class FakeFileSystem : public FileSystem {
   void MakeFolder(std::u16string_view path);
   void RemoveFolder(std::u16string_view path);
 
-  // Every write, and every read, fails with this while it is set.
+  // While set, every write or every read fails with this.
   std::optional<FailureNumber> writesFail;
   std::optional<FailureNumber> readsFail;
-  // "A.rtf" and "a.rtf" name one file, under the name that it was made with.
+  // If true, "A.rtf" and "a.rtf" are the same file, with the name under which it was created.
   bool ignoresCase = false;
   std::map<std::u16string, std::string, std::less<>> files;  // path -> bytes
 

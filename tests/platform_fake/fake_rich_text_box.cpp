@@ -8,7 +8,7 @@
 namespace verlume::fake {
 namespace {
 
-// What a box on a real platform makes of a unit, which keeps marks of its own in its text.
+// The unit that a real box would store, which uses some units as marks in its text.
 char16_t SafeUnit(char16_t unit, bool singleLine) {
   if (unit == u'\n' || unit == u'\r' || unit == u'\u2028' || unit == u'\u2029') {
     return singleLine ? u' ' : u'\n';
