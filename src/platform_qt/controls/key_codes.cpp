@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// What a Greek keyboard has on the keys A to Z; 0 where that is no letter of its own.
+// The letters on the keys A to Z of a Greek keyboard; 0 if the key has no letter.
 constexpr std::u16string_view kGreekKeys = u"ΑΒΨΔΕΦΓΗΙΞΚΛΜΝΟΠ\0ΡΣΤΘΩ\0ΧΥΖ"sv;
 
 bool HoldsControlAlone(const QKeyEvent& event) {

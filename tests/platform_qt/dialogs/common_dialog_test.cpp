@@ -39,7 +39,7 @@ class QtCommonDialogTest : public testing::Test {
     QFile file(folder.filePath(QLatin1String(name)));
     ASSERT_TRUE(file.open(QFile::WriteOnly));
   }
-  // For whoever is no administrator, who may look into the folder all the same.
+  // Read-only for everybody but administrators; everybody may read the folder.
   void ForbidWriting(const char* name) {
     ASSERT_TRUE(QFile::setPermissions(folder.filePath(QLatin1String(name)), kReadable));
     ASSERT_TRUE(QFile::setPermissions(folder.path(), kReadable | kSearchable));
