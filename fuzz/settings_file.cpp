@@ -64,8 +64,8 @@ void CheckNothingLost(std::string_view before, const FuzzedCopy& copy) {
 
 void CheckValues(const AppState& state) {
   Check(!state.Nickname.empty() && state.Nickname.size() <= kNicknameLimit, "a nickname is one");
-  Check(state.FontSize >= 8 && state.FontSize <= 11, "a size is one of those offered");
-  Check(state.FontColor >= 0 && state.FontColor <= 0xFFFFFF, "a colour is one");
+  Check(state.Font.Size >= 8 && state.Font.Size <= 11, "a size is one of those offered");
+  Check(state.Font.Color >= 0 && state.Font.Color <= 0xFFFFFF, "a colour is one");
 }
 
 }  // namespace

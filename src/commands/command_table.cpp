@@ -7,14 +7,14 @@ namespace {
 
 enum class Switch : bool { Off = false, On = true };
 
-// Choosing a toggle's entry flips it, so it is first put into the opposite state: the command then
-// ends in the state that it names, whatever the state was.
+// Clicking a toggle flips it, so it is first put into the opposite state. The command then ends in
+// the state that it names, whatever the state was.
 void Turn(MenuEntry& toggle, Switch wanted) {
   toggle.SetChecked(wanted == Switch::Off);
   toggle.Click();
 }
 
-// The same for the toggle that goes by its flag and not by its tick.
+// The same for the toggle that depends on its flag in AppState and not on its tick.
 void TurnAlwaysOnTop(const CommandTargets& on, Switch wanted) {
   on.state.AlwaysOnTop = wanted == Switch::Off;
   on.frmMain.mnuToolsAlwaysOnTop.Click();

@@ -14,11 +14,11 @@ namespace verlume {
 enum class CommandKind {
   Plain,              // the command pane is emptied, then the row's action runs
   Routine,            // the routine gets the line, and empties the pane itself
-  NormalisedRoutine,  // the same, with the blanks of the line put in order first
+  NormalisedRoutine,  // the same, after surplus blanks are removed from the line
   Action,             // the line is an action line; the row has nothing to perform
 };
 
-// What a row may act upon.
+// What a command can act on.
 struct CommandTargets {
   std::u16string_view line;  // the command with what follows it
   AppState& state;
@@ -37,8 +37,8 @@ struct CommandRow {
 
 std::span<const CommandRow> CommandTable();
 
-// The first row that has the word, in either language; null when none has. Compares exactly: the
-// caller puts the word into upper case.
+// The first row with the word, in either language; null if there is none. Compares exactly: the
+// caller converts the word to upper case.
 const CommandRow* FindCommand(std::u16string_view word);
 
 }  // namespace verlume

@@ -3,20 +3,23 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/char_code.h"
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
-#include "shell/raised.h"
+#include "shell/scoped_flag.h"
+#include "shell/setting_names.h"
 #include "shell/text_pair.h"
 
 namespace verlume {
 namespace {
 
-// No name of a file is as long, and a longer line need not be looked at with every key.
+// Longer than any file name. A longer line cannot be a command or macro, and is not examined at
+// every key.
 constexpr std::size_t kLongestWord = 256;
 
 constexpr TextPair kMacroRow = {u"%1   (macro)", u"%1   (μακροεντολή)"};
 
-// The command pane makes a blank of a line break, and another name with it.
+// The command pane turns a line break into a blank, so a name with one could not be typed.
 bool FitsIntoOneLine(std::u16string_view name) {
   return std::ranges::none_of(
       name, [](char16_t c) { return c < u' ' || c == u'\u2028' || c == u'\u2029'; });
@@ -25,7 +28,7 @@ bool FitsIntoOneLine(std::u16string_view name) {
 }  // namespace
 
 void CommandCompletion::rtbCommands_Change() {
-  if (putting_) return;
+  if (updating_) return;
   errors_.Guard(Procedure::CommandCompletion, [this] { FollowPane(); });
 }
 
@@ -35,7 +38,7 @@ void CommandCompletion::FollowPane() {
   const std::u16string text = pane.Text();
   if (!IsCommandWord(text)) return Close();
   typed_ = text;
-  if (!macros_) macros_ = MacrosThatRun();
+  if (!macros_) macros_ = RunnableMacros();
   rows_ = CompletionsOf(typed_, state_.IsGreek, *macros_, platform_.locale);
   const bool isComplete = rows_.size() == 1 && IsComplete(typed_, rows_.front(), platform_.locale);
   if (rows_.empty() || isComplete) return Hide();
@@ -67,14 +70,14 @@ void CommandCompletion::rtbCommands_KeyDown(int& keyCode, int shift) {
   if (!platform_.frmMain.completionList.fraCompletions.Visible()) return;
   errors_.Guard(Procedure::CommandCompletion, [this, &keyCode] {
     const int step = keyCode == key_code::kDown ? 1 : -1;
-    keyCode = 0;
+    keyCode = char_code::kSwallowed;
     Walk(step);
   });
 }
 
 void CommandCompletion::Walk(int step) {
   ListBox& list = platform_.frmMain.completionList.lstCompletions;
-  // What was typed stands before the first row, as row -1.
+  // The typed word comes before the first row, as row -1.
   const int places = static_cast<int>(rows_.size()) + 1;
   const int row = (list.SelectedIndex() + 1 + step + places) % places - 1;
   list.Select(row);
@@ -82,9 +85,9 @@ void CommandCompletion::Walk(int step) {
   PutIntoPane(row < 0 ? typed_ : rows_[static_cast<std::size_t>(row)].word);
 }
 
-// In the style at the insertion point, as if it were typed there.
+// The word gets the style at the insertion point, as if it were typed there.
 void CommandCompletion::PutIntoPane(std::u16string_view word) {
-  const Raised putting(putting_);
+  const ScopedFlag updating(updating_);
   RichTextBox& pane = platform_.frmMain.rtbCommands;
   pane.SetText(word);
   pane.Select(pane.TextLength(), 0);
@@ -110,13 +113,14 @@ void CommandCompletion::mnuToolsCompletions_Click() {
     state_.SuggestCommands = !state_.SuggestCommands;
     platform_.frmMain.mnuToolsCompletions.SetChecked(state_.SuggestCommands);
     FollowPane();
-    settings_.WriteSetting(u"General", u"Suggestcommands", BooleanText(state_.SuggestCommands));
+    settings_.WriteSetting(setting_section::kGeneral, setting_key::kSuggestCommands,
+                           BooleanText(state_.SuggestCommands));
   });
   platform_.frmMain.rtbCommands.SetFocus();
 }
 
-// None in a folder that cannot be read: whoever only types gets no error report.
-std::vector<std::u16string> CommandCompletion::MacrosThatRun() const {
+// Empty if the folder cannot be read: a list of completions is no place to report that.
+std::vector<std::u16string> CommandCompletion::RunnableMacros() const {
   if (state_.MacrosFolder.empty()) return {};
   try {
     std::vector<std::u16string> names = macroStore_.ListMacroNames();

@@ -1,5 +1,5 @@
-// The list below the command pane: while a single word that begins with "/" stands in the pane, it
-// shows the commands and macros that the word can become. It takes no key but Down and Up.
+// The list below the command pane: while the pane contains a single word that begins with "/", the
+// list shows the commands and macros that begin with it. It takes only the keys Down and Up.
 #pragma once
 
 #include <optional>
@@ -26,19 +26,19 @@ class CommandCompletion {
         settings_(settings),
         macroStore_(macroStore) {}
 
-  // The list opens, follows what is typed, or closes.
+  // Opens, updates or closes the list.
   void rtbCommands_Change();
 
-  // While the list is open Down and Up go round its rows and what was typed, put each into the pane
-  // as they come to it, and are swallowed. Any other key is left alone.
+  // While the list is open, Down and Up walk through its rows and the typed word, put each into the
+  // pane, and are swallowed. All other keys are left alone.
   void rtbCommands_KeyDown(int& keyCode, int shift);
 
   void rtbCommands_LostFocus();
 
-  // Puts the row into the pane, closes the list, and gives the focus back to the pane.
+  // Puts the clicked row into the pane, closes the list, and gives the focus back to the pane.
   void lstCompletions_Click();
 
-  // Turns the list on or off, and keeps the choice.
+  // Turns the list on or off, and saves the choice.
   void mnuToolsCompletions_Click();
 
  private:
@@ -48,7 +48,7 @@ class CommandCompletion {
   void Close();
   void Walk(int step);
   void PutIntoPane(std::u16string_view word);
-  std::vector<std::u16string> MacrosThatRun() const;
+  std::vector<std::u16string> RunnableMacros() const;
 
   AppState& state_;
   Platform& platform_;
@@ -56,11 +56,11 @@ class CommandCompletion {
   Settings& settings_;
   MacroStore& macroStore_;
 
-  std::u16string typed_;          // what the rows are the completions of
+  std::u16string typed_;          // the word that the rows complete
   std::vector<Completion> rows_;  // of the list
-  // Read once a word: a folder far away must not make typing slow.
+  // Read once per word: a folder on a slow network must not make typing slow.
   std::optional<std::vector<std::u16string>> macros_;
-  bool putting_ = false;  // the change in the pane is this object's own
+  bool updating_ = false;  // this object is changing the pane
 };
 
 }  // namespace verlume

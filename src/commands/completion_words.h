@@ -1,4 +1,4 @@
-// What a word that begins with "/" can become: commands, and macros by their names.
+// Completions of a word that begins with "/": commands and macros.
 #pragma once
 
 #include <span>
@@ -20,14 +20,14 @@ struct Completion {
 // Whether the text is one word that begins with "/".
 bool IsCommandWord(std::u16string_view text);
 
-// Whatever begins as `typed` does, case and accents apart: the commands of the language, then,
-// where more than the "/" is typed, those of the other one, both in the table's order, then the
-// macros in theirs. A command whose word is also a macro's is the macro.
+// All words that begin with `typed`, ignoring case and accents: first the commands of the language,
+// then, if more than the "/" is typed, those of the other language, both in the table's order, then
+// the macros in the order given. A command with the same word as a macro is left out.
 std::vector<Completion> CompletionsOf(std::u16string_view typed, bool isGreek,
                                       std::span<const std::u16string> macros, const Locale& locale);
 
-// Whether the completion runs by what is typed as it stands. The case of a command's word does not
-// matter, its accents do; a macro's name is to be the file's.
+// Whether the typed word already runs the completion. For a command its case does not matter, but
+// its accents do; for a macro it must be exactly the file's name.
 bool IsComplete(std::u16string_view typed, const Completion& completion, const Locale& locale);
 
 }  // namespace verlume

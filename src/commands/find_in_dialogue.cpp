@@ -20,7 +20,8 @@ void FindInDialogue::mnuToolsFind_Click() {
     const FindBar& bar = frmMain.findBar;
     if (!bar.fraFind.Visible()) {
       bar.fraFind.SetVisible(true);
-      // From where the user has put the caret; at the end it is only where the last line left it.
+      // Start at the caret if the user has put it somewhere. At the end of the text it is only
+      // where the last written line left it.
       const std::size_t caret = frmMain.rtbData.SelStart();
       position_ = caret < frmMain.rtbData.TextLength() ? caret : 0;
       Search(Step::Here);
@@ -54,25 +55,26 @@ void FindInDialogue::Search(Step step) {
   const TextSearch search(platform_.frmMain.findBar.txtFind.Text(), platform_.locale);
   if (search.IsEmpty()) return ShowNothing(u"");
   const std::size_t from = step == Step::Next && hasMatch_ ? position_ + 1 : position_;
-  const Places places = Survey(search, from);
+  const Places places = FindPlaces(search, from);
   if (places.count == 0) return ShowNothing(kNotFound.In(state_.IsGreek));
   const bool isPrevious = step == Step::Previous;
-  const Place& wanted = isPrevious ? places.before : places.after;
-  const bool wrapped = wanted.number == 0;
-  const Place& other = isPrevious ? places.last : places.first;
-  ShowPlace(wrapped ? other : wanted, places.count, wrapped, step);
+  const std::optional<Place>& wanted = isPrevious ? places.before : places.after;
+  const std::optional<Place>& other = isPrevious ? places.last : places.first;
+  const bool wrapped = !wanted;
+  ShowPlace(wrapped ? *other : *wanted, places.count, wrapped, step);
 }
 
-FindInDialogue::Places FindInDialogue::Survey(const TextSearch& search, std::size_t from) const {
+FindInDialogue::Places FindInDialogue::FindPlaces(const TextSearch& search,
+                                                  std::size_t from) const {
   const std::u16string text = platform_.frmMain.rtbData.Text();
   Places places;
   for (auto match = search.Find(text, 0); match;
        match = search.Find(text, match->start + match->length)) {
-    places.last = {++places.count, *match};
-    if (places.count == 1) places.first = places.last;
+    places.last = {.number = ++places.count, .match = *match};
+    if (!places.first) places.first = places.last;
     if (match->start < from) {
       places.before = places.last;
-    } else if (places.after.number == 0) {
+    } else if (!places.after) {
       places.after = places.last;
     }
   }
@@ -89,7 +91,7 @@ void FindInDialogue::ShowPlace(const Place& place, std::size_t count, bool wrapp
   platform_.frmMain.rtbData.Select(place.match.start, place.match.length);
 }
 
-// The search goes on from the same place when the words change again.
+// `position_` stays: when the search text changes, the search continues from there.
 void FindInDialogue::ShowNothing(std::u16string_view result) {
   platform_.frmMain.findBar.lblFindResult.SetCaption(result);
   RichTextBox& rtbData = platform_.frmMain.rtbData;

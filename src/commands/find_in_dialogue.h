@@ -1,6 +1,8 @@
-// Finds words in the dialogue pane. Nothing is kept of the dialogue: every search reads it afresh,
-// and while the bar is closed there is nothing to do.
+// Finds text in the dialogue pane. No copy of the dialogue is kept: every search reads the pane
+// again.
 #pragma once
+
+#include <optional>
 
 #include "commands/text_search.h"
 #include "platform/platform.h"
@@ -14,37 +16,38 @@ class FindInDialogue {
   FindInDialogue(AppState& state, Platform& platform, ErrorReport& errors)
       : state_(state), platform_(platform), errors_(errors) {}
 
-  // Opens the bar, or goes back to it, with the words of last time.
+  // Opens the find bar, or returns to it. The last search text is still in it.
   void mnuToolsFind_Click();
 
-  // Searches as the user types, from the present match.
+  // Searches while the user types, from the current match on.
   void txtFind_Change();
 
-  // To the next match or the previous one, round the ends of the dialogue.
+  // Go to the next or the previous match, and wrap around at the ends of the dialogue.
   void cmdFindNext_Click();
   void cmdFindPrevious_Click();
 
-  // Gives the focus back to the command pane.
+  // Closes the bar and gives the focus back to the command pane.
   void cmdFindClose_Click();
 
  private:
   enum class Step { Here, Next, Previous };
 
-  // A match, and its place among all; number 0 is none.
+  // A match, and its number among all matches, from 1.
   struct Place {
     std::size_t number = 0;
     TextMatch match;
   };
+  // The matches that a search from a position may go to; all none when nothing matches.
   struct Places {
     std::size_t count = 0;
-    Place first;
-    Place before;  // the last that starts before the place in question
-    Place after;   // the first that starts there or behind
-    Place last;
+    std::optional<Place> first;
+    std::optional<Place> before;  // the last that starts before the position
+    std::optional<Place> after;   // the first that starts at the position or after it
+    std::optional<Place> last;
   };
 
   void Search(Step step);
-  Places Survey(const TextSearch& search, std::size_t from) const;
+  Places FindPlaces(const TextSearch& search, std::size_t from) const;
   void ShowPlace(const Place& place, std::size_t count, bool wrapped, Step step);
   void ShowNothing(std::u16string_view result);
 
@@ -52,8 +55,8 @@ class FindInDialogue {
   Platform& platform_;
   ErrorReport& errors_;
 
-  // Where the present match starts, or where the search is to begin. The pane's own selection will
-  // not do: a line that is written moves it.
+  // Where the current match starts, or where the next search begins. The pane's own selection
+  // cannot be used: every written line moves it.
   std::size_t position_ = 0;
   bool hasMatch_ = false;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/char_code.h"
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
 #include "shell/text_pair.h"
@@ -41,7 +42,7 @@ void CommandHistory::rtbCommands_KeyDown(int& keyCode, int shift) {
       case key_code::kEscape:
       case key_code::kPageUp:
       case key_code::kPageDown:
-        keyCode = 0;
+        keyCode = char_code::kSwallowed;
     }
     if (key == key_code::kEscape) ClearCommands();
     if (key == key_code::kPageUp) ShowPreviousLine();

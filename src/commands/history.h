@@ -1,4 +1,5 @@
-// The command history: the last 50 lines entered, as rich text, walked with Page Up and Page Down.
+// The command history: the last 50 lines entered, as rich text. Page Up and Page Down go through
+// them.
 #pragma once
 
 #include "platform/platform.h"
@@ -12,7 +13,7 @@ class CommandHistory {
   CommandHistory(AppState& state, Platform& platform, ErrorReport& errors)
       : state_(state), platform_(platform), errors_(errors) {}
 
-  // Keeps the command pane's rich text as the newest line; the oldest goes when there are 50.
+  // Adds the command pane's rich text as the newest line; the oldest is dropped if there are 50.
   void AddToHistory();
 
   // The special keys of the command pane: Tab, Escape, Page Up, Page Down.

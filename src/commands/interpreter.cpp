@@ -7,12 +7,10 @@
 #include "commands/placeholders.h"
 #include "connection/command_parts.h"
 #include "macros/store/macro_paths.h"
+#include "platform/char_code.h"
 
 namespace verlume {
 namespace {
-
-constexpr int kCtrlEnter = 10;
-constexpr int kEnter = 13;
 
 std::u16string FirstWord(std::u16string_view line) {
   return CommandParts(line, 2).front();
@@ -33,9 +31,9 @@ std::u16string Normalised(std::u16string_view line) {
 void CommandInterpreter::rtbCommands_KeyPress(int& charCode) {
   errors_.Guard(Procedure::rtbCommands_KeyPress, [this, &charCode] {
     platform_.application.YieldToEvents();
-    if (charCode != kEnter && charCode != kCtrlEnter) return;
+    if (charCode != char_code::kEnter && charCode != char_code::kCtrlEnter) return;
     // Swallowed, so that no line break ever enters the pane.
-    const bool isEnter = std::exchange(charCode, 0) == kEnter;
+    const bool isEnter = std::exchange(charCode, char_code::kSwallowed) == char_code::kEnter;
     if (isEnter && platform_.frmMain.rtbCommands.TextLength() > 0) RunTypedLine();
   });
 }
@@ -106,7 +104,7 @@ void CommandInterpreter::WriteActionLine(std::u16string_view typedWord) {
 }
 
 Nicknames CommandInterpreter::NicknamesInForce() const {
-  Nicknames nicknames{state_.Nickname, std::nullopt};
+  Nicknames nicknames{.local = state_.Nickname, .remote = std::nullopt};
   if (platform_.sckControl.State() == SocketState::Connected) {
     nicknames.remote = state_.RemoteNickname;
   }

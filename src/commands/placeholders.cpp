@@ -10,11 +10,11 @@
 namespace verlume {
 namespace {
 
-// $l, $L, $τ, $Τ and $r, $R, $α, $Α, as the command pane's rich text has them.
+// The placeholders $l, $L, $τ, $Τ and $r, $R, $α, $Α as they are in the command pane's rich text.
 constexpr std::u16string_view kLocal[] = {u"$l", u"$L", u"$\\'f4", u"$\\'d4"};
 constexpr std::u16string_view kRemote[] = {u"$r", u"$R", u"$\\'e1", u"$\\'c1"};
 
-// The action word as it can be typed, and as the rich text has it.
+// A spelling of the action word, as typed and as it is in rich text.
 struct Spelling {
   std::u16string_view typed;
   std::u16string_view rtf;

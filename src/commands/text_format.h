@@ -1,4 +1,4 @@
-// The user's own text style, and the back colours of the panes.
+// The user's text style, and the back colours of the panes.
 #pragma once
 
 #include <string_view>
@@ -21,7 +21,7 @@ class TextFormat {
         settings_(settings),
         dialogue_(dialogue) {}
 
-  // Applies the local style to what is typed next in the command pane, shows it in check boxes,
+  // Applies the local style to what is typed next in the command pane, shows it in the check boxes,
   // ticks and colour label, and saves it. A failure is reported (229), not thrown.
   void ApplyCommandStyle();
 
@@ -38,16 +38,16 @@ class TextFormat {
   void mnuFormatBackcolorCommands_Click();
   void mnuFormatBackcolorDialogue_Click();
 
-  // The size in the command line, asked for when there is none: a number from 8 to 11.
+  // Sets the size to the number in the command line, from 8 to 11; asks for it if there is none.
   void SetFontSize(std::u16string_view commandLine);
 
-  // The style at the insertion point becomes the local style, and is saved where it differs; in an
-  // empty pane the local style stays in force. The insertion point stays. Does nothing before the
-  // first ApplyCommandStyle.
+  // Makes the style at the insertion point the local style, and saves it if it has changed. In an
+  // empty pane the local style stays. The insertion point stays. Does nothing before the first
+  // ApplyCommandStyle.
   void rtbCommands_SelChange();
 
  private:
-  // Marks lblColor while the program paints it: a press does not open the dialog then.
+  // The tag of lblColor while the program paints it: a mouse press does not open the dialog then.
   static constexpr std::u16string_view kFromCode = u"FROMCODE";
 
   void ApplyToPane();
@@ -61,7 +61,7 @@ class TextFormat {
   ErrorReport& errors_;
   Settings& settings_;
   Dialogue& dialogue_;
-  bool settling_ = false;      // the controls are being brought into line: their events are echoes
+  bool updating_ = false;      // this object is changing the controls: their events are ignored
   bool styleInForce_ = false;  // the local style has been applied once
 };
 

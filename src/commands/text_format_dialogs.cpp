@@ -1,4 +1,4 @@
-// The part of the text format that asks the user: for a colour, the font, its size.
+// The text format's questions: for a colour, the font, its size.
 #include <algorithm>
 #include <optional>
 #include <string>
@@ -8,17 +8,17 @@
 #include "connection/command_parts.h"
 #include "shell/conversions.h"
 #include "shell/font_size_texts.h"
+#include "shell/setting_names.h"
 #include "shell/settings_reader.h"
+#include "shell/trim.h"
 
 namespace verlume {
 namespace {
 
-// The size that the text names: digits with at most one decimal mark, "." or ",", blanks around
-// them. None where it is no such number, or no size that is allowed.
+// The size in the text: digits with at most one decimal mark, "." or ",". Blanks around it are
+// ignored. None if the text is anything else or the size is out of range.
 std::optional<double> FontSizeOf(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == text.npos) return std::nullopt;
-  std::u16string number(text.substr(first, text.find_last_not_of(u' ') - first + 1));
+  std::u16string number(Trim(text));
   std::replace(number.begin(), number.end(), u',', u'.');
   const bool isPlain = number.find_first_not_of(u"0123456789.") == number.npos &&
                        number.find_first_of(u"0123456789") != number.npos &&
@@ -38,11 +38,11 @@ void TextFormat::SetFontSize(std::u16string_view commandLine) {
     if (answer.empty()) {
       answer = platform_.dialogs.AskText(font_size_texts::kPrompt.In(state_.IsGreek),
                                          font_size_texts::kTitle.In(state_.IsGreek),
-                                         NumberText(state_.FontSize));
+                                         NumberText(state_.Font.Size));
     }
     if (answer.empty()) return;
     if (const std::optional<double> size = FontSizeOf(answer)) {
-      state_.FontSize = *size;
+      state_.Font.Size = *size;
       ApplyCommandStyle();
       dialogue_.ClearCommandPane();
     } else {
@@ -63,7 +63,7 @@ void TextFormat::lblColor_MouseDown(MouseButton button) {
   if (button == MouseButton::Right) return;
   if (platform_.frmMain.lblColor.Tag() == kFromCode) return;
   errors_.Guard(Procedure::lblColor_MouseDown, [this] {
-    state_.FontColor = platform_.dlgControl.ShowColor(state_.FontColor);
+    state_.Font.Color = platform_.dlgControl.ShowColor(state_.Font.Color);
     ApplyCommandStyle();
   });
   platform_.frmMain.rtbCommands.SetFocus();
@@ -75,34 +75,21 @@ void TextFormat::mnuFormatFontColor_Click() {
 
 void TextFormat::mnuFormatFontSettings_Click() {
   errors_.Guard(Procedure::mnuFormatFontSettings_Click, [this] {
-    const FontChoice chosen =
-        platform_.dlgControl.ShowFont({.name = state_.FontName,
-                                       .bold = state_.FontBold,
-                                       .italic = state_.FontItalic,
-                                       .underline = state_.FontUnderline,
-                                       .strikethrough = state_.FontStrikethrough,
-                                       .color = state_.FontColor,
-                                       .size = state_.FontSize},
-                                      kSmallestFontSize, kLargestFontSize);
-    state_.FontName = chosen.name;
-    state_.FontBold = chosen.bold;
-    state_.FontItalic = chosen.italic;
-    state_.FontUnderline = chosen.underline;
-    state_.FontStrikethrough = chosen.strikethrough;
-    state_.FontColor = chosen.color;
-    state_.FontSize = AcceptedFontSize(chosen.size);
+    state_.Font = StyleOf(platform_.dlgControl.ShowFont(FontChoiceOf(state_.Font),
+                                                        kSmallestFontSize, kLargestFontSize));
+    state_.Font.Size = AcceptedFontSize(state_.Font.Size);
     ApplyCommandStyle();
   });
   platform_.frmMain.rtbCommands.SetFocus();
 }
 
 void TextFormat::mnuFormatBackcolorCommands_Click() {
-  ChooseBackColor(platform_.frmMain.rtbCommands, u"Commands",
+  ChooseBackColor(platform_.frmMain.rtbCommands, setting_key::kCommands,
                   Procedure::mnuFormatBackcolorCommands_Click);
 }
 
 void TextFormat::mnuFormatBackcolorDialogue_Click() {
-  ChooseBackColor(platform_.frmMain.rtbData, u"Dialogue",
+  ChooseBackColor(platform_.frmMain.rtbData, setting_key::kDialogue,
                   Procedure::mnuFormatBackcolorDialogue_Click);
 }
 
@@ -110,7 +97,7 @@ void TextFormat::ChooseBackColor(RichTextBox& pane, std::u16string_view key, Pro
   errors_.Guard(procedure, [this, &pane, key] {
     const Color chosen = platform_.dlgControl.ShowColor(pane.BackColor());
     pane.SetBackColor(chosen);
-    settings_.WriteSetting(u"BackColor", key, DecimalText(chosen));
+    settings_.WriteSetting(setting_section::kBackColor, key, DecimalText(chosen));
   });
   platform_.frmMain.rtbCommands.SetFocus();
 }

@@ -2,8 +2,8 @@
 
 namespace verlume {
 
-// Knuth, Morris and Pratt: a peer chooses the text, so no choice of it may cost more than its
-// length.
+// The algorithm of Knuth, Morris and Pratt: a peer chooses the text, so the search must take linear
+// time for every text.
 TextSearch::TextSearch(std::u16string_view words, const Locale& locale) : locale_(locale) {
   for (const char16_t c : words) {
     if (const char16_t letter = locale.BaseLetter(c)) letters_ += letter;

@@ -1,4 +1,4 @@
-// Finds words in a text as a reader does: whatever their case and accents.
+// Searches a text, ignoring case and accents.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace verlume {
 
-// A part of a text, in UTF-16 units; accents that follow its last letter belong to it.
+// A part of a text, in UTF-16 units. Combining accents after its last letter are part of it.
 struct TextMatch {
   std::size_t start = 0;
   std::size_t length = 0;
@@ -21,13 +21,14 @@ struct TextMatch {
 
 class TextSearch {
  public:
-  // `locale` says which letters are the same; it outlives the search.
+  // `locale` decides which letters are equal; it must outlive the search.
   TextSearch(std::u16string_view words, const Locale& locale);
 
-  // Nothing to look for: there is no match anywhere.
+  // No letter to look for: nothing matches.
   bool IsEmpty() const { return letters_.empty(); }
 
-  // The first match that starts at `from` or behind. Takes time linear in what lies between.
+  // The first match that starts at `from` or after it. Takes time linear in the text up to the end
+  // of the match.
   std::optional<TextMatch> Find(std::u16string_view text, std::size_t from) const;
 
  private:
@@ -35,7 +36,7 @@ class TextSearch {
 
   const Locale& locale_;
   std::u16string letters_;
-  // Per number of letters that have matched: how many still do when the next one does not.
+  // By number of letters matched so far: how many stay matched when the next letter differs.
   std::vector<std::size_t> fallback_;
 };
 

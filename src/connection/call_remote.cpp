@@ -10,38 +10,41 @@ namespace verlume {
 void ConnectionActions::CallRemote(std::u16string_view commandLine) {
   namespace texts = connection_texts::call_remote;
   Run(Procedure::CallRemote, [this, commandLine] {
-    const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kTitle, texts::kCalling,
-                              texts::kTitle};
-    ConnectionState agreed;
-    if (!MayLeaveState(leave, agreed)) return;
+    const LeaveTexts leave = {.connected = texts::kConnected,
+                              .waiting = texts::kWaiting,
+                              .waitingTitle = texts::kTitle,
+                              .calling = texts::kCalling,
+                              .title = texts::kTitle};
+    const std::optional<ConnectionState> agreed = AskToLeaveState(leave);
+    if (!agreed) return;
 
     const auto parts = CommandParts(commandLine, 3);
     std::u16string host = parts.size() > 1 ? parts[1] : u"";
     if (host.empty()) host = AskHost();
     if (host.empty()) return;
 
-    std::int32_t port = -1;
+    std::optional<std::int32_t> port;
     if (parts.size() > 2 && IsPortNumber(parts[2], kLeastPort, kGreatestPort)) {
       port = PortNumberOf(parts[2]);
     }
-    if (port < 0) port = AskRemotePort();
-    // Host and port may have been asked for while a caller was being accepted.
-    if (port < 0 || !MayStillLeaveState(leave, agreed)) return;
+    if (!port) port = AskRemotePort();
+    // A caller may have been accepted while host and port were being asked for.
+    if (!port || !MayStillLeaveState(leave, *agreed)) return;
 
     ResetConnection(state_, platform_);
     state_.RemoteHost = host;
-    state_.RemotePort = port;
+    state_.RemotePort = *port;
     platform_.sckControl.SetRemoteHost(host);
-    platform_.sckControl.SetRemotePort(port);
+    platform_.sckControl.SetRemotePort(*port);
     platform_.sckControl.Connect();
 
-    const std::u16string portText = DecimalText(port);
+    const std::u16string portText = DecimalText(*port);
     SetStatus(status_texts::kCalling.Fill(state_.IsGreek, {host, portText}));
     platform_.frmMain.lblRemoteIP.SetCaption(host);
     platform_.frmMain.lblRemotePort.SetCaption(portText);
     EnterState(state_, ConnectionState::Calling);
     ShowLamp(state_, platform_.frmMain);
-    // Last: if this line cannot be written, the report of that ends the call.
+    // Last: if this line cannot be written, the error report ends the call.
     WriteOutgoingText();
   });
 }
@@ -51,12 +54,12 @@ std::u16string ConnectionActions::AskHost() {
   return platform_.dialogs.AskText(In(texts::kHostPrompt), In(texts::kHostTitle), u"");
 }
 
-std::int32_t ConnectionActions::AskRemotePort() {
+std::optional<std::int32_t> ConnectionActions::AskRemotePort() {
   namespace texts = connection_texts::call_remote;
   for (;;) {
     const std::u16string typed =
         platform_.dialogs.AskText(In(texts::kPortPrompt), In(texts::kPortTitle), u"");
-    if (typed.empty()) return -1;
+    if (typed.empty()) return std::nullopt;
     if (IsPortNumber(typed, kLeastPort, kGreatestPort)) return PortNumberOf(typed);
     platform_.dialogs.ShowMessage(Note(In(connection_texts::kWrongPort), In(texts::kPortTitle)));
   }

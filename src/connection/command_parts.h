@@ -1,4 +1,4 @@
-// A command line taken apart.
+// Splits a command line.
 #pragma once
 
 #include <string>
@@ -7,8 +7,9 @@
 
 namespace verlume {
 
-// Splits at single blanks into at most `limit` parts, 1 or more; the last part keeps every further
-// blank. Two blanks side by side have an empty part between them. An empty line is one empty part.
+// Splits the line at single blanks into at most `limit` parts (1 or more); the last part contains
+// all further blanks. Two neighbouring blanks have an empty part between them. An empty line is one
+// empty part.
 std::vector<std::u16string> CommandParts(std::u16string_view line, std::size_t limit);
 
 }  // namespace verlume

@@ -8,8 +8,8 @@ void ConnectionActions::ConfirmExit() {
   namespace texts = connection_texts::confirm_exit;
   Run(Procedure::ConfirmExit, [this] {
     state_.ExitConfirmed = false;
-    // A call may come to be answered, or end, under the question. Whoever agreed to give up a wait
-    // has not agreed to hang up on a peer: as long as there is something new to lose, ask anew.
+    // A call may be answered, or end, while the question is open. Agreeing to give up a wait is not
+    // agreeing to hang up on a peer, so a new state is asked about again.
     ConnectionState asked;
     do {
       asked = StateOf(state_);

@@ -1,4 +1,4 @@
-// What the actions share, and the menu entries that run them.
+// What all actions share, and the menu entries that run them.
 #include "connection/connection_actions.h"
 
 #include "connection/status_texts.h"
@@ -7,7 +7,7 @@ namespace verlume {
 
 void ConnectionActions::Run(Procedure procedure, const std::function<void()>& action) {
   const ConnectionState before = StateOf(state_);
-  // A failure ends whatever there was. The status line must not go on telling of it.
+  // A failure ends the connection, call or wait, so the status line must not go on showing it.
   if (!errors_.Guard(procedure, action) && before != ConnectionState::Idle &&
       StateOf(state_) == ConnectionState::Idle) {
     SetStatus(u"");
@@ -21,21 +21,21 @@ std::u16string_view ConnectionActions::RecordCommand(std::u16string_view command
   return commandWord;
 }
 
-bool ConnectionActions::MayLeaveState(const LeaveTexts& texts, ConnectionState& agreed) {
-  // A call may be answered, or end, while its question is open: then the answer is to a question
-  // that no longer fits, and the state that has come instead is asked about.
+std::optional<ConnectionState> ConnectionActions::AskToLeaveState(const LeaveTexts& texts) {
+  // A call may be answered, or end, while the question is open. Then the answer no longer fits, and
+  // the user is asked about the new state.
   for (;;) {
-    agreed = StateOf(state_);
+    const ConnectionState asked = StateOf(state_);
     const bool isGreek = state_.IsGreek;
     const std::u16string remotePort = DecimalText(state_.RemotePort);
     bool agrees = true;
-    switch (agreed) {
+    switch (asked) {
       case ConnectionState::Idle:
         break;
       case ConnectionState::Connected:
         platform_.dialogs.ShowMessage(Refusal(
             texts.connected.Fill(isGreek, {state_.RemoteAddress, remotePort}), In(texts.title)));
-        return false;
+        return std::nullopt;
       case ConnectionState::Waiting:
         agrees = UserAgrees(texts.waiting.Fill(isGreek, {DecimalText(state_.LocalPort)}),
                             texts.waitingTitle);
@@ -44,13 +44,13 @@ bool ConnectionActions::MayLeaveState(const LeaveTexts& texts, ConnectionState& 
         agrees = UserAgrees(texts.calling.Fill(isGreek, {remotePort}), texts.title);
         break;
     }
-    if (!agrees) return false;
-    if (StateOf(state_) == agreed) return true;
+    if (!agrees) return std::nullopt;
+    if (StateOf(state_) == asked) return asked;
   }
 }
 
 bool ConnectionActions::MayStillLeaveState(const LeaveTexts& texts, ConnectionState agreed) {
-  return StateOf(state_) == agreed || MayLeaveState(texts, agreed);
+  return StateOf(state_) == agreed || AskToLeaveState(texts).has_value();
 }
 
 bool ConnectionActions::UserAgrees(const std::u16string& text, const TextPair& title) {

@@ -1,14 +1,15 @@
-// The actions behind the connection commands. Each reports its own failures, and ends by giving the
+// The actions of the connection commands. Each reports its own failures, and finally gives the
 // focus back to the command pane. `commandLine` is the line as it was typed; the menu entries run
 // the actions with the bare command word.
 //
-// Their boxes let socket events through, so a state that was asked about may be gone when the
-// answer comes. An answer counts only for the state it was given in: when another one has taken its
-// place, that one is asked about, and nothing is done that the user has not agreed to.
+// Socket events still happen while their boxes are open, so the state may change before the user
+// answers. An answer counts only for the state in which the question was asked. If the state has
+// changed, the user is asked about the new one: nothing is done that the user has not agreed to.
 #pragma once
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -56,7 +57,7 @@ class ConnectionActions {
   void mnuToolsNick_Click();
 
  private:
-  // What an action that ends whatever there is says of each state before it does.
+  // The boxes that an action shows before it ends the current state.
   struct LeaveTexts {
     const TextPair& connected;  // a refusal; %1 address, %2 port
     const TextPair& waiting;    // a question; %1 local port
@@ -65,34 +66,34 @@ class ConnectionActions {
     const TextPair& title;    // of the refusal and of the question about a call
   };
 
-  // Runs an action: its failures are reported, the focus goes back to the command pane.
+  // Runs an action, reports its failures, and gives the focus back to the command pane.
   void Run(Procedure procedure, const std::function<void()>& action);
   // Notes in AppState what the user has chosen from a menu, as if the word had been typed; returns
   // the word.
   std::u16string_view RecordCommand(std::u16string_view commandWord);
 
-  // Refuses while Connected, asks while Waiting or Calling. True when the state in force may be
-  // left; `agreed` is that state.
-  bool MayLeaveState(const LeaveTexts& texts, ConnectionState& agreed);
-  // The same for boxes shown since: true at once while the state is the agreed one.
+  // Refuses while Connected, asks while Waiting or Calling. Returns the current state if it may be
+  // left, else none.
+  std::optional<ConnectionState> AskToLeaveState(const LeaveTexts& texts);
+  // Called after further boxes. True while the state is still the agreed one; otherwise asks again.
   bool MayStillLeaveState(const LeaveTexts& texts, ConnectionState agreed);
   // No is the default.
   bool UserAgrees(const std::u16string& text, const TextPair& title);
 
   // "" when the user gave up.
   std::u16string AskHost();
-  // A port, or -1 when the user gave up.
-  std::int32_t AskRemotePort();
-  // False when the user gave up.
-  bool MendLocalPort(std::u16string& portText);
+  // None when the user gave up.
+  std::optional<std::int32_t> AskRemotePort();
+  // Asks until the text is a port. False when the user gave up.
+  bool CorrectLocalPort(std::u16string& portText);
   std::u16string AskNickname(std::u16string candidate);
   std::u16string ExitQuestion(ConnectionState asked) const;
 
   void SetStatus(std::u16string_view text);
-  // Leaves Connected: status line and log say that the user did it, and the log is closed.
+  // Says in the status line and the log that the user closed the connection, and closes the log.
   void RecordClosedByUser();
-  // What the command leaves in the dialogue pane, which is usually nothing; empties the command
-  // pane.
+  // Writes the command's line, which is usually empty, into the dialogue pane, and empties the
+  // command pane.
   void WriteOutgoingText();
   std::u16string_view In(const TextPair& text) const { return text.In(state_.IsGreek); }
 

@@ -21,8 +21,8 @@ void EnterState(AppState& state, ConnectionState entered) {
 }
 
 void ResetConnection(AppState& state, Platform& platform) {
-  // Some of these lines may be told of when another conversation is on. Before the handshake there
-  // is none that they belong to.
+  // That these lines were not delivered may become known only during the next conversation, and
+  // belongs into the log of this one. Before the handshake there is no conversation.
   if (platform.sckControl.LinesWaiting() > 0) {
     const bool isConversation = StateOf(state) == ConnectionState::Connected;
     state.ClosedLog = isConversation ? LogPath(state, platform.files) : std::u16string();

@@ -1,4 +1,4 @@
-// The connection's state, kept as three flags of AppState.
+// The state of the connection, stored as three flags of AppState.
 #pragma once
 
 #include "platform/platform.h"
@@ -10,10 +10,10 @@ enum class ConnectionState { Idle, Waiting, Calling, Connected };
 
 ConnectionState StateOf(const AppState& state);
 
-// Sets the flags; the state that is left needs nothing else.
+// Sets the flags. Leaving a state needs nothing else.
 void EnterState(AppState& state, ConnectionState entered);
 
-// Back to Idle from wherever: clears the flags, lblLocalPort, lblRemoteIP, lblRemotePort and
+// Goes back to Idle from any state: clears the flags, lblLocalPort, lblRemoteIP, lblRemotePort and
 // lblWaiting, turns the lamp red and closes the socket, which still sends what waits.
 void ResetConnection(AppState& state, Platform& platform);
 

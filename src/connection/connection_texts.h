@@ -1,5 +1,5 @@
-// The texts of every box that the connection shows, per action. "%1" and "%2" are what the comment
-// above a text says.
+// The texts of all boxes of the connection, by action. The comment above a text says what "%1" and
+// "%2" stand for.
 #pragma once
 
 #include "shell/text_pair.h"

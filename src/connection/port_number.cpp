@@ -4,15 +4,10 @@
 #include <optional>
 
 #include "platform/run_time_failure.h"
+#include "shell/trim.h"
 
 namespace verlume {
 namespace {
-
-std::u16string_view WithoutBlanks(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
-}
 
 template <class Integer>
 Integer Narrow(std::int64_t value) {
@@ -22,7 +17,7 @@ Integer Narrow(std::int64_t value) {
   return static_cast<Integer>(value);
 }
 
-// Nothing when the text is no whole number.
+// None when the text is not a whole number.
 std::optional<std::int32_t> WholeNumber(std::u16string_view text) {
   const bool isNegative = text.starts_with(u'-');
   if (isNegative || text.starts_with(u'+')) text.remove_prefix(1);
@@ -30,7 +25,7 @@ std::optional<std::int32_t> WholeNumber(std::u16string_view text) {
   std::int64_t value = 0;
   for (const char16_t digit : text) {
     value = value * 10 + (digit - u'0');
-    // Further digits only make it greater; stopping here keeps the sum itself from overflowing.
+    // Further digits only make it larger; stopping here avoids an overflow of `value`.
     if (value > std::numeric_limits<std::uint32_t>::max()) break;
   }
   return Narrow<std::int32_t>(isNegative ? -value : value);
@@ -39,12 +34,12 @@ std::optional<std::int32_t> WholeNumber(std::u16string_view text) {
 }  // namespace
 
 bool IsPortNumber(std::u16string_view text, std::int32_t min, std::int32_t max) {
-  const std::optional<std::int32_t> number = WholeNumber(WithoutBlanks(text));
+  const std::optional<std::int32_t> number = WholeNumber(Trim(text));
   return number && *number >= min && *number <= max;
 }
 
 std::int16_t PortNumberOf(std::u16string_view text) {
-  return Narrow<std::int16_t>(WholeNumber(WithoutBlanks(text)).value_or(0));
+  return Narrow<std::int16_t>(WholeNumber(Trim(text)).value_or(0));
 }
 
 }  // namespace verlume

@@ -6,18 +6,18 @@
 
 namespace verlume {
 
-// What the user may type: any whole number that is not negative. How much of it is a port shows
-// when it is used (PortNumberOf).
+// The numbers that the user may type. Larger ones than a port can be are refused only when they are
+// used (PortNumberOf).
 inline constexpr std::int32_t kLeastPort = 0;
 inline constexpr std::int32_t kGreatestPort = 2147483647;
 
-// True when the text, without the blanks around it, is a whole number from min to max: digits with
-// at most one sign before them, and nothing else (no point, no blank, no exponent, no separators).
-// Throws RunTimeFailure 6 when the number does not fit into 32 bits.
+// True when the text is a whole number from min to max: digits with at most one sign before them,
+// and nothing else (no decimal point, blanks within, exponent or separators). Blanks around it are
+// ignored. Throws RunTimeFailure 6 when the number does not fit into 32 bits.
 bool IsPortNumber(std::u16string_view text, std::int32_t min, std::int32_t max);
 
-// The number in a text for which IsPortNumber holds. Throws RunTimeFailure 6 when it does not fit
-// into 16 bits, which ends at 32767.
+// The number in a text for which IsPortNumber is true. Throws RunTimeFailure 6 when it is larger
+// than 32767, that is, does not fit into 16 bits.
 std::int16_t PortNumberOf(std::u16string_view text);
 
 }  // namespace verlume

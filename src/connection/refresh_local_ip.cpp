@@ -11,13 +11,15 @@ void ConnectionActions::RefreshLocalIP() {
       platform_.dialogs.ShowMessage(Note(In(texts::kNoNeed), In(texts::kTitle)));
       return;
     }
-    const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kTitle, texts::kCalling,
-                              texts::kTitle};
-    ConnectionState agreed;
-    if (!MayLeaveState(leave, agreed)) return;
+    const LeaveTexts leave = {.connected = texts::kConnected,
+                              .waiting = texts::kWaiting,
+                              .waitingTitle = texts::kTitle,
+                              .calling = texts::kCalling,
+                              .title = texts::kTitle};
+    if (!AskToLeaveState(leave)) return;
 
     ResetConnection(state_, platform_);
-    // Read again: the machine may have moved on while the question was open.
+    // Read again: the address may have changed while the question was open.
     state_.LocalAddress = platform_.sckControl.LocalIP();
     platform_.frmMain.lblLocalIP.SetCaption(state_.LocalAddress);
     with_.statusPanel.ClearValues();

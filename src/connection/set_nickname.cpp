@@ -4,12 +4,13 @@
 #include "connection/connection_texts.h"
 #include "richtext/characters.h"
 #include "shell/nickname.h"
+#include "shell/setting_names.h"
 
 namespace verlume {
 namespace {
 
-// A NUL ends a nickname on the wire, and a line break would tear the tag of every dialogue line:
-// no control character is typed, so what a paste brings along is no part of a nickname.
+// A NUL would end the nickname on the wire, and a line break would split the tag of every dialogue
+// line. Nobody types control characters; they come only with pasted text.
 std::u16string WithoutControlCharacters(std::u16string text) {
   std::erase_if(text, richtext::IsControlCharacter);
   return text;
@@ -23,8 +24,8 @@ void ConnectionActions::SetNickname(std::u16string_view commandLine) {
     const std::u16string nickname = AskNickname(parts.size() > 1 ? parts[1] : u"");
     if (nickname.empty()) return;
 
-    // Written before it is taken on: a nickname that cannot be kept changes nothing.
-    with_.settings.WriteSetting(u"General", u"Nickname", nickname);
+    // Saved first: if that fails, the nickname does not change.
+    with_.settings.WriteSetting(setting_section::kGeneral, setting_key::kNickname, nickname);
     state_.Nickname = nickname;
     platform_.frmMain.lblLocalNickname.SetCaption(ShowableNickname(nickname));
     WriteOutgoingText();
@@ -32,7 +33,7 @@ void ConnectionActions::SetNickname(std::u16string_view commandLine) {
   });
 }
 
-// The candidate, or what the user types until it is a nickname. "" when the user gave up.
+// The candidate, or what the user types, until it is a valid nickname. "" when the user gave up.
 std::u16string ConnectionActions::AskNickname(std::u16string candidate) {
   namespace texts = connection_texts::set_nickname;
   for (;;) {

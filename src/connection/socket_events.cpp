@@ -13,14 +13,14 @@ void SocketEvents::sckControl_ConnectionRequest(std::int64_t requestId) {
     const std::u16string ip = platform_.sckControl.RemoteHostIP();
     ShowPeer(ip);
     const bool isAccepted = AskWhetherToAccept(ip);
-    // The wait may have ended while the question was open (any error ends it): then there is no
-    // call left to accept or reject, and what ended it has said so.
+    // The wait may have ended while the question was open: any error ends it, and has been
+    // reported. Then there is no call to accept or reject.
     const bool isStillWaiting = StateOf(state_) == ConnectionState::Waiting &&
                                 platform_.sckControl.State() == SocketState::Listening;
     if (!isStillWaiting) return;
     if (isAccepted) {
       platform_.sckControl.Close();
-      MeetStranger();
+      ForgetRemoteNickname();
       platform_.sckControl.Accept(requestId);
       wire_.SendStart();
     } else {
@@ -42,9 +42,9 @@ bool SocketEvents::AskWhetherToAccept(const std::u16string& ip) {
 }
 
 void SocketEvents::sckControl_Connect() {
-  // Nothing is sent: the side that was called speaks first.
+  // Nothing is sent: the side that was called sends first.
   errors_.Guard(Procedure::sckControl_Connect, [this] {
-    MeetStranger();
+    ForgetRemoteNickname();
     ShowPeer(platform_.sckControl.RemoteHostIP());
   });
 }
@@ -70,9 +70,9 @@ void SocketEvents::sckControl_Close() {
   });
 }
 
-// Until the peer has named itself, what it says is nobody's. The status panel goes on telling of
-// the last conversation.
-void SocketEvents::MeetStranger() {
+// What the new peer says before it sends its nickname must not appear under the last peer's
+// nickname. The status panel still shows the last conversation.
+void SocketEvents::ForgetRemoteNickname() {
   state_.RemoteNickname.clear();
 }
 

@@ -1,4 +1,4 @@
-// What the program does on each event of its socket. Each procedure reports its own failures.
+// What the program does at each event of its socket. Each procedure reports its own failures.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ class SocketEvents {
                DialogueLog& log)
       : state_(state), platform_(platform), errors_(errors), wire_(wire), log_(log) {}
 
-  // Asks the user, modally; acts on the answer only if this side is still listening by then.
+  // Asks the user in a modal box, and acts on the answer only if this side is still listening then.
   void sckControl_ConnectionRequest(std::int64_t requestId);
   void sckControl_Connect();
   void sckControl_DataArrival(std::int32_t bytesTotal);
@@ -27,11 +27,11 @@ class SocketEvents {
 
  private:
   bool AskWhetherToAccept(const std::u16string& ip);
-  // A connection to somebody who has not told a nickname yet.
-  void MeetStranger();
-  // A connection to a peer is being established.
+  // A new peer has no nickname until it sends one.
+  void ForgetRemoteNickname();
+  // Shows that a connection to this peer is being established.
   void ShowPeer(const std::u16string& ip);
-  // A text with %1 host, %2 port.
+  // Shows a text in which %1 is the host and %2 the port.
   void SetStatus(const TextPair& text, const std::u16string& host, std::int32_t port);
 
   AppState& state_;

@@ -1,4 +1,5 @@
-// What lblStatus says of the connection. "%1" and "%2" are what the comment above a text says.
+// What lblStatus says about the connection. The comment above a text says what "%1" and "%2" stand
+// for.
 #pragma once
 
 #include "shell/text_pair.h"

@@ -10,18 +10,21 @@ namespace verlume {
 void ConnectionActions::WaitForCall(std::u16string_view commandLine) {
   namespace texts = connection_texts::wait_for_call;
   Run(Procedure::WaitForCall, [this, commandLine] {
-    const LeaveTexts leave = {texts::kConnected, texts::kWaiting, texts::kPortTitle,
-                              texts::kCalling, texts::kTitle};
-    ConnectionState agreed;
-    if (!MayLeaveState(leave, agreed)) return;
+    const LeaveTexts leave = {.connected = texts::kConnected,
+                              .waiting = texts::kWaiting,
+                              .waitingTitle = texts::kPortTitle,
+                              .calling = texts::kCalling,
+                              .title = texts::kTitle};
+    const std::optional<ConnectionState> agreed = AskToLeaveState(leave);
+    if (!agreed) return;
 
     // Without a port the system chooses one.
     const auto parts = CommandParts(commandLine, 2);
     std::u16string portText = parts.size() > 1 ? parts[1] : u"0";
-    if (!MendLocalPort(portText)) return;
+    if (!CorrectLocalPort(portText)) return;
     const std::int16_t port = PortNumberOf(portText);
-    // The port may have been asked for while the call was being answered.
-    if (!MayStillLeaveState(leave, agreed)) return;
+    // The call may have been answered while the port was being asked for.
+    if (!MayStillLeaveState(leave, *agreed)) return;
 
     ResetConnection(state_, platform_);
     platform_.sckControl.SetLocalPort(port);
@@ -33,12 +36,12 @@ void ConnectionActions::WaitForCall(std::u16string_view commandLine) {
     platform_.frmMain.lblLocalPort.SetCaption(portInUse);
     EnterState(state_, ConnectionState::Waiting);
     ShowLamp(state_, platform_.frmMain);
-    // Last: if this line cannot be written, the report of that ends the wait.
+    // Last: if this line cannot be written, the error report ends the wait.
     WriteOutgoingText();
   });
 }
 
-bool ConnectionActions::MendLocalPort(std::u16string& portText) {
+bool ConnectionActions::CorrectLocalPort(std::u16string& portText) {
   namespace texts = connection_texts::wait_for_call;
   while (!IsPortNumber(portText, kLeastPort, kGreatestPort)) {
     platform_.dialogs.ShowMessage(Note(In(connection_texts::kWrongPort), In(texts::kPortTitle)));

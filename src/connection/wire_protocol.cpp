@@ -4,18 +4,15 @@
 
 #include "connection/connection_state.h"
 #include "connection/status_texts.h"
+#include "platform/protocol_marker.h"
 #include "platform/run_time_failure.h"
 #include "shell/delivery.h"
 #include "shell/language_texts.h"
 #include "shell/maker_texts.h"
 #include "shell/nickname.h"
-#include "stream/protocol_marker.h"
 
 namespace verlume {
 namespace {
-
-using stream::kMarkerLength;
-using stream::kMarkerTextLength;
 
 constexpr char16_t kStart = u'S';
 constexpr char16_t kConfirm = u'C';
@@ -32,7 +29,8 @@ constexpr std::size_t LengthOfMarkerParts() {
 }
 static_assert(LengthOfMarkerParts() == kMarkerTextLength);
 
-// The one character after the marker; NUL, which is no kind, when there is none.
+// The character after the marker, which is the kind of the message; NUL, which is no kind, if there
+// is none.
 char16_t KindOf(std::u16string_view data) {
   return data.size() > kMarkerLength ? data[kMarkerLength] : u'\0';
 }
@@ -100,7 +98,7 @@ void WireProtocol::ShowLinesWaiting() {
 
 void WireProtocol::OnUndelivered(std::size_t lines) {
   const ConnectionState on = StateOf(state_);
-  // A connection that breaks is closed by now, and its state is still there.
+  // If the connection has just broken, the socket is closed but the state is not Idle yet.
   const bool isBroken =
       on != ConnectionState::Idle && platform_.sckControl.State() == SocketState::Closed;
   state_.LinesUndelivered = lines;
@@ -110,14 +108,15 @@ void WireProtocol::OnUndelivered(std::size_t lines) {
   if (isBroken) {
     with_.log.AppendConnectionLine(text);
   } else {
-    with_.log.AppendAfterwards(text);
+    with_.log.AppendToClosedLog(text);
   }
 }
 
 void WireProtocol::OnStart(std::u16string_view data) {
   state_.LocalPort = platform_.sckControl.LocalPort();
   platform_.frmMain.lblLocalPort.SetCaption(DecimalText(state_.LocalPort));
-  // A failed answer has been reported, which has ended the connection: there is nothing to confirm.
+  // If the answer failed, the error report has ended the connection, and there is nothing to
+  // confirm.
   if (SendWithNickname(kConfirm)) OnConfirm(data);
 }
 

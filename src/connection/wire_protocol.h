@@ -1,4 +1,4 @@
-// The messages between two copies of the program: what is sent, and what an arrival does.
+// The messages between two copies of the program: how they are sent, and what an arriving one does.
 #pragma once
 
 #include <string>
@@ -14,8 +14,8 @@
 namespace verlume {
 
 // The fixed text that opens every protocol message: NUL, 67 characters, NUL. All of them are in
-// Windows-1253, so that it crosses the wire unchanged. It never changes: it is what two copies of
-// the program know each other by.
+// Windows-1253, so that they cross the wire unchanged. Two copies of the program recognise each
+// other by this text, so it never changes.
 std::u16string BuildProtocolMarker();
 
 class WireProtocol {
@@ -30,8 +30,9 @@ class WireProtocol {
                Collaborators collaborators)
       : state_(state), platform_(platform), errors_(errors), with_(collaborators) {}
 
-  // The only way anything is sent: one send, counted in lblBytesSent. Does nothing unless the
-  // socket is connected. A failure is reported (227), not thrown; only then is the result false.
+  // Everything is sent by this function: in one send, counted in lblBytesSent. Does nothing unless
+  // the socket is connected. A failure is reported (227), not thrown; only then is the result
+  // false.
   bool SendToPeer(std::u16string_view text, TextKind kind);
 
   void SendStart();                              // "S", right after accepting a call
@@ -39,21 +40,21 @@ class WireProtocol {
   void SendActionLine(std::u16string_view rtf);  // "M"
   void SendChatLine(std::u16string_view rtf) { SendToPeer(rtf, TextKind::Line); }
 
-  // One arrival of data is one message: it is counted in lblBytesReceived, and either changes the
-  // connection (handshake), or the peer's nickname, or is a line for the dialogue. Throws
-  // RunTimeFailure 5 when a handshake or nickname message has no end, 6 when the count overflows.
+  // Takes one arrival, which is one message, and counts it in lblBytesReceived. The message is part
+  // of the handshake, or the peer's new nickname, or a line for the dialogue. Throws RunTimeFailure
+  // 5 when a handshake or nickname message has no end, 6 when the count overflows.
   void OnDataArrival(std::u16string_view data);
 
-  // Shows the lines that the peer's machine has not acknowledged yet.
+  // Shows how many lines the peer's machine has not acknowledged yet.
   void ShowLinesWaiting();
-  // A connection ended before these lines arrived: the status line's tool tip and the log of its
-  // conversation say so, also when another one is on by then.
+  // A connection ended before these lines were delivered: says so in the tool tip of the status
+  // line and in the log of that conversation, even if the next one has begun.
   void OnUndelivered(std::size_t lines);
 
  private:
   void OnStart(std::u16string_view data);
   void OnConfirm(std::u16string_view data);
-  // Becomes Connected; returns what the status line says of it.
+  // Enters the state Connected; returns the text of the status line.
   std::u16string EnterConversation();
   void OpenLog(std::u16string_view statusText);
   void TakeNickname(std::u16string_view data);

@@ -4,6 +4,7 @@
 
 #include "macros/macro_editor_states.h"
 #include "macros/macro_editor_texts.h"
+#include "platform/char_code.h"
 
 namespace verlume {
 
@@ -17,11 +18,11 @@ void MacroEditor::OpenMacroEditor() {
 }
 
 void MacroEditor::ShowWindow() {
-  // What a failure leaves unset is missing in the window.
+  // After a failure the window is shown without what could not be set.
   errors_.Guard(Procedure::frmMacros_Load, [this] { Load(); });
   if (platform_.application.HasEnded()) return;
   platform_.frmMacros.window.ShowModal();
-  if (!platform_.application.HasEnded()) HandOver();
+  if (!platform_.application.HasEnded()) RunChosenMacro();
 }
 
 void MacroEditor::Load() {
@@ -66,12 +67,12 @@ void MacroEditor::SetCaptions() {
   }
 }
 
-void MacroEditor::HandOver() {
+void MacroEditor::RunChosenMacro() {
   const std::u16string macro = std::exchange(state_.MacroToRun, {});
   if (macro.empty()) return;
   RichTextBox& pane = platform_.frmMain.rtbCommands;
   pane.SetRtf(macro);
-  int enter = 13;
+  int enter = char_code::kEnter;
   if (pane.onKeyPress) pane.onKeyPress(enter);
 }
 
@@ -94,12 +95,12 @@ void MacroEditor::lstMacroNames_Click() {
   const int chosen = frmMacros.lstMacroNames.SelectedIndex();
   const std::u16string name = frmMacros.lstMacroNames.Item(chosen);
   if (errors_.Guard(Procedure::lstMacroNames_Click, [this, chosen] { Show(chosen); })) return;
-  // The text of another macro must not stand under this name.
+  // The text shown must not be that of another macro.
   if (store_.MacroExists(name)) return ShowNothing();
-  TakeFromList(chosen);
+  RemoveFromList(chosen);
 }
 
-// Where the file cannot be read this throws and has changed nothing.
+// If the file cannot be read, throws and changes nothing.
 void MacroEditor::Show(int index) {
   const MacroWindow& frmMacros = platform_.frmMacros;
   const std::u16string path = store_.MacroPath(frmMacros.lstMacroNames.Item(index));
@@ -117,7 +118,7 @@ void MacroEditor::ShowNothing() {
   EnterState(frmMacros, MacroEditorState::Empty);
 }
 
-void MacroEditor::TakeFromList(int index) {
+void MacroEditor::RemoveFromList(int index) {
   platform_.frmMacros.lstMacroNames.Remove(index);
   ShowNothing();
 }
@@ -136,10 +137,10 @@ void MacroEditor::rtbMacroText_GotFocus() {
 void MacroEditor::rtbMacroText_KeyDown(int& keyCode, int shift) {
   errors_.Guard(Procedure::frmMacros_Load, [this, &keyCode, shift] {
     if (IsBrowsing()) {
-      keyCode = 0;
+      keyCode = char_code::kSwallowed;
       FocusTextOrList();
     } else if (keyCode == key_code::kEscape && shift == 0) {
-      keyCode = 0;
+      keyCode = char_code::kSwallowed;
       platform_.frmMacros.rtbMacroText.SetText(u"");
     }
   });

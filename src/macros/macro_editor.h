@@ -1,5 +1,5 @@
-// The macro editor: the window frmMacros, in which macros are looked through, written, changed,
-// deleted and run.
+// The macro editor: the window frmMacros, in which macros are viewed, written, changed, deleted and
+// run.
 #pragma once
 
 #include <string>
@@ -19,15 +19,15 @@ class MacroEditor {
               MacroStyle& style)
       : state_(state), platform_(platform), errors_(errors), store_(store), style_(style) {}
 
-  // Shows the window until its Close or Run is pressed (mnuToolsEditMacros_Click). A macro that is
-  // run is put into the command pane, and Enter is pressed there.
+  // Shows the window until Close or Run is pressed (mnuToolsEditMacros_Click). Run puts the macro
+  // into the command pane and presses Enter there.
   void OpenMacroEditor();
 
-  // Only the program closes the window; the user is told so.
+  // Only the program may close the window; tells the user so.
   void Form_QueryUnload(bool& cancel, UnloadMode mode);
-  // Shows the macro; while one is being edited the list stays on that.
+  // Shows the chosen macro. While a macro is being edited, the list stays on that one.
   void lstMacroNames_Click();
-  // While nothing is being edited the keyboard is passed on to the list.
+  // While nothing is being edited, passes the focus on to the list.
   void rtbMacroText_GotFocus();
   void rtbMacroText_KeyDown(int& keyCode, int shift);
 
@@ -44,25 +44,25 @@ class MacroEditor {
   void ShowWindow();
   void Load();
   void SetCaptions();
-  void HandOver();
+  void RunChosenMacro();
 
   void Show(int index);
   void ShowNothing();
-  void TakeFromList(int index);
-  // Where the keyboard belongs: to the text while it is edited, else to the list. The text alone
-  // would not pass it on when it has it already.
+  void RemoveFromList(int index);
+  // Gives the focus to the text while it is being edited, else to the list. rtbMacroText_GotFocus
+  // is not enough for that: it is not raised when the text already has the focus.
   void FocusTextOrList();
   void BeginNew(std::u16string_view name);
-  // Writes the text under the name, which becomes the one shown.
+  // Saves the text as the macro of that name, and shows that macro.
   void Save(std::u16string_view name);
 
   std::u16string AskOtherName(std::u16string_view current);
-  bool TellsNothingToSave(const TextPair& title);
+  bool RefuseEmptyText(const TextPair& title);
   bool Confirms(const TextPair& question, const TextPair& title, std::u16string_view name);
 
   // The name at AppState::MacroIndex.
   std::u16string CurrentName() const;
-  // Makes the name the one that is shown in the list, where it stands once.
+  // Selects the name in the list, and first adds it if it is missing.
   void SelectName(std::u16string_view name);
   bool IsListed(std::u16string_view name) const { return IndexOf(name) >= 0; }
   int IndexOf(std::u16string_view name) const;

@@ -23,7 +23,7 @@ void MacroEditor::cmdAdd_Click() {
   });
 }
 
-// No file is written yet. Where the style fails the macro is there all the same, to be written
+// No file is written yet. If setting the style fails, the new macro stays and can be written
 // without it.
 void MacroEditor::BeginNew(std::u16string_view name) {
   EnterState(platform_.frmMacros, MacroEditorState::New);
@@ -42,21 +42,21 @@ void MacroEditor::cmdEdit_Click() {
 
 void MacroEditor::cmdSave_Click() {
   errors_.Guard(Procedure::cmdSave_Click, [this] {
-    if (!TellsNothingToSave(texts::save::kTitle)) Save(CurrentName());
+    if (!RefuseEmptyText(texts::save::kTitle)) Save(CurrentName());
   });
   FocusTextOrList();
 }
 
 void MacroEditor::cmdSaveAs_Click() {
   errors_.Guard(Procedure::cmdSaveAs_Click, [this] {
-    if (TellsNothingToSave(texts::save_as::kTitle)) return;
+    if (RefuseEmptyText(texts::save_as::kTitle)) return;
     const std::u16string name = AskOtherName(CurrentName());
     if (!name.empty()) Save(name);
   });
   FocusTextOrList();
 }
 
-// Nothing changes where the file cannot be written: what was typed can be saved again.
+// If the file cannot be written, nothing changes: the text can be saved again.
 void MacroEditor::Save(std::u16string_view name) {
   platform_.frmMacros.rtbMacroText.SaveFile(store_.MacroPath(name), TextFileFormat::RichText);
   if (name != CurrentName()) SelectName(name);
@@ -70,7 +70,7 @@ void MacroEditor::cmdCancel_Click() {
     if (store_.MacroExists(name)) {
       Show(state_.MacroIndex);
     } else {
-      TakeFromList(state_.MacroIndex);
+      RemoveFromList(state_.MacroIndex);
     }
   });
   FocusTextOrList();
@@ -81,15 +81,15 @@ void MacroEditor::cmdDelete_Click() {
   const bool isDone = errors_.Guard(Procedure::cmdDelete_Click, [this, &name] {
     if (!Confirms(texts::remove::kQuestion, texts::remove::kTitle, name)) return;
     platform_.files.Delete(store_.MacroPath(name));
-    TakeFromList(state_.MacroIndex);
+    RemoveFromList(state_.MacroIndex);
   });
-  // What has gone already is not there to be shown either.
-  if (!isDone && !store_.MacroExists(name)) TakeFromList(state_.MacroIndex);
+  // If the file is gone although deleting it failed, the macro leaves the list too.
+  if (!isDone && !store_.MacroExists(name)) RemoveFromList(state_.MacroIndex);
   FocusTextOrList();
 }
 
-// The name of a macro that is not there, may be replaced, or is the current one; "" when the user
-// gives up.
+// A name that no macro has, or that the user agrees to replace, or the current one; "" when the
+// user gives up.
 std::u16string MacroEditor::AskOtherName(std::u16string_view current) {
   const std::u16string prompt = texts::save_as::kPrompt.Fill(state_.IsGreek, {current});
   std::u16string name;
@@ -103,7 +103,7 @@ std::u16string MacroEditor::AskOtherName(std::u16string_view current) {
   return {};
 }
 
-bool MacroEditor::TellsNothingToSave(const TextPair& title) {
+bool MacroEditor::RefuseEmptyText(const TextPair& title) {
   if (platform_.frmMacros.rtbMacroText.TextLength() > 0) return false;
   platform_.dialogs.ShowMessage(
       Note(texts::save::kNothing.In(state_.IsGreek), title.In(state_.IsGreek)));

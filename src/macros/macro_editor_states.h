@@ -1,5 +1,5 @@
-// The four states of the macro editor, in one table: everything that follows from the state of the
-// window is set from its row and from nowhere else.
+// The four states of the macro editor, in one table: everything that depends on the state of the
+// window is set from its row and nowhere else.
 #pragma once
 
 #include <string_view>
@@ -11,16 +11,16 @@ namespace verlume {
 enum class MacroEditorState {
   Empty,    // no macro is chosen
   Showing,  // a macro is shown
-  New,      // one is being written that has no file yet
-  Editing,  // one is being changed
+  New,      // a new macro is being written; it has no file yet
+  Editing,  // a macro is being changed
 };
 
-// Sets the eight buttons, the read-only switch of the text box, and both markers.
+// Sets the eight buttons, the text box's read-only switch, and both markers.
 void EnterState(const MacroWindow& frmMacros, MacroEditorState state);
 
-// Whether a marker says "no", in any letter case. That of the text box says so while macros are
-// looked through; that of the list while it is pinned to the macro that is written or changed, and
-// while it is empty.
+// Whether a marker is "no", in any letter case. The text box's marker is "no" while no macro is
+// being written or changed. The list's marker is "no" while one is, because the list then stays on
+// that macro, and while the list is empty.
 bool SaysNo(std::u16string_view marker);
 
 }  // namespace verlume

@@ -10,9 +10,9 @@
 
 namespace verlume {
 
-// Asks until the user types what could be a macro's name, and tells where it could not; each answer
-// is proposed the next time, and `proposed` the first. The prompt goes on with the characters to
-// avoid. "" when the user gives up or the program ends.
+// Asks until the user types a valid macro name, and says when a name is not valid. Proposes
+// `proposed` first and then the last answer. Appends the characters to avoid to the prompt. Returns
+// "" when the user gives up or the program ends.
 std::u16string AskMacroName(const AppState& state, Platform& platform, const TextPair& title,
                             std::u16string_view prompt, std::u16string_view proposed);
 

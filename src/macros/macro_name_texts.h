@@ -1,11 +1,11 @@
-// What is asked and told about the name of a macro, wherever one is typed.
+// Texts about the name of a macro, used wherever the user types one.
 #pragma once
 
 #include "shell/text_pair.h"
 
 namespace verlume::macro_name_texts {
 
-// Behind whatever a name is asked for.
+// Appended to every prompt for a name.
 inline constexpr TextPair kAvoid = {
     u"\r\n\r\n"
     u"Avoid using the characters"

@@ -15,9 +15,9 @@ class MacroSaving {
   MacroSaving(AppState& state, Platform& platform, ErrorReport& errors, MacroStore& store)
       : state_(state), platform_(platform), errors_(errors), store_(store) {}
 
-  // Asks for a name, writes what stands in the command pane under it and empties the pane
-  // (mnuToolsSaveMacro_Click). Where nothing stands there it offers the macro editor. A failure
-  // leaves the pane as it is.
+  // Asks for a name, saves the command pane as the macro of that name, and empties the pane
+  // (mnuToolsSaveMacro_Click). If the pane is empty, offers the macro editor instead. On failure
+  // the pane stays as it is.
   void SaveCommandPaneAsMacro();
 
  private:

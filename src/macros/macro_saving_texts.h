@@ -1,4 +1,4 @@
-// What is asked and told when the command pane is saved as a macro, besides macro_name_texts.h.
+// Texts for saving the command pane as a macro, in addition to macro_name_texts.h.
 #pragma once
 
 #include "shell/text_pair.h"

@@ -1,48 +1,18 @@
 #include "macros/macro_style.h"
 
-#include "shell/raised.h"
+#include "shell/scoped_flag.h"
 
 namespace verlume {
-namespace {
-
-SelectionFormat FormatOf(const AppState& state) {
-  return {.fontName = state.MacroFontName,
-          .fontSize = state.MacroFontSize,
-          .color = state.MacroColor,
-          .bold = state.MacroBold,
-          .italic = state.MacroItalic,
-          .underline = state.MacroUnderline,
-          .strikethrough = state.MacroStrikethrough};
-}
-
-// What is undetermined of the flags is off; a font, size or colour that is stays as it was.
-void TakeFormat(AppState& state, const SelectionFormat& format) {
-  state.MacroFontName = format.fontName.value_or(state.MacroFontName);
-  state.MacroFontSize = format.fontSize.value_or(state.MacroFontSize);
-  state.MacroColor = format.color.value_or(state.MacroColor);
-  state.MacroBold = format.bold.value_or(false);
-  state.MacroItalic = format.italic.value_or(false);
-  state.MacroUnderline = format.underline.value_or(false);
-  state.MacroStrikethrough = format.strikethrough.value_or(false);
-}
-
-}  // namespace
 
 void MacroStyle::TakeCommandStyle() {
-  state_.MacroFontName = state_.FontName;
-  state_.MacroBold = state_.FontBold;
-  state_.MacroItalic = state_.FontItalic;
-  state_.MacroStrikethrough = state_.FontStrikethrough;
-  state_.MacroUnderline = state_.FontUnderline;
-  state_.MacroColor = state_.FontColor;
-  state_.MacroFontSize = state_.FontSize;
+  state_.MacroFont = state_.Font;
   ApplyToText();
   TakeStyleAtCaret();
 }
 
 void MacroStyle::StartEmptyText() {
-  // The style found in a text that is going must not come into force.
-  const Raised emptying(settling_);
+  // The style of the old text must not become the macro style.
+  const ScopedFlag emptying(updating_);
   platform_.frmMacros.rtbMacroText.SetText(u"");
   ApplyMacroStyle();
 }
@@ -53,12 +23,12 @@ void MacroStyle::ApplyMacroStyle() {
 }
 
 void MacroStyle::ApplyToText() {
-  const Raised applying(settling_);
+  const ScopedFlag applying(updating_);
   RichTextBox& text = platform_.frmMacros.rtbMacroText;
   if (text.TextLength() == 0) text.Select(0, 0);
   text.SetFontCharset(richtext::kGreekCharset);
   const bool wouldChangeShownMacro = text.Locked() && text.SelLength() > 0;
-  if (!wouldChangeShownMacro) text.SetSelFormat(FormatOf(state_));
+  if (!wouldChangeShownMacro) text.SetSelFormat(FormatOf(state_.MacroFont));
 }
 
 void MacroStyle::rtbMacroText_SelChange() {
@@ -67,40 +37,40 @@ void MacroStyle::rtbMacroText_SelChange() {
 
 void MacroStyle::TakeStyleAtCaret() {
   const RichTextBox& text = platform_.frmMacros.rtbMacroText;
-  if (settling_ || text.SelLength() > 0) return;
+  if (updating_ || text.SelLength() > 0) return;
   const SelectionFormat format = text.SelFormat();
-  TakeFormat(state_, format);
+  state_.MacroFont = StyleOf(format, state_.MacroFont);
   ShowStyle();
   if (format.color) platform_.frmMacros.lblColour.SetBackColor(*format.color);
 }
 
 void MacroStyle::ShowStyle() {
-  const Raised showing(settling_);
+  const ScopedFlag showing(updating_);
   const MacroWindow& frmMacros = platform_.frmMacros;
-  frmMacros.chkBold.SetValue(state_.MacroBold ? 1 : 0);
-  frmMacros.chkItalics.SetValue(state_.MacroItalic ? 1 : 0);
-  frmMacros.chkUnderlined.SetValue(state_.MacroUnderline ? 1 : 0);
+  frmMacros.chkBold.SetValue(state_.MacroFont.Bold ? 1 : 0);
+  frmMacros.chkItalics.SetValue(state_.MacroFont.Italic ? 1 : 0);
+  frmMacros.chkUnderlined.SetValue(state_.MacroFont.Underline ? 1 : 0);
 }
 
 void MacroStyle::chkBold_Click() {
-  SetFlag(state_.MacroBold, platform_.frmMacros.chkBold);
+  SetFlag(state_.MacroFont.Bold, platform_.frmMacros.chkBold);
 }
 
 void MacroStyle::chkItalics_Click() {
-  SetFlag(state_.MacroItalic, platform_.frmMacros.chkItalics);
+  SetFlag(state_.MacroFont.Italic, platform_.frmMacros.chkItalics);
 }
 
 void MacroStyle::chkUnderlined_Click() {
-  SetFlag(state_.MacroUnderline, platform_.frmMacros.chkUnderlined);
+  SetFlag(state_.MacroFont.Underline, platform_.frmMacros.chkUnderlined);
 }
 
 void MacroStyle::SetFlag(bool& flag, const CheckBox& box) {
-  if (settling_) return;
+  if (updating_) return;
   flag = box.Value() != 0;
   try {
     ApplyMacroStyle();
   } catch (...) {
-    // No report: the check box shows the user's choice, and the next key tries again.
+    // No report: the check box shows what the user wants, and the next key tries again.
     errors_.LogException(Procedure::frmMacros_Load);
   }
 }
@@ -108,8 +78,8 @@ void MacroStyle::SetFlag(bool& flag, const CheckBox& box) {
 void MacroStyle::lblColour_MouseDown(MouseButton button) {
   if (button == MouseButton::Right) return;
   errors_.Guard(Procedure::lblColour_MouseDown, [this] {
-    state_.MacroColor = platform_.dlgControl.ShowColor(state_.MacroColor);
-    platform_.frmMacros.lblColour.SetBackColor(state_.MacroColor);
+    state_.MacroFont.Color = platform_.dlgControl.ShowColor(state_.MacroFont.Color);
+    platform_.frmMacros.lblColour.SetBackColor(state_.MacroFont.Color);
     ApplyMacroStyle();
   });
 }

@@ -1,4 +1,4 @@
-// The style in force while a macro is edited, and the controls that show and set it.
+// The text style of the macro editor, and the controls that show and set it.
 #pragma once
 
 #include "platform/platform.h"
@@ -12,23 +12,23 @@ class MacroStyle {
   MacroStyle(AppState& state, Platform& platform, ErrorReport& errors)
       : state_(state), platform_(platform), errors_(errors) {}
 
-  // The command pane's style becomes the macro style, and is shown. Takes no focus.
+  // Makes the command pane's style the macro style, and shows it. Does not take the focus.
   void TakeCommandStyle();
-  // Empties the text box; what is typed into it next is of the macro style as it was before.
+  // Empties the text box. What is typed next has the macro style, which does not change.
   void StartEmptyText();
   // Applies the macro style to the selection or insertion point, and gives the text box the focus.
-  // What is selected in a locked box stays as it is.
+  // A selection in a locked box is left alone.
   void ApplyMacroStyle();
 
-  // A failure of these three is ignored.
+  // These three ignore failures.
   void chkBold_Click();
   void chkItalics_Click();
   void chkUnderlined_Click();
   void lblColour_MouseDown(MouseButton button);
-  // The style at the insertion point becomes the macro style, and is shown.
+  // Makes the style at the insertion point the macro style, and shows it.
   void TakeStyleAtCaret();
   void rtbMacroText_SelChange();
-  // The keys that set the style; Enter is swallowed too.
+  // Handles the keys that set the style, and swallows Enter.
   void rtbMacroText_KeyPress(int& charCode);
 
  private:
@@ -42,7 +42,7 @@ class MacroStyle {
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;
-  bool settling_ = false;  // the program changes box and controls: their events are echoes
+  bool updating_ = false;  // this object is changing the box and controls: their events are ignored
 };
 
 }  // namespace verlume

@@ -1,29 +1,20 @@
-// The keys that set the macro style, and what they ask.
+// The keys that set the macro style, and the questions that they ask.
 #include <algorithm>
 #include <iterator>
 #include <optional>
 #include <string>
 
 #include "macros/macro_style.h"
+#include "platform/char_code.h"
 #include "shell/conversions.h"
 #include "shell/font_size_texts.h"
 #include "shell/settings_reader.h"
+#include "shell/trim.h"
 
 namespace verlume {
 namespace {
 
-namespace char_code {
-constexpr int kCtrlB = 2;
-constexpr int kCtrlF = 6;
-constexpr int kCtrlI = 9;  // and Tab
-constexpr int kCtrlEnter = 10;
-constexpr int kCtrlK = 11;
-constexpr int kEnter = 13;
-constexpr int kCtrlS = 19;
-constexpr int kCtrlU = 21;
-}  // namespace char_code
-
-bool IsOfTheEditor(int charCode) {
+bool IsEditorKey(int charCode) {
   using namespace char_code;
   const int all[] = {kCtrlB, kCtrlF, kCtrlI, kCtrlEnter, kCtrlK, kEnter, kCtrlS, kCtrlU};
   return std::find(std::begin(all), std::end(all), charCode) != std::end(all);
@@ -33,13 +24,11 @@ void Toggle(CheckBox& box) {
   box.SetValue(box.Value() != 0 ? 0 : 1);
 }
 
-// The size that the text names: a whole number in digits, blanks around it, from the smallest size
-// to the largest.
+// The size in the text: a whole number in digits, from the smallest to the largest size. Blanks
+// around it are ignored.
 std::optional<int> FontSizeOf(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == text.npos) return std::nullopt;
-  const std::u16string_view digits = text.substr(first, text.find_last_not_of(u' ') - first + 1);
-  if (digits.find_first_not_of(u"0123456789") != digits.npos) return std::nullopt;
+  const std::u16string_view digits = Trim(text);
+  if (digits.empty() || digits.find_first_not_of(u"0123456789") != digits.npos) return std::nullopt;
   int size = 0;
   for (const char16_t digit : digits) {
     size = std::min(size * 10 + (digit - u'0'), 1000);
@@ -52,9 +41,9 @@ std::optional<int> FontSizeOf(std::u16string_view text) {
 
 void MacroStyle::rtbMacroText_KeyPress(int& charCode) {
   errors_.Guard(Procedure::rtbMacroText_KeyPress, [this, &charCode] {
-    // What a key does may fail or take long; it is swallowed all the same.
+    // Swallowed first, because what the key does may fail or take long.
     const int pressed = charCode;
-    if (IsOfTheEditor(pressed)) charCode = 0;
+    if (IsEditorKey(pressed)) charCode = char_code::kSwallowed;
     Perform(pressed);
   });
 }
@@ -79,35 +68,21 @@ void MacroStyle::Perform(int charCode) {
 }
 
 void MacroStyle::ChooseFont() {
-  const FontChoice chosen =
-      platform_.dlgControl.ShowFont({.name = state_.MacroFontName,
-                                     .bold = state_.MacroBold,
-                                     .italic = state_.MacroItalic,
-                                     .underline = state_.MacroUnderline,
-                                     .strikethrough = state_.MacroStrikethrough,
-                                     .color = state_.MacroColor,
-                                     .size = state_.MacroFontSize},
-                                    kSmallestFontSize, kLargestFontSize);
-  state_.MacroFontName = chosen.name;
-  state_.MacroBold = chosen.bold;
-  state_.MacroItalic = chosen.italic;
-  state_.MacroStrikethrough = chosen.strikethrough;
-  state_.MacroUnderline = chosen.underline;
-  state_.MacroColor = chosen.color;
-  state_.MacroFontSize = chosen.size;
+  state_.MacroFont = StyleOf(platform_.dlgControl.ShowFont(FontChoiceOf(state_.MacroFont),
+                                                           kSmallestFontSize, kLargestFontSize));
   ApplyMacroStyle();
   TakeStyleAtCaret();
 }
 
 void MacroStyle::AskFontSize() {
   const std::u16string_view title = font_size_texts::kTitle.In(state_.IsGreek);
-  std::u16string proposed = NumberText(state_.MacroFontSize);
+  std::u16string proposed = NumberText(state_.MacroFont.Size);
   for (;;) {
     const std::u16string answer =
         platform_.dialogs.AskText(font_size_texts::kPrompt.In(state_.IsGreek), title, proposed);
     if (answer.empty()) return;
     if (const std::optional<int> size = FontSizeOf(answer)) {
-      state_.MacroFontSize = *size;
+      state_.MacroFont.Size = *size;
       return ApplyMacroStyle();
     }
     platform_.dialogs.ShowMessage(Note(font_size_texts::kRange.In(state_.IsGreek), title));

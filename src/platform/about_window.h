@@ -1,4 +1,4 @@
-// The About box, frmAbout, as the logic sees it: references to its controls, under their names.
+// The About box, frmAbout, as the logic sees it: references to its controls, by name.
 #pragma once
 
 #include "platform/control.h"

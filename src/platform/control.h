@@ -1,6 +1,6 @@
-// The controls of a window, each a small role. A control raises its events by calling the function
-// stored in the event's member, on the user-interface thread; an empty function is no handler.
-// Setting a property raises no event unless the operation says so.
+// The controls of a window, one small interface each. A control raises an event by calling the
+// function stored in the event's member, on the user-interface thread; an empty function is
+// ignored. Setting a property raises no event unless its comment says so.
 #pragma once
 
 #include <functional>
@@ -18,21 +18,22 @@ class Control {
  public:
   virtual ~Control() = default;
 
-  // The tool tip; it is also the control's description for assistive tools.
+  // The tool tip, which is also the control's description for assistive tools.
   virtual void SetToolTip(std::u16string_view text) = 0;
   virtual std::u16string ToolTip() const = 0;
-  // The name that assistive tools read; a control with a caption of its own needs none.
+  // The name that assistive tools read. A control with a caption needs none.
   virtual void SetAccessibleName(std::u16string_view name) = 0;
-  // Takes the keyboard focus inside its window; never raises a window above other programs'.
+  // Takes the keyboard focus within its window; never raises a window above other programs'
+  // windows.
   virtual void SetFocus() = 0;
-  // Opens the control's own paragraph of the help file in force.
+  // Opens the paragraph about the control in the current help file.
   virtual void ShowContextHelp() = 0;
 
   std::function<void(MouseButton)> onMouseDown;
   std::function<void(MouseButton)> onMouseUp;
 };
 
-// A line of text. What it shows is never markup.
+// A line of plain text, never interpreted as markup.
 class Label : public Control {
  public:
   virtual void SetCaption(std::u16string_view text) = 0;
@@ -41,7 +42,7 @@ class Label : public Control {
   virtual void SetTag(std::u16string_view text) = 0;
   virtual std::u16string Tag() const = 0;
   virtual void SetBackColor(Color color) = 0;
-  // Height in the units of Picture::Height.
+  // The height, in the units of Picture::Height.
   virtual void SetHeight(int height) = 0;
 };
 
@@ -63,7 +64,8 @@ class Lamp {
 class CheckBox : public Control {
  public:
   virtual void SetCaption(std::u16string_view text) = 0;
-  // 0 or 1. A change of value raises onClick, whoever made it; setting the same value does not.
+  // 0 or 1. Changing the value raises onClick, even from the program; setting the same value does
+  // not.
   virtual void SetValue(int value) = 0;
   virtual int Value() const = 0;
 
@@ -77,7 +79,7 @@ class Button : public Control {
   virtual void SetEnabled(bool enabled) = 0;
   virtual bool Enabled() const = 0;
 
-  // Does what the user's press of the button does: nothing while it is disabled.
+  // Does the same as a press by the user: nothing while the button is disabled.
   void Click() {
     if (Enabled() && onClick) onClick();
   }
@@ -96,31 +98,31 @@ class TextField : public Control {
   std::function<void()> onChange;
 };
 
-// A list of texts, of which the user selects one at a time. Items are counted from 0.
+// A list of texts, of which one at a time can be selected. Items are counted from 0.
 class ListBox : public Control {
  public:
   virtual void Clear() = 0;
-  // Behind the last item. What is selected stays so.
+  // Adds the text after the last item. The selection stays.
   virtual void Append(std::u16string_view text) = 0;
-  // When the item was the selected one, none is afterwards. Both do nothing where there is no such
-  // item; Item is "" there.
+  // If the item was selected, no item is selected afterwards. Remove does nothing and Item returns
+  // "" if there is no such item.
   virtual void Remove(int index) = 0;
   virtual int Count() const = 0;
   virtual std::u16string Item(int index) const = 0;
-  // -1 is none, also to Select; an item that is not there is none.
+  // -1 means no item. Selecting an item that does not exist selects none.
   virtual void Select(int index) = 0;
   virtual int SelectedIndex() const = 0;
-  // Makes the item the uppermost one in view, or as near to it as the list is long.
+  // Scrolls so that the item is the topmost one in view, as far as the list is long enough.
   virtual void ScrollToTop(int index) = 0;
   // The spare text property: kept, never shown.
   virtual void SetTag(std::u16string_view text) = 0;
   virtual std::u16string Tag() const = 0;
 
-  // The user has selected an item, by the mouse or a key, or clicked the one that was selected.
+  // The user has selected an item by mouse or key, or clicked the selected one again.
   std::function<void()> onClick;
 };
 
-// How far something has come, in per cent. It is there only while there is something to tell of.
+// Progress in per cent. Visible only while there is progress to show.
 class ProgressBar : public Control {
  public:
   virtual void SetValue(int percent) = 0;
@@ -129,29 +131,29 @@ class ProgressBar : public Control {
   virtual bool Visible() const = 0;
 };
 
-// A part of a window that is there only while it is asked for.
+// A part of a window that is visible only when needed.
 class Panel {
  public:
   virtual ~Panel() = default;
   virtual void SetVisible(bool visible) = 0;
   virtual bool Visible() const = 0;
-  // Whether one of its controls is the one of its window that keys go to.
+  // Whether the focus of its window is on one of its controls.
   virtual bool HasFocus() const = 0;
 };
 
-// One entry of a menu. Choosing it changes nothing by itself: the tick is set by the program.
+// An entry of a menu. Choosing it does not change the tick; only the program does.
 class MenuEntry {
  public:
   virtual ~MenuEntry() = default;
   virtual void SetCaption(std::u16string_view text) = 0;
   virtual std::u16string Caption() const = 0;
-  // Shown while the pointer rests on the entry; "" is none.
+  // Shown while the pointer rests on the entry; "" for none.
   virtual void SetToolTip(std::u16string_view text) = 0;
   virtual std::u16string ToolTip() const = 0;
   virtual void SetChecked(bool checked) = 0;
   virtual bool Checked() const = 0;
 
-  // Does what the user's choice of the entry does.
+  // Does the same as a choice by the user.
   void Click() {
     if (onClick) onClick();
   }
@@ -176,12 +178,12 @@ class Timer {
   std::function<void()> onTimer;
 };
 
-// Keeps every control's relative place and size while its window is resized.
+// Scales the positions and sizes of the controls with the window.
 class LayoutControl {
  public:
   virtual ~LayoutControl() = default;
 
-  // Raised once, after the window has been shown and laid out for the first time.
+  // Raised once, when the window has been shown and laid out for the first time.
   std::function<void()> onPostLayout;
 };
 

@@ -1,6 +1,6 @@
 // Message boxes, input boxes and the common dialogs. All are modal and synchronous: they return
-// when the user has answered, and let timer and socket events through while they wait, so the
-// caller re-reads whatever those events may have changed.
+// when the user has answered. Timer and socket events still happen while they wait, so the caller
+// must read again whatever those may have changed.
 #pragma once
 
 #include <cstdint>
@@ -21,12 +21,12 @@ struct Message {
   MessageIcon icon = MessageIcon::Information;
   MessageButtons buttons = MessageButtons::Ok;
   Answer defaultAnswer = Answer::Ok;
-  // The box appears without the user having asked for anything: keys are ignored for its first
-  // half second, so that what is being typed does not answer it, and the task bar entry is flagged.
+  // The user did nothing to cause the box: it ignores keys for its first half second, so that
+  // typing does not answer it by accident, and the window's task bar entry is flagged.
   bool unexpected = false;
 };
 
-// The four kinds of box that the program shows.
+// The four kinds of message box that the program shows.
 inline Message Note(std::u16string_view text, std::u16string_view title) {
   return {std::u16string(text), std::u16string(title), MessageIcon::Information, MessageButtons::Ok,
           Answer::Ok};
@@ -47,24 +47,25 @@ inline Message QuestionWithCancel(std::u16string_view text, std::u16string_view 
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
-  // The language of the buttons of every box and dialog from now on.
+  // Sets the language of the buttons of all boxes and dialogs from now on.
   virtual void SetLanguage(bool isGreek) = 0;
-  // Closing the box without a button answers Cancel where there is one, else No, else Ok.
+  // Closing the box without a button counts as Cancel if it has that button, else as No, else as
+  // Ok.
   virtual Answer ShowMessage(const Message& message) = 0;
-  // An input box for one line: a line break or another control character that is pasted comes back
-  // as a blank, half a surrogate pair as U+FFFD. Empty when the user cancels.
+  // An input box for one line: pasted line breaks and other control characters come back as blanks,
+  // half a surrogate pair as U+FFFD. Returns "" when the user cancels.
   virtual std::u16string AskText(std::u16string_view prompt, std::u16string_view title,
                                  std::u16string_view defaultText) = 0;
 };
 
-// What a file dialog starts from, and how it ended. Flags are the common dialog's classic ones.
+// Flags of a file dialog, with the classic numbers of the common dialog.
 namespace dialog_flag {
 inline constexpr std::uint32_t kOverwritePrompt = 0x2;
 inline constexpr std::uint32_t kHideReadOnly = 0x4;
 inline constexpr std::uint32_t kExtensionDifferent = 0x400;
 inline constexpr std::uint32_t kPathMustExist = 0x800;
 inline constexpr std::uint32_t kFileMustExist = 0x1000;
-// A file that is there and may not be written is refused in the dialog.
+// The dialog refuses a file that exists and is read-only.
 inline constexpr std::uint32_t kNoReadOnlyReturn = 0x8000;
 }  // namespace dialog_flag
 
@@ -72,9 +73,9 @@ struct FileChoice {
   std::u16string title;
   std::u16string initialFolder;  // empty or missing: the platform's choice
   std::u16string defaultExtension;
-  std::u16string fileName;  // in: the name proposed; out: the full path chosen
+  std::u16string fileName;  // in: the proposed name; out: the full path of the chosen file
   std::u16string filter;    // "description|pattern|..."
-  std::uint32_t flags = 0;  // out: kExtensionDifferent set when the chosen name has another one
+  std::uint32_t flags = 0;  // out: with kExtensionDifferent if that name has another extension
 };
 
 struct FontChoice {
@@ -97,7 +98,7 @@ class CommonDialog {
   virtual std::u16string ChooseFolder(std::u16string_view title,
                                       std::u16string_view initialFolder) = 0;
   virtual Color ShowColor(Color start) = 0;
-  // What comes back has a size from minimum to maximum.
+  // The size of the result is between minimum and maximum.
   virtual FontChoice ShowFont(const FontChoice& start, double minimumSize, double maximumSize) = 0;
 };
 

@@ -1,8 +1,8 @@
-// Files and folders. Paths are absolute. Local text is UTF-8; bytes that are not valid UTF-8 are
-// read as Windows-1253, and a byte order mark is no part of a text that is read.
+// Files and folders. Paths are absolute. Text is UTF-8; bytes that are not valid UTF-8 are read as
+// Windows-1253, and a byte order mark is not part of the text.
 //
-// Failures are RunTimeFailures: 53 no such file, 61 disk full, 70 permission denied, 75 the path is
-// not a file of that use (a folder, say), 76 no such folder.
+// Failures are RunTimeFailures: 53 no such file, 61 disk full, 70 permission denied, 75 the path
+// cannot be used as a file (a folder, say), 76 no such folder.
 #pragma once
 
 #include <cstdint>
@@ -16,28 +16,28 @@ class FileSystem {
  public:
   virtual ~FileSystem() = default;
 
-  // True when a directory of that path is found; "" never is. Never fails.
+  // True if the path is a directory; false for "". Never fails.
   virtual bool IsFolder(std::u16string_view path) const noexcept = 0;
-  // True when an ordinary file of that path is found. Never fails.
+  // True if the path is an ordinary file. Never fails.
   virtual bool IsFile(std::u16string_view path) const noexcept = 0;
-  // The names (not paths) of the ordinary files in a folder whose extension is `extension`
-  // (".rtf"), in any letter case, in the order in which the system gives them.
+  // The names (not paths) of the ordinary files in a folder with the extension (".rtf"), in any
+  // letter case, in the order of the file system.
   virtual std::vector<std::u16string> ListFiles(std::u16string_view folder,
                                                 std::u16string_view extension) const = 0;
 
-  // What a file holds, in bytes.
+  // The size of a file in bytes.
   virtual std::uint64_t SizeOf(std::u16string_view path) const = 0;
   virtual std::u16string ReadText(std::u16string_view path) const = 0;
   virtual std::string ReadBytes(std::u16string_view path) const = 0;
   // Replace a file in one step: a failure or a crash leaves the old content.
   virtual void ReplaceText(std::u16string_view path, std::u16string_view text) = 0;
   virtual void ReplaceBytes(std::u16string_view path, std::string_view bytes) = 0;
-  // Opens, appends, closes; makes the file when there is none. On failure nothing of the text
-  // stays.
+  // Opens the file, appends the text and closes the file; creates it if it does not exist. After a
+  // failure none of the text is in the file.
   virtual void AppendText(std::u16string_view path, std::u16string_view text) = 0;
   virtual void Delete(std::u16string_view path) = 0;
 
-  // What stands between the parts of a path.
+  // The character between the parts of a path.
   virtual char16_t Separator() const = 0;
 };
 

@@ -1,5 +1,5 @@
-// The macro editor's window, frmMacros, as the logic sees it: references to its controls, under
-// their names. It is shown in the middle of the screen.
+// The macro editor's window, frmMacros, as the logic sees it: references to its controls, by name.
+// It is shown in the middle of the screen.
 #pragma once
 
 #include "platform/control.h"

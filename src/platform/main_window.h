@@ -1,4 +1,4 @@
-// The main window, frmMain, as the logic sees it: references to its controls, under their names.
+// The main window, frmMain, as the logic sees it: references to its controls, by name.
 #pragma once
 
 #include "platform/control.h"
@@ -7,7 +7,7 @@
 
 namespace verlume {
 
-// The bar below the dialogue pane that finds words in it. The keys: Enter in the text field and F3
+// The bar below the dialogue pane for finding text in it. Its keys: Enter in the text field and F3
 // anywhere in the window press cmdFindNext, with Shift cmdFindPrevious; Escape in the bar presses
 // cmdFindClose.
 struct FindBar {
@@ -19,7 +19,7 @@ struct FindBar {
   Button& cmdFindClose;
 };
 
-// The list that lies over the window below the command pane. It never takes the keyboard focus.
+// The list shown over the window, below the command pane. It never takes the keyboard focus.
 struct CompletionList {
   Panel& fraCompletions;  // with the list in it
   ListBox& lstCompletions;
@@ -85,10 +85,10 @@ struct MainWindow {
   CheckBox& chkUnderline;
   Label& lblColor;
 
-  // The values of the status panel, and the caption beside each.
+  // The values of the status panel, each with its caption.
   Label& lblStatus;
-  ProgressBar& prgStatus;  // at the foot of lblStatus
-  Label& lblWaiting;       // the lines that have not arrived yet
+  ProgressBar& prgStatus;  // at the bottom of lblStatus
+  Label& lblWaiting;       // how many lines have not arrived yet
   Label& lblCurrentDateTime;
   Label& lblChatStartDateTime;
   Label& lblChatDuration;

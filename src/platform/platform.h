@@ -1,4 +1,4 @@
-// A whole platform: everything the program is built upon. It outlives the program.
+// Everything the program is built on. It outlives the program.
 #pragma once
 
 #include "platform/about_window.h"

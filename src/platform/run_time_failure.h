@@ -1,5 +1,5 @@
-// A run-time failure: the one exception that crosses the program's procedures. It is thrown where
-// the failure happens and caught by the wrapper around each procedure (shell/error_report.h).
+// A run-time failure: the only exception that passes between procedures. It is thrown where the
+// failure happens and caught by the wrapper around each procedure (shell/error_report.h).
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace verlume {
 
-// The classic numbers of the failures that the program meets.
+// The classic numbers of the failures that can happen.
 enum class FailureNumber : std::int32_t {
   InvalidProcedureCall = 5,
   Overflow = 6,
@@ -22,7 +22,7 @@ enum class FailureNumber : std::int32_t {
   Cancelled = 32755,
 };
 
-// The classic description of a number, in English.
+// The classic English description of a number.
 constexpr std::u16string_view DescriptionOf(FailureNumber number) {
   switch (number) {
     case FailureNumber::InvalidProcedureCall:

@@ -1,5 +1,5 @@
-// What the logic asks of the machine besides windows, sockets and files: the time, the user's
-// regional forms, the program's own place and its event loop, the help viewer, and other programs.
+// The rest of what the logic needs from the machine: the time, the regional settings, the program's
+// folders and event loop, the help viewer, and other programs.
 #pragma once
 
 #include <optional>
@@ -29,12 +29,12 @@ class Locale {
   virtual ~Locale() = default;
   virtual std::u16string LongDate(const LocalTime& time) const = 0;
   virtual std::u16string LongTime(const LocalTime& time) const = 0;
-  // What separates groups of three digits; may be "".
+  // The separator between groups of three digits; may be "".
   virtual std::u16string GroupSeparator() const = 0;
-  // Upper case; Greek letters keep their accents.
+  // The text in upper case; Greek letters keep their accents.
   virtual std::u16string UpperCase(std::u16string_view text) const = 0;
-  // What a letter has in common with its other forms: the letter without case and accents, a final
-  // sigma as any sigma. 0 for an accent that follows its letter; anything else is itself.
+  // The letter without case and accents; a final sigma becomes an ordinary one. 0 for a combining
+  // accent; any other character is returned as it is.
   virtual char16_t BaseLetter(char16_t c) const = 0;
 };
 
@@ -43,14 +43,14 @@ class Application {
   virtual ~Application() = default;
   // The folder of the executable, without a trailing separator.
   virtual std::u16string ProgramFolder() const = 0;
-  // Where the settings file lies: the program's folder, or the user's own configuration folder
-  // where that is not writable. It exists.
+  // The folder of the settings file: the program's folder, or the user's configuration folder if
+  // that one is not writable. It exists.
   virtual std::u16string SettingsFolder() const = 0;
-  // Where the help files lie: the program's folder, or the installed data folder.
+  // The folder of the help files: the program's folder, or the installed data folder.
   virtual std::u16string HelpFolder() const = 0;
-  // Handles the timer and socket events that wait, and returns; keys and clicks wait on.
+  // Handles waiting timer and socket events, and returns. Keys and clicks keep waiting.
   virtual void YieldToEvents() = 0;
-  // Ends the program: every window closes, and no further event reaches a handler.
+  // Ends the program: closes all windows; no event reaches a handler after that.
   virtual void End() = 0;
   virtual bool HasEnded() const = 0;
   // Writes one line to standard error, for whoever looks for the cause of a failure. UTF-8, without
@@ -61,24 +61,24 @@ class Application {
 class HelpViewer {
  public:
   virtual ~HelpViewer() = default;
-  // The file that the help entry and the context help of every control open from now on, and the
-  // language that it is in. An open help window goes on at the same topic of it. Never fails: that
-  // a file cannot be read is told in that language when help is asked for.
+  // Sets the file that the help menu and the controls' context help use from now on, and its
+  // language. An open help window shows the same topic of the new file. Never fails: if the file
+  // cannot be read, the user is told so, in that language, when opening the help.
   virtual void SetHelpFile(std::u16string_view path, bool isGreek) = 0;
-  // Opens the detailed help, in a window of its own beside the program's others, and returns at
-  // once; brings it to the front when it is open. Throws RunTimeFailure where it cannot be shown.
+  // Opens the detailed help in a window of its own and returns at once; brings the window to the
+  // front if it is open already. Throws RunTimeFailure if it cannot be shown.
   virtual void ShowContents() = 0;
 };
 
 class SystemTools {
  public:
   virtual ~SystemTools() = default;
-  // A text value of the registry, under the local-machine root. Empty when there is no such value,
-  // when it holds no text, and on a system without a registry.
+  // A text value of the registry, under the local-machine root. None if there is no such value, if
+  // it is not a text, or if the system has no registry.
   virtual std::optional<std::u16string> LocalMachineText(std::u16string_view key,
                                                          std::u16string_view value) const = 0;
-  // Starts a program as a process of its own, with a normal, focused window, and returns at once.
-  // False when it cannot be started.
+  // Starts a program as a separate process, with a normal, focused window, and returns at once.
+  // False if it cannot be started.
   virtual bool StartProgram(std::u16string_view path) = 0;
 };
 

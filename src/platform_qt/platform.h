@@ -1,4 +1,4 @@
-// The whole Qt platform, in one object that outlives the program.
+// The whole Qt platform, in one object. It must outlive the program.
 #pragma once
 
 #include <QDir>
@@ -17,7 +17,7 @@
 
 namespace verlume::qt {
 
-// What has to be said before the QApplication is made.
+// Settings that must be made before the QApplication is created.
 void PrepareApplication();
 
 class QtPlatform {
@@ -28,10 +28,10 @@ class QtPlatform {
 
   Platform& View() { return view_; }
 
-  // Handles events until the program ends; the process's exit status.
+  // Runs the event loop until the program ends; returns the exit status of the process.
   int Run() { return application_.Run(); }
 
-  // Whether the end of the QApplication would have to wait for the system to look up a host name.
+  // Whether destroying the QApplication would have to wait for a host name lookup of the system.
   bool IsLookingUp() const { return socket_.IsLookingUp(); }
 
  private:

@@ -7,7 +7,7 @@ namespace {
 
 using namespace dialogue_files_texts;
 
-// Besides what dialog_flag names: the common dialog's explorer style and long names.
+// Flags of dialog_flag, plus the classic ones for the explorer style and long file names.
 constexpr std::uint32_t kLoadFlags = 0x281C04;
 constexpr std::uint32_t kSaveFlags = 0x288C06;
 

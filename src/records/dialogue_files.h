@@ -14,15 +14,15 @@ class DialogueFiles {
   DialogueFiles(AppState& state, Platform& platform, ErrorReport& errors)
       : state_(state), platform_(platform), errors_(errors) {}
 
-  // Asks for the format and the file, and replaces the dialogue by what the file holds. A file
-  // that cannot be read leaves the dialogue as it is.
+  // Asks for the format and the file, and replaces the dialogue with the content of the file. If
+  // the file cannot be read, the dialogue stays as it is.
   void mnuFileLogOpen_Click();
 
-  // Asks for the format and the file, and saves the dialogue to it; an empty dialogue is refused. A
-  // file that cannot be written stays as it was.
+  // Asks for the format and the file, and saves the dialogue to it; refuses an empty dialogue. If
+  // the file cannot be written, it stays as it was.
   void mnuFileLogSaveAs_Click();
 
-  // Shows how much of a long file is in the dialogue pane, as long as not all of it is.
+  // Shows how much of a long file has been loaded, until all of it is in the dialogue pane.
   void rtbData_LoadProgress(int percent);
 
  private:
@@ -30,7 +30,7 @@ class DialogueFiles {
   void LoadDialogueAs(std::u16string_view extension);
   void SaveDialogueAs(std::u16string_view extension);
   FileChoice StartOf(std::u16string_view title, std::u16string_view extension, std::uint32_t flags);
-  // True, and the user told, when the chosen file has another extension than the format's.
+  // If the chosen file does not have the format's extension, tells the user and returns true.
   bool RefuseOtherExtension(const FileChoice& start, const FileChoice& choice);
 
   AppState& state_;

@@ -1,4 +1,4 @@
-// What loading and saving a dialogue says to the user.
+// Texts for loading and saving a dialogue.
 #pragma once
 
 #include "shell/text_pair.h"

@@ -10,6 +10,7 @@
 #include "shell/folder_choice.h"
 #include "shell/folders.h"
 #include "shell/nickname.h"
+#include "shell/setting_names.h"
 
 namespace verlume {
 namespace {
@@ -21,13 +22,13 @@ bool IsControlOrLineBreak(char16_t c) {
   return richtext::IsControlCharacter(c) || isLineBreak;
 }
 
-bool MayNameAFile(std::u16string_view character) {
+bool IsAllowedInFileName(std::u16string_view character) {
   constexpr std::u16string_view kForbidden = u"\\/:*?\"<>|";
   return IsShowable(character) && kForbidden.find(character) == kForbidden.npos;
 }
 
-// An entry of the log is one line, whatever the peer puts into a message or a nickname. A line of
-// megabytes is not copied for that.
+// An entry of the log is one line, whatever characters a message or a nickname contains. Changed in
+// place, because a line may be megabytes long.
 std::u16string EntryOf(std::u16string line) {
   std::size_t length = 0;
   for (std::size_t i = 0; i < line.size(); ++i) {
@@ -50,7 +51,7 @@ std::u16string LogFileStemOf(std::u16string_view nickname) {
   while (!nickname.empty()) {
     const std::u16string_view character = FirstCharacter(nickname);
     if (stem.size() + character.size() > kNicknameLimit) break;
-    stem += MayNameAFile(character) ? character : u"_";
+    stem += IsAllowedInFileName(character) ? character : u"_";
     nickname.remove_prefix(character.size());
   }
   if (stem.empty() || stem == u"." || stem == u"..") return u"_";
@@ -81,7 +82,7 @@ void DialogueLog::AppendConnectionLine(std::u16string_view statusText) {
   AppendToLog(ConnectionLine(platform_.clock, statusText));
 }
 
-void DialogueLog::AppendAfterwards(std::u16string_view statusText) {
+void DialogueLog::AppendToClosedLog(std::u16string_view statusText) {
   if (!state_.LogDialogue || state_.ClosedLog.empty()) return;
   Append(state_.ClosedLog, ConnectionLine(platform_.clock, statusText));
 }
@@ -99,7 +100,7 @@ bool DialogueLog::ChooseLogFolder() {
     // A conversation may have begun while the dialog was open.
     if (!folder || RefuseWhileRecording()) return;
     state_.LogFolder = *folder;
-    settings_.WriteSetting(u"Logging", u"Logfolder", *folder);
+    settings_.WriteSetting(setting_section::kLogging, setting_key::kLogFolder, *folder);
   });
 }
 
@@ -114,7 +115,7 @@ void DialogueLog::mnuFileLogRecord_Click() {
   errors_.Guard(Procedure::mnuFileLogRecord_Click, [this] {
     if (platform_.frmMain.mnuFileLogRecord.Checked()) return SwitchLogging(false);
     while (!FolderExists(platform_.files, state_.LogFolder)) {
-      // Nothing is recorded meanwhile, so the choice of a folder is not refused.
+      // Logging is off meanwhile, so that choosing a folder is not refused.
       state_.LogDialogue = false;
       if (!AskForLogFolder()) return SwitchLogging(false);
       if (!ChooseLogFolder()) return;
@@ -135,7 +136,7 @@ bool DialogueLog::AskForLogFolder() {
 void DialogueLog::SwitchLogging(bool on) {
   platform_.frmMain.mnuFileLogRecord.SetChecked(on);
   state_.LogDialogue = on;
-  settings_.WriteSetting(u"Logging", u"Logdialogue", BooleanText(on));
+  settings_.WriteSetting(setting_section::kLogging, setting_key::kLogDialogue, BooleanText(on));
 }
 
 }  // namespace verlume

@@ -1,4 +1,4 @@
-// What the dialogue log says to the user.
+// Texts of the dialogue log.
 #pragma once
 
 #include "shell/text_pair.h"

@@ -40,9 +40,6 @@ class RtfContent : public RtfState {
     if (RtfState::Apply(token)) builder_.SetFormat(FormatInForce());
   }
 
-  // Whether the first half of a surrogate pair came last.
-  bool EndsInsidePair() const { return builder_.EndsInsidePair(); }
-
   // What has been read since the last part. Text in the document's default font has the font that
   // is known as such by now.
   Document TakePart();

@@ -1,52 +1,46 @@
 #include "richtext/rtf_documents.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "richtext/document_scan.h"
+#include "richtext/characters.h"
+#include "richtext/rtf_parser.h"
 #include "richtext/rtf_reader.h"
 
 namespace verlume::richtext {
 namespace {
 
-constexpr std::u16string_view kStart = u"{\\rtf";
-
-// The whole text where the document is cut off.
-std::size_t LengthOfDocument(std::u16string_view text) {
-  DocumentScan scan;
-  for (std::size_t i = kStart.size(); i < text.size(); ++i) {
-    i += scan.Skippable(text.substr(i));
-    if (i == text.size()) break;
-    // What is not ASCII is neither a brace nor part of a control word.
-    if (scan.Feed(IsAscii(text[i]) ? static_cast<char>(text[i]) : '?')) return i + 1;
-  }
-  return text.size();
-}
+constexpr std::u16string_view kOpening = u"{\\rtf";
 
 bool IsLineEndOrNul(char16_t c) {
   return IsLineEnd(c) || c == u'\0';
 }
 
-}  // namespace
-
-std::vector<std::u16string_view> SplitRtfDocuments(std::u16string_view text) {
-  std::vector<std::u16string_view> pieces;
-  while (!text.empty()) {
-    const bool isDocument = LooksLikeRtf(text);
-    const std::size_t length =
-        isDocument ? LengthOfDocument(text) : std::min(text.find(kStart), text.size());
-    const std::u16string_view piece = text.substr(0, length);
-    text.remove_prefix(length);
-    const bool isRest =
-        !isDocument && !pieces.empty() && std::all_of(piece.begin(), piece.end(), IsLineEndOrNul);
-    if (!isRest) pieces.push_back(piece);
-  }
-  return pieces;
+// The document that the text begins with. One that is cut off reaches to the end of the text.
+ReadDocument ReadFirst(std::u16string_view text) {
+  // Of many short documents none must ask for memory as if it were all of them.
+  const std::size_t expectedLength = std::min<std::size_t>(text.size() / 2, 4096);
+  RtfParser<char16_t, RtfContent> parser(text.data(), text.data() + text.size(), expectedLength);
+  parser.ReadOn(text.size());
+  const auto length = static_cast<std::size_t>(parser.At() - text.data());
+  return {.source = text.substr(0, length), .document = parser.GetListener().TakePart()};
 }
 
-std::vector<Document> ReadRtfDocuments(std::u16string_view text) {
-  std::vector<Document> documents;
-  for (const std::u16string_view piece : SplitRtfDocuments(text)) {
-    documents.push_back(ReadRtf(piece));
+}  // namespace
+
+std::vector<ReadDocument> ReadRtfDocuments(std::u16string_view text) {
+  std::vector<ReadDocument> documents;
+  while (!text.empty()) {
+    const bool isRtf = LooksLikeRtf(text);
+    const std::u16string_view plain = text.substr(0, isRtf ? 0 : text.find(kOpening));
+    const bool isRest =
+        !isRtf && !documents.empty() && std::all_of(plain.begin(), plain.end(), IsLineEndOrNul);
+    if (isRtf) {
+      documents.push_back(ReadFirst(text));
+    } else if (!isRest) {
+      documents.push_back({.source = plain, .document = ReadPlainText(plain)});
+    }
+    text.remove_prefix(isRest ? plain.size() : documents.back().source.size());
   }
   return documents;
 }

@@ -8,12 +8,14 @@
 
 namespace verlume::richtext {
 
-// Cuts a text into RTF documents and the plain text between and behind them, in order; nothing is
-// left out but line ends and NULs that stand alone behind a document. A text without any RTF is one
-// piece. Linear; the pieces point into the text.
-std::vector<std::u16string_view> SplitRtfDocuments(std::u16string_view text);
+struct ReadDocument {
+  std::u16string_view source;  // a piece of the text that was read
+  Document document;
+};
 
-// The documents that such a text holds, in order; plain text is one too.
-std::vector<Document> ReadRtfDocuments(std::u16string_view text);
+// Reads the RTF documents of a text, and the plain text between and behind them, in order; each
+// once. Nothing is left out but line ends and NULs that stand alone behind a document. A text
+// without any RTF is one document. Linear.
+std::vector<ReadDocument> ReadRtfDocuments(std::u16string_view text);
 
 }  // namespace verlume::richtext

@@ -21,7 +21,7 @@ constexpr char16_t kReplacement = 0xFFFD;
 template <typename Ch, typename Listener>
 void RtfParser<Ch, Listener>::ReadOn(std::size_t length) {
   limit_ = tokens_.At() + std::min(length, tokens_.Left());
-  while (!IsDone() && (tokens_.At() < limit_ || listener_.EndsInsidePair())) ReadNext();
+  while (!IsDone() && tokens_.At() < limit_) ReadNext();
 }
 
 template <typename Ch, typename Listener>

@@ -18,8 +18,7 @@ class RtfParser {
   RtfParser(const Ch* begin, const Ch* end, Arguments... arguments)
       : limit_(begin), token_(begin), tokens_(begin, end), listener_(arguments...) {}
 
-  // Reads on to the end of a token, about so many characters further. Does not part the halves of
-  // a surrogate pair, where the listener keeps text.
+  // Reads on to the end of a token, about so many characters further.
   void ReadOn(std::size_t length);
   // Reads one token, or what stands between two: also what is no part of the document any more.
   // There must be something left.

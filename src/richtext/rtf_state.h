@@ -45,7 +45,6 @@ class RtfState {
   }
   void AppendCodePoint(char32_t codePoint);
   void AppendBreak(bool /*endsParagraph*/) {}
-  bool EndsInsidePair() const { return false; }
 
   // The characters of the bytes 0x80 to 0xFF in the font in force.
   const char16_t* UpperHalf() const {

@@ -30,9 +30,6 @@ class RunBuilder {
     std::copy(begin, end, text_.begin() + static_cast<std::ptrdiff_t>(length));
   }
 
-  // Whether a character is half there: its other unit comes next, if it comes at all.
-  bool EndsInsidePair() const { return !text_.empty() && IsHighSurrogate(text_.back()); }
-
   // Appends a line break that ends a paragraph: the last one of the document adds no empty line.
   void EndParagraph();
 

@@ -15,7 +15,7 @@ std::u16string VersionText() {
 }
 
 void AboutBox::mnuHelpAbout_Click() {
-  // What a failure leaves unset is missing in the box.
+  // After a failure the box is shown without what could not be set.
   errors_.Guard(Procedure::frmAbout_Load, [this] { Load(); });
   if (platform_.application.HasEnded()) return;
   platform_.frmAbout.window.ShowModal();

@@ -14,7 +14,7 @@ class AboutBox {
 
   // Shows the box, in the language in force, until the user closes it.
   void mnuHelpAbout_Click();
-  // Also of picCopyright: any button but the right one shows the box.
+  // Also handles picCopyright: any button but the right one shows the box.
   void lblCopyright_MouseDown(MouseButton button);
 
   void cmdOK_Click();

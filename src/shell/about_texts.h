@@ -1,4 +1,4 @@
-// What the About box says.
+// Texts of the About box.
 #pragma once
 
 #include "shell/text_pair.h"
@@ -34,7 +34,7 @@ inline constexpr TextPair kDisclaimer = {
 inline constexpr TextPair kOk = {u"OK", u"OK"};
 inline constexpr TextPair kSystemInfo = {u"System Info...", u"Πληροφορίες συστήματος..."};
 
-// What assistive tools read for the picture.
+// The picture's name, which assistive tools read.
 inline constexpr TextPair kIconName = {u"Icon of Verlume", u"Εικονίδιο του Verlume"};
 
 }  // namespace verlume::about_texts

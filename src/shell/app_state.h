@@ -1,6 +1,6 @@
-// The one record of program-wide values. It is made by the composition root and passed by
-// reference; everything runs on one thread, so nothing locks it. A modal box lets events through:
-// whoever shows one reads the record again afterwards.
+// All program-wide values. Program creates them and passes them by reference; everything runs on
+// one thread, so nothing locks them. A modal box lets events through, so whoever shows one reads
+// the values again afterwards.
 #pragma once
 
 #include <array>
@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/control.h"
+#include "shell/text_style.h"
 
 namespace verlume {
 
@@ -37,13 +37,13 @@ struct AppState {
   std::u16string LocalAddress;
   std::u16string RemoteHost;  // as the user called it
   std::int32_t RemotePort = 0;
-  std::u16string RemoteAddress;      // of the connected peer
-  std::u16string Nickname;           // 1 to kNicknameLimit characters
-  std::u16string RemoteNickname;     // as it is shown (shell/nickname.h); "" until the peer tells
-  std::u16string ProtocolMarker;     // opens every protocol message (connection/wire_protocol.h)
-  std::size_t LinesWaiting = 0;      // sent, and not yet acknowledged by the peer's machine
-  std::size_t LinesUndelivered = 0;  // of the last conversation: never acknowledged
-  bool UndeliveredBefore = false;    // of the one before it: it was told of late
+  std::u16string RemoteAddress;   // of the connected peer
+  std::u16string Nickname;        // 1 to kNicknameLimit characters
+  std::u16string RemoteNickname;  // as it is shown (shell/nickname.h); "" until the peer sends it
+  std::u16string ProtocolMarker;  // opens every protocol message (connection/wire_protocol.h)
+  std::size_t LinesWaiting = 0;   // sent, but not yet acknowledged by the peer's machine
+  std::size_t LinesUndelivered = 0;  // lines of an ended conversation that were never acknowledged
+  bool UndeliveredBefore = false;  // LinesUndelivered is about the conversation before the last one
 
   // The line being executed.
   std::u16string CommandLine;   // its plain text
@@ -57,7 +57,7 @@ struct AppState {
   bool DateStamp = true;
   bool TimeStamp = true;
 
-  // A list below the command pane shows what a "/" word can become.
+  // Whether a list below the command pane suggests completions of a word that begins with "/".
   bool SuggestCommands = true;
 
   // The command history: element 0 holds the number of lines as text, 1 is the oldest line.
@@ -68,9 +68,9 @@ struct AppState {
   // The dialogue log.
   std::u16string LogFolder;
   bool LogDialogue = false;     // the user's switch
-  bool LogOpen = false;         // a conversation is on
+  bool LogOpen = false;         // a conversation is in progress
   std::u16string LogFileStem;   // the peer's nickname made fit for a file name
-  std::u16string ClosedLog;     // path, of the conversation closed last with lines on their way
+  std::u16string ClosedLog;     // log file of the last conversation that ended with lines waiting
   std::u16string DialogFilter;  // of the last load or save dialog
 
   // Macros.
@@ -78,23 +78,8 @@ struct AppState {
   std::u16string MacroToRun;     // rich text that the macro editor hands over
   std::int32_t MacroIndex = -1;  // of the macro shown or edited in the macro editor, -1 for none
 
-  // The local text style.
-  std::u16string FontName;
-  bool FontBold = false;
-  bool FontItalic = false;
-  bool FontStrikethrough = false;
-  bool FontUnderline = false;
-  Color FontColor = 0;
-  double FontSize = 0;  // points
-
-  // The style in force while a macro is edited.
-  std::u16string MacroFontName;
-  bool MacroBold = false;
-  bool MacroItalic = false;
-  bool MacroStrikethrough = false;
-  bool MacroUnderline = false;
-  Color MacroColor = 0;
-  double MacroFontSize = 0;  // points
+  TextStyle Font;       // of what is typed in the command pane
+  TextStyle MacroFont;  // of what is typed in the macro editor
 };
 
 }  // namespace verlume

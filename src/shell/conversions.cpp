@@ -7,17 +7,12 @@
 
 #include "platform/run_time_failure.h"
 #include "shell/text_pair.h"
+#include "shell/trim.h"
 
 namespace verlume {
 namespace {
 
 constexpr std::u16string_view kBlanks = u" \t\r\n";
-
-std::u16string_view Trim(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 bool IsWord(std::u16string_view text, std::u16string_view lowerCaseWord) {
   return std::equal(text.begin(), text.end(), lowerCaseWord.begin(), lowerCaseWord.end(),
@@ -31,7 +26,7 @@ struct ParsedNumber {
 };
 
 ParsedNumber ParseNumber(std::u16string_view text) {
-  // Only these characters: the standard parser would know "inf" and "nan" too.
+  // Cut to these characters: the standard parser would also accept "inf" and "nan".
   const std::size_t end = std::min(text.find_first_not_of(u"+-.0123456789eE"), text.size());
   const std::string ascii(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(end));
   const std::size_t plus = ascii.starts_with('+') && !ascii.starts_with("+-") ? 1 : 0;
@@ -47,14 +42,14 @@ ParsedNumber ParseNumber(std::u16string_view text) {
 }  // namespace
 
 bool BooleanOf(std::u16string_view text) {
-  const std::u16string_view word = Trim(text);
+  const std::u16string_view word = Trim(text, kBlanks);
   if (IsWord(word, u"true")) return true;
   if (IsWord(word, u"false")) return false;
   return NumberOf(word) != 0;
 }
 
 double NumberOf(std::u16string_view text) {
-  const std::u16string_view number = Trim(text);
+  const std::u16string_view number = Trim(text, kBlanks);
   const ParsedNumber parsed = ParseNumber(number);
   if (parsed.length == 0 || parsed.length != number.size()) {
     throw RunTimeFailure(FailureNumber::TypeMismatch);
@@ -73,7 +68,7 @@ std::int32_t IntegerOf(std::u16string_view text) {
 }
 
 double NumericPrefixOf(std::u16string_view text) {
-  const ParsedNumber parsed = ParseNumber(Trim(text));
+  const ParsedNumber parsed = ParseNumber(Trim(text, kBlanks));
   return parsed.tooLarge ? 0 : parsed.value;
 }
 

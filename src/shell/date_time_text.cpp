@@ -25,7 +25,7 @@ std::u16string TimeText(const Clock& clock) {
   return TimeTextOf(clock.Now());
 }
 
-// The clock is read once: date and time of two moments would be a day apart at midnight.
+// Reads the clock only once, so that date and time belong together at midnight too.
 std::u16string DateTimeText(const Clock& clock) {
   const LocalTime now = clock.Now();
   return DateTextOf(now) + u"_" + TimeTextOf(now);

@@ -1,4 +1,4 @@
-// Which lines have reached the peer's machine, and which have not.
+// Shows which lines have not reached the peer's machine.
 #pragma once
 
 #include <cstddef>
@@ -12,8 +12,8 @@ namespace verlume {
 // "2 lines were not delivered."
 std::u16string UndeliveredText(std::size_t lines, bool isGreek);
 
-// Shows the lines that wait by lblWaiting ("2 waiting", nothing when none does), and those that
-// never arrived in the tool tip of lblStatus: of the last conversation, or of the one before it.
+// Shows in lblWaiting how many lines wait ("2 waiting", or nothing), and in the tool tip of
+// lblStatus how many lines of the last conversation, or of the one before it, were never delivered.
 void ShowDelivery(const AppState& state, const MainWindow& frmMain);
 
 }  // namespace verlume

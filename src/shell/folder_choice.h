@@ -9,9 +9,8 @@
 
 namespace verlume {
 
-// Lets the user choose a folder, starting from `current` where that exists and from the program's
-// own folder otherwise. The result ends in a separator; there is none when the user cancels. Other
-// failures are thrown.
+// Lets the user choose a folder, starting from `current` if that exists, else from the program's
+// own folder. The result ends in a separator; none when the user cancels. Throws on other failures.
 std::optional<std::u16string> ChooseFolder(Platform& platform, std::u16string_view title,
                                            std::u16string_view current);
 

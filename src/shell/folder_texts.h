@@ -1,4 +1,4 @@
-// What start-up asks when a folder is missing.
+// Texts of start-up about a missing folder.
 #pragma once
 
 #include "shell/text_pair.h"

@@ -1,4 +1,4 @@
-// Paths of folders, and whether they are there.
+// Paths of folders, and whether they exist.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ namespace verlume {
 // The path with the separator appended unless it ends in it already.
 std::u16string WithTrailingSeparator(std::u16string_view path, char16_t separator);
 
-// True when a directory of that path is found; "" never exists. Never fails.
+// True when the path is a directory; false for "". Never fails.
 bool FolderExists(const FileSystem& files, std::u16string_view path);
 
 }  // namespace verlume

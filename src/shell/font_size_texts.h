@@ -1,4 +1,4 @@
-// What is asked and told about the size of a font.
+// Texts of the question for a font size.
 #pragma once
 
 #include "shell/text_pair.h"

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "shell/trim.h"
+
 namespace verlume::ini_text {
 namespace {
 
@@ -9,10 +11,8 @@ constexpr std::u16string_view kBlanks = u" \t";
 constexpr std::u16string_view kLineBreaks = u"\r\n";
 constexpr char16_t kByteOrderMark = 0xFEFF;
 
-std::u16string_view Trim(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+std::u16string_view TrimBlanks(std::u16string_view text) {
+  return Trim(text, kBlanks);
 }
 
 std::u16string_view Unquote(std::u16string_view value) {
@@ -27,7 +27,7 @@ bool SameName(std::u16string_view a, std::u16string_view b) {
                     [&](char16_t x, char16_t y) { return lower(x) == lower(y); });
 }
 
-// One line of the text: where it starts, where its content ends, where the next line starts.
+// The offsets of a line in the text: its start, the end of its content, the start of the next line.
 struct Line {
   std::size_t start = 0;
   std::size_t end = 0;
@@ -35,9 +35,9 @@ struct Line {
 
   std::u16string_view Content(std::u16string_view text) const {
     std::u16string_view content = text.substr(start, end - start);
-    // An editor's mark at the start of the file.
+    // Some editors put this mark at the start of a file.
     if (start == 0 && content.starts_with(kByteOrderMark)) content.remove_prefix(1);
-    return Trim(content);
+    return TrimBlanks(content);
   }
 };
 
@@ -51,22 +51,22 @@ Line LineAt(std::u16string_view text, std::size_t start) {
 std::optional<std::u16string_view> SectionNameOf(std::u16string_view content) {
   const std::size_t close = content.find(u']');
   if (!content.starts_with(u'[') || close == content.npos) return std::nullopt;
-  return Trim(content.substr(1, close - 1));
+  return TrimBlanks(content.substr(1, close - 1));
 }
 
 bool IsLineOfKey(std::u16string_view content, std::u16string_view key) {
   const std::size_t equals = content.find(u'=');
   return equals != content.npos && !content.starts_with(u';') &&
-         SameName(Trim(content.substr(0, equals)), key);
+         SameName(TrimBlanks(content.substr(0, equals)), key);
 }
 
-// Where a key stands, or where it would have to be put.
+// Where a key is, or where it would be added.
 struct Place {
   bool sectionFound = false;
   bool keyFound = false;
-  std::size_t valueStart = 0;  // behind the key's "="
+  std::size_t valueStart = 0;  // after the key's "="
   std::size_t valueEnd = 0;    // the end of the key's line
-  std::size_t sectionEnd = 0;  // behind the last line of the section that is not blank
+  std::size_t sectionEnd = 0;  // after the last line of the section that is not blank
 };
 
 Place Find(std::u16string_view text, std::u16string_view section, std::u16string_view key) {
@@ -110,7 +110,7 @@ std::optional<std::u16string_view> Read(std::u16string_view text, std::u16string
                                         std::u16string_view key) {
   const Place place = Find(text, section, key);
   if (!place.keyFound) return std::nullopt;
-  return Unquote(Trim(text.substr(place.valueStart, place.valueEnd - place.valueStart)));
+  return Unquote(TrimBlanks(text.substr(place.valueStart, place.valueEnd - place.valueStart)));
 }
 
 std::u16string Write(std::u16string_view text, std::u16string_view section, std::u16string_view key,

@@ -2,6 +2,7 @@
 
 #include "shell/delivery.h"
 #include "shell/language_texts.h"
+#include "shell/setting_names.h"
 #include "shell/settings_reader.h"
 #include "shell/status_panel.h"
 
@@ -22,7 +23,7 @@ void Language::ApplyLanguage() {
     frmMain.mnuToolsLanguageGreek.SetChecked(isGreek);
     platform_.dialogs.SetLanguage(isGreek);
     platform_.help.SetHelpFile(isGreek ? state_.HelpFileGreek : state_.HelpFileEnglish, isGreek);
-    settings_.WriteSetting(kLanguageSection, kLanguageKey, LanguageText(state_));
+    settings_.WriteSetting(setting_section::kGeneral, setting_key::kLanguage, LanguageText(state_));
   });
 }
 

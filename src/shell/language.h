@@ -13,8 +13,8 @@ class Language {
   Language(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings)
       : state_(state), platform_(platform), errors_(errors), settings_(settings) {}
 
-  // Sets every caption and tool tip in the language of AppState::IsGreek, the help file and the
-  // language of the boxes' buttons, and writes the choice to the settings file.
+  // Puts every caption and tool tip, the help file and the buttons of boxes into the language of
+  // AppState::IsGreek, and saves the choice in the settings file.
   void ApplyLanguage();
 
   void mnuToolsLanguageEnglish_Click();

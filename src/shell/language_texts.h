@@ -1,4 +1,4 @@
-// The fixed texts of the main window, each beside the element that shows it.
+// The fixed texts of the main window, each with the element that shows it.
 #pragma once
 
 #include <functional>
@@ -17,10 +17,10 @@ struct FixedText {
 
 inline constexpr TextPair kMainWindowTitle = {u"Verlume", u"Verlume"};
 
-// Of lblStatus; shell/delivery.h may add to it.
+// The tool tip of lblStatus; shell/delivery.h may add to it.
 inline constexpr TextPair kStatusToolTip = {u"Status", u"Κατάσταση"};
 
-// Of the entry "Always on top", where that cannot be.
+// The tool tip of the entry "Always on top" when the desktop does not allow that.
 inline constexpr TextPair kNeverTopMost = {
     u"This desktop does not let programs place themselves above others.",
     u"Αυτή η επιφάνεια εργασίας δεν επιτρέπει στα προγράμματα να τοποθετούνται πάνω από τα άλλα."};
@@ -28,8 +28,8 @@ inline constexpr TextPair kNeverTopMost = {
 // Title, menus and tool tips, in the order in which they are set.
 std::vector<FixedText> MenuAndToolTipTexts(const MainWindow& frmMain);
 
-// What stands beside the values of the status panel, the format controls, and the names that
-// assistive tools read.
+// The captions of the status panel and of the format controls, and the names that assistive tools
+// read.
 std::vector<FixedText> PanelTexts(const MainWindow& frmMain);
 
 }  // namespace verlume

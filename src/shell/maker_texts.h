@@ -1,12 +1,12 @@
-// How the program names its maker, wherever it does.
+// The name of the program's maker.
 #pragma once
 
 #include "shell/text_pair.h"
 
 namespace verlume {
 
-// Peers recognise each other by it, too (connection/wire_protocol.h): a copy that words it
-// otherwise talks to no other.
+// It is also part of the protocol marker (connection/wire_protocol.h): a copy with another wording
+// could not talk to any other.
 inline constexpr TextPair kMakersCredit = {u"Made by the Verlume team",
                                            u"Δημιουργία της ομάδας Verlume"};
 

@@ -1,5 +1,5 @@
-// The numbers by which a failing procedure is named to the user and to support. One per procedure,
-// never shared, never reused.
+// The number of each procedure. An error message shows it, so that users and support can name the
+// procedure. A number is never shared or reused.
 #pragma once
 
 namespace verlume {
@@ -48,7 +48,7 @@ enum class Procedure : int {
   mnuToolsAlwaysOnTop_Click = 243,
   ChooseMacrosFolder = 244,
   SaveCommandPaneAsMacro = 245,
-  frmMacros_Load = 246,  // and whatever of frmMacros has no number below
+  frmMacros_Load = 246,  // and everything in frmMacros without a number below
   cmdAdd_Click = 247,
   cmdCancel_Click = 248,
   lstMacroNames_Click = 249,

@@ -46,7 +46,7 @@ void Settings::WriteSettings(std::u16string_view section, const std::vector<KeyV
   files_.ReplaceText(state_.IniFile, text);
 }
 
-// A file that is there but cannot be read is not replaced: its other lines would be lost.
+// A file that exists but cannot be read is not replaced: its other lines would be lost.
 std::u16string Settings::TextToChange() const {
   try {
     return Text();

@@ -20,19 +20,19 @@ class Settings {
  public:
   Settings(const AppState& state, FileSystem& files) : state_(state), files_(files) {}
 
-  // The whole file. Throws RunTimeFailure: 53 or 76 when there is none, 75 when it is too large,
-  // and what else keeps it from being read.
+  // The whole file. Throws RunTimeFailure: 53 or 76 when it does not exist, 75 when it is too
+  // large, or the number of another read error.
   std::u16string Text() const;
 
-  // The value of a key, at most size - 1 characters of it, or `missingMarker` where the file, the
-  // section or the key is missing. Section and key are compared without regard to case; blanks and
-  // one pair of quotes around a value are not part of it. Never fails.
+  // The value of a key, cut to size - 1 characters, or `missingMarker` when the file, the section
+  // or the key is missing. Section and key are compared without regard to case; blanks and one pair
+  // of quotes around a value are not part of it. Never fails.
   std::u16string ReadSetting(std::u16string_view section, std::u16string_view key,
                              std::u16string_view missingMarker, std::size_t size) const;
 
-  // Replaces the key's line, or adds it, with file and section where they are missing; every other
-  // line stays as it is. Throws RunTimeFailure when the file cannot be written, or is there and
-  // cannot be read.
+  // Replaces the key's line, or adds it, with the file and the section if they are missing. All
+  // other lines stay as they are. Throws RunTimeFailure when the file cannot be written, or exists
+  // but cannot be read.
   void WriteSetting(std::u16string_view section, std::u16string_view key,
                     std::u16string_view value);
 
@@ -44,7 +44,7 @@ class Settings {
   };
   void WriteSettings(std::u16string_view section, const std::vector<KeyValue>& values);
 
-  // From now on writing does nothing, and does not fail: the file has to stay as it is.
+  // From now on writing does nothing and does not fail: the file must stay as it is.
   void StopWriting() { writes_ = false; }
 
  private:

@@ -7,6 +7,7 @@
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
 #include "shell/nickname.h"
+#include "shell/setting_names.h"
 #include "shell/text_pair.h"
 
 namespace verlume {
@@ -38,7 +39,8 @@ void TakeSwitch(Value value, bool& field, MenuEntry& entry) {
   SetSwitch(field, value ? BooleanOf(*value) : field, entry);
 }
 
-// Nobody is to be told at a start that a convenience is spelt wrong.
+// On unless the value clearly says no: a misspelt value of a mere convenience is not worth an error
+// message at every start.
 bool IsNotOff(Value value) {
   try {
     return !value || BooleanOf(*value);
@@ -58,15 +60,15 @@ void TakeBackColor(Value value, RichTextBox& pane) {
   if (const auto color = ColorOf(value)) pane.SetBackColor(*color);
 }
 
-// The kinds of value: each throws where a text is none of it.
-void IsText(std::u16string_view) {}
-void IsBoolean(std::u16string_view text) {
+// One check for each type of value. Throws RunTimeFailure when the text is not a value of the type.
+void CheckText(std::u16string_view) {}
+void CheckBoolean(std::u16string_view text) {
   BooleanOf(text);
 }
-void IsColor(std::u16string_view text) {
+void CheckColor(std::u16string_view text) {
   IntegerOf(text);
 }
-void IsNumber(std::u16string_view text) {
+void CheckNumber(std::u16string_view text) {
   NumberOf(text);
 }
 
@@ -75,66 +77,63 @@ struct Key {
   std::u16string_view key;
   std::size_t size;                   // of the read buffer
   std::u16string_view missingMarker;  // what a missing key reads as
-  void (*kind)(std::u16string_view text);
+  void (*check)(std::u16string_view text);
   void (*take)(Value value, Target to);  // no value: missing
 };
 
-constexpr std::u16string_view kGeneral = u"General";
-constexpr std::u16string_view kBackColor = u"BackColor";
-constexpr std::u16string_view kLogging = u"Logging";
 constexpr std::u16string_view kNull = u"NULL";
 
 // In the order in which they are read.
 constexpr Key kKeys[] = {
-    {kGeneral, u"Nickname", 32, u"", IsText,
+    {setting_section::kGeneral, setting_key::kNickname, 32, u"", CheckText,
      [](Value value, Target to) {
        TakeText(value, to.state.Nickname);
        to.frmMain.lblLocalNickname.SetCaption(ShowableNickname(to.state.Nickname));
      }},
-    {kGeneral, u"DateStamp", 20, kNull, IsBoolean,
+    {setting_section::kGeneral, setting_key::kDateStamp, 20, kNull, CheckBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.DateStamp, to.frmMain.mnuToolsDate);
      }},
-    {kGeneral, u"TimeStamp", 20, kNull, IsBoolean,
+    {setting_section::kGeneral, setting_key::kTimeStamp, 20, kNull, CheckBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.TimeStamp, to.frmMain.mnuToolsTime);
      }},
-    {kGeneral, u"AlwaysOnTop", 20, kNull, IsBoolean,
+    {setting_section::kGeneral, setting_key::kAlwaysOnTop, 20, kNull, CheckBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.AlwaysOnTop, to.frmMain.mnuToolsAlwaysOnTop);
        to.frmMain.window.SetTopMost(to.state.AlwaysOnTop);
      }},
-    {kFontSection, u"Name", 1024, kNull, IsText,
-     [](Value value, Target to) { TakeText(value, to.state.FontName); }},
-    {kFontSection, u"Bold", 20, kNull, IsBoolean,
-     [](Value value, Target to) { TakeBoolean(value, to.state.FontBold); }},
-    {kFontSection, u"Italic", 20, kNull, IsBoolean,
-     [](Value value, Target to) { TakeBoolean(value, to.state.FontItalic); }},
-    {kFontSection, u"Strikethrough", 20, kNull, IsBoolean,
-     [](Value value, Target to) { TakeBoolean(value, to.state.FontStrikethrough); }},
-    {kFontSection, u"Underline", 20, kNull, IsBoolean,
-     [](Value value, Target to) { TakeBoolean(value, to.state.FontUnderline); }},
-    {kFontSection, u"Forecolor", 20, kNull, IsColor,
+    {setting_section::kFont, setting_key::kFontName, 1024, kNull, CheckText,
+     [](Value value, Target to) { TakeText(value, to.state.Font.Name); }},
+    {setting_section::kFont, setting_key::kFontBold, 20, kNull, CheckBoolean,
+     [](Value value, Target to) { TakeBoolean(value, to.state.Font.Bold); }},
+    {setting_section::kFont, setting_key::kFontItalic, 20, kNull, CheckBoolean,
+     [](Value value, Target to) { TakeBoolean(value, to.state.Font.Italic); }},
+    {setting_section::kFont, setting_key::kFontStrikethrough, 20, kNull, CheckBoolean,
+     [](Value value, Target to) { TakeBoolean(value, to.state.Font.Strikethrough); }},
+    {setting_section::kFont, setting_key::kFontUnderline, 20, kNull, CheckBoolean,
+     [](Value value, Target to) { TakeBoolean(value, to.state.Font.Underline); }},
+    {setting_section::kFont, setting_key::kFontColor, 20, kNull, CheckColor,
      [](Value value, Target to) {
-       to.state.FontColor = ColorOf(value).value_or(to.state.FontColor);
+       to.state.Font.Color = ColorOf(value).value_or(to.state.Font.Color);
      }},
-    {kFontSection, u"Size", 20, kNull, IsNumber,
+    {setting_section::kFont, setting_key::kFontSize, 20, kNull, CheckNumber,
      [](Value value, Target to) {
-       if (value) to.state.FontSize = AcceptedFontSize(NumberOf(*value));
+       if (value) to.state.Font.Size = AcceptedFontSize(NumberOf(*value));
      }},
-    {kBackColor, u"Commands", 20, kNull, IsColor,
+    {setting_section::kBackColor, setting_key::kCommands, 20, kNull, CheckColor,
      [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbCommands); }},
-    {kBackColor, u"Dialogue", 20, kNull, IsColor,
+    {setting_section::kBackColor, setting_key::kDialogue, 20, kNull, CheckColor,
      [](Value value, Target to) { TakeBackColor(value, to.frmMain.rtbData); }},
-    {kLogging, u"Logfolder", 1024, u"", IsText,
+    {setting_section::kLogging, setting_key::kLogFolder, 1024, u"", CheckText,
      [](Value value, Target to) { TakeText(value, to.state.LogFolder); }},
-    {kLogging, u"Logdialogue", 20, kNull, IsBoolean,
+    {setting_section::kLogging, setting_key::kLogDialogue, 20, kNull, CheckBoolean,
      [](Value value, Target to) {
        TakeSwitch(value, to.state.LogDialogue, to.frmMain.mnuFileLogRecord);
      }},
-    {kGeneral, u"Macrosfolder", 1024, u"", IsText,
+    {setting_section::kGeneral, setting_key::kMacrosFolder, 1024, u"", CheckText,
      [](Value value, Target to) { TakeText(value, to.state.MacrosFolder); }},
-    {kGeneral, u"Suggestcommands", 20, kNull, IsText,
+    {setting_section::kGeneral, setting_key::kSuggestCommands, 20, kNull, CheckText,
      [](Value value, Target to) {
        SetSwitch(to.state.SuggestCommands, IsNotOff(value), to.frmMain.mnuToolsCompletions);
      }},
@@ -161,14 +160,8 @@ double AcceptedFontSize(double points) {
 }
 
 void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
-  const SelectionFormat pane = frmMain.rtbData.SelFormat();
-  state.FontName = pane.fontName.value_or(state.FontName);
-  state.FontBold = pane.bold.value_or(false);
-  state.FontItalic = pane.italic.value_or(false);
-  state.FontStrikethrough = pane.strikethrough.value_or(false);
-  state.FontUnderline = pane.underline.value_or(false);
-  state.FontColor = pane.color.value_or(0);
-  state.FontSize = pane.fontSize.value_or(kLargestFontSize);
+  state.Font =
+      StyleOf(frmMain.rtbData.SelFormat(), {.Name = state.Font.Name, .Size = kLargestFontSize});
 
   state.Nickname.clear();
   state.MacrosFolder.clear();
@@ -181,19 +174,19 @@ void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
 }
 
 void ReadLanguage(AppState& state, const Settings& settings) {
-  state.IsGreek =
-      NumericPrefixOf(settings.ReadSetting(kLanguageSection, kLanguageKey, u"0", 5)) == 1;
+  state.IsGreek = NumericPrefixOf(settings.ReadSetting(setting_section::kGeneral,
+                                                       setting_key::kLanguage, u"0", 5)) == 1;
 }
 
 void ReadSettings(AppState& state, const MainWindow& frmMain, const Settings& settings) {
   for (const Key& row : kKeys) row.take(FileValue(settings, row).Get(), {state, frmMain});
 }
 
-bool EveryValueIsOfItsKind(const Settings& settings) {
+bool AllValuesAreValid(const Settings& settings) {
   try {
     for (const Key& row : kKeys) {
       const FileValue value(settings, row);
-      if (value.Get()) row.kind(*value.Get());
+      if (value.Get()) row.check(*value.Get());
     }
     return true;
   } catch (const RunTimeFailure&) {
@@ -206,17 +199,17 @@ std::u16string_view LanguageText(const AppState& state) {
 }
 
 std::vector<Settings::KeyValue> FontSettings(const AppState& state) {
-  return {{u"Name", state.FontName},
-          {u"Bold", BooleanText(state.FontBold)},
-          {u"Italic", BooleanText(state.FontItalic)},
-          {u"Strikethrough", BooleanText(state.FontStrikethrough)},
-          {u"Underline", BooleanText(state.FontUnderline)},
-          {u"Forecolor", DecimalText(state.FontColor)},
-          {u"Size", NumberText(state.FontSize)}};
+  return {{setting_key::kFontName, state.Font.Name},
+          {setting_key::kFontBold, BooleanText(state.Font.Bold)},
+          {setting_key::kFontItalic, BooleanText(state.Font.Italic)},
+          {setting_key::kFontStrikethrough, BooleanText(state.Font.Strikethrough)},
+          {setting_key::kFontUnderline, BooleanText(state.Font.Underline)},
+          {setting_key::kFontColor, DecimalText(state.Font.Color)},
+          {setting_key::kFontSize, NumberText(state.Font.Size)}};
 }
 
 void WriteFontSettings(const AppState& state, Settings& settings) {
-  settings.WriteSettings(kFontSection, FontSettings(state));
+  settings.WriteSettings(setting_section::kFont, FontSettings(state));
 }
 
 }  // namespace verlume

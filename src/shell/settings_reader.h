@@ -1,4 +1,4 @@
-// The settings file's keys: where each goes at start-up, and how the local font is written.
+// The keys of the settings file: how each is read at start-up, and how the local font is written.
 #pragma once
 
 #include "platform/main_window.h"
@@ -11,29 +11,26 @@ namespace verlume {
 inline constexpr double kSmallestFontSize = 8;
 inline constexpr double kLargestFontSize = 11;
 
-// The nearest size that the program accepts; rich text carries sizes in half points.
+// The nearest accepted size. Sizes are multiples of half a point, as in rich text.
 double AcceptedFontSize(double points);
 
-// What every key but the language comes to where it is missing: AppState and the menu ticks. The
-// local font is the dialogue pane's.
+// Sets AppState and the menu ticks to the defaults of all keys but the language. The default of the
+// local font is the dialogue pane's font.
 void SetSettingDefaults(AppState& state, const MainWindow& frmMain);
 
-// Reads the language alone; what is not 1 is English.
+// Reads only the language: 1 is Greek, everything else English.
 void ReadLanguage(AppState& state, const Settings& settings);
 
-// Reads every other key, one after the other, into AppState and what of the window shows it. A
-// missing key leaves what is there. A text that is no value of its key's type throws RunTimeFailure
-// (13, or 6 for a number out of range); the keys behind it are not read. A font size becomes the
-// nearest one that is accepted, and a colour that is none (negative) counts as missing.
+// Reads all other keys in order, into AppState and the controls that show them. A missing key
+// changes nothing. A text that is not a value of its key's type throws RunTimeFailure (13, or 6 for
+// a number out of range), and the keys after it are not read. A font size becomes the nearest
+// accepted one; a negative colour counts as missing.
 void ReadSettings(AppState& state, const MainWindow& frmMain, const Settings& settings);
 
-// Whether ReadSettings can read them all.
-bool EveryValueIsOfItsKind(const Settings& settings);
+// Whether ReadSettings can read every key.
+bool AllValuesAreValid(const Settings& settings);
 
-// Where the language and the local font stand, and as what they are written.
-inline constexpr std::u16string_view kLanguageSection = u"General";
-inline constexpr std::u16string_view kLanguageKey = u"Language";
-inline constexpr std::u16string_view kFontSection = u"FontLocal";
+// The language and the local font as they are written into the file.
 std::u16string_view LanguageText(const AppState& state);
 std::vector<Settings::KeyValue> FontSettings(const AppState& state);
 

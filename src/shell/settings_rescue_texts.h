@@ -1,4 +1,4 @@
-// What the user is told of a settings file that cannot be used.
+// Messages about a settings file that cannot be used.
 #pragma once
 
 #include "shell/text_pair.h"
@@ -8,7 +8,7 @@ namespace verlume::settings_rescue_texts {
 inline constexpr TextPair kTitle = {u"Settings file", u"Αρχείο ρυθμίσεων"};
 
 // %1 is the copy.
-inline constexpr TextPair kValueKept = {
+inline constexpr TextPair kInvalidValue = {
     u"Not all of your settings could be understood. "
     u"Your settings file has been kept, as it was, under the name:"
     u"\r\n\r\n%1\r\n\r\n"
@@ -19,7 +19,7 @@ inline constexpr TextPair kValueKept = {
     u"Στη θέση όσων δεν διαβάστηκαν η εφαρμογή χρησιμοποιεί τις συνήθεις ρυθμίσεις της."};
 
 // %1 is the copy.
-inline constexpr TextPair kDamageKept = {
+inline constexpr TextPair kDamaged = {
     u"Your settings file is damaged. It has been kept, as it was, under the name:"
     u"\r\n\r\n%1\r\n\r\n"
     u"The program begins anew with its usual settings.",
@@ -39,7 +39,7 @@ inline constexpr TextPair kUnreadable = {
     u"αλλάξετε τώρα σε αυτές θα ξεχαστεί όταν τερματιστεί η εφαρμογή."};
 
 // %1 is the settings file, %2 the copy.
-inline constexpr TextPair kCopyNotKept = {
+inline constexpr TextPair kCopyFailed = {
     u"Your settings file could not be understood:"
     u"\r\n\r\n%1\r\n\r\n"
     u"It could not be kept under this name either:"

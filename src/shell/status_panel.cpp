@@ -10,17 +10,21 @@
 namespace verlume {
 namespace {
 
+constexpr Color kRed = 0x0000FF;
+constexpr Color kYellow = 0x00FFFF;
+constexpr Color kGreen = 0x00FF00;
+
 struct LampLook {
   Color color;
   TextPair words;
 };
 
-constexpr LampLook kIdle = {255, {u"Connection state: idle", u"Κατάσταση συνδέσεως: αδράνεια"}};
-constexpr LampLook kWaiting = {65535,
+constexpr LampLook kIdle = {kRed, {u"Connection state: idle", u"Κατάσταση συνδέσεως: αδράνεια"}};
+constexpr LampLook kWaiting = {kYellow,
                                {u"Connection state: waiting", u"Κατάσταση συνδέσεως: αναμονή"}};
-constexpr LampLook kCalling = {65535,
+constexpr LampLook kCalling = {kYellow,
                                {u"Connection state: calling", u"Κατάσταση συνδέσεως: κλήση"}};
-constexpr LampLook kConnected = {65280,
+constexpr LampLook kConnected = {kGreen,
                                  {u"Connection state: connected", u"Κατάσταση συνδέσεως: σύνδεση"}};
 
 const LampLook& LookOf(const AppState& state) {
@@ -29,7 +33,8 @@ const LampLook& LookOf(const AppState& state) {
   return state.IsCalling ? kCalling : kIdle;
 }
 
-// The count in the label's tag, grown by `increase`. The tag stays as it is on failure.
+// Adds `increase` to the count in the label's tag and returns the sum. The tag stays as it is on
+// failure.
 std::int32_t GrowCount(Label& counter, std::size_t increase) {
   const std::u16string tag = counter.Tag();
   const std::int32_t count = tag.empty() ? 0 : IntegerOf(tag);

@@ -11,15 +11,15 @@
 
 namespace verlume {
 
-// Shows the connection's state of AppState: by the lamp's colour, and by words that assistive tools
-// read for picShape.
+// Shows the connection state: by the lamp's colour, and in words that assistive tools read for
+// picShape.
 void ShowLamp(const AppState& state, const MainWindow& frmMain);
 
 // "#,###,###,##0" with the system's group separator.
 std::u16string GroupedNumberText(std::int32_t number, const Locale& locale);
 
 // Adds to the count in the label's tag (empty counts as 0) and shows it. Throws RunTimeFailure 6
-// when the count leaves 32 bits.
+// when the count does not fit into 32 bits.
 void AddToCounter(Label& counter, std::size_t characters, const Locale& locale);
 
 class StatusPanel {
@@ -29,10 +29,10 @@ class StatusPanel {
   // Once a second: shows the time, and counts the duration while connected.
   void tmrTimer_Timer();
 
-  // A chat begins now: its start time, and counts from 0.
+  // Starts a chat: shows the current time as its start, and sets its counts to 0.
   void StartChat();
 
-  // Empties the value labels that tell of a connection, all but the local address and nickname.
+  // Empties the labels about the connection, except the local address and nickname.
   void ClearValues();
 
  private:

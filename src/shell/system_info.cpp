@@ -13,7 +13,7 @@ constexpr TextPair kUnavailable = {
     u"System Information is unavailable at this time.",
     u"Οι Πληροφορίες Συστήματος δεν είναι διαθέσιμες αυτή τη στιγμή."};
 
-// Where the tool's own entry names it, else in the folder that it shares with others.
+// The path in the tool's own registry entry, else the tool in the folder of shared tools.
 std::optional<std::u16string> PathOfTool(const Platform& platform) {
   const SystemTools& tools = platform.tools;
   if (auto path = tools.LocalMachineText(u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", u"PATH")) {

@@ -6,7 +6,7 @@
 
 namespace verlume {
 
-// Finds the tool and starts it, and returns at once. Tells the user when there is none, or when it
+// Finds the tool, starts it and returns at once. Tells the user when there is no such tool or it
 // cannot be started.
 void StartSysInfo(const AppState& state, Platform& platform);
 

@@ -1,4 +1,4 @@
-// Every text that a user sees is a pair, chosen at the moment of showing.
+// A text in both languages; the language is chosen when the text is shown.
 #pragma once
 
 #include <initializer_list>
@@ -13,7 +13,7 @@ struct TextPair {
 
   constexpr std::u16string_view In(bool isGreek) const { return isGreek ? greek : english; }
 
-  // The text with "%1", "%2"... replaced by the values, in one pass: a value is never searched.
+  // The text with "%1", "%2"... replaced by the values. A "%1" inside a value stays as it is.
   std::u16string Fill(bool isGreek, std::initializer_list<std::u16string_view> values) const;
 };
 

@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "shell/conversions.h"
+#include "shell/setting_names.h"
 
 namespace verlume {
 
@@ -11,7 +12,8 @@ void WindowBehaviour::mnuToolsAlwaysOnTop_Click() {
     state_.AlwaysOnTop = !state_.AlwaysOnTop;
     platform_.frmMain.window.SetTopMost(state_.AlwaysOnTop);
     platform_.frmMain.mnuToolsAlwaysOnTop.SetChecked(state_.AlwaysOnTop);
-    settings_.WriteSetting(u"General", u"AlwaysOnTop", BooleanText(state_.AlwaysOnTop));
+    settings_.WriteSetting(setting_section::kGeneral, setting_key::kAlwaysOnTop,
+                           BooleanText(state_.AlwaysOnTop));
   });
   platform_.frmMain.rtbCommands.SetFocus();
 }

@@ -1,4 +1,4 @@
-// What the program itself decides about its main window.
+// Always on top, and context help by the right mouse button.
 #pragma once
 
 #include <initializer_list>
@@ -15,7 +15,7 @@ class WindowBehaviour {
   WindowBehaviour(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings)
       : state_(state), platform_(platform), errors_(errors), settings_(settings) {}
 
-  // Switches between the top-most and the normal band, and keeps the choice.
+  // Switches always on top on or off, and saves the choice.
   void mnuToolsAlwaysOnTop_Click();
 
  private:
@@ -25,8 +25,8 @@ class WindowBehaviour {
   Settings& settings_;
 };
 
-// A release of any button but the left one on one of the controls shows that control's context
-// help. Binds onMouseUp of all of them.
+// Binds onMouseUp of the controls: releasing any button but the left one over a control shows its
+// context help.
 void BindContextHelp(std::initializer_list<Control*> controls);
 
 // The same for the labels, check boxes and pictures of the main window.

@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "platform/protocol_marker.h"
 #include "richtext/rtf_cut.h"
-#include "stream/protocol_marker.h"
 
 namespace verlume::stream {
 namespace {

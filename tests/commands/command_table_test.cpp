@@ -9,7 +9,7 @@
 namespace verlume {
 namespace {
 
-// What a command typed with an argument does, and nothing besides.
+// All effects of a command that is typed with an argument, and no others.
 struct Row {
   std::u16string_view english;
   std::u16string_view greek;
@@ -70,7 +70,7 @@ class EveryCommand : public fake::TypingSide,
     fake.commonDialog.colors = {255};
   }
 
-  // A toggle's own action goes by its tick, so the tick it is met with is part of the effect.
+  // A toggle acts on its tick, so the tick that it finds is part of the effect.
   void Watch(fake::FakeMenuEntry& entry, std::u16string_view name) {
     entry.onClick = [this, &entry, name] {
       std::u16string what(name);
@@ -133,13 +133,13 @@ class EveryCommand : public fake::TypingSide,
     effect += (effect.empty() ? u"" : u", ") + std::u16string(what);
   }
 
-  // Everything else that a command may have done.
+  // All other possible effects of a command.
   void LookAround() {
     for (const Message& message : fake.dialogs.messages) Saw(u"tells of " + message.title);
     if (state.IsWaiting) Saw(u"waits on " + DecimalText(state.LocalPort));
     if (state.IsCalling) Saw(u"calls " + state.RemoteHost + u" " + DecimalText(state.RemotePort));
-    if (state.FontSize != 10) Saw(u"size " + DecimalText(static_cast<int>(state.FontSize)));
-    if (state.FontColor != 0) Saw(u"colour " + DecimalText(state.FontColor));
+    if (state.Font.Size != 10) Saw(u"size " + DecimalText(static_cast<int>(state.Font.Size)));
+    if (state.Font.Color != 0) Saw(u"colour " + DecimalText(state.Font.Color));
     if (state.Nickname != u"Bob") Saw(u"nickname " + state.Nickname);
     if (!window.rtbData.Text().empty()) Saw(u"writes " + window.rtbData.Text());
     if (window.window.unloaded) Saw(u"unloads");
@@ -148,7 +148,7 @@ class EveryCommand : public fake::TypingSide,
   std::u16string effect;
 };
 
-// Whatever the argument and the state of the toggles.
+// With any argument and any state of the toggles.
 TEST_P(EveryCommand, DoesItsOwnThingAndNothingElse) {
   const auto& [row, spoken, wasOn] = GetParam();
   state.AlwaysOnTop = wasOn;

@@ -1,4 +1,4 @@
-// A command pane with its list of completions, bound as in the program.
+// A command pane with its list of completions, connected as in the program.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -19,7 +19,7 @@ class CompletionSide : public TypingSide {
   void MakeMacro(std::u16string_view name, std::string rtf = "{\\rtf1 waves}") {
     fake.files.files[u"/macros/" + std::u16string(name) + u".rtf"] = rtf;
   }
-  // What stands in the pane afterwards; the key is the list's.
+  // Presses a key that the list takes, and returns the text of the pane afterwards.
   std::u16string Press(int key) {
     EXPECT_FALSE(pane.PressKey(key));
     return pane.Text();

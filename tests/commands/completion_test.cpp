@@ -1,4 +1,4 @@
-// When the list is open, and what it holds.
+// When the list is open, and what it contains.
 #include "commands/completion.h"
 
 #include "commands/completion_fixture.h"

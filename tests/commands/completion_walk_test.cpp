@@ -1,4 +1,4 @@
-// The keys and clicks that take a row from the list.
+// The keys and clicks that choose a row of the list.
 #include "commands/completion.h"
 #include "commands/completion_fixture.h"
 
@@ -90,7 +90,7 @@ TEST_F(CompletionWalk, EnterWithoutAWalkRunsWhatWasTyped) {
 TEST_F(CompletionWalk, TheWordTakesTheStyleInForce) {
   window.chkBold.SetValue(1);
   Down();
-  EXPECT_TRUE(state.FontBold);
+  EXPECT_TRUE(state.Font.Bold);
   EXPECT_EQ(window.chkBold.value, 1);
   EXPECT_EQ(pane.SelFormat().bold, true);
   pane.Select(0, pane.TextLength());

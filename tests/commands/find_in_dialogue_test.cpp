@@ -15,7 +15,7 @@ class FindTest : public testing::Test {
     pane.Select(pane.TextLength(), 0);
   }
 
-  // What the pane shows as found.
+  // The text selected in the pane.
   std::u16string Selected() const { return pane.Text().substr(pane.SelStart(), pane.SelLength()); }
   std::u16string Result() const { return window.lblFindResult.caption; }
 

@@ -16,7 +16,7 @@ std::u16string RtfOf(std::u16string_view text, std::u16string_view fontName = u"
   return richtext::WriteRtf(document);
 }
 
-// What a reader sees of a typed text once it has been expanded.
+// The plain text of a typed text after its placeholders have been expanded.
 std::u16string Expanded(std::u16string_view text, const Nicknames& nicknames) {
   return richtext::ReadRtf(ExpandPlaceholders(RtfOf(text), nicknames)).text;
 }

@@ -62,7 +62,7 @@ TEST_F(TextSearchTest, PlaceBehindTheEndFindsNothing) {
   EXPECT_EQ(Find(u"a", u"aaa", 100), std::nullopt);
 }
 
-// Naive search would take the length of the words times that of the text: minutes.
+// A naive search would take the product of both lengths: minutes.
 TEST_F(TextSearchTest, TextMadeToBeSlowTakesNoLonger) {
   const std::u16string text(1'000'000, u'a');
   const std::u16string words = std::u16string(50'000, u'a') + u'b';

@@ -8,8 +8,8 @@ TypingSide::TypingSide() {
   state.Nickname = u"Bob";
   state.DateStamp = state.TimeStamp = false;
   state.History[0] = u"0";
-  state.FontName = u"Arial";
-  state.FontSize = 10;
+  state.Font.Name = u"Arial";
+  state.Font.Size = 10;
   state.ProtocolMarker = BuildProtocolMarker();
 
   window.rtbCommands.onKeyPress = [this](int& code) { interpreter.rtbCommands_KeyPress(code); };

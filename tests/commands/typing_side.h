@@ -1,5 +1,5 @@
-// One side of the program as far as typed lines reach: the real rooms on an in-memory platform,
-// with the command pane and the style controls bound as in the program.
+// One side of the program, as far as typed lines need it: the real objects on an in-memory
+// platform, with the command pane and the style controls connected as in the program.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ class TypingSide : public testing::Test {
     window.rtbCommands.Type(u"\r");
   }
 
-  // Somebody at port 2000, connected to this side's socket; what this side sends stands in
+  // Connects a peer at port 2000 to this side's socket. What this side sends is in
   // fake.socket.sent.
   void Connect() {
     peer.SetLocalPort(2000);
@@ -48,13 +48,26 @@ class TypingSide : public testing::Test {
   DialogueLog log{state, fake.platform, errors, settings};
   StatusPanel statusPanel{fake.platform, errors};
   Dialogue dialogue{state, fake.platform, errors, settings, log};
-  WireProtocol wire{state, fake.platform, errors, {dialogue, log, statusPanel}};
-  ConnectionActions connection{
-      state, fake.platform, errors, {settings, dialogue, log, statusPanel, wire}};
+  WireProtocol wire{
+      state, fake.platform, errors, {.dialogue = dialogue, .log = log, .statusPanel = statusPanel}};
+  ConnectionActions connection{state,
+                               fake.platform,
+                               errors,
+                               {.settings = settings,
+                                .dialogue = dialogue,
+                                .log = log,
+                                .statusPanel = statusPanel,
+                                .wire = wire}};
   CommandHistory history{state, fake.platform, errors};
   TextFormat textFormat{state, fake.platform, errors, settings, dialogue};
-  CommandInterpreter interpreter{
-      state, fake.platform, errors, {dialogue, history, textFormat, connection, wire}};
+  CommandInterpreter interpreter{state,
+                                 fake.platform,
+                                 errors,
+                                 {.dialogue = dialogue,
+                                  .history = history,
+                                  .textFormat = textFormat,
+                                  .connection = connection,
+                                  .wire = wire}};
 };
 
 }  // namespace verlume::fake

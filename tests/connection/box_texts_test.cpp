@@ -1,4 +1,4 @@
-// Every box of the actions, in both languages, with icon, buttons, default button and title.
+// All boxes of the actions, in both languages, with icon, buttons, default button and title.
 #include <gtest/gtest.h>
 
 #include "support/side.h"
@@ -229,7 +229,7 @@ INSTANTIATE_TEST_SUITE_P(BothLanguages, BoxTextsTest, testing::Bool());
 TEST_P(BoxTextsTest, EachActionSaysWhatFitsTheState) {
   for (const Box& box : kBoxes) {
     Bring(box.state);
-    // The address has changed wherever the refresh asks anything.
+    // The address has changed whenever the refresh asks anything.
     const bool hasMoved = box.state != ConnectionState::Idle;
     alice.fake.socket.localIP = hasMoved ? u"198.51.100.7" : u"192.0.2.1";
     dialogs.messages.clear();

@@ -159,7 +159,7 @@ TEST_F(CallRemoteTest, AnotherCallTakesTheFirstOnesPlaceOnlyOnYes) {
   EXPECT_EQ(alice.State(), ConnectionState::Calling);
 }
 
-TEST_F(CallRemoteTest, ACallAnsweredUnderTheQuestionIsNotDropped) {
+TEST_F(CallRemoteTest, ACallAnsweredDuringTheQuestionIsNotDropped) {
   bob.Wait(u"4000");
   bob.fake.dialogs.answers = {Answer::Yes};
   alice.Call(u"bob 4000");
@@ -185,7 +185,7 @@ TEST_F(CallRemoteTest, ACallAnsweredWhileTheHostIsTypedIsNotDropped) {
   EXPECT_EQ(dialogs.messages.back().icon, MessageIcon::Stop);
 }
 
-TEST_F(CallRemoteTest, ACallThatEndedUnderTheQuestionIsInNobodysWay) {
+TEST_F(CallRemoteTest, ACallThatEndedDuringTheQuestionIsNoObstacle) {
   alice.Call(u"nobody 4999");
   dialogs.whileOpen = [this] { network.RunUntilIdle(); };
   dialogs.answers = {Answer::Yes};

@@ -21,7 +21,7 @@ TEST_F(ConfirmExitTest, NoKeepsEverythingAndEmptiesTheCommandPane) {
   Connect();
   const std::u16string status = alice.Status();
   window.rtbCommands.SetText(u"/EXIT");
-  alice.state.ExitConfirmed = true;  // of an earlier time
+  alice.state.ExitConfirmed = true;  // left from before
   dialogs.answers = {Answer::No};
   alice.actions.ConfirmExit();
   EXPECT_FALSE(alice.state.ExitConfirmed);
@@ -53,7 +53,7 @@ TEST_F(ConfirmExitTest, YesWhileConnectedRecordsTheEndButClosesNothing) {
   EXPECT_EQ(alice.fake.socket.State(), SocketState::Connected);
 }
 
-TEST_F(ConfirmExitTest, APeerThatLeavesUnderTheQuestionIsRecordedOnce) {
+TEST_F(ConfirmExitTest, APeerThatLeavesDuringTheQuestionIsRecordedOnce) {
   alice.RecordDialogues();
   Connect();
   dialogs.answers = {Answer::Yes};
@@ -69,7 +69,7 @@ TEST_F(ConfirmExitTest, APeerThatLeavesUnderTheQuestionIsRecordedOnce) {
   EXPECT_NE(log.find(u"Disconnected."), log.npos);
 }
 
-TEST_F(ConfirmExitTest, ACallAnsweredUnderTheQuestionIsAskedAboutAnew) {
+TEST_F(ConfirmExitTest, ACallAnsweredDuringTheQuestionIsAskedAboutAnew) {
   bob.Wait(u"4000");
   bob.fake.dialogs.answers = {Answer::Yes};
   alice.Call(u"bob 4000");

@@ -10,7 +10,7 @@ namespace {
 
 class ConnectionActionsTest : public testing::Test, protected fake::TwoSides {
  protected:
-  // Runs the action and tells whether the focus was given back.
+  // Runs the action and returns whether the focus was given back.
   bool FocusesAfter(fake::Action action) {
     alice.fake.window.rtbCommands.timesFocused = 0;
     action(alice.actions, alice.state.CommandLine);

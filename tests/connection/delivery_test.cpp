@@ -1,4 +1,4 @@
-// What the user is told of lines that have not arrived.
+// What the user is told about lines that have not been delivered.
 #include <gtest/gtest.h>
 
 #include <utility>
@@ -27,21 +27,22 @@ class DeliveryTest : public testing::Test, protected fake::TwoSides {
     alice.state.CommandLine = u"/CLOSE";
     alice.actions.CloseConnection();
   }
-  // Bob has another name by then, and what Alice could not send is told of in the middle of it.
+  // Bob has another nickname in the second conversation, in the middle of which Alice's undelivered
+  // lines of the first are reported.
   void BeginAnotherConversation() {
     network.Mend();
     bob.state.Nickname = u"Carol";
     const auto tell = std::exchange(alice.fake.socket.onUndelivered, nullptr);
     std::size_t lost = 0;
     alice.fake.socket.onUndelivered = [&](std::size_t lines) { lost = lines; };
-    network.RunUntilIdle();  // Bob hears of the end
+    network.RunUntilIdle();  // Bob learns of the end
     Connect();
     alice.fake.socket.onUndelivered = tell;
     ASSERT_EQ(alice.State(), ConnectionState::Connected);
     ASSERT_GT(lost, 0u);
     tell(lost);
   }
-  // In a second connection, of which the caller never hears the start.
+  // A second connection, in which the caller never receives the start.
   void SendBeforeTheHandshake() {
     AliceCloses();
     network.RunUntilIdle();
@@ -195,7 +196,7 @@ TEST_F(DeliveryTest, NothingIsToldInTheLogWhenLoggingIsOff) {
   EXPECT_FALSE(LogSays(u"2 lines were not delivered."));
 }
 
-TEST_F(DeliveryTest, LinesBeforeTheHandshakeAreInNobodysLog) {
+TEST_F(DeliveryTest, LinesBeforeTheHandshakeAreInNoLog) {
   SendBeforeTheHandshake();
   alice.actions.CancelWaitOrCall();
   network.RunUntilIdle();
@@ -203,7 +204,7 @@ TEST_F(DeliveryTest, LinesBeforeTheHandshakeAreInNobodysLog) {
   EXPECT_FALSE(LogSays(u"1 line was not delivered."));
 }
 
-TEST_F(DeliveryTest, LinesBeforeTheHandshakeThatBreakAreInNobodysLogEither) {
+TEST_F(DeliveryTest, LinesOfAConnectionThatBreaksBeforeTheHandshakeAreInNoLog) {
   SendBeforeTheHandshake();
   bob.actions.CancelWaitOrCall();
   network.RunUntilIdle();

@@ -79,7 +79,7 @@ TEST_F(RefreshLocalIPTest, ACallIsGivenUpOnlyOnYes) {
   EXPECT_EQ(window.lblLocalIP.caption, u"198.51.100.7");
 }
 
-TEST_F(RefreshLocalIPTest, ACallAnsweredUnderTheQuestionIsNotDropped) {
+TEST_F(RefreshLocalIPTest, ACallAnsweredDuringTheQuestionIsNotDropped) {
   bob.Wait(u"4000");
   bob.fake.dialogs.answers = {Answer::Yes};
   alice.Call(u"bob 4000");
@@ -91,7 +91,7 @@ TEST_F(RefreshLocalIPTest, ACallAnsweredUnderTheQuestionIsNotDropped) {
   EXPECT_EQ(dialogs.messages.back().icon, MessageIcon::Stop);
 }
 
-TEST_F(RefreshLocalIPTest, AnAddressThatMovesOnUnderTheQuestionIsReadAgain) {
+TEST_F(RefreshLocalIPTest, AnAddressThatMovesOnDuringTheQuestionIsReadAgain) {
   alice.Wait(u"4000");
   Move();
   dialogs.answers = {Answer::Yes};

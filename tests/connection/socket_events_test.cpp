@@ -13,7 +13,7 @@ class SocketEventsTest : public testing::Test, protected fake::TwoSides {
     bob.Wait(u"4000");
     alice.Call(u"bob 4000");
   }
-  // What Bob does while he is asked.
+  // What Bob does while the question is open.
   template <class Body>
   void WhileBobIsAsked(Body body) {
     bob.fake.dialogs.whileOpen = body;

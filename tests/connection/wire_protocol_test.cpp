@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::literals;
 
-// Alice and Bob are connected; what Bob's socket sends is what Alice receives.
+// Alice and Bob are connected: what Bob's socket sends, Alice receives.
 class WireProtocolTest : public testing::Test, protected fake::TwoSides {
  protected:
   void SetUp() override { Connect(); }
@@ -21,7 +21,7 @@ class WireProtocolTest : public testing::Test, protected fake::TwoSides {
     network.RunUntilIdle();
   }
   std::u16string Message(std::u16string_view rest) const { return marker + std::u16string(rest); }
-  // The one failure reported to Alice.
+  // Alice is told of exactly this failure.
   void ExpectReport(std::u16string_view title, std::u16string_view failure) {
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].title, title);

@@ -211,7 +211,7 @@ TEST_F(MacroEditorButtonsTest, WrongNameIsToldInGreek) {
   }
 }
 
-TEST_F(MacroEditorButtonsTest, AddStopsAskingWhenTheProgramEndsUnderTheBox) {
+TEST_F(MacroEditorButtonsTest, AddStopsAskingWhenTheProgramEndsDuringTheBox) {
   Open([this] {
     fake.dialogs.typed = {u"a b"};
     fake.dialogs.whileOpen = [this] { fake.application.End(); };

@@ -5,8 +5,8 @@ namespace verlume {
 MacroEditorTest::MacroEditorTest() {
   fake.files.MakeFolder(u"/macros");
   state.MacrosFolder = u"/macros/";
-  state.FontName = u"Arial";
-  state.FontSize = 10;
+  state.Font.Name = u"Arial";
+  state.Font.Size = 10;
   fake.files.files[u"/macros/bye.rtf"] = "{\\rtf1 See you}";
   fake.files.files[u"/macros/hello.rtf"] = "{\\rtf1{\\colortbl;\\red255;}\\b\\cf1 Good morning}";
   fake.files.files[u"/macros/plain.rtf"] = "no rich text";

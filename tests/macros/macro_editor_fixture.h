@@ -1,4 +1,4 @@
-// What the tests of the macro editor stand on: its window in memory, bound as in the program, over
+// The fixture of the macro editor's tests: its window in memory, connected as in the program, with
 // a folder of three macros.
 #pragma once
 
@@ -17,7 +17,7 @@ class MacroEditorTest : public RoomTest {
   MacroEditorTest();
   ~MacroEditorTest() override;
 
-  // Opens the editor, does the act in it and closes it, in whatever state it is.
+  // Opens the editor, does the act in it and closes it in any state.
   void Open(const std::function<void()>& act) {
     window.window.whileModal = [this, act] {
       act();
@@ -26,7 +26,7 @@ class MacroEditorTest : public RoomTest {
     editor.OpenMacroEditor();
   }
 
-  // What a user does.
+  // Actions of a user.
   void Choose(const std::u16string& name) {
     for (int i = 0; i < list.Count(); ++i) {
       if (list.Item(i) == name) return list.Choose(i);
@@ -42,7 +42,7 @@ class MacroEditorTest : public RoomTest {
     window.cmdEdit.Click();
   }
 
-  // The state as the user meets it; "none" where the window is in no state of the table.
+  // The state that the window shows; "none" if it matches no state of the table.
   std::string StateName() const {
     const std::vector<bool> buttons = {window.cmdAdd.enabled,    window.cmdEdit.enabled,
                                        window.cmdSave.enabled,   window.cmdSaveAs.enabled,

@@ -1,4 +1,4 @@
-// Giving up changes and deleting macros, and where the keyboard goes then.
+// Cancelling changes and deleting macros, and where the focus is then.
 #include "macros/macro_editor_fixture.h"
 #include "macros/macro_editor_states.h"
 
@@ -204,8 +204,8 @@ TEST_F(MacroEditorRemovalTest, NameIsNoPattern) {
   EXPECT_TRUE(fake.dialogs.messages[0].text.ends_with(u"macro '%1'%2'?"));
 }
 
-// A box that goes with the program answers as one that is closed.
-TEST_F(MacroEditorRemovalTest, NothingIsDoneWhenTheProgramEndsUnderAQuestion) {
+// A box that is closed because the program ends gives the same answer as a closed one.
+TEST_F(MacroEditorRemovalTest, NothingIsDoneWhenTheProgramEndsDuringAQuestion) {
   Open([this] {
     Edit(u"hello");
     text.Type(u"!");

@@ -9,7 +9,7 @@ namespace {
 
 class MacroEditorStatesTest : public testing::Test {
  protected:
-  // The captions' first letters of the buttons that are on, a dash for each that is off.
+  // The first letters of the enabled buttons' captions, and a dash for each disabled one.
   std::string Buttons(MacroEditorState state) {
     EnterState(window.frmMacros, state);
     std::string on;

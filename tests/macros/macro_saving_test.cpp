@@ -200,7 +200,7 @@ TEST_F(MacroSavingTest, FolderThatVanishesWhileTheNameIsAskedForIsReported) {
   EXPECT_EQ(pane.Text(), u"Good morning");
 }
 
-TEST_F(MacroSavingTest, StopsAskingWhenTheProgramEndsUnderTheBox) {
+TEST_F(MacroSavingTest, StopsAskingWhenTheProgramEndsDuringTheBox) {
   fake.dialogs.typed = {u""};
   fake.dialogs.whileOpen = [this] { fake.application.End(); };
   saving.SaveCommandPaneAsMacro();

@@ -14,7 +14,7 @@ constexpr Color kBlue = 0xFF0000;
 
 class MacroStyleTest : public MacroEditorTest {
  protected:
-  // Opens the editor on a new macro.
+  // Opens the editor with a new macro.
   void Write(const std::function<void()>& act) {
     Open([this, act] {
       Add(u"new");
@@ -24,10 +24,10 @@ class MacroStyleTest : public MacroEditorTest {
 };
 
 TEST_F(MacroStyleTest, BeginsAsTheCommandPanesStyle) {
-  state.FontName = u"Georgia";
-  state.FontBold = state.FontUnderline = state.FontStrikethrough = true;
-  state.FontColor = kRed;
-  state.FontSize = 11;
+  state.Font.Name = u"Georgia";
+  state.Font.Bold = state.Font.Underline = state.Font.Strikethrough = true;
+  state.Font.Color = kRed;
+  state.Font.Size = 11;
   Open([this] {
     EXPECT_EQ(window.chkBold.value, 1);
     EXPECT_EQ(window.chkItalics.value, 0);
@@ -52,7 +52,7 @@ TEST_F(MacroStyleTest, BeginsAfreshEachTime) {
   Open([this] { window.chkBold.SetValue(1); });
   Open([this] {
     EXPECT_EQ(window.chkBold.value, 0);
-    EXPECT_FALSE(state.MacroBold);
+    EXPECT_FALSE(state.MacroFont.Bold);
   });
 }
 
@@ -63,7 +63,7 @@ TEST_F(MacroStyleTest, BoxesSetTheStyleOfWhatIsTypedNext) {
     window.chkItalics.SetValue(1);
     window.chkUnderlined.SetValue(1);
     EXPECT_EQ(text.timesFocused, focused + 3);
-    EXPECT_TRUE(state.MacroBold && state.MacroItalic && state.MacroUnderline);
+    EXPECT_TRUE(state.MacroFont.Bold && state.MacroFont.Italic && state.MacroFont.Underline);
     text.Type(u"a");
     window.chkBold.SetValue(0);
     text.Type(u"b");
@@ -74,7 +74,7 @@ TEST_F(MacroStyleTest, BoxesSetTheStyleOfWhatIsTypedNext) {
     text.Select(1, 1);
     EXPECT_EQ(text.SelFormat().bold, false);
   });
-  EXPECT_FALSE(state.FontBold) << "the command pane's style is another one";
+  EXPECT_FALSE(state.Font.Bold) << "the command pane's style is another one";
 }
 
 TEST_F(MacroStyleTest, BoxesSetTheStyleOfTheSelection) {
@@ -94,7 +94,7 @@ TEST_F(MacroStyleTest, FailureInABoxIsIgnored) {
     window.chkBold.SetValue(1);
     window.chkItalics.SetValue(1);
     window.chkUnderlined.SetValue(1);
-    EXPECT_TRUE(state.MacroBold && state.MacroItalic && state.MacroUnderline);
+    EXPECT_TRUE(state.MacroFont.Bold && state.MacroFont.Italic && state.MacroFont.Underline);
   });
   EXPECT_THAT(Titles(), IsEmpty());
   EXPECT_THAT(fake.application.loggedErrors, SizeIs(3)) << "one for each box";
@@ -127,7 +127,7 @@ TEST_F(MacroStyleTest, CaretShowsTheStyleUnderIt) {
     Choose(u"hello");
     EXPECT_EQ(window.chkBold.value, 1);
     EXPECT_EQ(window.lblColour.backColor, kRed);
-    EXPECT_EQ(state.MacroColor, kRed);
+    EXPECT_EQ(state.MacroFont.Color, kRed);
     Choose(u"bye");
     EXPECT_EQ(window.chkBold.value, 0);
     EXPECT_EQ(window.lblColour.backColor, 0);
@@ -138,11 +138,11 @@ TEST_F(MacroStyleTest, SelectionChangesNoStyle) {
   Open([this] {
     Choose(u"bye");
     Edit(u"hello");
-    state.MacroBold = false;
+    state.MacroFont.Bold = false;
     text.Select(0, 4);
-    EXPECT_FALSE(state.MacroBold);
+    EXPECT_FALSE(state.MacroFont.Bold);
     text.Select(4, 0);
-    EXPECT_TRUE(state.MacroBold);
+    EXPECT_TRUE(state.MacroFont.Bold);
   });
 }
 
@@ -152,38 +152,38 @@ TEST_F(MacroStyleTest, UndeterminedStyleIsOffAndLeavesTheColour) {
     text.formatIsMixed = true;
     text.Select(3, 0);
     EXPECT_EQ(window.chkBold.value, 0);
-    EXPECT_FALSE(state.MacroBold);
+    EXPECT_FALSE(state.MacroFont.Bold);
     EXPECT_EQ(window.lblColour.backColor, kRed);
-    EXPECT_EQ(state.MacroColor, kRed);
+    EXPECT_EQ(state.MacroFont.Color, kRed);
   });
 }
 
 TEST_F(MacroStyleTest, ColourIsChosenByAnyButtonButTheRightOne) {
   Write([this] {
-    state.MacroColor = kBlue;
+    state.MacroFont.Color = kBlue;
     window.lblColour.onMouseDown(MouseButton::Right);
     EXPECT_THAT(fake.commonDialog.colorsShown, IsEmpty());
     fake.commonDialog.colors = {kRed, kBlue};
     const int focused = text.timesFocused;
     window.lblColour.onMouseDown(MouseButton::Left);
-    EXPECT_EQ(state.MacroColor, kRed);
+    EXPECT_EQ(state.MacroFont.Color, kRed);
     EXPECT_EQ(window.lblColour.backColor, kRed);
     EXPECT_EQ(text.SelFormat().color, kRed);
     EXPECT_EQ(text.timesFocused, focused + 1);
     window.lblColour.onMouseDown(MouseButton::Other);
-    EXPECT_EQ(state.MacroColor, kBlue);
+    EXPECT_EQ(state.MacroFont.Color, kBlue);
     EXPECT_THAT(fake.commonDialog.colorsShown, ElementsAre(kBlue, kRed));
   });
 }
 
 TEST_F(MacroStyleTest, CancelledDialogsAreSilent) {
   Write([this] {
-    state.MacroColor = kBlue;
+    state.MacroFont.Color = kBlue;
     fake.commonDialog.colors = {std::nullopt, std::nullopt};
     fake.commonDialog.fonts = {std::nullopt};
     window.lblColour.onMouseDown(MouseButton::Left);
     text.Type(u"\x0B\x06");
-    EXPECT_EQ(state.MacroColor, kBlue);
+    EXPECT_EQ(state.MacroFont.Color, kBlue);
     EXPECT_EQ(text.Text(), u"");
   });
   EXPECT_THAT(Titles(), IsEmpty());
@@ -203,7 +203,7 @@ TEST_F(MacroStyleTest, KeysToggleTheBoxes) {
   Write([this] {
     text.Type(u"\x02\x09\x15");
     EXPECT_EQ(window.chkBold.value + window.chkItalics.value + window.chkUnderlined.value, 3);
-    EXPECT_TRUE(state.MacroBold && state.MacroItalic && state.MacroUnderline);
+    EXPECT_TRUE(state.MacroFont.Bold && state.MacroFont.Italic && state.MacroFont.Underline);
     text.Type(u"\x02\x09\x15");
     EXPECT_EQ(window.chkBold.value + window.chkItalics.value + window.chkUnderlined.value, 0);
     EXPECT_EQ(text.Text(), u"") << "they insert nothing";
@@ -238,7 +238,7 @@ TEST_F(MacroStyleTest, ControlKIsAClickOnTheColour) {
   Write([this] {
     fake.commonDialog.colors = {kRed};
     text.Type(u"\x0B");
-    EXPECT_EQ(state.MacroColor, kRed);
+    EXPECT_EQ(state.MacroFont.Color, kRed);
     EXPECT_EQ(window.lblColour.backColor, kRed);
     EXPECT_EQ(text.Text(), u"");
   });
@@ -246,8 +246,14 @@ TEST_F(MacroStyleTest, ControlKIsAClickOnTheColour) {
 
 TEST_F(MacroStyleTest, ControlFChoosesTheFont) {
   Write([this] {
-    state.MacroItalic = true;
-    fake.commonDialog.fonts = {FontChoice{u"Georgia", true, false, true, true, kRed, 9}};
+    state.MacroFont.Italic = true;
+    fake.commonDialog.fonts = {FontChoice{.name = u"Georgia",
+                                          .bold = true,
+                                          .italic = false,
+                                          .underline = true,
+                                          .strikethrough = true,
+                                          .color = kRed,
+                                          .size = 9}};
     text.Type(u"\x06");
     const auto& shown = fake.commonDialog.fontsShown.at(0);
     EXPECT_EQ(shown.start.name, u"Arial");
@@ -255,11 +261,11 @@ TEST_F(MacroStyleTest, ControlFChoosesTheFont) {
     EXPECT_TRUE(shown.start.italic);
     EXPECT_EQ(shown.minimumSize, 8);
     EXPECT_EQ(shown.maximumSize, 11);
-    EXPECT_EQ(state.MacroFontName, u"Georgia");
-    EXPECT_EQ(state.MacroFontSize, 9);
-    EXPECT_EQ(state.MacroColor, kRed);
-    EXPECT_TRUE(state.MacroBold && state.MacroUnderline && state.MacroStrikethrough);
-    EXPECT_FALSE(state.MacroItalic);
+    EXPECT_EQ(state.MacroFont.Name, u"Georgia");
+    EXPECT_EQ(state.MacroFont.Size, 9);
+    EXPECT_EQ(state.MacroFont.Color, kRed);
+    EXPECT_TRUE(state.MacroFont.Bold && state.MacroFont.Underline && state.MacroFont.Strikethrough);
+    EXPECT_FALSE(state.MacroFont.Italic);
     EXPECT_EQ(text.SelFormat().fontName, u"Georgia");
     EXPECT_EQ(text.SelFormat().strikethrough, true);
     EXPECT_EQ(window.chkBold.value, 1);
@@ -283,11 +289,11 @@ TEST_F(MacroStyleTest, ControlSAsksForTheSize) {
   Write([this] {
     fake.dialogs.typed = {u" 9 "};
     text.Type(u"\x13");
-    EXPECT_EQ(state.MacroFontSize, 9);
+    EXPECT_EQ(state.MacroFont.Size, 9);
     EXPECT_EQ(text.SelFormat().fontSize, 9);
     fake.dialogs.typed = {u""};
     text.Type(u"\x13");
-    EXPECT_EQ(state.MacroFontSize, 9);
+    EXPECT_EQ(state.MacroFont.Size, 9);
   });
   EXPECT_EQ(fake.dialogs.asked[1].title, u"Font size definition");
   EXPECT_EQ(fake.dialogs.asked[1].prompt,
@@ -309,7 +315,7 @@ TEST_F(MacroStyleTest, SizeOutOfRangeIsToldAndAskedForAgain) {
                 u"The font size must be between 8 and 11 inclusive.");
       EXPECT_EQ(fake.dialogs.messages[0].icon, MessageIcon::Information);
       EXPECT_EQ(fake.dialogs.asked.back().defaultText, u"");
-      EXPECT_EQ(state.MacroFontSize, 11);
+      EXPECT_EQ(state.MacroFont.Size, 11);
     });
   }
 }

@@ -1,5 +1,5 @@
-// What the tests of the lower rooms stand on: a platform in memory, a settings file in /verlume and
-// an error report that counts how often it closes the connection.
+// The fixture of the tests of macros and records: a platform in memory, a settings file in /verlume
+// and an error report that counts how often it closes the connection.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -27,7 +27,7 @@ class RoomTest : public testing::Test {
     return titles;
   }
 
-  // The error report of a failure, and No to its question.
+  // Expects the error report of a failure, and answers No to its question.
   void AnswerNoToErrors(int times = 1) {
     fake.dialogs.answers.insert(fake.dialogs.answers.end(), times, Answer::No);
   }

@@ -28,7 +28,7 @@ class CallersFixture : public testing::Test {
   }
 
   void Enter(const std::u16string& line) {
-    fake.window.rtbCommands.SetText(u"");  // a command that was refused is still there
+    fake.window.rtbCommands.SetText(u"");  // a refused command is still there
     fake.window.rtbCommands.Type(line + u"\r");
   }
   void EnterAndAgree(const std::u16string& line) {
@@ -40,7 +40,7 @@ class CallersFixture : public testing::Test {
     return u"/CALL " + world.Host() + u" " + DecimalText(itsPort);
   }
 
-  // The program waits on a free port.
+  // The program waits for a call on a free port.
   void Listen() {
     Enter(u"/WAIT");
     port = program.State().LocalPort;

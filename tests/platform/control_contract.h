@@ -1,7 +1,7 @@
-// What the controls and windows of every platform do. A suite is made from a maker: a default
-// constructible class with label(), checkBox(), button(), entry(), menu(), lamp(), picture(),
-// window(), CloseByUser(), which does what the window's close box does, and WhileModal(act), which
-// runs the act as soon as the window has been shown modally.
+// The contract that the controls and windows of every platform keep. A suite is made from a maker:
+// a default constructible class with label(), checkBox(), button(), entry(), menu(), lamp(),
+// picture(), window(), CloseByUser(), which does what the window's close box does, and
+// WhileModal(act), which runs the act as soon as the window is shown modally.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -68,7 +68,7 @@ TYPED_TEST_P(ControlContract, ButtonKeepsItsCaptionAsGiven) {
   EXPECT_EQ(button.Caption(), u"Save & <b>close</b>...");
 }
 
-TYPED_TEST_P(ControlContract, DisabledButtonIsDeafToClicks) {
+TYPED_TEST_P(ControlContract, DisabledButtonIgnoresClicks) {
   Button& button = this->maker.button();
   int clicks = 0;
   button.onClick = [&] { ++clicks; };
@@ -247,7 +247,7 @@ REGISTER_TYPED_TEST_SUITE_P(
     ControlContract, LabelKeepsItsCaptionAsGiven, LabelTagIsApartFromItsCaption,
     ToolTipIsKeptAsGiven, CheckBoxRaisesClickWhenItsValueChanges,
     CheckBoxWithoutHandlerChangesAllTheSame, ButtonKeepsItsCaptionAsGiven,
-    DisabledButtonIsDeafToClicks, MenuEntryIsTickedByTheProgramAlone, MenusKeepTheirCaptions,
+    DisabledButtonIgnoresClicks, MenuEntryIsTickedByTheProgramAlone, MenusKeepTheirCaptions,
     MenuEntryKeepsItsToolTipAsGiven, LampKeepsItsTwoColors, PictureHasAHeight, WindowKeepsItsTitle,
     UnloadAsksAndUnloadsOnce, CloseByUserIsToldFromOneByCode, RefusedCloseLeavesTheWindow,
     UnloadWithinTheCloseQuestionUnloadsOnce, UnloadWithinARefusedCloseQuestionStands,

@@ -1,4 +1,4 @@
-// The World of the socket's contracts in memory.
+// The in-memory World of the socket contracts.
 #pragma once
 
 #include <memory>

@@ -1,6 +1,6 @@
-// What every FileSystem does, as tests that run on each implementation.
+// The contract of every FileSystem, as tests that run on each implementation.
 //
-// A World holds `FileSystem& files`, `std::u16string Folder()` (an empty folder) and
+// A World has `FileSystem& files`, `std::u16string Folder()` (an empty folder) and
 // `MakeFolder(path)`.
 #pragma once
 

@@ -1,6 +1,6 @@
-// What the list box of every platform does. A suite is made from a maker: a default constructible
-// class with list(), and with Choose(index) and PressDown(), which do what a user's click on that
-// item and the Down key do.
+// The contract that the list box of every platform keeps. A suite is made from a maker: a default
+// constructible class with list(), and with Choose(index) and PressDown(), which do what a click on
+// that item and the Down key do.
 #pragma once
 
 #include <gtest/gtest.h>

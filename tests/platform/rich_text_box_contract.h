@@ -30,7 +30,13 @@ inline SelectionFormat Bold(bool value) {
 }
 
 inline SelectionFormat Fancy() {
-  return {u"Tahoma", 9.5, 0x0000FF, true, true, true, true};
+  return {.fontName = u"Tahoma",
+          .fontSize = 9.5,
+          .color = 0x0000FF,
+          .bold = true,
+          .italic = true,
+          .underline = true,
+          .strikethrough = true};
 }
 
 inline void ExpectFormat(const SelectionFormat& actual, const SelectionFormat& expected) {

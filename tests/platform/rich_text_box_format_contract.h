@@ -137,7 +137,13 @@ TYPED_TEST_P(RichTextBoxFormat, AtTheStartOfALineItTakesTheFirstCharacter) {
 
 TYPED_TEST_P(RichTextBoxFormat, ADialogueLineIsWrittenPieceByPiece) {
   RichTextBox& box = *this->many;
-  const SelectionFormat tag = {u"Arial", 8, 0, false, false, false, false};
+  const SelectionFormat tag = {.fontName = u"Arial",
+                               .fontSize = 8,
+                               .color = 0,
+                               .bold = false,
+                               .italic = false,
+                               .underline = false,
+                               .strikethrough = false};
   for (int line = 0; line < 2; ++line) {
     box.Select(box.TextLength(), 0);
     if (box.TextLength() > 0) box.SetSelText(u"\r\n");

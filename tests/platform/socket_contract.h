@@ -1,8 +1,8 @@
-// What every Socket does, as tests that run on each implementation.
+// The contract of every Socket, as tests that run on each implementation.
 //
 // A World makes sockets that can reach each other: `Socket& New()`, `std::u16string Host()` (where
-// they listen) and `bool Wait(condition)`, which lets events through until the condition holds or
-// a limit has passed.
+// they listen) and `bool Wait(condition)`, which handles events until the condition is true or a
+// time limit has passed.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -17,7 +17,7 @@
 
 namespace verlume {
 
-// A socket and what it has raised.
+// A socket and the events that it has raised.
 struct SocketUser {
   explicit SocketUser(Socket& itsSocket) : socket(itsSocket) {
     socket.onConnectionRequest = [this](std::int64_t id) {
@@ -68,7 +68,7 @@ class SocketContract : public testing::Test {
     user.socket.SetRemotePort(callee.socket.LocalPort());
     user.socket.Connect();
   }
-  // The caller is asked about, and the caller knows that it got through.
+  // The call has reached the other side, and the caller knows it.
   void Ring() {
     Listen();
     Call(caller);
@@ -123,7 +123,7 @@ TYPED_TEST_P(SocketContract, ListeningOnPortZeroTellsThePortInUse) {
   this->Listen();
   EXPECT_EQ(this->callee.socket.State(), SocketState::Listening);
   EXPECT_GT(this->callee.socket.LocalPort(), 0);
-  // The system's own choice is above this more often than not.
+  // The port that the system would choose is usually higher.
   EXPECT_LE(this->callee.socket.LocalPort(), kGreatestNameablePort);
 }
 

@@ -20,7 +20,7 @@ struct FakeAboutWindow {
   FakeButton cmdOK;
   FakeButton cmdSysInfo;
 
-  // What the logic sees of it.
+  // The logic's view of the window.
   AboutWindow frmAbout;
 };
 

@@ -1,4 +1,4 @@
-// Controls in memory: they keep what they are given, and a test raises their events by calling the
+// Controls in memory: they store what they are given, and a test raises their events by calling the
 // handlers.
 #pragma once
 
@@ -13,7 +13,7 @@
 
 namespace verlume::fake {
 
-// The keyboard focus: one control of the whole screen has it at a time.
+// The keyboard focus: only one control on the screen has it.
 class Focus {
  public:
   static void GiveTo(const void* control) { owner_ = control; }
@@ -26,7 +26,7 @@ class Focus {
   inline static const void* owner_ = nullptr;
 };
 
-// The part that every control shares.
+// What all controls share.
 template <class Role>
 class FakeControl : public Role {
  public:
@@ -230,8 +230,8 @@ class FakeWindow : public Window {
   }
   std::u16string Title() const override { return title; }
   void Show() override { shown = true; }
-  // The user does what `whileModal` does, and then uses the close box, unless that or anything
-  // before has closed the window; a close box that is refused fails the test.
+  // Runs `whileModal` as the user, then uses the close box if the window is still open; the test
+  // fails if the close is refused.
   void ShowModal() override {
     ++timesShownModal;
     unloaded = false;

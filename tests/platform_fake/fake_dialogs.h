@@ -1,4 +1,4 @@
-// Boxes and dialogs that answer from a script. A box that the script has no answer for throws
+// Boxes and dialogs that answer from a script. A box without an answer in the script throws
 // std::logic_error, which fails the test.
 #pragma once
 

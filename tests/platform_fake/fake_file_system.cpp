@@ -33,7 +33,7 @@ bool IsPair(std::u16string_view text) {
          text[1] >= 0xDC00;
 }
 
-// Whether a file may have this path.
+// Whether there may be a file with this path.
 bool IsText(std::u16string_view path) {
   for (; !path.empty(); path.remove_prefix(1)) {
     if (IsPair(path)) {
@@ -152,7 +152,7 @@ void FakeFileSystem::CheckWrite(std::u16string_view path) const {
   CheckPath(path);
 }
 
-// Throws unless a file of that path may be.
+// Throws if there may not be a file with this path.
 void FakeFileSystem::CheckPath(std::u16string_view path) const {
   if (!IsText(path) || IsFolder(path)) throw RunTimeFailure(FailureNumber::PathFileAccessError);
   if (!IsFolder(FolderOf(path))) throw RunTimeFailure(FailureNumber::PathNotFound);

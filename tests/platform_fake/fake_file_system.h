@@ -29,7 +29,7 @@ class FakeFileSystem : public FileSystem {
   void MakeFolder(std::u16string_view path);
   void RemoveFolder(std::u16string_view path);
 
-  // Every write, and every read, fails with this while it is set.
+  // While set, every write or every read fails with this.
   std::optional<FailureNumber> writesFail;
   std::optional<FailureNumber> readsFail;
   std::optional<FailureNumber> listingFails;

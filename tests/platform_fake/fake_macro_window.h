@@ -27,7 +27,7 @@ struct FakeMacroWindow {
   FakeCheckBox chkItalics;
   FakeCheckBox chkUnderlined;
 
-  // What the logic sees of it.
+  // The logic's view of the window.
   MacroWindow frmMacros;
 };
 

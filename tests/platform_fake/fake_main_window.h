@@ -1,4 +1,4 @@
-// The main window in memory. Its members bear the names of the controls they stand for.
+// The main window in memory. Its members have the names of the controls.
 #pragma once
 
 #include "platform/main_window.h"
@@ -98,7 +98,7 @@ struct FakeMainWindow {
   FakeLabel lblCopyright;
   FakePicture picCopyright;
 
-  // What the logic sees of it.
+  // The logic's view of the window.
   MainWindow frmMain;
 };
 

@@ -9,7 +9,7 @@
 namespace verlume::fake {
 namespace {
 
-// What a box on a real platform makes of a unit, which keeps marks of its own in its text.
+// The unit that a real box would store, which uses some units as marks in its text.
 char16_t SafeUnit(char16_t unit, bool singleLine) {
   if (unit == u'\n' || unit == u'\r' || unit == u'\u2028' || unit == u'\u2029') {
     return singleLine ? u' ' : u'\n';
@@ -93,8 +93,13 @@ SelectionFormat FakeRichTextBox::SelFormat() const {
   if (formatIsMixed) return {};
   const Look& first = selLength_ > 0 ? cells_[selStart_].look : insertionLook_;
   const auto shown = [](Color color) { return std::max<Color>(color, 0); };
-  SelectionFormat format{first.fontName, first.fontSize,  shown(first.color), first.bold,
-                         first.italic,   first.underline, first.strikethrough};
+  SelectionFormat format{.fontName = first.fontName,
+                         .fontSize = first.fontSize,
+                         .color = shown(first.color),
+                         .bold = first.bold,
+                         .italic = first.italic,
+                         .underline = first.underline,
+                         .strikethrough = first.strikethrough};
   for (std::size_t i = selStart_; i < selStart_ + selLength_; ++i) {
     const Look& look = cells_[i].look;
     if (look.fontName != first.fontName) format.fontName.reset();

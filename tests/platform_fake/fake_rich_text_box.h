@@ -16,7 +16,7 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   explicit FakeRichTextBox(FakeFileSystem& files, Lines lines = Lines::Many)
       : files_(files), lines_(lines) {}
 
-  // A box that has the focus already is not told so again.
+  // Raises onGotFocus only if the box does not have the focus yet.
   void SetFocus() override {
     const bool hadFocus = HasFocus();
     FakeControl::SetFocus();
@@ -46,10 +46,10 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   void SetBackColor(Color color) override { backColor = color; }
   Color BackColor() const override { return backColor; }
 
-  // As the user does it: each character through onKeyDown and onKeyPress, then, unless swallowed,
-  // into the box. Type(u"\r") is Enter.
+  // Types like the user: each character goes through onKeyDown and onKeyPress and then, unless
+  // swallowed, into the box. Type(u"\r") is Enter.
   void Type(std::u16string_view keys);
-  // A key with a code of its own; false when the handler swallowed it.
+  // Presses a key with a key code; false if the handler swallowed it.
   bool PressKey(int keyCode, int shift = 0);
 
   bool locked = false;

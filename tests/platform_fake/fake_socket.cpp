@@ -82,8 +82,8 @@ void FakeSocket::Accept(std::int64_t requestId) {
   for (const std::u16string& text : std::exchange(caller->early_, {})) Arrive(text);
 }
 
-// As on a real machine, closing a listener refuses the callers behind the one being asked about;
-// that one is kept for an Accept that follows at once, and dropped otherwise.
+// As on a real machine, closing a listener refuses the callers that wait after the current one. The
+// current one is kept for an Accept right afterwards, and dropped otherwise.
 void FakeSocket::Close() {
   if (state_ == SocketState::Listening) {
     network_.listeners_.erase(localPort_);

@@ -1,5 +1,5 @@
-// Sockets in memory. The sockets of one network reach each other by port, whatever the host name;
-// their events wait in the network's queue until a test lets them through.
+// Sockets in memory. The sockets of a network reach each other by port, whatever the host name;
+// their events wait in the network's queue until a test raises them.
 #pragma once
 
 #include <deque>
@@ -16,13 +16,13 @@ class FakeSocket;
 
 class FakeNetwork {
  public:
-  // Raises every event that waits, and those that follow from them.
+  // Raises all waiting events and those that result from them.
   void RunUntilIdle();
 
   // Texts that wait for the same socket arrive joined, as TCP may do.
   bool joinArrivals = false;
 
-  // Nothing more that is sent arrives, or is acknowledged, until Mend.
+  // Until Mend, nothing that is sent arrives or is acknowledged.
   void Cut() { isCut_ = true; }
   void Mend();
 

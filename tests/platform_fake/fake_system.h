@@ -1,5 +1,5 @@
-// Time that is set by hand, English regional forms, a program that lives in /verlume, and a
-// registry that is empty at first.
+// A clock that is set by hand, English regional settings, a program in the folder /verlume, and a
+// registry that starts empty.
 #pragma once
 
 #include <functional>
@@ -69,11 +69,11 @@ class FakeHelpViewer : public HelpViewer {
   std::u16string helpFile;
   bool isGreek = false;
   int timesShown = 0;
-  // ShowContents fails with this while it is set.
+  // While set, ShowContents fails with this.
   std::optional<FailureNumber> failure;
 };
 
-// A registry that a test fills, and programs that never run.
+// A registry that tests fill, and programs that are never really started.
 class FakeSystemTools : public SystemTools {
  public:
   std::optional<std::u16string> LocalMachineText(std::u16string_view key,

@@ -1,4 +1,4 @@
-// The World of the socket's contracts on this machine's own network.
+// The World of the socket contracts on this machine's own network.
 #pragma once
 
 #include <QCoreApplication>
@@ -13,8 +13,8 @@
 
 namespace verlume::qt {
 
-// Lets events through until the condition holds; false when it does not within the limit. It looks
-// after every event, where QTest::qWaitFor looks every 10 ms.
+// Handles events until the condition is true; false if it is not within the limit. Checks after
+// every event; QTest::qWaitFor checks only every 10 ms.
 template <class Condition>
 bool WaitFor(Condition condition) {
   constexpr std::chrono::seconds kLimit{10};

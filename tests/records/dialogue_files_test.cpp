@@ -294,10 +294,10 @@ TEST_F(DialogueFilesTest, FullDiskIsReportedAndTheOldFileStays) {
   EXPECT_EQ(disk[u"/logs/a.rtf"], "the old file");
 }
 
-TEST_F(DialogueFilesTest, NothingIsLoadedOrSavedWhenTheProgramEndsUnderTheQuestion) {
+TEST_F(DialogueFilesTest, NothingIsLoadedOrSavedWhenTheProgramEndsDuringTheQuestion) {
   rtbData.SetText(u"line");
   fake.dialogs.whileOpen = [this] { fake.application.End(); };
-  // A box that goes with the program answers as one that is closed.
+  // A box that is closed because the program ends gives the same answer as a closed one.
   fake.dialogs.answers = {Answer::Cancel, Answer::Cancel};
   dialogueFiles.mnuFileLogOpen_Click();
   dialogueFiles.mnuFileLogSaveAs_Click();

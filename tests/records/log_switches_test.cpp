@@ -96,7 +96,7 @@ TEST_F(LogFolderTest, ChangeIsAllowedBetweenConversations) {
   EXPECT_EQ(state.LogFolder, u"/logs/");
 }
 
-TEST_F(LogFolderTest, ConversationThatBeginsUnderTheDialogKeepsItsFolder) {
+TEST_F(LogFolderTest, ConversationThatBeginsDuringTheDialogKeepsItsFolder) {
   struct OpenDialog : fake::FakeCommonDialog {
     std::u16string ChooseFolder(std::u16string_view, std::u16string_view) override {
       whileOpen();
@@ -218,7 +218,7 @@ TEST_F(LoggingSwitchTest, FailureOfTheFolderChoiceEndsTheQuestions) {
   EXPECT_EQ(fake.window.rtbCommands.timesFocused, 1);
 }
 
-// The command that switches on unchecks the entry first, whatever the switch says.
+// The command that switches logging on first unchecks the entry, whatever the switch is.
 TEST_F(LoggingSwitchTest, FolderThatVanishedDuringAConversationCanBeReplaced) {
   state.LogFolder = u"/vanished/";
   state.LogDialogue = state.LogOpen = true;

@@ -143,7 +143,8 @@ TEST(RtfSamplesTest, EverySampleCutInTwoShowsWhatItShows) {
     SCOPED_TRACE(sample.name);
     const std::u16string whole = withoutBreaks(ReadRtf(sample.rtf).text);
     // Without what stands behind it.
-    const std::size_t size = SplitRtfDocuments(Widen(sample.rtf)).front().size();
+    const std::u16string text = Widen(sample.rtf);
+    const std::size_t size = ReadRtfDocuments(text).front().source.size();
     const std::string_view rtf = std::string_view(sample.rtf).substr(0, size);
     for (std::size_t length = 0; length < size; length += 1 + size / kSteps) {
       const CutDocument cut = CutRtf(rtf, length);

@@ -9,7 +9,7 @@
 namespace verlume {
 namespace {
 
-// The number of the failure that the conversion ends in, if any.
+// The number of the failure that the conversion throws, if any.
 template <class Convert>
 std::optional<FailureNumber> FailureOf(Convert convert, std::u16string_view text) {
   try {

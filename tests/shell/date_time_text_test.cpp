@@ -23,7 +23,7 @@ TEST(DateTimeText, TellsHoursFromZeroToTwentyThree) {
   EXPECT_EQ(TimeText(clock), u"23:59:59");
 }
 
-// Midnight passes between two readings.
+// A clock on which midnight passes between two readings.
 class MidnightClock : public Clock {
  public:
   LocalTime Now() const override {

@@ -146,7 +146,7 @@ TEST(IniTextWrite, TakesEveryCharacter) {
   EXPECT_EQ(ReadOr(Write(u"", u"A", u"K", value), u"A", u"K"), value);
 }
 
-// Whatever the text: what is written is read back, and nothing is removed but the old value.
+// For any text: what is written is read back, and only the old value is removed.
 TEST(IniText, ReadsBackWhatItWroteIntoAnyText) {
   std::mt19937 random(20260307);
   const std::u16string alphabet = u"[]=;\"' \t\r\n\0AaKkB\uFEFFΩ"s;

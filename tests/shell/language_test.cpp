@@ -8,7 +8,7 @@
 namespace verlume {
 namespace {
 
-// Every text that an element of the window shows or has read out, and of what kind it is.
+// All texts that the elements of the window show or have read out, with their kinds.
 struct ShownText {
   const char* kind;
   std::u16string text;
@@ -62,7 +62,7 @@ void Collect(ShownTexts&, const fake::FakeLayoutControl&) {}
 void Collect(ShownTexts&, const fake::FakeTimer&) {}
 void Collect(ShownTexts&, const fake::FakeLamp&) {}
 
-// Names every element, so that one added to the window cannot be forgotten here.
+// Names every element, so that a new one cannot be forgotten here.
 ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
   const auto& [window, freeSizer1, tmrTimer, mnuFile, mnuFileMacrosFolder, mnuFileLogFolder,
                mnuFileLogRecord, mnuFileLogOpen, mnuFileLogSaveAs, mnuFileExit, mnuComm,
@@ -112,7 +112,7 @@ class LanguageTest : public ShellTest {
   LanguageTest() {
     state.HelpFileEnglish = u"/verlume/VerlumeUK.hlp";
     state.HelpFileGreek = u"/verlume/VerlumeGR.hlp";
-    // What shows values has no fixed caption.
+    // Elements that show values have no fixed caption.
     for (fake::FakeLabel* label :
          {&window.lblStatus, &window.lblCurrentDateTime, &window.lblChatStartDateTime,
           &window.lblChatDuration, &window.lblLocalIP, &window.lblLocalPort,

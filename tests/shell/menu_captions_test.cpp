@@ -1,4 +1,4 @@
-// Every caption of the menu bar, in both languages.
+// All captions of the menu bar, in both languages.
 #include <gtest/gtest.h>
 
 #include "shell/language.h"
@@ -67,12 +67,6 @@ TEST_F(MenuCaptionsTest, EveryMenuAndEntrySpeaksTheLanguageInForce) {
     language.ApplyLanguage();
     for (const auto& [shown, expected] : rows) EXPECT_EQ(shown, expected.In(isGreek));
   }
-}
-
-TEST_F(MenuCaptionsTest, ASwitchPutsTheFocusBackIntoTheCommandPane) {
-  language.mnuToolsLanguageGreek_Click();
-  language.mnuToolsLanguageEnglish_Click();
-  EXPECT_EQ(window.rtbCommands.timesFocused, 2);
 }
 
 }  // namespace

@@ -8,7 +8,7 @@ namespace {
 
 class SettingsReaderTest : public ShellTest {
  protected:
-  // Reads a file of this text as start-up does.
+  // Reads a file with this text as start-up does.
   void Read(const std::string& text) {
     fake.files.files[kIniFile] = text;
     ReadFile();
@@ -18,7 +18,7 @@ class SettingsReaderTest : public ShellTest {
     ReadLanguage(state, settings);
     ReadSettings(state, window.frmMain, settings);
   }
-  // The number of the failure that reading a file of this text ends in.
+  // The number of the failure that reading a file with this text throws.
   FailureNumber FailureOf(const std::string& text) {
     try {
       Read(text);
@@ -65,13 +65,13 @@ TEST_F(SettingsReaderTest, WithoutAFileEverythingTakesItsDefault) {
 TEST_F(SettingsReaderTest, WithoutAFileTheLocalFontIsTheDialoguePanes) {
   window.rtbData.SetSelFormat({u"Courier", 9.5, 0x123456, true, false, true, false});
   ReadFile();
-  EXPECT_EQ(state.FontName, u"Courier");
-  EXPECT_EQ(state.FontSize, 9.5);
-  EXPECT_EQ(state.FontColor, 0x123456);
-  EXPECT_TRUE(state.FontBold);
-  EXPECT_FALSE(state.FontItalic);
-  EXPECT_TRUE(state.FontUnderline);
-  EXPECT_FALSE(state.FontStrikethrough);
+  EXPECT_EQ(state.Font.Name, u"Courier");
+  EXPECT_EQ(state.Font.Size, 9.5);
+  EXPECT_EQ(state.Font.Color, 0x123456);
+  EXPECT_TRUE(state.Font.Bold);
+  EXPECT_FALSE(state.Font.Italic);
+  EXPECT_TRUE(state.Font.Underline);
+  EXPECT_FALSE(state.Font.Strikethrough);
 }
 
 TEST_F(SettingsReaderTest, ReadsEveryKey) {
@@ -93,13 +93,13 @@ TEST_F(SettingsReaderTest, ReadsEveryKey) {
   EXPECT_TRUE(window.window.topMost);
   EXPECT_EQ(window.window.timesPlaced, 1);
   EXPECT_EQ(state.MacrosFolder, u"/macros/");
-  EXPECT_EQ(state.FontName, u"Times");
-  EXPECT_TRUE(state.FontBold);
-  EXPECT_TRUE(state.FontItalic);
-  EXPECT_TRUE(state.FontStrikethrough);
-  EXPECT_TRUE(state.FontUnderline);
-  EXPECT_EQ(state.FontColor, 255);
-  EXPECT_EQ(state.FontSize, 10.5);
+  EXPECT_EQ(state.Font.Name, u"Times");
+  EXPECT_TRUE(state.Font.Bold);
+  EXPECT_TRUE(state.Font.Italic);
+  EXPECT_TRUE(state.Font.Strikethrough);
+  EXPECT_TRUE(state.Font.Underline);
+  EXPECT_EQ(state.Font.Color, 255);
+  EXPECT_EQ(state.Font.Size, 10.5);
   EXPECT_EQ(window.rtbCommands.backColor, 65535);
   EXPECT_EQ(window.rtbData.backColor, 65280);
   EXPECT_EQ(state.LogFolder, u"/logs/");
@@ -163,7 +163,7 @@ TEST_F(SettingsReaderTest, KeysBehindAFailureKeepTheirDefaults) {
   EXPECT_FALSE(state.AlwaysOnTop);
   EXPECT_FALSE(state.LogDialogue);
   EXPECT_EQ(state.MacrosFolder, u"");
-  EXPECT_EQ(state.FontName, u"Arial");
+  EXPECT_EQ(state.Font.Name, u"Arial");
 }
 
 TEST_F(SettingsReaderTest, AFontSizeOutOfRangeBecomesTheNearestOneAccepted) {
@@ -171,13 +171,13 @@ TEST_F(SettingsReaderTest, AFontSizeOutOfRangeBecomesTheNearestOneAccepted) {
       {"500", 11}, {"11", 11}, {"8", 8}, {"7.9", 8}, {"0", 8}, {"-1", 8}, {"9.3", 9.5}, {"8.2", 8}};
   for (const auto& [value, size] : cases) {
     Read(std::string("[FontLocal]\nSize=") + value + "\n");
-    EXPECT_EQ(state.FontSize, size) << value;
+    EXPECT_EQ(state.Font.Size, size) << value;
   }
 }
 
 TEST_F(SettingsReaderTest, AColourOutOfRangeIsWhiteAndANegativeOneIsMissing) {
   Read("[FontLocal]\nForecolor=16777216\n[BackColor]\nCommands=2147483647\nDialogue=-1\n");
-  EXPECT_EQ(state.FontColor, 0xFFFFFF);
+  EXPECT_EQ(state.Font.Color, 0xFFFFFF);
   EXPECT_EQ(window.rtbCommands.backColor, 0xFFFFFF);
   EXPECT_EQ(window.rtbData.backColor, 0xFFFFFF);
   SelectionFormat paneFormat;
@@ -185,7 +185,7 @@ TEST_F(SettingsReaderTest, AColourOutOfRangeIsWhiteAndANegativeOneIsMissing) {
   window.rtbData.SetSelFormat(paneFormat);
   window.rtbData.SetBackColor(0x654321);
   Read("[FontLocal]\nForecolor=-2147483640\n[BackColor]\nDialogue=-2147483643\n");
-  EXPECT_EQ(state.FontColor, 0x123456);
+  EXPECT_EQ(state.Font.Color, 0x123456);
   EXPECT_EQ(window.rtbData.backColor, 0x654321);
 }
 
@@ -199,10 +199,10 @@ TEST_F(SettingsReaderTest, MissingBackColoursLeaveThePanes) {
 
 TEST_F(SettingsReaderTest, AnEmptyFontNameLeavesThePanes) {
   Read("[FontLocal]\nName=\n");
-  EXPECT_EQ(state.FontName, u"Arial");
+  EXPECT_EQ(state.Font.Name, u"Arial");
 }
 
-TEST_F(SettingsReaderTest, WhatCannotBeReadIsKnownBeforehand) {
+TEST_F(SettingsReaderTest, InvalidValuesAreFoundBeforehand) {
   const std::pair<const char*, const char*> keys[] = {
       {"General", "Nickname"},     {"General", "DateStamp"},      {"General", "TimeStamp"},
       {"General", "AlwaysOnTop"},  {"FontLocal", "Name"},         {"FontLocal", "Bold"},
@@ -219,7 +219,7 @@ TEST_F(SettingsReaderTest, WhatCannotBeReadIsKnownBeforehand) {
       } catch (const RunTimeFailure&) {
         reads = false;
       }
-      EXPECT_EQ(EveryValueIsOfItsKind(settings), reads) << text;
+      EXPECT_EQ(AllValuesAreValid(settings), reads) << text;
     }
   }
 }
@@ -230,11 +230,11 @@ TEST_F(SettingsReaderTest, ALongNicknameIsCutByItsReadSize) {
 }
 
 TEST_F(SettingsReaderTest, TheLocalFontIsWrittenInOrder) {
-  state.FontName = u"Comic Ωmega";
-  state.FontBold = true;
-  state.FontUnderline = true;
-  state.FontColor = 255;
-  state.FontSize = 10.5;
+  state.Font.Name = u"Comic Ωmega";
+  state.Font.Bold = true;
+  state.Font.Underline = true;
+  state.Font.Color = 255;
+  state.Font.Size = 10.5;
   WriteFontSettings(state, settings);
   EXPECT_EQ(fake.files.ReadText(kIniFile),
             u"[FontLocal]\r\nName=Comic Ωmega\r\nBold=True\r\nItalic=False\r\n"
@@ -242,21 +242,21 @@ TEST_F(SettingsReaderTest, TheLocalFontIsWrittenInOrder) {
 }
 
 TEST_F(SettingsReaderTest, TheLocalFontSurvivesARestart) {
-  state.FontName = u"Times";
-  state.FontItalic = state.FontStrikethrough = true;
-  state.FontColor = 0xABCDEF;
-  state.FontSize = 9;
+  state.Font.Name = u"Times";
+  state.Font.Italic = state.Font.Strikethrough = true;
+  state.Font.Color = 0xABCDEF;
+  state.Font.Size = 9;
   WriteFontSettings(state, settings);
   state = AppState();
   state.IniFile = kIniFile;
   ReadFile();
-  EXPECT_EQ(state.FontName, u"Times");
-  EXPECT_FALSE(state.FontBold);
-  EXPECT_TRUE(state.FontItalic);
-  EXPECT_TRUE(state.FontStrikethrough);
-  EXPECT_FALSE(state.FontUnderline);
-  EXPECT_EQ(state.FontColor, 0xABCDEF);
-  EXPECT_EQ(state.FontSize, 9);
+  EXPECT_EQ(state.Font.Name, u"Times");
+  EXPECT_FALSE(state.Font.Bold);
+  EXPECT_TRUE(state.Font.Italic);
+  EXPECT_TRUE(state.Font.Strikethrough);
+  EXPECT_FALSE(state.Font.Underline);
+  EXPECT_EQ(state.Font.Color, 0xABCDEF);
+  EXPECT_EQ(state.Font.Size, 9);
 }
 
 }  // namespace

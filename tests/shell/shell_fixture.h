@@ -1,4 +1,4 @@
-// A platform in memory with an error report, as most tests of the shell need it.
+// A platform in memory with an error report, as most tests of the shell need.
 #pragma once
 
 #include <gtest/gtest.h>

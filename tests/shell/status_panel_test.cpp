@@ -34,7 +34,7 @@ class CommaLocale : public fake::FakeLocale {
 };
 
 struct LampCase {
-  bool AppState::*flag;  // the one that is set
+  bool AppState::*flag;  // the flag that is set
   Color color;
   std::u16string_view english;
   std::u16string_view greek;

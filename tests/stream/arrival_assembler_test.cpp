@@ -4,8 +4,8 @@
 
 #include <vector>
 
+#include "platform/protocol_marker.h"
 #include "richtext/rtf_reader.h"
-#include "stream/protocol_marker.h"
 
 namespace verlume::stream {
 namespace {

@@ -1,4 +1,4 @@
-// A whole program in memory, as the tests of the program drive it.
+// A whole program in memory, for the tests of the program.
 #pragma once
 
 #include <string>
@@ -8,9 +8,9 @@
 
 namespace verlume::fake {
 
-// One copy of the program on an in-memory platform, started, with its folders in place.
+// A copy of the program on an in-memory platform, started, with its folders in place.
 struct ProgramCopy {
-  // With its folders chosen, and no stamps on the lines.
+  // Starts with the folders chosen and without stamps on the lines.
   ProgramCopy(FakeNetwork& network, std::u16string_view nickname);
 
   struct SettingsFile {};

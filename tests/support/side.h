@@ -1,4 +1,4 @@
-// One user's program without its window loop: the rooms up to the connection, on a platform in
+// One user's program without its event loop: the objects up to the connection, on a platform in
 // memory. Sides that share a network can call each other.
 #pragma once
 
@@ -22,7 +22,7 @@ struct Side {
   Side(FakeNetwork& network, std::u16string_view nickname, std::u16string_view address);
   ~Side();
 
-  // Typed commands, as the interpreter hands them over.
+  // Typed commands, as the interpreter passes them on.
   void Call(std::u16string_view rest) { Command(u"/CALL", rest, &ConnectionActions::CallRemote); }
   void Wait(std::u16string_view rest) { Command(u"/WAIT", rest, &ConnectionActions::WaitForCall); }
   void Nick(std::u16string_view rest) { Command(u"/NICK", rest, &ConnectionActions::SetNickname); }
@@ -30,12 +30,12 @@ struct Side {
   ConnectionState State() const { return StateOf(state); }
   std::u16string Status() const { return fake.window.lblStatus.caption; }
   std::u16string DialoguePane() const { return fake.window.rtbData.Text(); }
-  // The lamp's colour; -1 when fill and border differ.
+  // The lamp's colour; -1 if fill and border differ.
   Color Lamp() const {
     const FakeLamp& lamp = fake.window.shpStatus;
     return lamp.fill == lamp.border ? lamp.fill : -1;
   }
-  // Turns logging on; the file of a peer is read with LogOf.
+  // Turns logging on; LogOf reads the log of a peer.
   void RecordDialogues() {
     fake.files.MakeFolder(u"/logs");
     state.LogFolder = u"/logs/";
@@ -54,9 +54,16 @@ struct Side {
   DialogueLog log{state, fake.platform, errors, settings};
   Dialogue dialogue{state, fake.platform, errors, settings, log};
   StatusPanel statusPanel{fake.platform, errors};
-  WireProtocol wire{state, fake.platform, errors, {dialogue, log, statusPanel}};
-  ConnectionActions actions{
-      state, fake.platform, errors, {settings, dialogue, log, statusPanel, wire}};
+  WireProtocol wire{
+      state, fake.platform, errors, {.dialogue = dialogue, .log = log, .statusPanel = statusPanel}};
+  ConnectionActions actions{state,
+                            fake.platform,
+                            errors,
+                            {.settings = settings,
+                             .dialogue = dialogue,
+                             .log = log,
+                             .statusPanel = statusPanel,
+                             .wire = wire}};
   SocketEvents events{state, fake.platform, errors, wire, log};
 
  private:

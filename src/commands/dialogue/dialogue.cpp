@@ -7,6 +7,7 @@
 #include "shell/conversions.h"
 #include "shell/date_time_text.h"
 #include "shell/nickname.h"
+#include "shell/setting_names.h"
 
 namespace verlume {
 namespace {
@@ -64,11 +65,11 @@ void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
   if (state_.TimeStamp) stamp = state_.DateStamp ? both : time;
   const std::u16string tag = TagOf(sender);
   // Usually one: lines that TCP has joined are shown as one line, all of them.
-  std::vector<richtext::Document> documents = richtext::ReadRtfDocuments(rtf);
+  std::vector<richtext::ReadDocument> documents = richtext::ReadRtfDocuments(rtf);
   std::u16string logLine;
   if (log_.IsRecording()) {
     logLine = u"[" + both + u"]" + tag;
-    for (const richtext::Document& document : documents) logLine += document.text;
+    for (const auto& [source, document] : documents) logLine += document.text;
   }
   AddToPane(stamp, tag, sender, std::move(documents));
   log_.AppendToLog(std::move(logLine));
@@ -87,7 +88,7 @@ std::u16string Dialogue::TagOf(Sender sender) const {
 }
 
 void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,
-                         std::vector<richtext::Document> documents) {
+                         std::vector<richtext::ReadDocument> documents) {
   RichTextBox& pane = platform_.frmMain.rtbData;
   const RichTextUpdate update(pane);
   GoToEnd(pane);
@@ -98,19 +99,19 @@ void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sen
   } else {
     AddInFormat(pane, tag, kTagSize);
   }
-  for (richtext::Document& document : documents) pane.SetSelDocument(std::move(document));
+  for (auto& [source, document] : documents) pane.SetSelDocument(std::move(document));
 }
 
 void Dialogue::mnuToolsDate_Click() {
   errors_.Guard(Procedure::mnuToolsDate_Click, [this] {
-    SwitchStamp(platform_.frmMain.mnuToolsDate, state_.DateStamp, u"DateStamp");
+    SwitchStamp(platform_.frmMain.mnuToolsDate, state_.DateStamp, setting_key::kDateStamp);
   });
   platform_.frmMain.rtbCommands.SetFocus();
 }
 
 void Dialogue::mnuToolsTime_Click() {
   errors_.Guard(Procedure::mnuToolsTime_Click, [this] {
-    SwitchStamp(platform_.frmMain.mnuToolsTime, state_.TimeStamp, u"TimeStamp");
+    SwitchStamp(platform_.frmMain.mnuToolsTime, state_.TimeStamp, setting_key::kTimeStamp);
   });
   platform_.frmMain.rtbCommands.SetFocus();
 }
@@ -118,7 +119,7 @@ void Dialogue::mnuToolsTime_Click() {
 void Dialogue::SwitchStamp(MenuEntry& entry, bool& stampSwitch, std::u16string_view key) {
   stampSwitch = !entry.Checked();
   entry.SetChecked(stampSwitch);
-  settings_.WriteSetting(u"General", key, BooleanText(stampSwitch));
+  settings_.WriteSetting(setting_section::kGeneral, key, BooleanText(stampSwitch));
 }
 
 void Dialogue::mnuToolsClearDialogue_Click() {

@@ -7,7 +7,7 @@
 
 #include "platform/platform.h"
 #include "records/dialogue_log.h"
-#include "richtext/document.h"
+#include "richtext/rtf_documents.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
 #include "shell/settings.h"
@@ -45,7 +45,7 @@ class Dialogue {
   void WriteLine(std::u16string_view rtf, Sender sender);
   std::u16string TagOf(Sender sender) const;
   void AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,
-                 std::vector<richtext::Document> documents);
+                 std::vector<richtext::ReadDocument> documents);
   void SwitchStamp(MenuEntry& entry, bool& stampSwitch, std::u16string_view key);
 
   AppState& state_;

@@ -18,7 +18,7 @@ std::u16string ExtensionWith(unsigned capitals) {
 
 bool CanNameAMacro(std::u16string_view name, char16_t separator) {
   if (name.empty() || name.starts_with(u'.')) return false;
-  // Both usual separators, whichever is this platform's.
+  // Both usual separators, whichever this platform uses.
   return name.find_first_of(u"/\\") == name.npos && name.find(separator) == name.npos;
 }
 
@@ -33,7 +33,7 @@ std::u16string MacroPath(const AppState& state, const FileSystem& files, std::u1
 }
 
 bool MacroExists(const AppState& state, const FileSystem& files, std::u16string_view name) {
-  // Without a folder the path would begin at the root.
+  // Without a folder the path would start at the root.
   return !state.MacrosFolder.empty() && CanNameAMacro(name, files.Separator()) &&
          files.IsFile(MacroPath(state, files, name));
 }

@@ -1,4 +1,4 @@
-// Where macros lie.
+// The files of macros.
 #pragma once
 
 #include <string>
@@ -9,19 +9,18 @@
 
 namespace verlume {
 
-// What a macro's file has behind the name.
+// The extension of a macro's file.
 inline constexpr std::u16string_view kMacroExtension = u".rtf";
 
-// Whether a file in the macros folder may be a macro of that name: the name would not leave the
-// folder (it holds no separator), and is neither empty nor that of a hidden file (it begins with a
-// dot).
+// Whether a macro can have this name. The name must not be empty, contain a separator (it could
+// leave the macros folder) or begin with a dot (the file would be hidden).
 bool CanNameAMacro(std::u16string_view name, char16_t separator);
 
-// The file of a macro. The extension is ".rtf", or written otherwise (".RTF") where only such a
-// file is there. The name is not checked: MacroExists does that, and IsValidMacroName for a new
-// one.
+// The path of a macro's file. The extension is ".rtf", or in other letter case (".RTF") if only
+// such a file exists. The name is not checked: MacroExists does that, and IsValidMacroName for a
+// new macro.
 std::u16string MacroPath(const AppState& state, const FileSystem& files, std::u16string_view name);
-// Whether that file is there. Never for a name that can name no macro, nor while no folder is
+// Whether that file exists. False if CanNameAMacro is false for the name, and while no folder is
 // chosen.
 bool MacroExists(const AppState& state, const FileSystem& files, std::u16string_view name);
 

@@ -5,6 +5,7 @@
 #include "shell/folder_choice.h"
 #include "shell/folder_texts.h"
 #include "shell/folders.h"
+#include "shell/setting_names.h"
 
 namespace verlume {
 namespace {
@@ -25,7 +26,7 @@ void MacroStore::ChooseMacrosFolder() {
         ChooseFolder(platform_, kMacrosFolderDialogTitle.In(state_.IsGreek), state_.MacrosFolder);
     if (!folder) return;
     state_.MacrosFolder = *folder;
-    settings_.WriteSetting(u"General", u"Macrosfolder", *folder);
+    settings_.WriteSetting(setting_section::kGeneral, setting_key::kMacrosFolder, *folder);
   });
   platform_.frmMain.rtbCommands.SetFocus();
 }

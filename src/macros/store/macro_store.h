@@ -1,4 +1,4 @@
-// The macros folder and the names in it.
+// The macros folder and the macros in it.
 #pragma once
 
 #include <string>
@@ -13,8 +13,8 @@
 
 namespace verlume {
 
-// Whether the name holds none of the characters that no macro's name may hold. "" passes; callers
-// look at it before.
+// Whether the name contains only characters that are allowed in the name of a new macro. True for
+// "", which callers check first.
 bool IsValidMacroName(std::u16string_view name);
 
 class MacroStore {
@@ -22,21 +22,20 @@ class MacroStore {
   MacroStore(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings)
       : state_(state), platform_(platform), errors_(errors), settings_(settings) {}
 
-  // Lets the user choose the macros folder (mnuFileMacrosFolder_Click) and keeps it in the
-  // settings file. A cancel changes nothing.
+  // Lets the user choose the macros folder (mnuFileMacrosFolder_Click) and saves it in the settings
+  // file. Cancel changes nothing.
   void ChooseMacrosFolder();
 
-  // Asks for a macros folder until there is a usable one (true) or the user wants none: then there
-  // is none for the rest of the run, which the refusal tells.
+  // Asks for a macros folder until there is a usable one (true) or the user declines (false). After
+  // that there is no macros folder for the rest of the run, and the refusal says so.
   bool EnsureMacrosFolder(const TextPair& refusalText, const TextPair& refusalTitle);
 
-  // The names of all macros in the folder, in the order in which the system gives them; a file that
-  // can be no macro's (CanNameAMacro) is left out. Throws RunTimeFailure where the folder cannot be
-  // read.
+  // The names of all macros in the folder, in the order of the file system. Files for whose names
+  // CanNameAMacro is false are left out. Throws RunTimeFailure when the folder cannot be read.
   std::vector<std::u16string> ListMacroNames() const;
   bool MacroExists(std::u16string_view name) const;
   std::u16string MacroPath(std::u16string_view name) const;
-  // The name of an existing macro in the letter case in which the folder has it.
+  // The name of an existing macro in the letter case of its file.
   std::u16string StoredName(std::u16string_view name) const;
 
  private:

@@ -1,4 +1,4 @@
-// What every control shares: tool tip, focus, context help and mouse events of its widget.
+// What all controls share: the tool tip, focus, context help and mouse events of a widget.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -13,7 +13,7 @@
 
 namespace verlume::qt {
 
-// Tells a control of the mouse buttons pressed and released on its widget.
+// Passes mouse presses and releases on a widget to its control.
 class MouseWatcher : public QObject {
  public:
   MouseWatcher(QWidget* watched, Control& control) : QObject(watched), control_(control) {
@@ -39,12 +39,13 @@ class MouseWatcher : public QObject {
   Control& control_;
 };
 
-// A role made real by a widget. The widget belongs to its Qt parent and outlives no control.
+// A control implemented by a widget. The widget belongs to its Qt parent and does not outlive the
+// control.
 template <class Role, class Widget>
 class QtControl : public Role {
  public:
   explicit QtControl(Widget* widget) : widget_(widget) {
-    // What scrolls hears of the mouse through its viewport.
+    // A scroll area gets its mouse events through its viewport.
     if constexpr (std::is_base_of_v<QAbstractScrollArea, Widget>) {
       new MouseWatcher(widget->viewport(), *this);
     } else {

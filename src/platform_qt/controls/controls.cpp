@@ -50,7 +50,7 @@ void LampWidget::paintEvent(QPaintEvent*) {
   const qreal side = 0.7 * std::min(width(), height());
   QRectF place(0, 0, side, side);
   place.moveCenter(QRectF(rect()).center());
-  // A darker rim of the border's own hue, and a soft light above, keep yellow apart from white.
+  // The darker rim and the light spot make yellow visible on white.
   QRadialGradient light(place.center() - QPointF(0, side / 4), side);
   light.setColorAt(0, fill_.lighter(130));
   light.setColorAt(0.4, fill_);
@@ -94,7 +94,7 @@ QtProgressBar::QtProgressBar(QProgressBar* widget) : QtControl(widget) {
 
 QtMenuEntry::QtMenuEntry(QAction* action) : action_(action) {
   QObject::connect(action, &QAction::triggered, action, [this] {
-    // Qt has turned the tick of a checkable entry; the program alone sets it.
+    // Qt has toggled the tick, but only the program may set it.
     action_->setChecked(checked_);
     Click();
   });

@@ -1,4 +1,4 @@
-// Labels, pictures, check boxes, buttons, the lamp, the clock and the menus, made real.
+// Labels, pictures, check boxes, buttons, the lamp, the timer and the menus, implemented with Qt.
 #pragma once
 
 #include <QAction>
@@ -30,11 +30,11 @@ class QtLabel : public QtControl<Label, QLabel> {
   std::u16string tag_;
 };
 
-// A button, check box or anything else with onMouseDown and no more.
+// A control with no more than the mouse events.
 template <class Widget>
 using QtPlainControl = QtControl<Control, Widget>;
 
-// Paints an icon as large as its own square allows, sharp at every scale.
+// Paints an icon as large as its own square allows, sharp at any scale.
 class PictureWidget : public QWidget {
  public:
   explicit PictureWidget(QWidget* parent);
@@ -53,7 +53,7 @@ class QtPicture : public QtControl<Picture, PictureWidget> {
   int Height() const override;
 };
 
-// A round shape, filled and bordered, in the middle of its frame. The mouse goes to the frame.
+// A round, filled and bordered shape in the middle of its frame. Mouse events go to the frame.
 class LampWidget : public QWidget {
  public:
   explicit LampWidget(QWidget* frame);
@@ -97,7 +97,7 @@ class QtButton : public QtControl<Button, QPushButton> {
   void SetCaption(std::u16string_view text) override;
   std::u16string Caption() const override { return caption_; }
   void SetEnabled(bool enabled) override { widget_->setEnabled(enabled); }
-  // What the program has said of the button; a modal box over its window changes nothing of it.
+  // What the program has set; a modal box over the window does not change it.
   bool Enabled() const override { return widget_->isEnabledTo(widget_->parentWidget()); }
 
  private:
@@ -106,7 +106,7 @@ class QtButton : public QtControl<Button, QPushButton> {
 
 class QtProgressBar : public QtControl<ProgressBar, QProgressBar> {
  public:
-  // Hidden, and at 0.
+  // Starts hidden, at 0.
   explicit QtProgressBar(QProgressBar* widget);
   void SetValue(int percent) override { widget_->setValue(percent); }
   int Value() const override { return widget_->value(); }

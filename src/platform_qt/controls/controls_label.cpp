@@ -14,7 +14,7 @@ namespace {
 
 constexpr qreal kMutedOpacity = 0.72;
 
-// A label is of one paragraph, whatever its text holds.
+// A label shows its text as one paragraph.
 QString OneParagraph(QString text) {
   for (QChar& unit : text) {
     if (unit == u'\n' || unit == u'\r' || unit == u'\t' || unit == QChar::LineSeparator ||

@@ -1,5 +1,5 @@
-// A label's widget: plain text, cut with an ellipsis where it does not fit. Where there is no tool
-// tip of its own, resting on a cut text shows the whole of it.
+// A label's widget: plain text, cut with an ellipsis if it does not fit. Without a tool tip of its
+// own, it shows a cut text in full as its tool tip.
 #pragma once
 
 #include <QLabel>
@@ -10,11 +10,11 @@ class ElidedLabel : public QLabel {
  public:
   explicit ElidedLabel(QWidget* parent);
 
-  // Draws the text paler than the values beside it.
+  // Draws the text paler than the values.
   void SetMuted(bool muted) { muted_ = muted; }
 
   QSize sizeHint() const override;
-  // The height of a line, and no width: what does not fit is cut.
+  // The height of a line; no width, because text that does not fit is cut.
   QSize minimumSizeHint() const override;
 
  protected:
@@ -22,7 +22,7 @@ class ElidedLabel : public QLabel {
   bool event(QEvent* event) override;
 
  private:
-  // The lines as they are drawn; `cut` tells whether they are less than the whole text.
+  // The lines as they are drawn; `cut` tells whether some of the text is missing.
   QStringList VisibleLines(bool& cut) const;
 
   bool muted_ = false;

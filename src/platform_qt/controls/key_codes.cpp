@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "platform/char_code.h"
 #include "platform/rich_text_box.h"
 
 namespace verlume::qt {
@@ -9,12 +10,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// What a Greek keyboard has on the keys A to Z; 0 where that is no letter of its own.
+// The letters on the keys A to Z of a Greek keyboard; 0 if the key has no letter.
 constexpr std::u16string_view kGreekKeys = u"ΑΒΨΔΕΦΓΗΙΞΚΛΜΝΟΠ\0ΡΣΤΘΩ\0ΧΥΖ"sv;
-
-constexpr int kLineFeed = 10;
-constexpr int kReturn = 13;
-constexpr int kDelete = 127;
 
 bool HoldsControlAlone(const QKeyEvent& event) {
   return event.modifiers() & Qt::ControlModifier && !(event.modifiers() & Qt::AltModifier);
@@ -50,13 +47,13 @@ int ShiftOf(const QKeyEvent& event) {
 
 int CharCodeOf(const QKeyEvent& event) {
   if (event.key() == Qt::Key_Backtab) return 0;
-  if (IsEnter(event)) return HoldsControlAlone(event) ? kLineFeed : kReturn;
+  if (IsEnter(event)) return HoldsControlAlone(event) ? char_code::kCtrlEnter : char_code::kEnter;
   if (HoldsControlAlone(event)) {
     const int key = LatinKeyOf(event);
-    return key >= Qt::Key_A && key <= Qt::Key_Z ? key - Qt::Key_A + 1 : 0;
+    return key >= Qt::Key_A && key <= Qt::Key_Z ? key - Qt::Key_A + char_code::kCtrlA : 0;
   }
   const QString text = event.text();
-  if (text.isEmpty() || text.front() == QChar(kDelete)) return 0;
+  if (text.isEmpty() || text.front() == QChar(char_code::kDelete)) return 0;
   return text.front().unicode();
 }
 

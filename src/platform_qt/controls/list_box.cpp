@@ -19,8 +19,8 @@ class Counted {
   int& depth_;
 };
 
-// The row that a key selects while nothing is: the focus alone has made one the current row, which
-// Qt's own keys go on from. -1 for a key that selects none.
+// The row that a key selects while none is selected, or -1. Qt's own keys would start from the
+// current row, which getting the focus has set.
 int FirstRowOf(int key, const QListWidget& list) {
   switch (key) {
     case Qt::Key_Up:
@@ -78,7 +78,7 @@ void ListWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 void ListWidget::mousePressEvent(QMouseEvent* event) {
-  // The other buttons ask for help.
+  // The other buttons are for context help.
   if (event->button() != Qt::LeftButton) return;
   const QListWidgetItem* pressed = itemAt(event->position().toPoint());
   const bool again = pressed && pressed->isSelected();
@@ -95,7 +95,7 @@ QItemSelectionModel::SelectionFlags ListWidget::selectionCommand(const QModelInd
 }
 
 QtListBox::QtListBox(ListWidget* widget) : QtControl(widget) {
-  // What is selected, not what is current: the focus alone makes the first item the current one.
+  // Not the current item: getting the focus makes the first item current without selecting it.
   QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [this] {
     if (programDepth_ == 0) widget_->TellChosen();
   });
@@ -118,7 +118,7 @@ void QtListBox::Remove(int index) {
   const Counted change(programDepth_);
   const bool wasSelected = index == SelectedIndex();
   delete widget_->takeItem(index);
-  // Qt goes on to a neighbour.
+  // Qt selects a neighbour.
   if (wasSelected) Select(-1);
 }
 

@@ -1,4 +1,4 @@
-// The list box, made real.
+// The list box, implemented with Qt.
 #pragma once
 
 #include <QListWidget>
@@ -9,13 +9,13 @@
 namespace verlume::qt {
 
 // A list in which one item stays selected once the user has selected one: a click beside the items,
-// or with Ctrl, takes the selection from none.
+// or with Ctrl, does not remove the selection.
 class ListWidget : public QListWidget {
  public:
   explicit ListWidget(QWidget* parent);
 
-  // The user has selected an item, or clicked the one that was selected. It is told once the key or
-  // button that did it has been dealt with: what its handler selects stays selected then.
+  // The user has selected an item, or clicked the selected one again. Raised after Qt has handled
+  // the key or button, so that what the handler selects stays selected.
   std::function<void()> onChosen;
   void TellChosen();
 
@@ -32,7 +32,7 @@ class ListWidget : public QListWidget {
   void EndEvent();
 
   int eventDepth_ = 0;
-  bool hasChosen_ = false;  // since the event began
+  bool hasChosen_ = false;  // during the current event
 };
 
 class QtListBox : public QtControl<ListBox, ListWidget> {
@@ -52,7 +52,7 @@ class QtListBox : public QtControl<ListBox, ListWidget> {
 
  private:
   std::u16string tag_;
-  int programDepth_ = 0;  // the program changes the list: that is no click
+  int programDepth_ = 0;  // above 0 while the program changes the list, which is no click
 };
 
 }  // namespace verlume::qt

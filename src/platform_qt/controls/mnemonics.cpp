@@ -9,11 +9,11 @@
 namespace verlume::qt {
 namespace {
 
-// The property of a widget or an action that keeps its caption without mnemonic.
+// The property in which a widget or action keeps its caption without mnemonic.
 constexpr auto kCaption = "verlumeCaption";
 
-// The letter as it is pressed; null for what makes no mnemonic. An accented letter takes two keys,
-// and the final sigma's key is that of another letter.
+// The key of the letter; null if it cannot be a mnemonic. An accented letter needs two keys, and a
+// final sigma is not on the key of its letter.
 QChar KeyOf(QChar c) {
   const bool makesOne =
       c.isLetterOrNumber() && c.decompositionTag() == QChar::NoDecomposition && c != u'ς';
@@ -24,8 +24,9 @@ bool BeginsWord(const QString& caption, qsizetype place) {
   return place == 0 || caption[place - 1].isSpace();
 }
 
-// How well a letter of the caption serves: the first letter of a word, any other, and last one of
-// another script than the caption's, which needs another keyboard.
+// How suitable a letter of the caption is. Best is the first letter of a word, then any other
+// letter; last is a letter of another script than the caption's, which needs another keyboard
+// layout.
 enum class Rank { BeginsWord, Inside, OtherScript };
 
 Rank RankOf(const QString& caption, qsizetype place) {
@@ -33,7 +34,7 @@ Rank RankOf(const QString& caption, qsizetype place) {
   return BeginsWord(caption, place) ? Rank::BeginsWord : Rank::Inside;
 }
 
-// Where the caption could have its letter, the best places first.
+// The places where the caption could have its letter, best first.
 std::vector<qsizetype> PlacesOf(const QString& caption, const QString& taken, Rank worst) {
   std::vector<qsizetype> places;
   for (const Rank rank : {Rank::BeginsWord, Rank::Inside, Rank::OtherScript}) {
@@ -46,14 +47,14 @@ std::vector<qsizetype> PlacesOf(const QString& caption, const QString& taken, Ra
   return places;
 }
 
-// Hands out the letters, so that as many captions as possible have one.
+// Assigns letters so that as many captions as possible get one.
 class Chooser {
  public:
   Chooser(const QStringList& captions, const QString& taken)
       : captions_(captions), taken_(taken), chosen_(captions.size(), -1) {}
 
   std::vector<qsizetype> Choose() {
-    // Who can have the first letter of a word has it before others take letters from within.
+    // First letters of words are given out before captions take letters from within words.
     for (const Rank worst : {Rank::BeginsWord, Rank::Inside, Rank::OtherScript}) {
       worst_ = worst;
       for (std::size_t i = 0; i < chosen_.size(); ++i) {
@@ -105,7 +106,7 @@ QString CaptionOf(const Element* element) {
   return element->property(kCaption).toString();
 }
 
-// Gives each its letter; the letters that are taken afterwards.
+// Gives each of them its letter, and returns all letters taken afterwards.
 template <class Element>
 QString SetTexts(const QList<Element*>& elements, const QString& taken) {
   QStringList captions;
@@ -120,8 +121,8 @@ QString SetTexts(const QList<Element*>& elements, const QString& taken) {
   return keys;
 }
 
-// What Alt and a letter reach in a window: the menus of its bar, and what they leave to check
-// boxes. Where there is no bar the buttons have letters too, before the check boxes.
+// Assigns everything that Alt and a letter reach in a window: first the menus of the menu bar, then
+// the check boxes. Without a menu bar, the buttons get letters too, before the check boxes.
 void SetTextsOfWindow(QWidget* window) {
   QList<QAbstractButton*> elements;
   const auto add = [&](const auto& found) {

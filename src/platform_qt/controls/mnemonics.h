@@ -1,5 +1,5 @@
-// The underlined letters of menus, check boxes and buttons. They are chosen from the captions of
-// the language in force, each letter once where it has to lead to one thing.
+// The underlined letters (mnemonics) of menus, check boxes and buttons. They are chosen from the
+// captions of the current language; a letter that must lead to one thing is used only once.
 #pragma once
 
 #include <QAbstractButton>
@@ -9,18 +9,18 @@
 
 namespace verlume::qt {
 
-// For each caption the place of its letter, -1 where none is left for it. The first letters of
-// words are preferred, and captions that come first; a caption without a letter of its own left
-// takes one from another that can do with a second choice. Never an accented letter, and no letter
-// of `taken`. Equal captions give equal letters.
+// For each caption the place of its letter, or -1 if none is left. Prefers the first letters of
+// words, and serves earlier captions first. A caption without a free letter takes one from another
+// caption that can use a different one. Never chooses an accented letter or a letter of `taken`.
+// The same captions always give the same letters.
 std::vector<qsizetype> ChooseMnemonics(const QStringList& captions, const QString& taken = {});
 
-// The caption as Qt wants it: "&" before the letter at `place`, "&&" for every "&" in it.
+// The caption in Qt's notation: "&" before the letter at `place`, and "&&" for every "&" in it.
 QString WithMnemonic(const QString& caption, qsizetype place);
 
-// Gives an entry of a menu, or a menu of the menu bar, its caption; every entry beside it gets its
-// letter anew. A menu bar's letters are not left to the check boxes of its window, and its window's
-// push buttons have none: they come and go.
+// Sets the caption of a menu entry, or of a menu of the menu bar, and chooses new letters for all
+// entries beside it. The letters of a menu bar are not available to the check boxes of its window.
+// The push buttons of such a window have no letters, because they come and go.
 void SetCaptionWithMnemonic(QAction* action, const QString& caption);
 void SetCaptionWithMnemonic(QAbstractButton* button, const QString& caption);
 

@@ -74,11 +74,11 @@ QSize ProportionalLayout::minimumSize() const {
   double across = 1;
   double down = 1;
   for (const PlacedItem& place : places_) {
-    // A hidden item is empty and needs nothing.
+    // A hidden item needs no space.
     if (place.foot) {
       across = std::max(across, double(place.foot->minimumSize().width()) / place.design.width());
     }
-    // A pane scrolls: it is never too small for what it holds.
+    // A pane scrolls, so it is never too small for its content.
     if (qobject_cast<QAbstractScrollArea*>(place.item->widget())) continue;
     const QSize needed = place.item->widget() ? place.item->widget()->minimumSizeHint() : QSize();
     if (needed.width() > 0) {
@@ -113,7 +113,7 @@ void ProportionalLayout::setGeometry(const QRect& area) {
   QLayout::setGeometry(area);
   const double across = double(area.width()) / design_.width();
   const double down = double(area.height()) / design_.height();
-  // Edges are rounded, not sizes: what touches in the design touches at every size.
+  // Edges are rounded, not sizes, so that neighbours in the design touch at every size.
   for (const PlacedItem& place : places_) {
     const QRect& design = place.design;
     const int left = area.x() + int(std::lround(design.x() * across));

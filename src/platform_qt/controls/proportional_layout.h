@@ -1,5 +1,5 @@
-// A layout that keeps every widget's relative place and size: each has a rectangle in design units,
-// and all are scaled by the same two factors when the area changes.
+// A layout that scales its widgets with the area: each has a rectangle in design units, and all
+// rectangles are scaled by the same two factors.
 #pragma once
 
 #include <QLayout>
@@ -12,14 +12,15 @@ namespace verlume::qt {
 
 class ProportionalLayout : public QLayout {
  public:
-  // At 100 % one design unit is one pixel; the area is never laid out smaller than the design.
+  // At 100 % a design unit is one pixel. The area is never smaller than the design.
   ProportionalLayout(QWidget* parent, QSize design);
   ~ProportionalLayout() override;
 
   void Place(QWidget* widget, const QRect& design);
-  // While it is shown, `foot` takes the bottom of the place of `owner`, at the height it needs.
+  // While `foot` is visible, it takes the bottom of the rectangle of `owner`, at the height it
+  // needs.
   void PlaceFoot(QWidget* owner, QWidget* foot);
-  // The widget's rectangle in design units; empty for a widget that is not placed here.
+  // The widget's rectangle in design units; empty if the widget is not in this layout.
   QRect DesignOf(const QWidget* widget) const;
 
   void addItem(QLayoutItem* item) override;
@@ -28,7 +29,7 @@ class ProportionalLayout : public QLayout {
   QLayoutItem* takeAt(int index) override;
   Qt::Orientations expandingDirections() const override;
   QSize sizeHint() const override { return minimumSize(); }
-  // The design, enlarged where the user's font needs more height than the design gives.
+  // The size of the design, enlarged if the user's font needs more height.
   QSize minimumSize() const override;
   void setGeometry(const QRect& area) override;
   // A widget says this with every text it is given. Nothing is laid out anew unless a widget needs
@@ -55,7 +56,7 @@ class ProportionalLayout : public QLayout {
   std::vector<Need> needs_;  // when it was laid out last
 };
 
-// The height of a widget in its design's units, or in pixels where no such layout holds it.
+// The height of a widget in design units, or in pixels if it is not in such a layout.
 int DesignHeight(const QWidget* widget);
 void SetDesignHeight(QWidget* widget, int height);
 

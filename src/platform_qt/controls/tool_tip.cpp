@@ -5,8 +5,8 @@
 namespace verlume::qt {
 
 QString PlainToolTip(const QString& text) {
-  // A tool tip guesses whether it is markup, and this is its guess. Only what it takes for markup
-  // may be escaped: anything else it shows as it is.
+  // Qt guesses by this function whether a tool tip is markup. Text that it takes for plain must not
+  // be escaped.
   if (!Qt::mightBeRichText(text)) return text;
   return QStringLiteral("<span style=\"white-space:pre-wrap\">") + text.toHtmlEscaped() +
          QStringLiteral("</span>");

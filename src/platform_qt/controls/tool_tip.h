@@ -5,7 +5,7 @@
 
 namespace verlume::qt {
 
-// What to give Qt so that its tool tip shows exactly this text.
+// The string to give to Qt so that its tool tip shows exactly this text.
 QString PlainToolTip(const QString& text);
 
 }  // namespace verlume::qt

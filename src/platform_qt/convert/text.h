@@ -1,4 +1,4 @@
-// The edge where the logic's strings and colours become Qt's, and back.
+// Converts between the logic's strings and colours and Qt's.
 #pragma once
 
 #include <QColor>
@@ -10,7 +10,7 @@
 
 namespace verlume::qt {
 
-// Every UTF-16 unit is kept, lone surrogates and byte order marks too.
+// Every UTF-16 unit is kept, including lone surrogates and byte order marks.
 QString ToQt(std::u16string_view text);
 std::u16string FromQt(const QString& text);
 

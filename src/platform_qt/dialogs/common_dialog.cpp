@@ -14,8 +14,8 @@
 namespace verlume::qt {
 namespace {
 
-// Shows the dialog and returns what `result` reads from it. The dialog goes with its owner when the
-// program ends under it, which is a cancel.
+// Shows the dialog and returns what `result` reads from it. If the program ends meanwhile, the
+// dialog is deleted with its parent, which counts as a cancel.
 template <class Dialog, class Result>
 auto Ask(Dialog* dialog, Result result) {
   const QPointer<Dialog> alive = dialog;
@@ -47,7 +47,7 @@ FileChoice Chosen(const FileDialog& dialog, const FileChoice& start) {
   return choice;
 }
 
-// The name proposed carries the extension: "ann.lee" alone would seem to have one of its own.
+// Adds the extension to the proposed name, because "ann.lee" alone would seem to have one.
 QString ProposedName(const FileChoice& start) {
   const QString name = ToQt(start.fileName);
   const QString extension = ToQt(start.defaultExtension);
@@ -58,7 +58,7 @@ QString ProposedName(const FileChoice& start) {
 }  // namespace
 
 FileChoice QtCommonDialog::ShowOpen(const FileChoice& start) {
-  FileDialog* dialog = NewFileDialog(OwnerOfBoxes(mainWindow_), start);
+  FileDialog* dialog = NewFileDialog(ParentOfBoxes(mainWindow_), start);
   const bool mustExist = start.flags & dialog_flag::kFileMustExist;
   dialog->setFileMode(mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   if (!start.fileName.empty()) dialog->selectFile(ToQt(start.fileName));
@@ -66,7 +66,7 @@ FileChoice QtCommonDialog::ShowOpen(const FileChoice& start) {
 }
 
 FileChoice QtCommonDialog::ShowSave(const FileChoice& start) {
-  FileDialog* dialog = NewFileDialog(OwnerOfBoxes(mainWindow_), start);
+  FileDialog* dialog = NewFileDialog(ParentOfBoxes(mainWindow_), start);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setFileMode(QFileDialog::AnyFile);
   dialog->setOption(QFileDialog::DontConfirmOverwrite,
@@ -78,7 +78,7 @@ FileChoice QtCommonDialog::ShowSave(const FileChoice& start) {
 
 std::u16string QtCommonDialog::ChooseFolder(std::u16string_view title,
                                             std::u16string_view initialFolder) {
-  auto* dialog = new FileDialog(OwnerOfBoxes(mainWindow_), ToQt(title), initialFolder);
+  auto* dialog = new FileDialog(ParentOfBoxes(mainWindow_), ToQt(title), initialFolder);
   dialog->setFileMode(QFileDialog::Directory);
   dialog->setOption(QFileDialog::ShowDirsOnly);
   return Ask(dialog, [](const FileDialog& done) {
@@ -89,7 +89,7 @@ std::u16string QtCommonDialog::ChooseFolder(std::u16string_view title,
 }
 
 Color QtCommonDialog::ShowColor(Color start) {
-  auto* dialog = new QColorDialog(ToQt(start), OwnerOfBoxes(mainWindow_));
+  auto* dialog = new QColorDialog(ToQt(start), ParentOfBoxes(mainWindow_));
   dialog->setObjectName(QStringLiteral("colorDialog"));
   dialog->setOption(QColorDialog::DontUseNativeDialog);
   return Ask(dialog, [](const QColorDialog& done) { return FromQt(done.selectedColor()); });
@@ -97,7 +97,7 @@ Color QtCommonDialog::ShowColor(Color start) {
 
 FontChoice QtCommonDialog::ShowFont(const FontChoice& start, double minimumSize,
                                     double maximumSize) {
-  auto* dialog = new FontDialog(OwnerOfBoxes(mainWindow_), start, minimumSize, maximumSize);
+  auto* dialog = new FontDialog(ParentOfBoxes(mainWindow_), start, minimumSize, maximumSize);
   return Ask(dialog, [](const FontDialog& done) { return done.Choice(); });
 }
 

@@ -1,5 +1,5 @@
-// The common dialog dlgControl on Qt's own file, colour and font dialogs. They are never the
-// desktop's: their texts follow the interface language.
+// The common dialog dlgControl, implemented by Qt's own file, colour and font dialogs. The
+// desktop's dialogs are not used, because their language is the desktop's.
 #pragma once
 
 #include <QPointer>
@@ -11,7 +11,7 @@ namespace verlume::qt {
 
 class QtCommonDialog : public CommonDialog {
  public:
-  // `mainWindow` owns the dialogs shown while no window of the program is active.
+  // `mainWindow` is the parent of dialogs shown while no window of the program is active.
   explicit QtCommonDialog(QWidget* mainWindow) : mainWindow_(mainWindow) {}
 
   FileChoice ShowOpen(const FileChoice& start) override;

@@ -14,7 +14,7 @@ namespace verlume::qt {
 namespace {
 
 constexpr QSize kUsualSize(780, 480);
-constexpr QSize kWindowFrame(20, 50);  // what a window manager puts around it
+constexpr QSize kWindowFrame(20, 50);  // the window manager's frame
 
 }  // namespace
 
@@ -26,7 +26,7 @@ QStringList NameFilters(std::u16string_view filter) {
     const QString& description = pieces[index];
     QString pattern = pieces[index + 1];
     pattern.replace(u';', u' ');
-    // Qt reads the patterns out of the last parentheses; a description often has them already.
+    // Qt takes the patterns from the last parentheses, which many descriptions already have.
     const QString behind = QStringLiteral("(%1)").arg(pattern);
     filters.append(description.endsWith(behind) ? description : description + u' ' + behind);
   }
@@ -55,7 +55,7 @@ FileDialog::FileDialog(QWidget* owner, const QString& title, std::u16string_view
   FitColumns();
 }
 
-// Qt's own widths cut the type and the date; here the name takes what the others leave.
+// Qt's own widths cut the type and the date. Here the name gets what the other columns leave.
 void FileDialog::FitColumns() {
   resize(kUsualSize.boundedTo(screen()->availableSize() - kWindowFrame));
   const auto* details = findChild<QTreeView*>(QStringLiteral("treeView"));
@@ -75,7 +75,7 @@ void FileDialog::accept() {
   box.exec();
 }
 
-// In Qt's own words, so that they come in the interface language as its others do.
+// Qt's own wording, so that the translator translates it like Qt's other texts.
 QString FileDialog::RefusalOf(const QString& path) const {
   const QFileInfo file(path);
   const QString folder = file.absolutePath();

@@ -1,4 +1,4 @@
-// The file dialog behind QtCommonDialog.
+// The file dialog of QtCommonDialog.
 #pragma once
 
 #include <QFileDialog>
@@ -9,20 +9,20 @@
 
 namespace verlume::qt {
 
-// Qt's name filters for "description|pattern|...". A last "|" with nothing behind it is nothing.
+// Qt's name filters for "description|pattern|...". A trailing "|" is ignored.
 QStringList NameFilters(std::u16string_view filter);
 
-// True when the name's extension is another than the default one, in any letter case.
+// True if the name's extension differs from the default one, ignoring letter case.
 bool HasOtherExtension(const QString& path, const QString& defaultExtension);
 
-// What the column of types says: a folder, or a file of its extension. The desktop's own
-// descriptions would come in the desktop's language.
+// Texts for the type column: a folder, or a file with its extension. The desktop's own texts would
+// be in the desktop's language.
 class FileTypes : public QFileIconProvider {
  public:
   QString type(const QFileInfo& info) const override;
 };
 
-// A base, so that it outlives the dialog's own threads that ask it.
+// A base class, so that it outlives the threads of the dialog that use it.
 struct FileTypesHolder {
   FileTypes types;
 };
@@ -31,9 +31,9 @@ class FileDialog : private FileTypesHolder, public QFileDialog {
  public:
   FileDialog(QWidget* owner, const QString& title, std::u16string_view initialFolder);
 
-  // Refuses a name in a folder that is not there.
+  // Refuses a name in a folder that does not exist.
   void RequireFolder() { requireFolder_ = true; }
-  // Refuses a file that is there and may not be written.
+  // Refuses a file that exists and is read-only.
   void RefuseReadOnly() { refuseReadOnly_ = true; }
 
  protected:
@@ -41,7 +41,7 @@ class FileDialog : private FileTypesHolder, public QFileDialog {
 
  private:
   void FitColumns();
-  // Why the path may not be chosen; empty where it may.
+  // The reason why the path may not be chosen; empty if it may.
   QString RefusalOf(const QString& path) const;
 
   bool requireFolder_ = false;

@@ -49,8 +49,8 @@ FontDialog::FontDialog(QWidget* owner, const FontChoice& start, double minimumSi
   AddColorButton();
 }
 
-// Qt gives no names to the parts of its dialog: the edit of the size is the one that takes numbers
-// alone, the list of the sizes the one that holds numbers alone.
+// Qt does not name the parts of its dialog. The size field is the one that accepts only numbers,
+// and the size list the one that contains only numbers.
 void FontDialog::LimitSizes() {
   for (QLineEdit* edit : findChildren<QLineEdit*>()) {
     if (!qobject_cast<const QIntValidator*>(edit->validator())) continue;
@@ -66,7 +66,7 @@ void FontDialog::LimitSizes() {
 
 void FontDialog::HideSizesOutside(QListView* sizes) const {
   const QAbstractItemModel* model = sizes->model();
-  // A list of anything but numbers is one of names.
+  // A list with anything but numbers is one of names.
   for (int row = 0; row < model->rowCount(); ++row) {
     bool isNumber = false;
     model->index(row, 0).data().toString().toInt(&isNumber);
@@ -78,7 +78,7 @@ void FontDialog::HideSizesOutside(QListView* sizes) const {
   }
 }
 
-// The colour stands with the effects, whose check boxes are the dialog's only ones.
+// The colour is placed with the effects, whose check boxes are the only ones in the dialog.
 void FontDialog::AddColorButton() {
   const auto* effect = findChild<QCheckBox*>();
   QLayout* effects = effect ? effect->parentWidget()->layout() : layout();
@@ -94,7 +94,7 @@ void FontDialog::ChooseColor(QPushButton* button) {
   const QPointer<QColorDialog> colors = new QColorDialog(ToQt(start_.color), this);
   colors->setOption(QColorDialog::DontUseNativeDialog);
   const bool accepted = colors->exec() == QDialog::Accepted;
-  // It goes with this dialog when the program ends under them.
+  // It is deleted with this dialog if the program ends meanwhile.
   if (!colors) return;
   if (accepted) start_.color = FromQt(colors->selectedColor());
   colors->deleteLater();
@@ -109,7 +109,7 @@ FontChoice FontDialog::Choice() const {
   choice.italic = font.style() != QFont::StyleNormal;
   choice.underline = font.underline();
   choice.strikethrough = font.strikeOut();
-  // A size with a fraction, which the dialog shows rounded, stays while the user leaves it alone.
+  // The dialog shows a fractional size rounded; it stays unless the user changes it.
   if (font.pointSize() != FontOf(start_).pointSize()) {
     choice.size = std::clamp(font.pointSizeF(), minimum_, maximum_);
   }

@@ -1,4 +1,4 @@
-// The font dialog behind QtCommonDialog.
+// The font dialog of QtCommonDialog.
 #pragma once
 
 #include <QFontDialog>
@@ -16,8 +16,8 @@ class FontDialog : public QFontDialog {
   // Offers sizes from `minimumSize` to `maximumSize` points.
   FontDialog(QWidget* owner, const FontChoice& start, double minimumSize, double maximumSize);
 
-  // The font chosen, its size within the limits. A font that is not installed stays chosen while
-  // the user chooses no other.
+  // The chosen font, with a size within the limits. If the start font is not installed, it stays
+  // chosen until the user chooses another.
   FontChoice Choice() const;
 
  private:
@@ -27,7 +27,7 @@ class FontDialog : public QFontDialog {
   void ChooseColor(QPushButton* button);
 
   FontChoice start_;
-  QString shownFamily_;  // what stands for the font it started with
+  QString shownFamily_;  // the installed font shown for the start font
   double minimum_;
   double maximum_;
 };

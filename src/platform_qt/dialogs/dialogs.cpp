@@ -39,7 +39,7 @@ bool Has(MessageButtons buttons, Answer answer) {
   }
 }
 
-// What closing a box without a button answers.
+// The answer when a box is closed without a button.
 Answer AnswerOfClosing(MessageButtons buttons) {
   if (Has(buttons, Answer::Cancel)) return Answer::Cancel;
   return Has(buttons, Answer::No) ? Answer::No : Answer::Ok;
@@ -65,8 +65,8 @@ bool IsLineBreakOrControl(QChar unit) {
          unit == QChar::ParagraphSeparator;
 }
 
-// One line of text, whatever was pasted: a blank for every line break and control character. Half
-// a surrogate pair becomes the replacement character.
+// Makes pasted text one line: line breaks and control characters become blanks, half a surrogate
+// pair the replacement character.
 std::u16string AsOneLine(QString text) {
   for (qsizetype i = 0; i < text.size(); ++i) {
     const bool isPair =
@@ -84,7 +84,7 @@ std::u16string AsOneLine(QString text) {
 
 }  // namespace
 
-QWidget* OwnerOfBoxes(QWidget* mainWindow) {
+QWidget* ParentOfBoxes(QWidget* mainWindow) {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   if (QWidget* active = QApplication::activeWindow()) return active;
   return mainWindow;
@@ -119,8 +119,8 @@ void QtDialogs::AddButtons(QMessageBox& box, const Message& message) const {
 }
 
 Answer QtDialogs::ShowMessage(const Message& message) {
-  // The box goes with its owner when the program ends under it.
-  QPointer<QMessageBox> box = new QMessageBox(OwnerOfBoxes(mainWindow_));
+  // The box is deleted with its parent if the program ends meanwhile.
+  QPointer<QMessageBox> box = new QMessageBox(ParentOfBoxes(mainWindow_));
   box->setObjectName(QStringLiteral("messageBox"));
   box->setWindowTitle(ToQt(message.title));
   box->setTextFormat(Qt::PlainText);
@@ -144,7 +144,7 @@ Answer QtDialogs::ShowMessage(const Message& message) {
 
 std::u16string QtDialogs::AskText(std::u16string_view prompt, std::u16string_view title,
                                   std::u16string_view defaultText) {
-  QPointer<QInputDialog> box = new QInputDialog(OwnerOfBoxes(mainWindow_));
+  QPointer<QInputDialog> box = new QInputDialog(ParentOfBoxes(mainWindow_));
   box->setObjectName(QStringLiteral("inputBox"));
   box->setWindowTitle(ToQt(title));
   box->setInputMode(QInputDialog::TextInput);
@@ -153,7 +153,7 @@ std::u16string QtDialogs::AskText(std::u16string_view prompt, std::u16string_vie
   for (QLabel* label : box->findChildren<QLabel*>()) {
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    // Room for a line of some sixty characters; a long prompt breaks within it.
+    // Wide enough for about sixty characters; a longer prompt is wrapped.
     label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 60);
   }
   KeepToOwnProgram(box);

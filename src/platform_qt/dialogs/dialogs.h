@@ -1,4 +1,4 @@
-// Message boxes and input boxes on Qt's own.
+// Message boxes and input boxes, implemented with Qt.
 #pragma once
 
 #include <QPointer>
@@ -11,16 +11,16 @@ class QMessageBox;
 
 namespace verlume::qt {
 
-// The window that a new box belongs to: the one the user is in, else `mainWindow`.
-QWidget* OwnerOfBoxes(QWidget* mainWindow);
+// The parent of a new box: the active window of the program, else `mainWindow`.
+QWidget* ParentOfBoxes(QWidget* mainWindow);
 
-// Prepares a box or dialog for its showing: it takes the keyboard only from this program's own
+// Prepares a box or dialog to be shown so that it takes the keyboard only from this program's
 // windows, never from another program.
 void KeepToOwnProgram(QWidget* box);
 
 class QtDialogs : public Dialogs {
  public:
-  // `mainWindow` owns the boxes shown while no window of the program is active.
+  // `mainWindow` is the parent of boxes shown while no window of the program is active.
   explicit QtDialogs(QWidget* mainWindow);
 
   void SetLanguage(bool isGreek) override;

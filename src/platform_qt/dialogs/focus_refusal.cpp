@@ -6,7 +6,7 @@
 namespace verlume::qt {
 
 FocusRefusal::FocusRefusal(QWidget* box) : QObject(box), box_(box) {
-  box->winId();  // makes the native window
+  box->winId();  // creates the native window
   box->windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
   box->windowHandle()->installEventFilter(this);
 }

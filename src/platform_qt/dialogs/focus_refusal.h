@@ -1,4 +1,4 @@
-// Keeps the keyboard where it is when a box comes up.
+// Lets a box appear without taking the keyboard.
 #pragma once
 
 #include <QObject>
@@ -6,9 +6,9 @@
 
 namespace verlume::qt {
 
-// Until the box is on the screen its window tells the window manager that it takes no keyboard;
-// from then on the user may go to it. Qt's own WA_ShowWithoutActivating has no effect on a modal
-// window under X11. Made before the box is shown; its work done, it goes.
+// Until the box is on the screen, its window tells the window manager that it takes no keyboard
+// focus; after that the user can give it the focus. (Qt's WA_ShowWithoutActivating has no effect on
+// modal windows under X11.) Create it before the box is shown; it deletes itself when done.
 class FocusRefusal : public QObject {
  public:
   explicit FocusRefusal(QWidget* box);

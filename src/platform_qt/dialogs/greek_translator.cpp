@@ -30,7 +30,7 @@ const Texts& AllTexts() {
   return all;
 }
 
-// Names of keys ("Delete", "Home") are printed on the keyboard as they are.
+// Names of keys ("Delete", "Home") stay English, as printed on the keyboard.
 bool IsKeyName(const char* context) {
   return context && std::string_view(context) == "QShortcut";
 }

@@ -1,5 +1,5 @@
-// Qt's own texts in Greek: the buttons of its boxes, its file, colour and font dialogs and the menu
-// of its edit controls.
+// Greek translations of Qt's own texts: the buttons of its boxes, its file, colour and font
+// dialogs, and the context menus of its text fields.
 #pragma once
 
 #include <QTranslator>
@@ -10,9 +10,9 @@ class GreekTranslator : public QTranslator {
  public:
   using QTranslator::QTranslator;
 
-  // Qt installs no translator that calls itself empty.
+  // Qt does not install a translator that says it is empty.
   bool isEmpty() const override { return false; }
-  // Null, which leaves Qt's English, for a text that no part of the program shows.
+  // Null for a text that no part of the program shows; Qt then uses its English text.
   QString translate(const char* context, const char* sourceText, const char* disambiguation,
                     int n) const override;
 };

@@ -1,5 +1,5 @@
-// Qt's texts that the program's boxes and dialogs show, and their Greek. A text is the same in all
-// dialogs that have it.
+// The texts of Qt that the program's boxes and dialogs show, with their Greek translations. A text
+// has the same translation in all dialogs.
 #pragma once
 
 #include <array>
@@ -132,8 +132,8 @@ inline constexpr auto kColorDialogTexts = std::to_array<QtText>({
     {"Cursor at %1, %2\nPress ESC to cancel", u"Δρομέας στο %1, %2\nΠατήστε ESC για ακύρωση"},
 });
 
-// The names of styles ("Bold") stay as they are: the dialog looks for them among the names that the
-// font's own file gives.
+// Style names such as "Bold" are not translated: the dialog looks them up among the names in the
+// font's file.
 inline constexpr auto kFontDialogTexts = std::to_array<QtText>({
     {"Select Font", u"Επιλογή γραμματοσειράς"},
     {"&Font", u"&Γραμματοσειρά"},

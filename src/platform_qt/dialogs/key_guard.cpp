@@ -12,7 +12,7 @@ constexpr qint64 kDeafMilliseconds = 500;
 }  // namespace
 
 KeyGuard::KeyGuard(QWidget* box) : QObject(box), box_(box) {
-  // On the application: shortcuts of buttons go past every filter of the box itself.
+  // Filters on the application, because shortcuts of buttons bypass event filters of the box.
   QApplication::instance()->installEventFilter(this);
 }
 

@@ -1,4 +1,4 @@
-// Keeps keys from a box that appears under the user's hands.
+// Protects a box that appears unexpectedly from keys that the user is typing.
 #pragma once
 
 #include <QElapsedTimer>
@@ -7,7 +7,7 @@
 
 namespace verlume::qt {
 
-// For half a second from the box's first showing no key reaches it; the mouse does. Lives as long
+// For half a second after the box is first shown, no key reaches it; the mouse does. Lives as long
 // as the box.
 class KeyGuard : public QObject {
  public:

@@ -10,9 +10,9 @@ namespace verlume::qt {
 struct HelpTopic {
   QString id;
   QString title;
-  QString html;    // with its title
-  QString text;    // without its title and without markup
-  QString folded;  // the text as a search compares it, unit by unit
+  QString html;    // including the title
+  QString text;    // without title and markup
+  QString folded;  // the text folded for searching, of the same length
 };
 
 struct HelpChapter {
@@ -22,12 +22,12 @@ struct HelpChapter {
 };
 
 struct HelpControl {
-  QStringList names;  // of the controls that one paragraph explains; the first is its id
+  QStringList names;  // the controls that the paragraph explains; the first name is its id
   QString topicId;
   QString html;  // title and paragraph, without links
 };
 
-// A place in the book that a link leads to: a topic and, within it, an anchor or "".
+// The target of a link: a topic and an anchor in it, or "".
 struct HelpPlace {
   QString topicId;
   QString anchor;
@@ -35,26 +35,28 @@ struct HelpPlace {
 
 class HelpBook {
  public:
-  // No file yet: it is missing.
+  // An empty book: its file counts as missing.
   HelpBook() = default;
 
-  // Reads a help file of at most kMaximumSize bytes. Never fails: what is wrong with the file is
-  // what ProblemText tells, and the book is then empty.
+  // Reads a help file of at most kMaximumSize bytes. Never fails: if something is wrong with the
+  // file, the book is empty and ProblemText describes the problem.
   static HelpBook Load(const QString& path, bool isGreek);
 
   static constexpr qint64 kMaximumSize = 4 << 20;
 
-  // "" for a sound book, else what is wrong with it, in the book's language. Plain text.
+  // "" for a book without errors, else a plain-text description of the problem in the book's
+  // language.
   QString ProblemText() const;
   bool IsGreek() const { return isGreek_; }
 
   const std::vector<HelpChapter>& Chapters() const { return chapters_; }
   const std::vector<HelpControl>& Controls() const { return controls_; }
 
-  // Null where there is none.
+  // Null if there is none.
   const HelpTopic* Topic(const QString& id) const;
   const HelpControl* Control(const QString& name) const;
-  // Where the chapter, topic or control of that id stands; no topic where there is none.
+  // The place of the chapter, topic or control with this id; a place without topic if there is
+  // none.
   HelpPlace Find(const QString& id) const;
 
  private:

@@ -8,7 +8,7 @@
 namespace verlume::qt {
 namespace {
 
-// Whether the program gave the name: Qt names some of its own.
+// False for names that Qt itself gives.
 bool IsOwnName(const QString& name) {
   return !name.isEmpty() && !name.startsWith(u'_') && !name.startsWith(QStringLiteral("qt_"));
 }
@@ -39,7 +39,7 @@ void QtContextHelp::Explain(QWidget* widget) {
   if (IsOwnName(widget->objectName())) {
     const QString text = TextFor(widget->objectName());
     SetWhatsThis(widget, text);
-    // A menu's own entry, in the menu bar.
+    // The entry of a menu in the menu bar.
     if (auto* menu = qobject_cast<QMenu*>(widget)) SetWhatsThis(menu->menuAction(), text);
   }
   for (QAction* entry : widget->actions()) {

@@ -1,6 +1,6 @@
-// Context help: every control and menu entry of the program's windows gets, as its What's-This
-// text, the paragraph that the help book has under its name. Windows made later get theirs when
-// they are first shown.
+// Context help: gives every control and menu entry of the program's windows the paragraph that the
+// help book has for its name, as What's-This text. Windows created later get theirs when they are
+// first shown.
 #pragma once
 
 #include <QObject>
@@ -14,11 +14,11 @@ namespace verlume::qt {
 
 class QtContextHelp : public QObject {
  public:
-  // `book` outlives this object; Apply is called whenever another has been put in its place. Needs
-  // a QApplication.
+  // `book` must outlive this object; call Apply whenever its content has been replaced. Needs a
+  // QApplication.
   explicit QtContextHelp(const HelpBook& book);
 
-  // Gives the book's texts to all that exists by now.
+  // Sets the texts of everything that exists now.
   void Apply();
 
  protected:

@@ -1,4 +1,5 @@
-// The topics visited in the help window: back, forward, and where each was left.
+// The topics visited in the help window, for back and forward, with the position at which each was
+// left.
 #pragma once
 
 #include <QString>
@@ -13,7 +14,7 @@ class HelpHistory {
     int scroll = 0;
   };
 
-  // A visit after the one of now; those that lay ahead are forgotten.
+  // Adds a visit after the current one; forward visits are dropped.
   void Go(const QString& topicId) {
     if (!visits_.empty()) visits_.resize(now_ + 1);
     visits_.push_back({topicId, 0});
@@ -25,7 +26,7 @@ class HelpHistory {
   void GoBack() { now_ -= CanGoBack() ? 1 : 0; }
   void GoForward() { now_ += CanGoForward() ? 1 : 0; }
 
-  // Null before the first.
+  // Null before the first visit.
   Visit* Now() { return visits_.empty() ? nullptr : &visits_[now_]; }
 
  private:

@@ -7,7 +7,7 @@
 namespace verlume::qt {
 namespace {
 
-// What runs on within a line; every other tag parts words.
+// Tags within a line of text; every other tag separates words.
 const QStringList kInlineTags = {"a", "b", "code", "em", "i", "strong"};
 const QStringList kTags = {"a",  "b", "br",  "code",   "em",    "h2", "h3", "h4", "i", "li",
                            "ol", "p", "pre", "strong", "table", "td", "th", "tr", "ul"};
@@ -19,7 +19,7 @@ QString Required(QXmlStreamReader& xml, const QString& attribute) {
   return value;
 }
 
-// The attributes of a tag that are shown; a link leads nowhere but into the book.
+// The attributes that are kept; links may only lead into the book.
 QString ShownAttributes(const QXmlStreamAttributes& attributes, QStringView tag) {
   QString shown;
   for (const QXmlStreamAttribute& attribute : attributes) {
@@ -95,7 +95,7 @@ void HelpReader::OpenMarkup(Element& element) {
   element.endInTopic = "</" + tag.toString() + '>';
   Topic().html += start;
   if (element.role == Role::ControlTitle) {
-    // Where a link to the control leads to.
+    // The target of links to the control.
     Topic().html += "<a name=\"" + Control().names.front().toHtmlEscaped() + "\"></a>";
   }
   if (!IsOpen(Role::Control) || tag == u"a") return;

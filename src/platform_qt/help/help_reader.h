@@ -1,6 +1,5 @@
-// Reads the bytes of a help file: XHTML whose divisions of the classes "chapter", "topic" and
-// "control" make the book. Tags and attributes beyond the plain ones are left out, their text
-// stays.
+// Reads a help file: XHTML whose divisions of the classes "chapter", "topic" and "control" form the
+// book. Tags and attributes other than the plain ones are left out, but their text is kept.
 #pragma once
 
 #include <QXmlStreamReader>
@@ -14,9 +13,9 @@ class HelpReader {
  public:
   explicit HelpReader(const QByteArray& bytes) : xml_(bytes) {}
 
-  // False where the bytes are not well-formed, or the divisions do not stand as a book's must.
+  // False if the bytes are not well-formed, or the divisions are not nested as in a book.
   bool Read();
-  // The line that Read came to.
+  // The line at which Read stopped.
   qint64 Line() const { return xml_.lineNumber(); }
 
   std::vector<HelpChapter> TakeChapters() { return std::move(chapters_); }

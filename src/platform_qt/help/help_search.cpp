@@ -6,7 +6,8 @@
 namespace verlume::qt {
 namespace {
 
-// A hit in a title says more than many in the text; one at the start of a word more than inside.
+// A hit in a title counts more than many in the text; one at the start of a word more than one
+// inside.
 constexpr int kTitleWeight = 20;
 constexpr int kWordStartWeight = 3;
 constexpr int kSnippetBefore = 40;
@@ -34,7 +35,7 @@ int Hits(const QString& folded, const QString& word) {
   return hits;
 }
 
-// 0 where a word is missing.
+// 0 if a word is missing.
 int Score(const HelpTopic& topic, const QStringList& words) {
   const QString title = FoldForSearch(topic.title);
   int score = 0;
@@ -46,7 +47,7 @@ int Score(const HelpTopic& topic, const QStringList& words) {
   return score;
 }
 
-// The first place at which a word starts, else the first hit, else the beginning.
+// The first hit at the start of a word, else the first hit, else 0.
 qsizetype FirstHit(const QString& folded, const QStringList& words) {
   qsizetype inside = -1;
   for (const QString& word : words) {
@@ -63,7 +64,7 @@ QString Snippet(const HelpTopic& topic, const QStringList& words) {
   if (text.size() <= kSnippetLength) return text;
   const qsizetype hit = FirstHit(topic.folded, words);
   qsizetype start = std::max<qsizetype>(hit - kSnippetBefore, 0);
-  // From one end of a word to another, where there is one near.
+  // Cut at the ends of words if they are near.
   if (start > 0) start = std::min(text.indexOf(u' ', start) + 1, hit);
   qsizetype end = std::min(start + kSnippetLength, text.size());
   const qsizetype wordEnd = text.lastIndexOf(u' ', end);

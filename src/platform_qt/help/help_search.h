@@ -1,4 +1,4 @@
-// Full-text search in a help book. Case and accents make no difference, in Greek neither.
+// Full-text search in a help book. Ignores case and accents, in Greek too.
 #pragma once
 
 #include <QString>
@@ -8,17 +8,17 @@
 
 namespace verlume::qt {
 
-// The text as a search compares it: every unit without its accent, in lower case. As long as the
-// text, so that a place in one is the same place in the other.
+// The text folded for searching: in lower case and without accents. It has the same length, so that
+// positions in both are the same.
 QString FoldForSearch(const QString& text);
 
 struct HelpFinding {
   const HelpTopic* topic = nullptr;
-  QString snippet;  // the text around the first hit, plain
+  QString snippet;  // plain text around the first hit
 };
 
-// The topics that hold every word of the query, as a word or as a part of one, best first. None for
-// a query without words.
+// The topics that contain every word of the query, as a word or part of a word, best first. Empty
+// if the query has no words.
 std::vector<HelpFinding> SearchHelp(const HelpBook& book, const QString& query);
 
 struct TextSpan {
@@ -26,7 +26,7 @@ struct TextSpan {
   qsizetype length = 0;
 };
 
-// Where the words of the query stand in a text, from its beginning to its end.
+// The places of the query's words in a text, in order.
 std::vector<TextSpan> FindWords(const QString& text, const QString& query);
 
 }  // namespace verlume::qt

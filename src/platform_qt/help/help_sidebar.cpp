@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kIdRole = Qt::UserRole;
 
-// A line of the contents. Its tool tip shows the whole of a title that is cut.
+// A line of the contents. Its tool tip shows the full title, which may be cut in the line.
 QTreeWidgetItem* Line(const QString& id, const QString& title) {
   auto* line = new QTreeWidgetItem({title});
   line->setData(0, kIdRole, id);
@@ -46,7 +46,7 @@ HelpSidebar::HelpSidebar(QWidget* parent)
   column->addWidget(txtSearch_);
   column->addWidget(pages_);
 
-  connect(txtSearch_, &QLineEdit::textChanged, this, [this] { ListFindings(); });
+  connect(txtSearch_, &QLineEdit::textChanged, this, [this] { ListResults(); });
   connect(txtSearch_, &QLineEdit::returnPressed, this, [this] { ChooseFirst(); });
   const auto chooseLine = [this](const QTreeWidgetItem* line) {
     Choose(line->data(0, kIdRole).toString());
@@ -70,7 +70,7 @@ void HelpSidebar::SetBook(const HelpBook& book) {
       chapterLine->addChild(Line(topic.id, topic.title));
     }
   }
-  ListFindings();
+  ListResults();
 }
 
 bool HelpSidebar::ClearSearch() {
@@ -101,7 +101,7 @@ void HelpSidebar::FocusSearch() {
   txtSearch_->selectAll();
 }
 
-void HelpSidebar::ListFindings() {
+void HelpSidebar::ListResults() {
   lstResults_->clear();
   const bool isSearching = !Query().trimmed().isEmpty();
   pages_->setCurrentWidget(isSearching ? static_cast<QWidget*>(lstResults_) : tvwContents_);
@@ -124,7 +124,7 @@ void HelpSidebar::Choose(const QString& id) {
   if (onChosen && !id.isEmpty()) onChosen(id);
 }
 
-// From the search field, the arrow goes down into what is below it.
+// The Down key moves from the search field into the list below it.
 void HelpSidebar::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Down && txtSearch_->hasFocus()) {
     pages_->currentWidget()->setFocus(Qt::TabFocusReason);

@@ -1,5 +1,5 @@
-// The left of the help window: the search field, and below it the contents or, while something is
-// searched, what was found.
+// The left part of the help window: the search field, and below it the contents or the search
+// results.
 #pragma once
 
 #include <QWidget>
@@ -19,12 +19,13 @@ class HelpSidebar : public QWidget {
  public:
   explicit HelpSidebar(QWidget* parent);
 
-  // Shows the book's contents and what it has for the query. `book` is kept until the next.
+  // Shows the book's contents and the results of the current query. `book` is used until the next
+  // call.
   void SetBook(const HelpBook& book);
-  // Empties the search; false when it was empty.
+  // Clears the search; false if it was empty already.
   bool ClearSearch();
-  // The contents follow: the topic's line is opened, in sight and current. Of what was found, the
-  // topic is marked, if it is there.
+  // Makes the topic's line in the contents current, opened and visible, and marks the topic in the
+  // search results if it is there.
   void Select(const QString& topicId);
 
   QString Query() const;
@@ -34,14 +35,14 @@ class HelpSidebar : public QWidget {
   QTreeWidget* tvwContents() const { return tvwContents_; }
   QListWidget* lstResults() const { return lstResults_; }
 
-  // The user has chosen the chapter or topic of that id.
+  // The user has chosen the chapter or topic with this id.
   std::function<void(const QString& id)> onChosen;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void ListFindings();
+  void ListResults();
   void ChooseFirst();
   void Choose(const QString& id);
 

@@ -1,4 +1,4 @@
-// What the help window says by itself, in both languages.
+// The help window's own texts.
 #pragma once
 
 #include <QString>

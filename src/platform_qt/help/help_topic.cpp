@@ -8,7 +8,7 @@
 namespace verlume::qt {
 namespace {
 
-// The palette's colour of links, made light where the palette forgets that its ground is dark.
+// The palette's link colour, made lighter if it would be hard to read on a dark background.
 QColor LinkColor(const QPalette& palette) {
   constexpr int kDarkGround = 128;
   constexpr int kReadableOnDark = 205;

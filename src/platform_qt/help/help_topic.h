@@ -1,5 +1,5 @@
-// txtTopic: shows a topic of the help. It opens nothing: links are handed over, and pictures and
-// the like are never fetched.
+// txtTopic: shows a topic of the help. It opens nothing itself: links are passed on, and pictures
+// and other resources are never loaded.
 #pragma once
 
 #include <QTextBrowser>
@@ -11,12 +11,12 @@ class HelpTopicView : public QTextBrowser {
  public:
   explicit HelpTopicView(QWidget* parent);
 
-  // Shows the markup from its beginning.
+  // Shows the markup, scrolled to its start.
   void ShowTopic(const QString& html);
-  // Marks the words of a query, and goes to the first of them.
+  // Marks the words of a query and goes to the first one.
   void Mark(const QString& query);
 
-  // The id that a link of the book leads to.
+  // The id to which a link of the book leads.
   std::function<void(const QString& id)> onLink;
 
  protected:

@@ -15,7 +15,7 @@ void QtHelpViewer::ShowContents() {
     window_ = new HelpForm(book_);
     window_->setWindowIcon(mainWindow_->windowIcon());
   }
-  // It would open unseen below a window of the top-most band.
+  // Otherwise it would open hidden below a window that is always on top.
   const bool topMost = mainWindow_->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
   if (!window_->isVisible()) window_->setWindowFlag(Qt::WindowStaysOnTopHint, topMost);
   window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);

@@ -1,4 +1,4 @@
-// The help file in force, the context help that comes of it, and the help window while it is open.
+// The current help file, the context help made from it, and the help window while it is open.
 #pragma once
 
 #include <QPointer>
@@ -13,7 +13,7 @@ namespace verlume::qt {
 // Needs a QApplication.
 class QtHelpViewer : public HelpViewer {
  public:
-  // The help window has the icon of `mainWindow`, and lies in the top-most band when that does.
+  // The help window has the icon of `mainWindow`, and is always on top if that is.
   explicit QtHelpViewer(QWidget* mainWindow) : mainWindow_(mainWindow) {}
   ~QtHelpViewer() override { delete window_; }
 

@@ -16,7 +16,7 @@ namespace verlume::qt {
 namespace {
 
 constexpr QSize kUsualSize(860, 600);
-// The frame that a window manager puts around the window.
+// The size of a window manager's frame.
 constexpr QSize kFrame(20, 50);
 
 QString WithKeys(const HelpText& text, bool isGreek, QKeySequence::StandardKey key) {

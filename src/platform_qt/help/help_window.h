@@ -1,5 +1,5 @@
-// frmHelp: the detailed help in a window of its own. It remembers nothing: the next one begins at
-// the beginning.
+// frmHelp: the detailed help in a window of its own. Nothing is remembered: every window opens at
+// the start.
 #pragma once
 
 #include <QToolButton>
@@ -17,14 +17,14 @@ namespace verlume::qt {
 
 class HelpForm : public QWidget {
  public:
-  // `book` outlives the window. The window deletes itself when it is closed.
+  // `book` must outlive the window. The window deletes itself when it is closed.
   explicit HelpForm(const HelpBook& book);
 
-  // Another book has been put in the place of the one before, perhaps in another language: the
-  // window goes on at the same topic of it.
+  // Call this when another book, perhaps in another language, has replaced the content of `book`:
+  // shows the same topic of the new one.
   void BookChanged();
 
-  // Goes to a chapter, topic or control of the book; stays where it is when there is none.
+  // Goes to a chapter, topic or control of the book; does nothing if there is none with this id.
   void GoTo(const QString& id);
 
  private:

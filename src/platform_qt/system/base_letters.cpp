@@ -6,8 +6,8 @@
 namespace verlume::qt {
 namespace {
 
-// What stands on, under or through a letter. Signs that make another letter of it (the voicing of
-// kana, the vowels of Indic scripts) have lower classes or none.
+// Marks above, below or through a letter. Marks that make it another letter (kana voicing, Indic
+// vowel signs) have lower combining classes or none.
 bool IsAccent(QChar c) {
   const int combiningClass = c.combiningClass();
   return combiningClass == QChar::Combining_IotaSubscript || combiningClass == 1 ||
@@ -28,7 +28,7 @@ QChar WithoutAccents(QChar c) {
 char16_t BaseLetterOf(QChar c) {
   if (c.isSurrogate()) return c.unicode();
   if (IsAccent(c)) return 0;
-  // Folding can bring forth another accented letter.
+  // Folding can produce another accented letter.
   return WithoutAccents(WithoutAccents(c).toCaseFolded()).unicode();
 }
 

@@ -1,4 +1,4 @@
-// What the letters of the world have in common with their other forms.
+// The base letters of all letters.
 #pragma once
 
 #include <array>
@@ -6,7 +6,7 @@
 namespace verlume::qt {
 
 // For every UTF-16 unit the letter without case and accents, 0 for an accent, or the unit itself.
-// Filled once, on first use.
+// Computed once, on first use.
 const std::array<char16_t, 0x10000>& BaseLetters();
 
 }  // namespace verlume::qt

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kNewFile = O_WRONLY | O_CREAT | O_EXCL;
 
-// False while another copy of the program works under this name.
+// False while another copy of the program uses this name.
 bool RemoveRemnant(const std::string& path) {
   if (struct stat found; ::lstat(path.c_str(), &found) != 0) return true;
   try {
@@ -23,7 +23,7 @@ bool RemoveRemnant(const std::string& path) {
   }
 }
 
-// Makes the new name itself last through a crash, where the system can.
+// Makes the new name itself survive a crash, if the system can.
 void FlushFolder(const std::string& folder) {
   const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (descriptor < 0) return;
@@ -44,11 +44,11 @@ FileReplacement::~FileReplacement() {
   if (file_ && !hasTakenPlace_) ::unlink(path_.c_str());
 }
 
-// A failure that is no other copy's doing meets the other name as well, and is thrown there.
+// A failure that another copy did not cause happens again with the other name, and is thrown there.
 bool FileReplacement::OpenUnderCommonName() try {
   if (!RemoveRemnant(path_)) return false;
   file_.emplace(path_, kNewFile);
-  // Another copy may have taken the file for a remnant before it was locked.
+  // Another copy may have taken the file for a leftover before it was locked.
   if (file_->TryToLock()) return true;
   file_.reset();
   return false;
@@ -58,7 +58,7 @@ bool FileReplacement::OpenUnderCommonName() try {
 
 void FileReplacement::TakePlaceOf(const std::string& path) {
   file_->Flush();
-  // The file stays open, for its lock, until it bears the other name.
+  // The file stays open, and so locked, until it has its final name.
   if (::rename(path_.c_str(), path.c_str()) != 0) ThrowErrno(path);
   hasTakenPlace_ = true;
   file_.reset();

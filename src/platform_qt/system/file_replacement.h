@@ -1,4 +1,4 @@
-// The new content of a file, on its way to take the old one's place.
+// Replaces a file by a new one.
 #pragma once
 
 #include <optional>
@@ -8,13 +8,13 @@
 
 namespace verlume::qt {
 
-// A new file in the folder of the old one, under a name that no other copy of the program uses at
-// this moment. It is gone with this object, unless it has taken a place. Every operation throws a
+// A new file in the folder of the old one, under a name that no other copy of the program is using.
+// It is deleted with this object, unless it has replaced the old file. Every operation throws a
 // RunTimeFailure.
 //
-// A copy that is killed leaves its file behind. So there is one name per folder, and whoever works
-// under it holds a lock: a file of that name without a lock is such a remnant and is removed, and
-// one with a lock makes a copy take a name of its own.
+// A copy that is killed leaves its file behind. Therefore there is one name per folder, and whoever
+// uses it holds a lock: a file of that name without a lock is a leftover and is removed; if it is
+// locked, this copy uses a name of its own.
 class FileReplacement {
  public:
   explicit FileReplacement(const std::string& folder);
@@ -23,8 +23,8 @@ class FileReplacement {
   FileReplacement& operator=(const FileReplacement&) = delete;
 
   OpenFile& File() { return *file_; }
-  // The content is on the disk before the name is: a crash leaves the old content or the new. The
-  // file cannot be written to any more.
+  // Writes the content to the disk before renaming, so that a crash leaves the old content or the
+  // new. The file cannot be written to afterwards.
   void TakePlaceOf(const std::string& path);
 
  private:

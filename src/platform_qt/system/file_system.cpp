@@ -20,7 +20,8 @@ namespace {
 
 constexpr mode_t kPermissionBits = 07777;
 
-// A lone surrogate becomes '?'. A long text is not held three times meanwhile.
+// A lone surrogate becomes '?'. Converts in parts, so that a long text is not in memory three
+// times.
 std::string Utf8(std::u16string_view text) {
   constexpr std::size_t kPiece = 16 * 1024;
   std::string bytes;
@@ -43,7 +44,7 @@ std::string NameOf(std::u16string_view path) {
   return name.toUtf8().toStdString();
 }
 
-// The text of a file's name, unless it is no UTF-8.
+// The file name as text, unless it is not UTF-8.
 std::optional<QString> TextOf(const std::string& name) {
   QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   const QString text = decode(name);
@@ -58,7 +59,7 @@ bool IsOfType(std::u16string_view path, mode_t type) noexcept try {
   return false;  // no file can have such a name
 }
 
-// Where the content of a path lies: the end of its links, or the path itself. The end of a link
+// The path of the actual file: the path itself or, if it is a link, the end of the links, which
 // need not exist.
 std::string FollowLinks(std::string path) {
   constexpr int kMostLinks = 40;
@@ -71,7 +72,7 @@ std::string FollowLinks(std::string path) {
   throw RunTimeFailure(FailureNumber::PathFileAccessError);
 }
 
-// Throws unless a file may stand in the place of what is there; gives the permissions to keep.
+// Throws if what is there may not be replaced by a file; returns the permissions to keep.
 std::optional<mode_t> CheckReplaceable(const std::string& path) {
   struct stat found;
   if (!Find(path, found)) return std::nullopt;
@@ -132,7 +133,7 @@ void QtFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes
   const std::string target = FollowLinks(NameOf(path));
   const std::optional<mode_t> permissions = CheckReplaceable(target);
   FileReplacement fresh(FolderOf(target));
-  // First, so that nobody reads meanwhile who may not read the file.
+  // Before anything is written, so that nobody can read it meanwhile who may not read the file.
   if (permissions) fresh.File().SetPermissions(*permissions);
   fresh.File().Write(bytes);
   fresh.TakePlaceOf(target);

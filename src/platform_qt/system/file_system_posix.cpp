@@ -47,7 +47,7 @@ std::string FolderOf(const std::string& path) {
   return slash == 0 ? "/" : path.substr(0, slash);
 }
 
-// O_NONBLOCK keeps a pipe from holding up the program; ordinary files do not know it.
+// With O_NONBLOCK, opening a pipe does not block the program; ordinary files ignore it.
 OpenFile::OpenFile(const std::string& path, int flags)
     : path_(path),
       descriptor_(::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666)) {
@@ -93,7 +93,7 @@ void OpenFile::Append(std::string_view bytes) {
   try {
     Write(bytes);
   } catch (const RunTimeFailure&) {
-    // Where even this fails, the failure that is reported is still the first one.
+    // If this fails too, the first failure is still the one to report.
     [[maybe_unused]] const int result = ::ftruncate(descriptor_, before.st_size);
     throw;
   }

@@ -1,4 +1,4 @@
-// Open files of a POSIX system, and its failures as run-time failures.
+// Open files of a POSIX system, and its errors as run-time failures.
 #pragma once
 
 #include <sys/stat.h>
@@ -8,16 +8,16 @@
 
 namespace verlume::qt {
 
-// Throws the RunTimeFailure of errno, met while using `path`.
+// Throws the RunTimeFailure for errno after an operation on `path`.
 [[noreturn]] void ThrowErrno(const std::string& path);
 
-// What is found at a path, links followed. False when there is nothing.
+// Reads the status of what is at a path, following links. False if there is nothing.
 bool Find(const std::string& path, struct stat& found);
 
-// The folder that a path stands in.
+// The folder that contains the path.
 std::string FolderOf(const std::string& path);
 
-// A file that is open as long as this lives. Every operation throws a RunTimeFailure.
+// A file that is open during the lifetime of this object. Every operation throws a RunTimeFailure.
 class OpenFile {
  public:
   // `flags` are those of open(2). Only ordinary files are opened.
@@ -28,15 +28,15 @@ class OpenFile {
 
   std::string ReadAll() const;
   void Write(std::string_view bytes);
-  // Writes all or, on failure, leaves the file as long as it was.
+  // Writes everything or, on failure, restores the file's length.
   void Append(std::string_view bytes);
   void SetPermissions(mode_t mode);
-  // Locks the file against other copies of the program until it is closed. False when one of them
-  // has it, or has taken it away from its path.
+  // Locks the file against other copies of the program until it is closed. False if one of them
+  // holds the lock or has removed the file from its path.
   bool TryToLock();
-  // Until the bytes are on the disk.
+  // Returns when the bytes are on the disk.
   void Flush();
-  // Reports what the system finds wrong only now.
+  // Closes the file, and throws errors that the system reports only then.
   void Close();
 
  private:

@@ -17,8 +17,8 @@ QTime TimeOf(const LocalTime& time) {
   return QTime(time.hour, time.minute, time.second);
 }
 
-// Takes the time zone ("t" and longer) out of a time format, with the brackets and blanks around
-// it. Quoted text is no field.
+// Removes the time zone ("t" and longer) from a time format, with brackets and blanks around it.
+// Quoted text is not changed.
 QString WithoutTimeZone(const QString& format) {
   static const QRegularExpression kQuotedOrZone(R"(('[^']*')|[\s(\[]*t+[)\]]*)");
   QString result;

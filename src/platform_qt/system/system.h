@@ -1,4 +1,4 @@
-// The machine's clock and regional forms, the program's own place and event loop, and other
+// The machine's clock and regional settings, the program's folders and event loop, and other
 // programs.
 #pragma once
 
@@ -20,10 +20,10 @@ class QtLocale : public Locale {
   explicit QtLocale(const QLocale& locale = QLocale::system());
 
   std::u16string LongDate(const LocalTime& time) const override;
-  // With seconds, without the name of the time zone.
+  // With seconds, but without the time zone.
   std::u16string LongTime(const LocalTime& time) const override;
   std::u16string GroupSeparator() const override;
-  // The same on every machine: command words must not depend on the user's language.
+  // The same on every machine, because command words must not depend on the user's language.
   std::u16string UpperCase(std::u16string_view text) const override;
   char16_t BaseLetter(char16_t c) const override;
 
@@ -36,22 +36,22 @@ class QtLocale : public Locale {
 class QtApplication : public QObject, public Application {
  public:
   QtApplication();
-  // For a program that lies in another folder than its executable.
+  // For a program whose folder is not that of its executable.
   explicit QtApplication(const QString& programFolder);
 
   std::u16string ProgramFolder() const override;
   std::u16string SettingsFolder() const override;
-  // The program's folder where a help file lies in it, else the data folder of the installation.
+  // The program's folder if a help file is in it, else the installed data folder.
   std::u16string HelpFolder() const override;
-  // Does nothing once the program has ended.
+  // Does nothing after the program has ended.
   void YieldToEvents() override;
-  // Hides every window and leaves every event loop, those of modal boxes too. What is left to run
-  // of the handlers runs to its end; boxes that it opens return at once.
+  // Hides all windows and leaves all event loops, also those of modal boxes. Handlers that are
+  // running run to their end; boxes that they open return at once.
   void End() override;
   bool HasEnded() const override { return hasEnded_; }
   void LogError(std::string_view line) override;
 
-  // The program's event loop, until End; returns at once when the program has ended before.
+  // Runs the program's event loop until End; returns at once if the program has already ended.
   int Run();
 
  protected:

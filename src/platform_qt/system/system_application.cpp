@@ -12,7 +12,7 @@ namespace verlume::qt {
 namespace {
 
 constexpr auto kHelpFiles = "*.hlp";
-// Beside the folder of the executable, and in the system's data folders.
+// Next to the executable's folder, and in the system's data folders.
 constexpr auto kInstalledBeside = "/../share/verlume";
 constexpr auto kInstalledData = "verlume";
 
@@ -20,7 +20,7 @@ bool HoldsHelp(const QString& folder) {
   return !QDir(folder).entryList({kHelpFiles}, QDir::Files).isEmpty();
 }
 
-// What could still bring a handler to life.
+// Events that could still run a handler.
 bool ReachesHandlers(QEvent::Type type) {
   switch (type) {
     case QEvent::Timer:
@@ -71,8 +71,8 @@ std::u16string QtApplication::HelpFolder() const {
 }
 
 void QtApplication::YieldToEvents() {
-  // Without keys and clicks: a key handled inside the handler of the key before it would be typed
-  // first. And not for long, however fast a peer sends.
+  // Without keys and clicks: a key handled within the handler of the previous key would be typed
+  // before that one. And only for a short time, however fast a peer sends.
   constexpr int kLimitMilliseconds = 20;
   if (hasEnded_) return;
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kLimitMilliseconds);

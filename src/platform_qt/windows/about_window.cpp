@@ -7,7 +7,7 @@ namespace verlume::qt {
 namespace {
 
 constexpr int kIconSide = 64;
-constexpr int kTextColumns = 58;  // average characters of a line
+constexpr int kTextColumns = 58;  // average characters per line
 constexpr qreal kTitleScale = 1.6;
 
 }  // namespace
@@ -35,14 +35,15 @@ AboutForm::AboutForm(QWidget* mainWindow)
   LayOut();
 }
 
-// What it says can be selected and copied, by the mouse and by the keyboard.
+// The text can be selected and copied, by mouse and keyboard.
 QLabel* AboutForm::NewText(const char* name) {
   auto* text = new QLabel(this);
   text->setObjectName(QLatin1String(name));
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  // The menu of a text that can be selected is its own, and would take the right button's release.
+  // A selectable text has a context menu of its own, which would take the release of the right
+  // button.
   text->setContextMenuPolicy(Qt::PreventContextMenu);
   return text;
 }
@@ -73,7 +74,7 @@ void AboutForm::LayOut() {
   all->addLayout(upper);
   all->addSpacing(fontMetrics().height());
   all->addLayout(buttons);
-  // As large as the texts of the language in force, no more.
+  // As large as the texts of the current language need.
   all->setSizeConstraint(QLayout::SetFixedSize);
 }
 

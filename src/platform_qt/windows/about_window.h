@@ -1,4 +1,4 @@
-// frmAbout made real: its controls bear their own names.
+// frmAbout, implemented with Qt. Each widget has the name of its control.
 #pragma once
 
 #include "platform/about_window.h"
@@ -10,7 +10,7 @@ namespace verlume::qt {
 
 class AboutForm : public ModalForm {
  public:
-  // Shows the icon of `mainWindow`.
+  // The window shows the icon of `mainWindow`.
   explicit AboutForm(QWidget* mainWindow);
 
   PictureWidget* const picIcon;
@@ -51,7 +51,7 @@ class QtAboutWindow {
   QtButton cmdOK{form_.cmdOK};
   QtButton cmdSysInfo{form_.cmdSysInfo};
 
-  // What the logic sees of it.
+  // The logic's view of the window.
   AboutWindow view_;
 };
 

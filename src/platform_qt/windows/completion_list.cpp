@@ -9,9 +9,9 @@
 namespace verlume::qt {
 namespace {
 
-constexpr int kMostRows = 8;  // in view
+constexpr int kMostRows = 8;  // visible at a time
 
-// Rows with room for the eye and the mouse.
+// Rows with a little space around the text.
 class RoomyRows : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -31,14 +31,14 @@ CompletionFrame::CompletionFrame(QWidget* area) : QFrame(area), list_(new ListWi
   list_->setFocusPolicy(Qt::NoFocus);
   list_->setItemDelegate(new RoomyRows(list_));
   list_->setUniformItemSizes(true);
-  // The end of a long row tells what it is.
+  // Cut in the middle, because the end of a long row matters too.
   list_->setTextElideMode(Qt::ElideMiddle);
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   auto* inside = new QVBoxLayout(this);
   inside->setContentsMargins(0, 0, 0, 0);
   inside->addWidget(list_);
   hide();
-  // Asks for another layout, once for all rows that come and go together.
+  // Requests one layout for all rows that are added or removed together.
   const auto note = [this] { list_->updateGeometry(); };
   connect(list_->model(), &QAbstractItemModel::rowsInserted, this, note);
   connect(list_->model(), &QAbstractItemModel::rowsRemoved, this, note);
@@ -46,11 +46,11 @@ CompletionFrame::CompletionFrame(QWidget* area) : QFrame(area), list_(new ListWi
 }
 
 CompletionFrame::~CompletionFrame() {
-  // The rows go with the list, when this is no frame any more.
+  // While this frame is being destroyed, the list is destroyed too and removes its rows.
   disconnect(list_->model(), nullptr, this, nullptr);
 }
 
-void CompletionFrame::StandBelow(QWidget* pane) {
+void CompletionFrame::PlaceBelow(QWidget* pane) {
   pane_ = pane;
   pane->installEventFilter(this);
 }

@@ -1,5 +1,5 @@
-// The list below the command pane, made real: it lies over what stands there, as large as its rows
-// need, and never takes the keyboard.
+// The list below the command pane, implemented with Qt: it is shown over other controls, as large
+// as its rows need, and never takes the keyboard focus.
 #pragma once
 
 #include <QFrame>
@@ -11,12 +11,12 @@ namespace verlume::qt {
 
 class CompletionFrame : public QFrame {
  public:
-  // Hidden. It and its list bear the names of CompletionList.
+  // Starts hidden. It and its list have the names of CompletionList's members.
   explicit CompletionFrame(QWidget* area);
   ~CompletionFrame() override;
 
-  // Stands directly below the pane, which has the same parent, whenever it is shown.
-  void StandBelow(QWidget* pane);
+  // When shown, it is directly below the pane, which must have the same parent.
+  void PlaceBelow(QWidget* pane);
 
  protected:
   bool event(QEvent* event) override;

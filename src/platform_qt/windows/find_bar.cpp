@@ -15,7 +15,7 @@ QPushButton* AddButton(QHBoxLayout* row, const char* name) {
   return button;
 }
 
-// Keys that press the button while `where`, or what the context says, has the focus.
+// Keys that press the button while `where` has the focus, or as the context says.
 void BindKeys(QPushButton* button, QWidget* where, Qt::ShortcutContext context,
               const QList<QKeyCombination>& keys) {
   for (const QKeyCombination& key : keys) {
@@ -40,12 +40,12 @@ void QtTextField::SetAccessibleName(std::u16string_view name) {
 
 void QtPanel::SetVisible(bool visible) {
   widget_->setVisible(visible);
-  // Now, not when events are next handled: what is scrolled into view must stay there.
+  // At once, not when events are handled next: what is scrolled into view must stay there.
   if (QLayout* layout = widget_->parentWidget()->layout()) layout->activate();
 }
 
 bool QtPanel::HasFocus() const {
-  // Of its own window, which need not be the active one.
+  // The focus within its own window, which need not be active.
   const QWidget* focus = widget_->window()->focusWidget();
   return Visible() && focus && widget_->isAncestorOf(focus);
 }

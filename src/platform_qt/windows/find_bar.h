@@ -1,4 +1,4 @@
-// The find bar: its widgets, and the roles that only it plays.
+// The find bar: its widgets, and the controls that only it has.
 #pragma once
 
 #include <QLineEdit>
@@ -10,7 +10,7 @@ namespace verlume::qt {
 class QtTextField : public QtControl<TextField, QLineEdit> {
  public:
   explicit QtTextField(QLineEdit* widget);
-  // Shown also in the field while that is empty.
+  // Also shown in the field while that is empty.
   void SetAccessibleName(std::u16string_view name) override;
   void SetText(std::u16string_view text) override { widget_->setText(ToQt(text)); }
   std::u16string Text() const override { return FromQt(widget_->text()); }
@@ -28,7 +28,7 @@ class QtPanel : public Panel {
   QWidget* widget_;
 };
 
-// Hidden. Its controls bear the names of FindBar; its keys press its buttons.
+// Starts hidden. Its controls have the names of FindBar's members; its keys press its buttons.
 QWidget* NewFindBar(QWidget* parent);
 
 }  // namespace verlume::qt

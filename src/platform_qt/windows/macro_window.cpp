@@ -9,7 +9,7 @@
 namespace verlume::qt {
 namespace {
 
-// Average characters across the list and the text box, and lines of the latter.
+// The width of list and text box in average characters, and the height of the text box in lines.
 constexpr int kNameColumns = 24;
 constexpr int kMacroTextColumns = 48;
 constexpr int kTextLines = 9;
@@ -87,7 +87,7 @@ void MacroForm::PlaceText(QWidget* text) {
   text->setMinimumSize(fontMetrics().averageCharWidth() * kMacroTextColumns,
                        fontMetrics().lineSpacing() * kTextLines);
   textSide_->addWidget(text, 1);
-  // The order of Tab: list, style, text, buttons.
+  // The Tab order: list, style, text, buttons.
   setTabOrder(lstMacroNames, chkBold);
   setTabOrder(chkUnderlined, text);
   setTabOrder(text, cmdAdd);
@@ -99,7 +99,7 @@ void MacroForm::showEvent(QShowEvent* event) {
 }
 
 void MacroForm::Centre() {
-  // The frame is not there yet; that of the main window is alike.
+  // The window has no frame yet, so the frame of the main window is measured.
   const QWidget* mainWindow = parentWidget() ? parentWidget()->window() : this;
   const QWindow* native = mainWindow->windowHandle();
   const QMargins frame = native ? native->frameMargins() : QMargins();

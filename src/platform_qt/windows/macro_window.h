@@ -1,4 +1,4 @@
-// frmMacros made real: its controls bear their own names.
+// frmMacros, implemented with Qt. Each widget has the name of its control.
 #pragma once
 
 #include <QVBoxLayout>
@@ -34,13 +34,14 @@ class MacroForm : public ModalForm {
   // Puts the text box beside the list.
   void PlaceText(QWidget* text);
 
-  // Escape does nothing here: it empties the text while that is edited.
+  // Escape must not close the window: it empties the text while that is being edited.
   void reject() override {}
 
  protected:
-  // In the middle of the screen, but where the user left it when it comes back from the task bar.
+  // Centred on the screen, unless the window returns from the task bar; then it stays where the
+  // user put it.
   void showEvent(QShowEvent* event) override;
-  // Enter presses the button that has the focus, and no other.
+  // Enter presses only the button that has the focus.
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -53,7 +54,7 @@ class MacroForm : public ModalForm {
   QVBoxLayout* textSide_ = nullptr;
 };
 
-// Out of the way of Tab while it is locked: it passes the keyboard on then.
+// Tab skips the text while it is locked, because it would pass the focus on.
 class QtMacroText : public QtRichTextBox {
  public:
   QtMacroText(QWidget* parent, FileSystem& files) : QtRichTextBox(parent, files, Lines::Single) {}
@@ -86,7 +87,7 @@ class QtMacroWindow {
   QtCheckBox chkItalics{form_.chkItalics};
   QtCheckBox chkUnderlined{form_.chkUnderlined};
 
-  // What the logic sees of it.
+  // The logic's view of the window.
   MacroWindow view_;
 };
 

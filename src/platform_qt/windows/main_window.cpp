@@ -103,7 +103,7 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   QFont strong;
   strong.setWeight(QFont::DemiBold);
   lblStatus.widget()->setFont(strong);
-  // The Tab key goes the way the eye goes, and starts where the user types.
+  // Tab follows the reading order, and starts at the command pane.
   QWidget::setTabOrder(rtbCommands.widget(), chkBold.widget());
   QWidget::setTabOrder(chkBold.widget(), chkItalics.widget());
   QWidget::setTabOrder(chkItalics.widget(), chkUnderline.widget());

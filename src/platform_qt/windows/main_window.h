@@ -1,4 +1,4 @@
-// frmMain made real: its controls bear their own names.
+// frmMain, implemented with Qt. Each widget has the name of its control.
 #pragma once
 
 #include "platform/main_window.h"
@@ -13,7 +13,7 @@ namespace verlume::qt {
 
 class QtMainWindow {
  public:
-  // `files` is what the panes load and save with; it outlives the window.
+  // The panes load and save through `files`, which must outlive the window.
   explicit QtMainWindow(FileSystem& files);
 
   MainWindow& View() { return view_; }
@@ -119,7 +119,7 @@ class QtMainWindow {
   QtLabel lblCopyright{form_.Find<ElidedLabel>("lblCopyright")};
   QtPicture picCopyright{form_.Find<PictureWidget>("picCopyright")};
 
-  // What the logic sees of it.
+  // The logic's view of the window.
   MainWindow view_;
 };
 

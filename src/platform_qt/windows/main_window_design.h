@@ -1,4 +1,4 @@
-// The design of the main window: where its controls stand, and what its menus hold.
+// The design of the main window: where its controls are, and what is in its menus.
 #pragma once
 
 #include <QRect>
@@ -25,10 +25,10 @@ struct ControlDesign {
   QRect place;
 };
 
-// The smallest size of the window below its menu bar, at 100 %.
+// The smallest size of the window without its menu bar, at 100 %.
 inline constexpr QSize kDesignSize(640, 455);
 
-// Where each control stands.
+// The place of each control.
 inline constexpr auto kMainWindowDesign = std::to_array<ControlDesign>({
     {ControlKind::Pane, "rtbData", {8, 8, 624, 192}},
     {ControlKind::CheckBox, "chkBold", {10, 204, 132, 25}},
@@ -78,9 +78,9 @@ inline constexpr auto kMainWindowDesign = std::to_array<ControlDesign>({
 struct MenuEntryDesign {
   const char* menu;
   const char* entry;
-  bool tick = false;  // may carry a tick
+  bool tick = false;  // can have a tick
   bool separatorBefore = false;
-  const char* keys = "";  // that choose it, as QKeySequence reads them
+  const char* keys = "";  // the shortcut, in QKeySequence's notation
 };
 
 inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({

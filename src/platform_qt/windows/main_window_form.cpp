@@ -10,7 +10,8 @@
 #include "platform_qt/controls/key_codes.h"
 #include "platform_qt/windows/find_bar.h"
 
-// Outside of any namespace, as Qt asks: the resources of a static library are not found otherwise.
+// Must be outside any namespace. Without this call, Qt does not find the resources of a static
+// library.
 static void InitResources() {
   Q_INIT_RESOURCE(icons);
 }
@@ -66,7 +67,7 @@ void MainForm::BuildMenus() {
     entry->setObjectName(QLatin1String(design.entry));
     entry->setCheckable(design.tick);
     entry->setShortcut(QKeySequence(QLatin1String(design.keys)));
-    // Captions that some desktops move to a menu of their own stay where they are.
+    // Some desktops move entries with certain captions into a menu of their own; keep them here.
     entry->setMenuRole(QAction::NoRole);
   }
   Find<QAction>("mnuHelpDetailed")->setShortcut(QKeySequence::HelpContents);
@@ -96,7 +97,7 @@ QWidget* MainForm::Build(const ControlDesign& design) {
     }
     case ControlKind::CheckBox: {
       auto* box = new QCheckBox(area_);
-      // A click, which may ask for help, leaves the keyboard where the user types.
+      // A click, perhaps for context help, leaves the focus where the user types.
       box->setFocusPolicy(Qt::TabFocus);
       return box;
     }
@@ -125,7 +126,7 @@ void MainForm::PlaceProgressBar() {
   layout_->PlaceFoot(Find<QWidget>("lblStatus"), bar);
 }
 
-// Assistive tools read a value with its caption.
+// Assistive tools read a value together with its caption.
 void MainForm::RelateCaptions() {
   const QString ending = QStringLiteral("Caption");
   for (ElidedLabel* label : findChildren<ElidedLabel*>()) {
@@ -135,9 +136,9 @@ void MainForm::RelateCaptions() {
   }
 }
 
-// Qt finds the Latin letter of a key by itself where the keyboard has a Latin layout beside the
-// Greek one. Where it has none, no shortcut takes the key, and it gets here. A second shortcut for
-// the Greek letter would not do: where there are both layouts Qt takes the two for ambiguous.
+// If the keyboard has a Latin layout beside the Greek one, Qt finds the Latin letter of a key
+// itself. If not, no shortcut takes the key, and it arrives here. A second shortcut for the Greek
+// letter is no solution: with both layouts, Qt considers the two ambiguous.
 void MainForm::keyPressEvent(QKeyEvent* event) {
   if (const Qt::Key key = LatinKeyOf(*event); key != event->key()) {
     const QKeyCombination latin(event->modifiers(), key);

@@ -1,4 +1,4 @@
-// The widgets of the main window, made from its design. Each is found by its name.
+// The widgets of the main window, created from its design. Each is found by its name.
 #pragma once
 
 #include <QMainWindow>
@@ -16,18 +16,18 @@ class MainForm : public QMainWindow {
  public:
   MainForm();
 
-  // The widget of the design that bears the name; there is one.
+  // The widget of the design with this name, which must exist.
   template <class Widget>
   Widget* Find(const char* name) {
     return findChild<Widget*>(QLatin1String(name));
   }
 
-  // Puts a pane where the design wants it, in the Tab order too.
+  // Puts a pane at its place in the design and in the Tab order.
   void PlacePane(QWidget* pane, const char* name);
-  // Puts the find bar below a pane that has its place.
+  // Puts the find bar at the bottom of a pane's place.
   void PlaceFindBar(QWidget* pane) { layout_->PlaceFoot(pane, findBar_); }
-  // The same for the list of completions, which lies over the window there.
-  void PlaceCompletionList(QWidget* pane) { completions_->StandBelow(pane); }
+  // Puts the list of completions below a pane, over the other controls.
+  void PlaceCompletionList(QWidget* pane) { completions_->PlaceBelow(pane); }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

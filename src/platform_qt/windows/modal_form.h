@@ -1,15 +1,15 @@
-// The form of a window that is shown modally.
+// The form of a modal window.
 #pragma once
 
 #include <QDialog>
 
 namespace verlume::qt {
 
-// A dialog that Escape closes as its close box does, so that QtWindow is asked first.
+// A dialog in which Escape works like the close box, so that QtWindow is asked first.
 class ModalForm : public QDialog {
  public:
   explicit ModalForm(QWidget* owner) : QDialog(owner) {
-    // The right button asks for help here; a menu of its own would take its release.
+    // The right button is for context help; a context menu would take its release.
     setContextMenuPolicy(Qt::PreventContextMenu);
   }
 

@@ -5,9 +5,9 @@
 namespace verlume::qt {
 namespace {
 
-// How much of the letters' colour is in an outline, of 1.
+// The share of the text colour in an outline.
 constexpr qreal kLetters = 0.45;
-// By how much Fusion darkens the ground, in percent.
+// The factor in percent by which Fusion darkens the background (QColor::darker).
 constexpr int kFusionDarker = 140;
 
 QColor Mixed(const QColor& one, const QColor& other, qreal partOfOther) {
@@ -21,7 +21,7 @@ bool IsDark(const QPalette& palette) {
          palette.color(QPalette::WindowText).lightness();
 }
 
-// Nothing of these elements but the outline is made of the window's colour.
+// Elements of which only the outline is drawn in the window's colour.
 bool HasOutlineOfWindow(QStyle::PrimitiveElement element) {
   switch (element) {
     case QStyle::PE_Frame:

@@ -1,12 +1,12 @@
-// The desktop's own style, with outlines that are seen on dark grounds too.
+// The desktop's style, with outlines that are visible on dark backgrounds too.
 #pragma once
 
 #include <QProxyStyle>
 
 namespace verlume::qt {
 
-// Qt's Fusion style draws outlines by darkening the ground: on a dark one a check box, a frame or a
-// text field has none that could be seen. Other styles are left as they are.
+// Qt's Fusion style draws outlines by darkening the background. On a dark background the outline of
+// a check box, frame or text field is therefore invisible. Other styles are not changed.
 class ReadableStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;

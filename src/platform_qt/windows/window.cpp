@@ -14,7 +14,7 @@ QtWindow::QtWindow(QWidget* form) : QObject(form), form_(form) {
   form->installEventFilter(this);
 }
 
-// Qt takes a "[*]" out of a title, and of two such in a row one.
+// Qt removes a "[*]" from a title, and shows two in a row as one.
 void QtWindow::SetTitle(std::u16string_view title) {
   form_->setWindowTitle(ToQt(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
@@ -32,7 +32,7 @@ void QtWindow::ShowModal() {
   unloaded_ = false;
   KeepToOwnProgram(form_);
   form_->setWindowModality(Qt::ApplicationModal);
-  // Where the user moved it the last time does not count.
+  // Forget where the user moved it the last time.
   form_->setAttribute(Qt::WA_Moved, false);
   form_->adjustSize();
   form_->show();
@@ -40,13 +40,13 @@ void QtWindow::ShowModal() {
   whileModal_ = &untilHidden;
   untilHidden.exec(QEventLoop::DialogExec);
   whileModal_ = nullptr;
-  // The end of the program leaves every loop.
+  // When the program ends, every event loop ends.
   unloaded_ = true;
   form_->hide();
 }
 
 void QtWindow::Unload() {
-  // From a handler of the close box this closes nothing yet: the close under way does.
+  // Within a handler of the close box close() does nothing; the close in progress goes on.
   if (Close(UnloadMode::Code)) form_->close();
 }
 
@@ -65,7 +65,7 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched != form_) return false;
   if (event->type() == QEvent::Hide && !event->spontaneous() && whileModal_) whileModal_->quit();
   if (event->type() != QEvent::Close) return false;
-  // A second request while the first is being asked about is the same wish.
+  // A second request while the first one is being answered is the same wish.
   bool closed = unloaded_;
   if (!closed && !asking_) {
     asking_ = true;
@@ -82,7 +82,7 @@ void QtWindow::FlagForAttention() {
 }
 
 bool QtWindow::CanBeTopMost() const {
-  // Such a band is not a client's to choose there.
+  // Wayland does not let a program put its window on top.
   return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
@@ -90,7 +90,7 @@ bool QtWindow::SetTopMost(bool topMost) {
   if (!CanBeTopMost()) return false;
   Qt::WindowFlags flags = form_->windowFlags();
   flags.setFlag(Qt::WindowStaysOnTopHint, topMost);
-  // QWidget::setWindowFlag would take the window off the screen and put it back elsewhere.
+  // QWidget::setWindowFlag would hide the window and show it again elsewhere.
   form_->overrideWindowFlags(flags);
   if (QWindow* window = form_->windowHandle()) {
     window->setFlag(Qt::WindowStaysOnTopHint, topMost);
@@ -105,7 +105,8 @@ QtLayoutControl::QtLayoutControl(QWidget* form) : QObject(form), form_(form) {
 
 bool QtLayoutControl::eventFilter(QObject* watched, QEvent* event) {
   if (raised_) return false;
-  // The form is on the screen once its native window is exposed; that exists from the first Show.
+  // The form is on the screen once its native window is exposed; that window exists after the first
+  // Show.
   if (watched == form_ && event->type() == QEvent::Show && form_->windowHandle()) {
     form_->windowHandle()->installEventFilter(this);
   }

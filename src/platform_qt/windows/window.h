@@ -1,4 +1,4 @@
-// A top-level window, made real by any widget.
+// A top-level window, implemented by any widget.
 #pragma once
 
 #include <QEventLoop>
@@ -27,7 +27,7 @@ class QtWindow : public QObject, public Window {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  // Asks and, unless refused, unloads; true when the window is unloaded afterwards.
+  // Asks, and unloads unless that is refused; true if the window is unloaded afterwards.
   bool Close(UnloadMode mode);
 
   QWidget* form_;
@@ -36,7 +36,7 @@ class QtWindow : public QObject, public Window {
   QEventLoop* whileModal_ = nullptr;
 };
 
-// Watches a form's first showing. The form's layout does the work of the layout control itself.
+// Detects when a form is first shown. The form's Qt layout does the actual layout.
 class QtLayoutControl : public QObject, public LayoutControl {
  public:
   explicit QtLayoutControl(QWidget* form);

@@ -13,7 +13,7 @@ QtWindowMemory::QtWindowMemory(QWidget* form, const QString& file)
 }
 
 void QtWindowMemory::Restore() {
-  // Always as long as this: what is shorter or longer is something else.
+  // The file always has this length; anything else is not such a file.
   const qsizetype length = form_->saveGeometry().size();
   QFile file(file_);
   if (!file.open(QIODevice::ReadOnly)) return;
@@ -29,7 +29,7 @@ void QtWindowMemory::Keep() {
 }
 
 bool QtWindowMemory::eventFilter(QObject* watched, QEvent* event) {
-  // A minimised window goes off the screen by the desktop's doing, and comes back.
+  // A spontaneous Hide is a minimised window, which comes back.
   if (watched == form_ && event->type() == QEvent::Hide && !event->spontaneous()) Keep();
   return false;
 }

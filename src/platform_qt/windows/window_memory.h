@@ -1,5 +1,5 @@
-// Where the main window stood when the program ended last: its place, its size and whether it was
-// maximised, in a file of its own. A file that cannot be read or written is no matter.
+// The main window's last place, size and maximised state, kept in a file of its own. If the file
+// cannot be read or written, nothing happens.
 #pragma once
 
 #include <QObject>
@@ -10,8 +10,8 @@ namespace verlume::qt {
 
 class QtWindowMemory : public QObject {
  public:
-  // Puts the form where the file says it was, on a screen that exists; leaves it where it is when
-  // the file says nothing. The file is written when the form goes off the screen.
+  // Puts the form where the file says, on a screen that exists; does nothing without such a file.
+  // Writes the file when the form is hidden.
   QtWindowMemory(QWidget* form, const QString& file);
 
  protected:

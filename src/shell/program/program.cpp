@@ -1,12 +1,14 @@
 #include "shell/program/program.h"
 
+#include "platform/char_code.h"
+
 namespace verlume {
 namespace {
 
 // Binds an event to a procedure. The procedures catch their own failures.
-template <class Event, class Room, class Method>
-void On(Event& event, Room& room, Method procedure) {
-  event = [&room, procedure](auto&&... arguments) { (room.*procedure)(arguments...); };
+template <class Event, class Object, class Method>
+void On(Event& event, Object& object, Method procedure) {
+  event = [&object, procedure](auto&&... arguments) { (object.*procedure)(arguments...); };
 }
 
 }  // namespace
@@ -26,21 +28,32 @@ Program::Program(Platform& platform)
       dialogueFiles_(state_, platform, errors_),
       macroStore_(state_, platform, errors_, settings_),
       dialogue_(state_, platform, errors_, settings_, log_),
-      wire_(state_, platform, errors_, {dialogue_, log_, statusPanel_}),
-      connection_(state_, platform, errors_, {settings_, dialogue_, log_, statusPanel_, wire_}),
+      wire_(state_, platform, errors_,
+            {.dialogue = dialogue_, .log = log_, .statusPanel = statusPanel_}),
+      connection_(state_, platform, errors_,
+                  {.settings = settings_,
+                   .dialogue = dialogue_,
+                   .log = log_,
+                   .statusPanel = statusPanel_,
+                   .wire = wire_}),
       socketEvents_(state_, platform, errors_, wire_, log_),
       history_(state_, platform, errors_),
       completion_(state_, platform, errors_, settings_, macroStore_),
       textFormat_(state_, platform, errors_, settings_, dialogue_),
       find_(state_, platform, errors_),
       interpreter_(state_, platform, errors_,
-                   {dialogue_, history_, textFormat_, connection_, wire_}),
+                   {.dialogue = dialogue_,
+                    .history = history_,
+                    .textFormat = textFormat_,
+                    .connection = connection_,
+                    .wire = wire_}),
       macroStyle_(state_, platform, errors_),
       macroEditor_(state_, platform, errors_, macroStore_, macroStyle_),
       macroSaving_(state_, platform, errors_, macroStore_),
       startUp_(state_, platform, errors_, settings_, language_,
-               {[this] { ResetConnection(state_, platform_); }, BuildProtocolMarker,
-                [this] { textFormat_.ApplyCommandStyle(); }}),
+               {.resetConnection = [this] { ResetConnection(state_, platform_); },
+                .buildProtocolMarker = BuildProtocolMarker,
+                .applyCommandStyle = [this] { textFormat_.ApplyCommandStyle(); }}),
       shutDown_(
           state_, platform, errors_, [this] { connection_.ConfirmExit(); },
           [this] { ResetConnection(state_, platform_); }) {
@@ -61,7 +74,7 @@ void Program::Start() {
   if (!platform_.application.HasEnded()) platform_.frmMain.window.Show();
 }
 
-// Any error ends the chat: its log is closed, and the status line does not go on telling of it.
+// Any error ends the chat: its log is closed, and the status line no longer shows it.
 void Program::EndChatAfterError() {
   const bool wasIdle = StateOf(state_) == ConnectionState::Idle;
   ResetConnection(state_, platform_);
@@ -171,7 +184,7 @@ void Program::BindPanes() {
   On(frmMain.rtbCommands.onKeyPress, interpreter_, &CommandInterpreter::rtbCommands_KeyPress);
   frmMain.rtbCommands.onKeyDown = [this](int& keyCode, int shift) {
     completion_.rtbCommands_KeyDown(keyCode, shift);
-    if (keyCode != 0) history_.rtbCommands_KeyDown(keyCode, shift);
+    if (keyCode != char_code::kSwallowed) history_.rtbCommands_KeyDown(keyCode, shift);
   };
   On(frmMain.rtbCommands.onChange, completion_, &CommandCompletion::rtbCommands_Change);
   On(frmMain.rtbCommands.onLostFocus, completion_, &CommandCompletion::rtbCommands_LostFocus);

@@ -1,5 +1,5 @@
-// The composition root: makes the rooms, hands them to each other, and binds every event of the
-// platform to its procedure.
+// The composition root: creates all objects of the logic, passes them to each other, and binds
+// every event of the platform to its procedure.
 #pragma once
 
 #include "commands/completion.h"

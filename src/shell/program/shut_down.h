@@ -1,4 +1,4 @@
-// The three ways out: closing the window, the Exit entry, and "/EXIT".
+// The three ways to end the program: closing the window, the Exit entry, and "/EXIT".
 #pragma once
 
 #include <functional>

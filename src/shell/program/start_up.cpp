@@ -44,7 +44,7 @@ void StartUp::Form_Load() {
   SetNickname();
   platform_.frmMain.tmrTimer.Start();
   if (trouble != SettingsTrouble::None) {
-    platform_.dialogs.ShowMessage(NoteOfSettingsTrouble(trouble, state_));
+    platform_.dialogs.ShowMessage(SettingsTroubleNote(trouble, state_));
   }
 }
 

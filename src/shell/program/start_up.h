@@ -15,7 +15,7 @@ struct FolderTexts;
 
 class StartUp {
  public:
-  // What start-up runs of the rooms beside it.
+  // The steps of start-up that other objects perform.
   struct Steps {
     std::function<void()> resetConnection;
     std::function<std::u16string()> buildProtocolMarker;
@@ -25,13 +25,13 @@ class StartUp {
   StartUp(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings,
           Language& language, Steps steps);
 
-  // Fills AppState and reads the settings file, before the window is shown. A failure ends it there
-  // and is reported (203); the program goes on with what was set so far. Starts the timer. In the
-  // end it tells of a settings file that could not be used, which is kept before it is written to.
+  // Fills AppState and reads the settings file, before the window is shown. A failure stops this
+  // and is reported (203); the program goes on with what was set so far. Then starts the timer, and
+  // tells the user if the settings file could not be used.
   void Form_Load();
 
-  // Once the window has been laid out: applies the text style, and asks for the log and macros
-  // folders while they are missing.
+  // Called when the window has been laid out: applies the text style, and asks for the log and
+  // macros folders while they are missing.
   void freeSizer1_PostLayout();
 
  private:

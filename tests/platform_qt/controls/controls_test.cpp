@@ -48,15 +48,15 @@ TEST_F(QtControlsTest, LineBreakInALabelIsABlank) {
   EXPECT_EQ(Picture(one), Picture(other));
 }
 
-// Rests the mouse on the widget and returns what the tool tip that shows has to read.
+// Rests the mouse on the widget and returns the text of the tool tip that is shown.
 QString ToolTipShownBy(QWidget& widget, const QPoint& at = {2, 2}) {
-  // A tool tip lingers a little before it goes.
+  // A tool tip stays for a moment before it disappears.
   QToolTip::hideText();
   EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 10000));
   QHelpEvent rest(QEvent::ToolTip, at, widget.mapToGlobal(at));
   QApplication::sendEvent(&widget, &rest);
   if (!QToolTip::isVisible()) return {};
-  // As its label shows it.
+  // The text as the tool tip's label shows it.
   const QString text = QToolTip::text();
   return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
 }

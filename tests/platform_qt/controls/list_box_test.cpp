@@ -1,4 +1,4 @@
-// Qt's list box keeps the list box's contract; and what only a real list has.
+// Qt's list box keeps the contract of list boxes, and the behaviour that only a real list has.
 #include "platform_qt/controls/list_box.h"
 
 #include <QLineEdit>
@@ -51,7 +51,7 @@ class QtListBoxTest : public testing::Test {
     QTest::mouseClick(widget->viewport(), button, held, place);
   }
 
-  // Items of which none is selected yet, in a list that has not had the focus since.
+  // Shows items, none of them selected, in a list that has not had the focus since.
   void Fill(int count) {
     before->setFocus();
     list.Clear();

@@ -63,7 +63,7 @@ class MnemonicsTest : public testing::Test {
     for (const auto& [set, text] : PanelTexts(view)) set(text.In(isGreek));
   }
 
-  // The key of a text's mnemonic; fails the test where there is none, or an accented one.
+  // The key of a text's mnemonic; fails the test if there is none, or an accented one.
   QChar KeyOf(const QString& text) {
     const QKeySequence key = QKeySequence::mnemonic(text);
     EXPECT_FALSE(key.isEmpty()) << text.toStdString();

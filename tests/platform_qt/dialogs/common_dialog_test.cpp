@@ -39,7 +39,7 @@ class QtCommonDialogTest : public testing::Test {
     QFile file(folder.filePath(QLatin1String(name)));
     ASSERT_TRUE(file.open(QFile::WriteOnly));
   }
-  // For whoever is no administrator, who may look into the folder all the same.
+  // Read-only for everybody but administrators; everybody may read the folder.
   void ForbidWriting(const char* name) {
     ASSERT_TRUE(QFile::setPermissions(folder.filePath(QLatin1String(name)), kReadable));
     ASSERT_TRUE(QFile::setPermissions(folder.path(), kReadable | kSearchable));
@@ -280,7 +280,13 @@ class FontDialogTest : public QtCommonDialogTest {
     return dialogs.ShowFont(start, 8, 11);
   }
 
-  FontChoice start{u"DejaVu Sans", true, false, true, false, 0x1234, 10};
+  FontChoice start{.name = u"DejaVu Sans",
+                   .bold = true,
+                   .italic = false,
+                   .underline = true,
+                   .strikethrough = false,
+                   .color = 0x1234,
+                   .size = 10};
 };
 
 TEST_F(FontDialogTest, StyleGoesInAndComesOutUnchanged) {

@@ -27,7 +27,7 @@ class QtDialogsTest : public testing::Test {
     AsBox(dialog).button(button)->click();
   }
   static QString Plain(const QAbstractButton* button) { return button->text().remove(u'&'); }
-  // What the box answers to the act.
+  // The answer of the box to the act.
   Answer AnswerTo(const Message& message, std::function<void(QDialog&)> act) {
     const ModalDriver driver(std::move(act));
     return dialogs.ShowMessage(message);
@@ -123,7 +123,7 @@ TEST_F(QtDialogsTest, UnexpectedBoxIgnoresKeysForHalfASecond) {
     typing.start(20);
   });
   EXPECT_EQ(answer, Answer::Yes);
-  // The box was on the screen a little before the driver saw it.
+  // The box was on the screen for a moment before the driver noticed it.
   EXPECT_GE(shown.elapsed(), 400);
   EXPECT_GT(ignored, 3);
 }

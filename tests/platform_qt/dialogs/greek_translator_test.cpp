@@ -29,7 +29,8 @@
 namespace verlume::qt {
 namespace {
 
-// Every text that a widget shows or tells, but what the user types or chooses from the disk.
+// All texts that a widget shows or has read out, except what the user types or chooses from the
+// disk.
 QStringList TextsOf(const QWidget& box) {
   QStringList texts{box.windowTitle()};
   for (const auto* label : box.findChildren<QLabel*>()) texts.append(label->text());
@@ -51,7 +52,7 @@ QStringList TextsOf(const QWidget& box) {
   return texts;
 }
 
-// The texts with Latin letters in them, but those that are the same in every language.
+// The texts that contain Latin letters, except those that are the same in every language.
 QStringList EnglishAmong(const QStringList& texts) {
   static const QStringList kSame{"OK", "HTML:", "Alt", "Ctrl", "Unicode"};
   static const QRegularExpression kLatin(QStringLiteral("[A-Za-z]"));
@@ -71,7 +72,7 @@ class GreekTranslatorTest : public testing::Test {
     QFile file(folder.filePath("γράμμα.txt"));
     EXPECT_TRUE(file.open(QFile::WriteOnly));
   }
-  // Opens a dialog, hands it to the look and cancels it.
+  // Opens a dialog, passes it to `look` and cancels it.
   void Look(const std::function<void()>& open, std::function<void(QDialog&)> look) {
     const ModalDriver driver([look = std::move(look)](QDialog& dialog) {
       look(dialog);
@@ -138,7 +139,7 @@ TEST_F(GreekTranslatorTest, ColorDialogIsGreek) {
 }
 
 TEST_F(GreekTranslatorTest, FontDialogIsGreek) {
-  const FontChoice start{u"DejaVu Sans", false, false, false, false, 0, 10};
+  const FontChoice start{.name = u"DejaVu Sans", .size = 10};
   ExpectGreek([&] { common.ShowFont(start, 8, 11); });
   Look([&] { common.ShowFont(start, 8, 11); },
        [](QDialog& dialog) {

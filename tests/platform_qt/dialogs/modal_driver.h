@@ -12,8 +12,8 @@
 
 namespace verlume::qt {
 
-// Runs `act` on the first modal box that is shown after the driver was made; a box that it leaves
-// open is rejected when the limit is over, and the test fails.
+// Runs `act` on the first modal box that is shown after the driver was created. A box that is still
+// open when the time limit is over is rejected, and the test fails.
 class ModalDriver : public QObject {
  public:
   explicit ModalDriver(std::function<void(QDialog&)> act) : act_(std::move(act)) {

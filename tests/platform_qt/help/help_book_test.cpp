@@ -12,7 +12,7 @@ namespace {
 
 class HelpBookTest : public testing::Test {
  protected:
-  // A book of those bytes.
+  // A book made from these bytes.
   HelpBook Book(const QByteArray& bytes, bool isGreek = false) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
@@ -20,7 +20,7 @@ class HelpBookTest : public testing::Test {
     file.close();
     return HelpBook::Load(path, isGreek);
   }
-  // A book of one topic that holds the markup.
+  // A book with one topic that contains the markup.
   HelpBook TopicOf(const QByteArray& markup) {
     return Book(
         "<html><body><div class=\"chapter\" id=\"c\"><h1>C</h1><div class=\"topic\" id=\"t\">"

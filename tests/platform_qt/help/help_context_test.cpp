@@ -15,7 +15,7 @@
 namespace verlume::qt {
 namespace {
 
-// What Qt shows a What's-This text in.
+// The widget in which Qt shows a What's-This text.
 QWidget* ShownHelp() {
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (window->isVisible() && window->inherits("QWhatsThat")) return window;
@@ -124,7 +124,7 @@ TEST_F(QtHelpContextTest, ShiftF1ExplainsTheHighlightedMenuEntry) {
   auto* menu = form.Find<QMenu>("mnuHelp");
   menu->popup(form.mapToGlobal(QPoint(50, 50)));
   ASSERT_TRUE(QTest::qWaitForWindowExposed(menu));
-  // Without its own text, which would do where the entry has none.
+  // Without the text of the action itself, which is used if the entry has none.
   menu->setWhatsThis(QString());
   menu->setActiveAction(form.Find<QAction>("mnuHelpDetailed"));
   QTest::keyClick(menu, Qt::Key_F1, Qt::ShiftModifier);

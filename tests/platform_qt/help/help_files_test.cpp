@@ -1,4 +1,4 @@
-// The program's own help files, held against each other and against the program's own windows.
+// The program's own help files, compared with each other and with the program's windows.
 #include "platform_qt/help/help_files.h"
 
 #include <gtest/gtest.h>
@@ -40,8 +40,8 @@ QStringList Ids(const HelpBook& book) {
   return ids;
 }
 
-// The names that the program has given to controls and menu entries of a window. Frames and what is
-// never seen need no paragraph.
+// The names that the program has given to the controls and menu entries of a window. Frames and
+// invisible widgets need no paragraph.
 QSet<QString> NamesToExplain(const QWidget& form) {
   QSet<QString> names;
   for (const QObject* object : form.findChildren<QObject*>()) {

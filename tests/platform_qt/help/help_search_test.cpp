@@ -33,7 +33,7 @@ TEST_F(HelpSearchTest, GreekCaseAndAccentsMakeNoDifference) {
   EXPECT_EQ(Found(greek, "κληση"), QStringList{"welcome"});
   EXPECT_EQ(Found(greek, "κλήσΉ"), QStringList{"welcome"});
   EXPECT_EQ(Found(greek, "υπολογιστέσ"), QStringList{"welcome"});
-  // An accent that is a character of its own.
+  // A combining accent.
   EXPECT_EQ(Found(greek, QString::fromUtf16(u"κλη\u0301ση")), QStringList{"welcome"});
 }
 

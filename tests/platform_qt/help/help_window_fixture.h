@@ -55,7 +55,7 @@ class HelpWindowFixture : public testing::Test {
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(form->focusWidget() ? form->focusWidget() : form, key, modifiers);
   }
-  // Follows the first link of the topic, as a user with a keyboard does.
+  // Follows the first link of the topic by keyboard.
   void FollowLink() {
     Topic()->setFocus();
     Press(Qt::Key_Tab);

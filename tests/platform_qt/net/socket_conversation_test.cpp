@@ -6,9 +6,9 @@
 #include <chrono>
 #include <random>
 
+#include "platform/protocol_marker.h"
 #include "platform/socket_contract.h"
 #include "platform_qt/net/socket.h"
-#include "stream/protocol_marker.h"
 
 namespace verlume::qt {
 namespace {
@@ -20,7 +20,7 @@ constexpr std::chrono::milliseconds kLimit = std::chrono::seconds(30);
 std::vector<std::u16string> MixedMessages(std::uint64_t seed, std::size_t count) {
   std::mt19937_64 random(seed);
   // In the form of the protocol marker.
-  const std::u16string marker = u'\0' + std::u16string(stream::kMarkerTextLength, u'm') + u'\0';
+  const std::u16string marker = u'\0' + std::u16string(kMarkerTextLength, u'm') + u'\0';
   std::vector<std::u16string> messages;
   for (std::size_t i = 0; i < count; ++i) {
     const std::size_t size = i == count / 2 ? 64 << 10 : random() % (random() % 5 ? 200 : 5000);

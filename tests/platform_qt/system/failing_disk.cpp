@@ -111,7 +111,7 @@ void FailingDisk::Fill() const {
 }
 
 void FailingDisk::LimitSizes(bool limited) {
-  // Of what comes beyond the limit the writer is told by the signal, unless that is ignored.
+  // A write beyond the limit raises this signal, unless it is ignored.
   std::signal(SIGXFSZ, SIG_IGN);
   if (limited) ::getrlimit(RLIMIT_FSIZE, &limit_);
   const rlimit none = {0, limit_.rlim_max};

@@ -1,4 +1,4 @@
-// A disk that fails as real ones do, and that is well again afterwards.
+// A disk that fails like a real one, and can be repaired.
 #pragma once
 
 #include <sys/resource.h>
@@ -17,12 +17,12 @@ enum class DiskFault {
   FolderRemoved,
   FileInItsPlace,
   NoPermission,
-  DiskFull,  // a small disk of the test's own, where the system lets it have one; else as below
-  NoMoreGrowing,  // no file may become longer: as a quota that is used up
+  DiskFull,       // a small disk of the test's own if the system allows one; else as NoMoreGrowing
+  NoMoreGrowing,  // no file may grow, as with an exhausted quota
 };
 
 const char* NameOf(DiskFault fault);
-// The number with which a write fails.
+// The failure number of a write.
 FailureNumber NumberOf(DiskFault fault);
 
 class FailingDisk {
@@ -33,9 +33,9 @@ class FailingDisk {
   FailingDisk& operator=(const FailingDisk&) = delete;
 
   QString Path() const { return root_.path() + "/disk"; }
-  // From now on nothing can be written into this folder of the disk ("" is the disk itself).
+  // Makes this folder of the disk ("" is the disk itself) unwritable.
   void Break(const QString& folder);
-  // As it was before.
+  // Makes everything writable again.
   void Mend();
 
  private:

@@ -36,7 +36,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(QtFileSystem, FileSystemContract, qt::QtWorld);
 namespace verlume::qt {
 namespace {
 
-// Lets no file of this process grow beyond some bytes: a disk that fills up in mid-write.
+// Limits the size of this process's files: like a disk that becomes full during a write.
 class SmallDisk {
  public:
   explicit SmallDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {

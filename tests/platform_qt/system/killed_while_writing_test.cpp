@@ -1,5 +1,5 @@
-// The program is killed again and again while it writes, and what it leaves on the disk is looked
-// at each time.
+// Kills the program again and again while it writes, and checks each time what it leaves on the
+// disk.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ class KilledWhileWritingTest : public testing::Test {
   KilledWhileWritingTest() {
     fake::FakeNetwork network;
     const ProgramOnDisk program(network, folder.path());
-    // Longer than what is written at a time.
+    // Longer than one write.
     for (int i = 0; i < 100; ++i) comment += "; " + std::string(60, 'c') + std::to_string(i) + "\n";
     Append("Verlume.ini", comment);
     settings = Read("Verlume.ini");
@@ -35,7 +35,7 @@ class KilledWhileWritingTest : public testing::Test {
     file.write(text.data(), qint64(text.size()));
   }
   int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(random); }
-  // How many steps it takes to get so far; 0 where none can be made.
+  // The number of steps it takes to get so far; 0 if stepping is not possible.
   int StepsToReports(int reports) {
     KilledWriter writer(folder.path(), last + 1, KilledWriter::Pace::StepByStep);
     int steps = 0;
@@ -54,7 +54,7 @@ class KilledWhileWritingTest : public testing::Test {
     for (int i = 0; i < kTimes && !HasFailure(); ++i) {
       SCOPED_TRACE("kill " + Decimal(i));
       KilledWriter writer(folder.path(), last + 1, KilledWriter::Pace::Free);
-      // Every tenth while it starts, the others in the midst of their work.
+      // Every tenth is killed while it starts, the others while they work.
       const bool starts = i % 10 == 0;
       Check(writer.KillAfter(starts ? 0 : 1 + UpTo(10),
                              std::chrono::microseconds(UpTo(starts ? 20000 : 2000))));
@@ -68,8 +68,8 @@ class KilledWhileWritingTest : public testing::Test {
   }
   static std::string Decimal(int number) { return std::to_string(number); }
 
-  // Every line that was shown stands in the log whole, behind those before it. One that was on its
-  // way when the program was killed may be there, or a part of it.
+  // Every line that was shown is complete in the log, after the lines before it. A line that was
+  // being written when the program was killed may be there, or a part of it.
   void CheckLog(const std::vector<Report>& reports) {
     const std::string log = Read("logs/Bob.txt");
     for (const Report& report : reports) {
@@ -81,7 +81,7 @@ class KilledWhileWritingTest : public testing::Test {
     }
     if (!log.empty() && !log.ends_with("\r\n")) ++torn;
   }
-  // The file is what one of two neighbouring writes made of it, up to its last byte.
+  // The file is exactly the result of one of two consecutive writes.
   void CheckSettings(const std::vector<Report>& reports) {
     for (const Report& report : reports)
       named = report.kind == Report::Named ? report.number : named;
@@ -107,7 +107,7 @@ class KilledWhileWritingTest : public testing::Test {
                 (macro.starts_with("{\\rtf1") && macro.find("m\\par\r\n}") != macro.npos))
         << macro.substr(macro.size() - std::min(macro.size(), std::size_t{40}));
   }
-  // What is left over of the writes that were cut off does not grow in number.
+  // The leftover files of interrupted writes do not become more and more.
   void CheckFolders() {
     for (const char* name : {"", "macros/"}) {
       remnants += QFile::exists(folder.path() + "/" + name + ".verlume.new");
@@ -124,13 +124,13 @@ class KilledWhileWritingTest : public testing::Test {
 
   static constexpr int kTimes = 100;
   std::mt19937 random{20260307};
-  // In memory where the system has such a place: what is written outlives the process, and it is
-  // killed while it works and not while it waits for a disk.
+  // In memory, if the system has such a folder: what is written survives the process, and the
+  // process is killed while working and not while waiting for a disk.
   QTemporaryDir folder{QDir("/dev/shm").exists() ? "/dev/shm/verlume-XXXXXX"
                                                  : QDir::tempPath() + "/verlume-XXXXXX"};
   std::string comment;
   std::string settings;
-  std::size_t logged = 0;  // up to here the log has been looked at
+  std::size_t logged = 0;  // how much of the log has been checked
   int shown = 0;
   int torn = 0;      // lines cut off
   int remnants = 0;  // files cut off
@@ -144,7 +144,7 @@ TEST_F(KilledWhileWritingTest, AtAnyTimeNothingShownIsLostAndEveryFileIsWhole) {
   KillAtAnyTime();
 }
 
-// Between any two system calls: after the new file has been made, after it has been written ...
+// Kills it between any two system calls: after the new file was created, after it was written ...
 TEST_F(KilledWhileWritingTest, AtAnySystemCallNothingShownIsLostAndEveryFileIsWhole) {
   const int steps = StepsToReports(6);
   if (steps == 0) {

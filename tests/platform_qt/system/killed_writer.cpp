@@ -18,7 +18,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Stops until the parent goes on. Ends where watching is not allowed.
+// Stops until the parent continues it. Exits if tracing is not allowed.
 void BeWatched() {
   if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) ::_exit(1);
   ::raise(SIGSTOP);
@@ -32,7 +32,7 @@ KilledWriter::KilledWriter(const QString& folder, int first, Pace pace) {
   process_ = ::fork();
   if (process_ < 0) throw std::runtime_error("no process");
   if (process_ == 0) {
-    ::prctl(PR_SET_PDEATHSIG, SIGKILL);  // does not outlive a test that is broken off
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);  // does not outlive an interrupted test
     ::close(ends[0]);
     if (pace == Pace::StepByStep) BeWatched();
     WriteFrom(first, folder, ends[1]);
@@ -47,7 +47,7 @@ KilledWriter::~KilledWriter() {
 }
 
 bool KilledWriter::End() {
-  // Of any other number it would not be this process alone that ends.
+  // With any other number, more than this process would be killed.
   if (process_ <= 0) return false;
   ::kill(process_, SIGKILL);
   int status = 0;

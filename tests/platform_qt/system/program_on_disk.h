@@ -1,4 +1,4 @@
-// A whole program whose windows are in memory and whose files are on a real disk.
+// A whole program with windows in memory and files on a real disk.
 #pragma once
 
 #include <QDir>
@@ -13,7 +13,7 @@
 
 namespace verlume::qt {
 
-// A real disk where the in-memory windows expect one in memory.
+// A real disk behind the file system that the in-memory windows use.
 class RealDisk : public fake::FakeFileSystem {
  public:
   bool IsFolder(std::u16string_view path) const noexcept override { return real_.IsFolder(path); }
@@ -49,8 +49,8 @@ struct ApplicationIn : fake::FakeApplication {
   std::u16string folder;
 };
 
-// The program lives in `folder`, on the settings file that is there; its logs and macros go into
-// the folders "logs" and "macros" there. It logs, and puts no stamp before a line.
+// A program in `folder`, with the settings file that is there, and with its logs and macros in the
+// folders "logs" and "macros" below. Logging is on, and lines have no stamps.
 class ProgramOnDisk {
  public:
   ProgramOnDisk(fake::FakeNetwork& network, const QString& folder)
@@ -65,7 +65,7 @@ class ProgramOnDisk {
   std::u16string Path(std::u16string_view name) const {
     return FromQt(folder_) + u"/" + std::u16string(name);
   }
-  // What a file holds; "none" where there is none.
+  // The content of a file; "none" if there is no such file.
   std::string Content(std::u16string_view name) const {
     QFile file(ToQt(Path(name)));
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "none";

@@ -1,6 +1,6 @@
-// Whole programs in conversation while the disk under one of them fails: the failure is reported
-// under the procedure's number, nothing that was typed or stored is lost, and once the disk is well
-// the program goes on.
+// Whole programs in conversation, while the disk of one of them fails: the failure is reported with
+// the procedure's number, nothing that was typed or stored is lost, and the program goes on when
+// the disk works again.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ class ProgramOnFailingDiskTest : public testing::TestWithParam<DiskFault> {
     ann.Enter(line);
     network.RunUntilIdle();
   }
-  // While the folder cannot be written to, the action is reported once, under this number.
+  // While the folder is not writable, the action is reported once, with this number.
   template <class Action>
   void ExpectReport(std::u16string_view procedure, const QString& folder, Action action) {
     ExpectReport(procedure, [&] {
@@ -36,7 +36,7 @@ class ProgramOnFailingDiskTest : public testing::TestWithParam<DiskFault> {
       action();
     });
   }
-  // The same of an action that breaks the disk itself.
+  // The same for an action that makes the disk fail itself.
   template <class Action>
   void ExpectReport(std::u16string_view procedure, Action action) {
     ann.dialogs.messages.clear();
@@ -52,7 +52,7 @@ class ProgramOnFailingDiskTest : public testing::TestWithParam<DiskFault> {
     EXPECT_FALSE(ann.application.HasEnded());
   }
 
-  // What no page of a disk has room for that is full but for the rest of a page.
+  // More than fits into the rest of a page of a full disk.
   const std::u16string more = std::u16string(5000, u'm');
   FailingDisk disk{GetParam()};
   fake::FakeNetwork network;
@@ -90,7 +90,7 @@ TEST_P(ProgramOnFailingDiskTest, AConversationThatCannotBeLoggedEnds) {
   Say(u"/CLOSE");
   const std::string log = ann.Content(u"logs/Bob.txt");
   ExpectReport(u"240", "logs", [&] {
-    // A full disk may still have room for the first entries, in the rest of a page.
+    // A full disk may still have room for some entries in the rest of a page.
     for (int call = 0; call < 100 && !ann.dialogs.answers.empty(); ++call) {
       bob.Enter(u"/WAIT 4000");
       bob.platform.dialogs.answers = {Answer::Yes};

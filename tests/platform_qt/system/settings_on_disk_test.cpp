@@ -18,8 +18,8 @@ class SettingsOnDiskTest : public testing::Test {
  protected:
   SettingsOnDiskTest() {
     state.IniFile = FromQt(folder.filePath("Verlume.ini"));
-    state.FontName = u"Arial";
-    state.FontSize = 10;
+    state.Font.Name = u"Arial";
+    state.Font.Size = 10;
   }
 
   QString IniFile() const { return folder.filePath("Verlume.ini"); }
@@ -33,7 +33,7 @@ class SettingsOnDiskTest : public testing::Test {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
   }
-  // What a start makes of the file, which it then writes to.
+  // The content of the file after a start, which writes to it.
   SettingsTrouble Secure() {
     Settings settings(state, files);
     const SettingsTrouble trouble = SecureSettingsFile(state, files, settings);
@@ -49,7 +49,7 @@ class SettingsOnDiskTest : public testing::Test {
 TEST_F(SettingsOnDiskTest, AFileWithABadValueIsKept) {
   const QByteArray bad = "[General]\nDateStamp=maybe\n";
   Write(IniFile(), bad);
-  EXPECT_EQ(Secure(), SettingsTrouble::ValueKept);
+  EXPECT_EQ(Secure(), SettingsTrouble::InvalidValue);
   EXPECT_EQ(Read(Kept()), bad);
   EXPECT_EQ(Read(IniFile()), "[General]\nDateStamp=maybe\nLanguage=1\n");
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
@@ -59,7 +59,7 @@ TEST_F(SettingsOnDiskTest, AFileWithABadValueIsKept) {
 TEST_F(SettingsOnDiskTest, ADamagedFileIsKeptAndBegunAnew) {
   const QByteArray damaged = QByteArray("[General]\nNickname=Ann\n").append(64, '\0');
   Write(IniFile(), damaged);
-  EXPECT_EQ(Secure(), SettingsTrouble::DamageKept);
+  EXPECT_EQ(Secure(), SettingsTrouble::Damaged);
   EXPECT_EQ(Read(Kept()), damaged);
   EXPECT_EQ(Read(IniFile()), "[General]\r\nLanguage=1\r\n");
 }
@@ -92,7 +92,7 @@ TEST_F(SettingsOnDiskTest, AFolderOrAPipeOfItsNameStays) {
 TEST_F(SettingsOnDiskTest, AHugeFileIsNotRead) {
   QFile file(IniFile());
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  ASSERT_TRUE(file.resize(qint64{1} << 40));  // of nothing: no disk is that large
+  ASSERT_TRUE(file.resize(qint64{1} << 40));  // a sparse file: no disk is that large
   EXPECT_EQ(Secure(), SettingsTrouble::Unreadable);
   EXPECT_EQ(QFile(IniFile()).size(), qint64{1} << 40);
 }
@@ -104,7 +104,7 @@ TEST_F(SettingsOnDiskTest, InAFolderThatMayNotBeWrittenNothingChanges) {
   ASSERT_EQ(::chmod(folder.path().toUtf8().constData(), 0555), 0);
   {
     const Unprivileged user;
-    EXPECT_EQ(Secure(), SettingsTrouble::CopyNotKept);
+    EXPECT_EQ(Secure(), SettingsTrouble::CopyFailed);
   }
   ASSERT_EQ(::chmod(folder.path().toUtf8().constData(), 0700), 0);
   EXPECT_EQ(Read(IniFile()), bad);

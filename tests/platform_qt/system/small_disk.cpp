@@ -18,7 +18,7 @@ void WriteTo(const char* path, const std::string& text) {
   std::ofstream(path) << text;
 }
 
-// In a name space of its own the process keeps its user.
+// In a user name space of its own, the process keeps its user.
 bool EnterOwnNameSpace() {
   const uid_t user = ::geteuid();
   const gid_t group = ::getegid();
@@ -30,7 +30,7 @@ bool EnterOwnNameSpace() {
   return true;
 }
 
-// The rights over the name space would let the process write where its user may not.
+// With the privileges in the name space, the process could write where its user may not.
 void GiveUpRights() {
   if (::geteuid() == 0) return;
   __user_cap_header_struct header = {_LINUX_CAPABILITY_VERSION_3, 0};

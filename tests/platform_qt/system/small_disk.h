@@ -1,12 +1,13 @@
-// A disk of a few pages, in memory, that only this process sees.
+// A disk of a few pages, in memory, visible only to this process.
 #pragma once
 
 #include <string>
 
 namespace verlume::qt {
 
-// Mounts it on the folder: as the administrator in a name space of the process's own, else in one
-// where it is its own administrator. False, with errno set, where the system allows neither.
+// Mounts it on the folder: as administrator in a mount name space of the process, else in a user
+// name space in which the process is administrator. False, with errno set, if the system allows
+// neither.
 bool MountSmallDisk(const std::string& folder);
 void UnmountSmallDisk(const std::string& folder);
 

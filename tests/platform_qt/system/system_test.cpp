@@ -113,7 +113,7 @@ class QtApplicationFolders : public testing::Test {
   QtApplicationFolders() {
     const QString program = Program();
     QDir().mkpath(program);
-    // Everybody may look in.
+    // Everybody may read the folder.
     EXPECT_EQ(::chmod(folder_.path().toUtf8().constData(), 0755), 0);
   }
   QString Program() const { return folder_.path() + "/bin"; }

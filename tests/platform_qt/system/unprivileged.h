@@ -1,11 +1,11 @@
-// Tests of permissions must not run as the administrator, to whom nothing is forbidden.
+// Tests of permissions must not run as administrator, who may do everything.
 #pragma once
 
 #include <unistd.h>
 
 namespace verlume::qt {
 
-// Nobody's rights as long as this lives, where the tests run as the administrator.
+// If the tests run as administrator, takes on the rights of the user "nobody" for its lifetime.
 class Unprivileged {
  public:
   Unprivileged() {

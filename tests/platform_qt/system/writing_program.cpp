@@ -40,7 +40,7 @@ class Writer {
     ann_.window.rtbCommands.SetText(u"macro " + DecimalText(number) + std::u16string(1000, u'm'));
     ann_.window.mnuToolsSaveMacro.Click();
   }
-  // One write of few bytes is whole or not there.
+  // A small write is atomic.
   void Tell(Report::Kind kind, int number) const {
     const Report report = {kind, number};
     if (::write(reports_, &report, sizeof report) != sizeof report) ::_exit(1);

@@ -33,7 +33,7 @@ class QtAboutWindowTest : public testing::Test {
     view.cmdOK.onClick = [this] { view.window.Unload(); };
   }
 
-  // Shows the box, does the act in it and closes it.
+  // Shows the box, does the act and closes the box.
   void ShowAnd(const std::function<void()>& act) {
     const ModalDriver driver([&](QDialog& box) {
       EXPECT_EQ(&box, &form);
@@ -43,7 +43,7 @@ class QtAboutWindowTest : public testing::Test {
     view.window.ShowModal();
     EXPECT_FALSE(form.isVisible());
   }
-  // Shows the box, which the act closes.
+  // Shows the box; the act closes it.
   void ShowUntil(const std::function<void(QDialog&)>& act) {
     const ModalDriver driver(act);
     view.window.ShowModal();

@@ -22,7 +22,7 @@ class QtCompletionListTest : public testing::Test {
   }
   QWidget* Named(const char* name) { return form.findChild<QWidget*>(QLatin1String(name)); }
   ListWidget* List() { return form.Find<ListWidget>("lstCompletions"); }
-  // With rows of this text, laid out.
+  // Shows rows with this text, laid out.
   void Open(int rows, std::u16string_view text = u"/COMMAND") {
     list.lstCompletions.Clear();
     for (int i = 0; i < rows; ++i) list.lstCompletions.Append(text);

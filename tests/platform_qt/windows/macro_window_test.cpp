@@ -41,7 +41,7 @@ class QtMacroWindowTest : public testing::Test {
               u"Εκτέλεση", u"Κλείσιμο", u"Έντονη γραφή", u"Πλάγια γραφή", u"Υπογραμμισμένη γραφή"});
   }
 
-  // Shows the window, does the act in it and closes it.
+  // Shows the window, does the act and closes the window.
   void ShowAnd(const std::function<void()>& act) {
     const ModalDriver driver([&](QDialog& shown) {
       EXPECT_EQ(&shown, &form);
@@ -53,7 +53,7 @@ class QtMacroWindowTest : public testing::Test {
     EXPECT_FALSE(form.isVisible());
   }
 
-  // The widgets that Tab leads to from the list, until it comes round.
+  // The widgets that Tab reaches, starting from the list, until it is back.
   QStringList TabOrder(Qt::Key key) {
     QStringList names;
     view.lstMacroNames.SetFocus();

@@ -24,7 +24,7 @@ class QtMainWindowTest : public testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
   }
   QWidget* Named(const char* name) { return form.findChild<QWidget*>(QLatin1String(name)); }
-  // Where a control stands, as parts of the area below the menu bar.
+  // The place of a control, as fractions of the area below the menu bar.
   QRectF RelativePlace(const QWidget* widget) {
     const QRectF area = form.centralWidget()->rect();
     const QRectF place = widget->geometry();

@@ -24,7 +24,7 @@ QPalette PaletteOf(const QColor& ground, const QColor& letters) {
   return palette;
 }
 
-// As much as a reader needs to see where a control is.
+// The contrast needed to see where a control is.
 constexpr double kEnough = 3.0;
 
 double Luminance(const QColor& color) {
@@ -41,7 +41,7 @@ double Contrast(const QColor& one, const QColor& other) {
   return std::max(a, b) / std::min(a, b);
 }
 
-// The best contrast that the picture's middle row has with the ground, from its left edge on.
+// The best contrast of the picture's middle row with the background, starting at its left edge.
 double OutlineContrast(QWidget& widget, QStyle& style, const QColor& ground) {
   widget.setStyle(&style);
   widget.setPalette(PaletteOf(ground, Qt::white));

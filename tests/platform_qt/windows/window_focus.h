@@ -1,4 +1,4 @@
-// Waits for what the window manager does when it gets round to it.
+// Waits for the window manager, which works asynchronously.
 #pragma once
 
 #include <QApplication>
@@ -8,14 +8,14 @@
 
 namespace verlume::qt {
 
-// Waits until the window has the keyboard; false when it does not get it. To
-// QTest::qWaitForWindowActive a box is active as soon as the window is that it belongs to.
+// Waits until the window has the keyboard focus; false if it does not get it.
+// QTest::qWaitForWindowActive considers a box active as soon as its parent window is.
 inline bool WaitForFocus(const QWidget& window) {
   return QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }, 10000);
 }
 
-// Shows a window that boxes are opened over, and waits until it has its frame and the keyboard: if
-// it came to them later, it would take the keyboard from the box.
+// Shows a window for boxes to be opened over, and waits until it has its frame and the keyboard
+// focus. Otherwise it might take the focus from the box later.
 inline bool ShowAndWait(QWidget& window) {
   window.show();
   const auto hasFrame = [&] { return !window.windowHandle()->frameMargins().isNull(); };

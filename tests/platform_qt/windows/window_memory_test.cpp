@@ -12,7 +12,7 @@ namespace {
 
 class WindowMemoryTest : public testing::Test {
  protected:
-  // One run of the program: a form that remembers, from its making to its hiding.
+  // One run of the program: a form with memory, from its creation until it is hidden.
   struct Run {
     explicit Run(const QString& file) : memory(&form, file) {}
     void Show() {

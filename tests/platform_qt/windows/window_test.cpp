@@ -64,7 +64,7 @@ TEST_F(QtWindowTest, CanBeTopMostWhereItIsAfterwards) {
   EXPECT_EQ(window.CanBeTopMost(), window.SetTopMost(true));
 }
 
-// Counts what would be seen if the window went away and came back.
+// Counts the events that occur if the window disappears and comes back.
 class Blinks : public QObject {
  public:
   explicit Blinks(QWidget& form) { form.installEventFilter(this); }

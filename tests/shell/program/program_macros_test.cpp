@@ -1,4 +1,4 @@
-// Macros on their road through a whole program: written, run, and met by a conversation meanwhile.
+// Macros in a whole program: written, run, and edited during a conversation.
 #include <gtest/gtest.h>
 
 #include "support/program_copy.h"
@@ -129,11 +129,11 @@ TEST_F(ProgramMacrosTest, EverythingOfTheMacroEditorIsBound) {
     editor.chkBold.SetValue(1);
     editor.chkItalics.SetValue(1);
     editor.chkUnderlined.SetValue(1);
-    EXPECT_TRUE(ann.program.State().MacroBold && ann.program.State().MacroItalic &&
-                ann.program.State().MacroUnderline);
+    EXPECT_TRUE(ann.program.State().MacroFont.Bold && ann.program.State().MacroFont.Italic &&
+                ann.program.State().MacroFont.Underline);
     ann.platform.commonDialog.colors = {Color(255)};
     editor.lblColour.onMouseDown(MouseButton::Left);
-    EXPECT_EQ(ann.program.State().MacroColor, 255);
+    EXPECT_EQ(ann.program.State().MacroFont.Color, 255);
     editor.rtbMacroText.SetFocus();
     EXPECT_TRUE(editor.lstMacroNames.HasFocus());
     editor.cmdAdd.SetFocus();

@@ -1,5 +1,4 @@
-// The user's own nickname, on two whole programs: it is sent as it is, and shown as text that can
-// be seen.
+// The user's own nickname in two whole programs: it is sent as it is, and shown as visible text.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -40,7 +39,7 @@ class ProgramNicknamesTest : public testing::Test {
   std::unique_ptr<ProgramCopy> bob;
 };
 
-// The wire has no such character as U+202E: there it is a question mark.
+// U+202E cannot be sent: it arrives as a question mark.
 TEST_F(ProgramNicknamesTest, OneOfTheSettingsFileIsSentAsItIsAndSeenByBoth) {
   Start(u"\u202Eeve\x07");
   EXPECT_EQ(eve->platform.window.lblLocalNickname.caption, u"\\u202Eeve\\x07");

@@ -1,4 +1,4 @@
-// Two whole programs on the in-memory platform: the road of a call and of a typed line.
+// Two whole programs on the in-memory platform: calls and typed lines.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -125,30 +125,6 @@ TEST_F(ProgramTest, RejectedCallLeavesBothSidesIdle) {
   EXPECT_THAT(ann.Status(), EndsIn(u"A connection could NOT be established."));
   EXPECT_EQ(ann.Lamp(), 255);
   EXPECT_EQ(bob.Lamp(), 255);
-}
-
-TEST_F(ProgramTest, NicknameChangeReachesThePeer) {
-  Connect();
-  ann.Enter(u"/NICK Ann of the North");
-  network.RunUntilIdle();
-
-  EXPECT_EQ(bob.platform.window.lblRemoteNickname.caption, u"Ann of the North");
-}
-
-TEST_F(ProgramTest, LineTypedWithoutConnectionStandsInTheOwnPaneOnly) {
-  ann.Enter(u"anybody there, $r?");
-
-  EXPECT_EQ(ann.Dialogue(), u"<Άννα>anybody there, $r?");
-  EXPECT_TRUE(ann.platform.socket.sent.empty());
-}
-
-TEST_F(ProgramTest, MacroFileTakesTheLinesPlace) {
-  ann.platform.files.ReplaceText(u"/macros/hello.rtf", u"{\\rtf1 Hello from a macro\\par}");
-  Connect();
-  ann.Enter(u"/hello");
-  network.RunUntilIdle();
-
-  EXPECT_EQ(bob.Dialogue(), u"<Άννα>Hello from a macro");
 }
 
 TEST_F(ProgramTest, ClosingTheWindowWhileConnectedAsksAndNoKeepsItOpen) {

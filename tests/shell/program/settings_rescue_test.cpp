@@ -1,4 +1,4 @@
-// Whole starts of the program with a settings file that cannot be used.
+// Starts of the whole program with a settings file that cannot be used.
 #include "shell/settings_rescue.h"
 
 #include <gmock/gmock.h>
@@ -18,14 +18,14 @@ namespace {
 constexpr const char16_t* kIniFile = u"/verlume/Verlume.ini";
 constexpr const char16_t* kKept = u"/verlume/Verlume.ini.bad";
 
-// A disk, and the program that is started on it again and again.
+// A disk on which the program is started again and again.
 class SettingsRescueTest : public testing::Test {
  protected:
   SettingsRescueTest() { Write(u"/macros/x.rtf", ""); }
 
   void Write(const std::u16string& path, const std::string& bytes) { disk[path] = bytes; }
 
-  // Starts the program anew, with the files that the last one left. No error ends it.
+  // Starts the program again, with the files that the last run left. Expects no error to end it.
   void Start() {
     if (platform) disk = platform->files.files;
     program.reset();
@@ -39,7 +39,7 @@ class SettingsRescueTest : public testing::Test {
     program->Start();
     platform->files.readsFail.reset();
   }
-  // And up to the end of it.
+  // The same, and then ends the program.
   void StartWhole() {
     Start();
     platform->window.freeSizer1.onPostLayout();

@@ -16,7 +16,7 @@ class ShutDownTest : public ShellTest {
     window.window.onUnload = [this] { shutDown.Form_Unload(); };
   }
 
-  // What the exit question comes to.
+  // The result of the exit question.
   bool userAgrees = true;
   int questions = 0;
   std::u16string commandAsked;

@@ -24,7 +24,7 @@ class StartUpTest : public ShellTest {
     };
   }
 
-  // A settings file of this text, with folders that exist.
+  // Creates a settings file with this text, and the folders.
   void Keep(const std::string& text) { fake.files.files[kIniFile] = text; }
 
   int logFolderChoices = 0;
@@ -116,7 +116,7 @@ TEST_F(StartUpTest, WithoutAFileItStartsInEnglishAndMakesTheFile) {
   EXPECT_TRUE(state.TimeStamp);
   EXPECT_FALSE(state.AlwaysOnTop);
   EXPECT_FALSE(state.LogDialogue);
-  EXPECT_EQ(state.FontName, u"Arial");
+  EXPECT_EQ(state.Font.Name, u"Arial");
   EXPECT_EQ(fake.files.files[kIniFile], "[General]\r\nLanguage=0\r\n");
 }
 
@@ -156,7 +156,7 @@ TEST_F(StartUpTest, AFailureIsReportedAndTheRestSkipped) {
   EXPECT_TRUE(state.DateStamp);
   EXPECT_TRUE(state.TimeStamp);
   EXPECT_FALSE(state.AlwaysOnTop);
-  EXPECT_EQ(state.FontName, u"Arial");
+  EXPECT_EQ(state.Font.Name, u"Arial");
   EXPECT_EQ(window.lblLocalIP.caption, u"");
   EXPECT_FALSE(window.window.unloaded);
 }

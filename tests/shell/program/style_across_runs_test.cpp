@@ -1,4 +1,4 @@
-// The user's style through the whole program: from run to run, and whatever becomes of the pane.
+// The user's style in the whole program: from run to run, and when the text of the pane changes.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace {
 using fake::FakeNetwork;
 using fake::ProgramCopy;
 
-// The style of the next letter, told by typing one.
+// The style of the next letter, found by typing one.
 SelectionFormat StyleOfNextLetter(ProgramCopy& copy) {
   fake::FakeRichTextBox& pane = copy.platform.window.rtbCommands;
   const std::size_t at = pane.SelStart();
@@ -23,7 +23,7 @@ SelectionFormat StyleOfNextLetter(ProgramCopy& copy) {
 
 void ExpectBoldEverywhere(ProgramCopy& copy, bool isBold) {
   const fake::FakeMainWindow& window = copy.platform.window;
-  EXPECT_EQ(copy.program.State().FontBold, isBold);
+  EXPECT_EQ(copy.program.State().Font.Bold, isBold);
   EXPECT_EQ(window.chkBold.value, isBold ? 1 : 0);
   EXPECT_EQ(window.mnuFormatFontBold.checked, isBold);
   EXPECT_EQ(StyleOfNextLetter(copy).bold, isBold);
@@ -37,7 +37,13 @@ class StyleAcrossRuns : public testing::Test {
 
 TEST_F(StyleAcrossRuns, EveryChoiceOfTheUserIsThereInTheNextRun) {
   fake::FakeMainWindow& window = first.platform.window;
-  first.platform.commonDialog.fonts = {FontChoice{u"Tahoma", true, true, true, true, 0, 9}};
+  first.platform.commonDialog.fonts = {FontChoice{.name = u"Tahoma",
+                                                  .bold = true,
+                                                  .italic = true,
+                                                  .underline = true,
+                                                  .strikethrough = true,
+                                                  .color = 0,
+                                                  .size = 9}};
   first.platform.commonDialog.colors = {Color{255}, Color{0xC0FFFF}, Color{0xFFFFC0}};
   window.mnuFormatFontSettings.Click();
   window.mnuFormatFontColor.Click();
@@ -50,10 +56,11 @@ TEST_F(StyleAcrossRuns, EveryChoiceOfTheUserIsThereInTheNextRun) {
 
   ProgramCopy second(network, first.Settings(), ProgramCopy::SettingsFile{});
   const AppState& state = second.program.State();
-  EXPECT_EQ(state.FontName, u"Tahoma");
-  EXPECT_EQ(state.FontSize, 9.5);
-  EXPECT_EQ(state.FontColor, 255);
-  EXPECT_TRUE(state.FontBold && state.FontItalic && state.FontUnderline && state.FontStrikethrough);
+  EXPECT_EQ(state.Font.Name, u"Tahoma");
+  EXPECT_EQ(state.Font.Size, 9.5);
+  EXPECT_EQ(state.Font.Color, 255);
+  EXPECT_TRUE(state.Font.Bold && state.Font.Italic && state.Font.Underline &&
+              state.Font.Strikethrough);
   EXPECT_TRUE(state.DateStamp && state.TimeStamp && state.AlwaysOnTop);
   const fake::FakeMainWindow& shown = second.platform.window;
   EXPECT_TRUE(shown.chkBold.value && shown.chkItalics.value && shown.chkUnderline.value);
@@ -81,9 +88,9 @@ TEST_F(StyleAcrossRuns, AHandEditedFileStartsWithTheNearestSensibleValues) {
                    ProgramCopy::SettingsFile{});
   EXPECT_TRUE(copy.platform.dialogs.messages.empty());
   EXPECT_TRUE(copy.platform.window.window.shown);
-  EXPECT_EQ(copy.program.State().FontSize, 11);
-  EXPECT_EQ(copy.program.State().FontColor, 0);
-  EXPECT_EQ(copy.program.State().FontName, u"No Such Font");
+  EXPECT_EQ(copy.program.State().Font.Size, 11);
+  EXPECT_EQ(copy.program.State().Font.Color, 0);
+  EXPECT_EQ(copy.program.State().Font.Name, u"No Such Font");
   EXPECT_EQ(copy.platform.window.rtbCommands.backColor, 0xFFFFFF);
 }
 
@@ -130,7 +137,7 @@ TEST_F(StyleAcrossRuns, TextOfAnySizeIsTypedOnInASizeThatIsAccepted) {
   fake::FakeRichTextBox& pane = first.platform.window.rtbCommands;
   pane.SetRtf(u"{\\rtf1{\\fonttbl{\\f0 Tahoma;}}\\f0\\fs48 huge}");
   pane.Select(4, 0);
-  EXPECT_EQ(first.program.State().FontSize, 11);
+  EXPECT_EQ(first.program.State().Font.Size, 11);
   EXPECT_EQ(StyleOfNextLetter(first).fontSize, 11);
   pane.Select(0, 1);
   EXPECT_EQ(pane.SelFormat().fontSize, 24);
