@@ -69,7 +69,7 @@ void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
   std::u16string logLine;
   if (log_.IsRecording()) {
     logLine = u"[" + both + u"]" + tag;
-    for (const auto& [source, document] : documents) logLine += document.text;
+    for (const richtext::ReadDocument& each : documents) logLine += each.document.text;
   }
   AddToPane(stamp, tag, sender, std::move(documents));
   log_.AppendToLog(std::move(logLine));
@@ -99,7 +99,7 @@ void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sen
   } else {
     AddInFormat(pane, tag, kTagSize);
   }
-  for (auto& [source, document] : documents) pane.SetSelDocument(std::move(document));
+  for (richtext::ReadDocument& each : documents) pane.SetSelDocument(std::move(each.document));
 }
 
 void Dialogue::mnuToolsDate_Click() {
