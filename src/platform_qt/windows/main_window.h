@@ -21,6 +21,8 @@ class QtMainWindow {
   QtRichTextBox& DialoguePane() { return rtbData; }
 
  private:
+  friend MainWindow verlume::MainWindowOf<QtMainWindow>(QtMainWindow& controls);
+
   MainForm form_;
 
   QtWindow window{&form_};
