@@ -16,7 +16,8 @@ namespace verlume {
 namespace {
 
 // The size in the text: digits with at most one decimal mark, "." or ",". Blanks around it are
-// ignored. None if the text is anything else or the size is out of range.
+// ignored. None if the text is anything else, or a size that is not accepted: the user is told, and
+// no other size is taken in its place.
 std::optional<double> FontSizeOf(std::u16string_view text) {
   std::u16string number(Trim(text));
   std::replace(number.begin(), number.end(), u',', u'.');
@@ -25,8 +26,8 @@ std::optional<double> FontSizeOf(std::u16string_view text) {
                        std::count(number.begin(), number.end(), u'.') <= 1;
   if (!isPlain) return std::nullopt;
   const double size = NumericPrefixOf(number);
-  if (size < kSmallestFontSize || size > kLargestFontSize) return std::nullopt;
-  return AcceptedFontSize(size);
+  if (size != AcceptedFontSize(size)) return std::nullopt;
+  return size;
 }
 
 }  // namespace
