@@ -91,6 +91,8 @@ class ConnectionActions {
 
   void SetStatus(std::u16string_view text);
   // Says in the status line and the log that the user closed the connection, and closes the log.
+  // Asks whether to choose another nickname if the wire cannot carry this one; else false.
+  bool WantsAnother(const std::u16string& nickname);
   void RecordClosedByUser();
   // Writes the command's line, which is usually empty, into the dialogue pane, and empties the
   // command pane.
