@@ -7,6 +7,7 @@
 #include "commands/text_format.h"
 #include "connection/command_parts.h"
 #include "shell/conversions.h"
+#include "shell/draft.h"
 #include "shell/font_size_texts.h"
 #include "shell/setting_names.h"
 #include "shell/settings_reader.h"
@@ -57,7 +58,13 @@ void TextFormat::SetFontSize(std::u16string_view commandLine) {
 void TextFormat::mnuFormatFontSize_Click() {
   state_.CommandLine = u"/SIZE";
   state_.OutgoingText.clear();
-  SetFontSize(u"/SIZE");
+  errors_.Guard(Procedure::SetFontSize, [this] {
+    const Draft draft(platform_);
+    SetFontSize(u"/SIZE");
+    const bool isRestored = draft.Restore(state_.Font);
+    // The new size is for what is typed next, which would take the size of what it replaces.
+    if (isRestored && platform_.frmMain.rtbCommands.SelLength() > 0) ApplyToPane();
+  });
 }
 
 void TextFormat::lblColor_MouseDown(MouseButton button) {
