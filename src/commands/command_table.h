@@ -13,7 +13,7 @@ namespace verlume {
 
 enum class CommandKind {
   Plain,              // the command pane is emptied, then the row's action runs
-  Routine,            // the routine gets the line, and empties the pane itself
+  Routine,            // the routine gets the line; afterwards the line leaves the pane
   NormalisedRoutine,  // the same, after surplus blanks are removed from the line
   Action,             // the line is an action line; the row has nothing to perform
 };

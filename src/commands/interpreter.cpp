@@ -81,6 +81,14 @@ void CommandInterpreter::PerformRoutine(const CommandRow& row, std::u16string_vi
   state_.CommandLine = line;
   state_.OutgoingText.clear();
   row.perform(TargetsOf(line));
+  EmptyPaneOf(typed);
+}
+
+// A command that was refused must not join what is typed next. It is in the history.
+void CommandInterpreter::EmptyPaneOf(std::u16string_view line) {
+  if (platform_.application.HasEnded()) return;
+  RichTextBox& pane = platform_.frmMain.rtbCommands;
+  if (pane.Text() == line) pane.SetText(u"");
 }
 
 void CommandInterpreter::WriteChatLine() {

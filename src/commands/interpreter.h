@@ -38,6 +38,8 @@ class CommandInterpreter {
   void LoadMacroNamedBy(std::u16string_view line);
   void PerformPlain(const CommandRow& row, std::u16string_view line);
   void PerformRoutine(const CommandRow& row, std::u16string_view typed);
+  // Empties the command pane if it still holds the line.
+  void EmptyPaneOf(std::u16string_view line);
   void WriteChatLine();
   void WriteActionLine(std::u16string_view typedWord);
   Nicknames NicknamesInForce() const;

@@ -38,7 +38,8 @@ class TextFormat {
   void mnuFormatBackcolorCommands_Click();
   void mnuFormatBackcolorDialogue_Click();
 
-  // Sets the size to the number in the command line, from 8 to 11; asks for it if there is none.
+  // Sets the size to the number in the command line, in whole or half points from 8 to 11; asks for
+  // it if there is none, refuses any other.
   void SetFontSize(std::u16string_view commandLine);
 
   // Makes the style at the insertion point the local style, and saves it if it has changed. In an

@@ -7,6 +7,7 @@
 #include "commands/text_format.h"
 #include "connection/command_parts.h"
 #include "shell/conversions.h"
+#include "shell/draft.h"
 #include "shell/font_size_texts.h"
 #include "shell/setting_names.h"
 #include "shell/settings_reader.h"
@@ -16,7 +17,8 @@ namespace verlume {
 namespace {
 
 // The size in the text: digits with at most one decimal mark, "." or ",". Blanks around it are
-// ignored. None if the text is anything else or the size is out of range.
+// ignored. None if the text is anything else, or a size that is not accepted: the user is told, and
+// no other size is taken in its place.
 std::optional<double> FontSizeOf(std::u16string_view text) {
   std::u16string number(Trim(text));
   std::replace(number.begin(), number.end(), u',', u'.');
@@ -25,8 +27,8 @@ std::optional<double> FontSizeOf(std::u16string_view text) {
                        std::count(number.begin(), number.end(), u'.') <= 1;
   if (!isPlain) return std::nullopt;
   const double size = NumericPrefixOf(number);
-  if (size < kSmallestFontSize || size > kLargestFontSize) return std::nullopt;
-  return AcceptedFontSize(size);
+  if (size != AcceptedFontSize(size)) return std::nullopt;
+  return size;
 }
 
 }  // namespace
@@ -56,7 +58,13 @@ void TextFormat::SetFontSize(std::u16string_view commandLine) {
 void TextFormat::mnuFormatFontSize_Click() {
   state_.CommandLine = u"/SIZE";
   state_.OutgoingText.clear();
-  SetFontSize(u"/SIZE");
+  errors_.Guard(Procedure::SetFontSize, [this] {
+    const Draft draft(platform_);
+    SetFontSize(u"/SIZE");
+    const bool isRestored = draft.Restore(state_.Font);
+    // The new size is for what is typed next, which would take the size of what it replaces.
+    if (isRestored && platform_.frmMain.rtbCommands.SelLength() > 0) ApplyToPane();
+  });
 }
 
 void TextFormat::lblColor_MouseDown(MouseButton button) {

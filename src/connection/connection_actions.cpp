@@ -2,6 +2,7 @@
 #include "connection/connection_actions.h"
 
 #include "connection/status_texts.h"
+#include "shell/draft.h"
 
 namespace verlume {
 
@@ -15,10 +16,19 @@ void ConnectionActions::Run(Procedure procedure, const std::function<void()>& ac
   platform_.frmMain.rtbCommands.SetFocus();
 }
 
-std::u16string_view ConnectionActions::RecordCommand(std::u16string_view commandWord) {
+void ConnectionActions::RecordCommand(std::u16string_view commandWord) {
   state_.CommandLine = commandWord;
   state_.OutgoingText.clear();
-  return commandWord;
+}
+
+void ConnectionActions::RunKeepingDraft(Procedure procedure, std::u16string_view commandWord,
+                                        const std::function<void()>& action) {
+  RecordCommand(commandWord);
+  errors_.Guard(procedure, [this, &action] {
+    const Draft draft(platform_);
+    action();
+    draft.Restore(state_.Font);
+  });
 }
 
 std::optional<ConnectionState> ConnectionActions::AskToLeaveState(const LeaveTexts& texts) {
@@ -74,11 +84,11 @@ void ConnectionActions::WriteOutgoingText() {
 }
 
 void ConnectionActions::mnuCommCall_Click() {
-  CallRemote(RecordCommand(u"/CALL"));
+  RunKeepingDraft(Procedure::CallRemote, u"/CALL", [this] { CallRemote(u"/CALL"); });
 }
 
 void ConnectionActions::mnuCommWait_Click() {
-  WaitForCall(RecordCommand(u"/WAIT"));
+  RunKeepingDraft(Procedure::WaitForCall, u"/WAIT", [this] { WaitForCall(u"/WAIT"); });
 }
 
 void ConnectionActions::mnuCommCancel_Click() {
@@ -87,17 +97,15 @@ void ConnectionActions::mnuCommCancel_Click() {
 }
 
 void ConnectionActions::mnuCommClose_Click() {
-  RecordCommand(u"/CLOSE");
-  CloseConnection();
+  RunKeepingDraft(Procedure::CloseConnection, u"/CLOSE", [this] { CloseConnection(); });
 }
 
 void ConnectionActions::mnuCommRefresh_Click() {
-  RecordCommand(u"/REFRESH");
-  RefreshLocalIP();
+  RunKeepingDraft(Procedure::RefreshLocalIP, u"/REFRESH", [this] { RefreshLocalIP(); });
 }
 
 void ConnectionActions::mnuToolsNick_Click() {
-  SetNickname(RecordCommand(u"/NICK"));
+  RunKeepingDraft(Procedure::SetNickname, u"/NICK", [this] { SetNickname(u"/NICK"); });
 }
 
 }  // namespace verlume

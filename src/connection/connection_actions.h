@@ -1,6 +1,7 @@
 // The actions of the connection commands. Each reports its own failures, and finally gives the
 // focus back to the command pane. `commandLine` is the line as it was typed; the menu entries run
-// the actions with the bare command word.
+// the actions with the bare command word. An action empties the command pane; chosen from a menu,
+// it leaves there what was half typed, but for Cancel.
 //
 // Socket events still happen while their boxes are open, so the state may change before the user
 // answers. An answer counts only for the state in which the question was asked. If the state has
@@ -68,9 +69,12 @@ class ConnectionActions {
 
   // Runs an action, reports its failures, and gives the focus back to the command pane.
   void Run(Procedure procedure, const std::function<void()>& action);
-  // Notes in AppState what the user has chosen from a menu, as if the word had been typed; returns
-  // the word.
-  std::u16string_view RecordCommand(std::u16string_view commandWord);
+  // Notes in AppState what the user has chosen from a menu, as if the word had been typed.
+  void RecordCommand(std::u16string_view commandWord);
+  // Runs an action that the user has chosen from a menu. The user did not type its line, so what is
+  // half typed in the command pane stays there.
+  void RunKeepingDraft(Procedure procedure, std::u16string_view commandWord,
+                       const std::function<void()>& action);
 
   // Refuses while Connected, asks while Waiting or Calling. Returns the current state if it may be
   // left, else none.
@@ -87,6 +91,8 @@ class ConnectionActions {
   // Asks until the text is a port. False when the user gave up.
   bool CorrectLocalPort(std::u16string& portText);
   std::u16string AskNickname(std::u16string candidate);
+  // Asks whether to choose another nickname if the wire cannot carry this one; else false.
+  bool WantsAnother(const std::u16string& nickname);
   std::u16string ExitQuestion(ConnectionState asked) const;
 
   void SetStatus(std::u16string_view text);

@@ -149,6 +149,14 @@ inline constexpr TextPair kPrompt = {
     u"Μπορείτε να πληκτρολογήσετε από 1 μέχρι και 32 χαρακτήρες."};
 inline constexpr TextPair kTooLong = {u"The nickname must not contain more than 32 characters.",
                                       u"Το ψευδώνυμο δεν πρέπει να υπερβαίνει τους 32 χαρακτήρες."};
+// %1 the nickname, %2 what the peer reads
+inline constexpr TextPair kNotCarried = {
+    u"The nickname '%1' contains characters that cannot be sent. The remote computer will show "
+    u"it as '%2'.\r\n\r\n"
+    u"Do you want to choose another nickname?",
+    u"Το ψευδώνυμο «%1» περιέχει χαρακτήρες που δεν μπορούν να σταλούν. Ο απομακρυσμένος "
+    u"υπολογιστής θα το εμφανίζει ως «%2».\r\n\r\n"
+    u"Θέλετε να επιλέξετε άλλο ψευδώνυμο;"};
 
 }  // namespace set_nickname
 

@@ -5,6 +5,7 @@
 #include "macros/macro_editor_states.h"
 #include "macros/macro_editor_texts.h"
 #include "platform/char_code.h"
+#include "shell/draft.h"
 
 namespace verlume {
 
@@ -71,9 +72,12 @@ void MacroEditor::RunChosenMacro() {
   const std::u16string macro = std::exchange(state_.MacroToRun, {});
   if (macro.empty()) return;
   RichTextBox& pane = platform_.frmMain.rtbCommands;
+  const Draft draft(platform_);
+  const TextStyle style = state_.Font;  // before the macro's own comes into force
   pane.SetRtf(macro);
   int enter = char_code::kEnter;
   if (pane.onKeyPress) pane.onKeyPress(enter);
+  draft.Restore(style);
 }
 
 void MacroEditor::Form_QueryUnload(bool& cancel, UnloadMode mode) {

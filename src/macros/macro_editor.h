@@ -20,7 +20,7 @@ class MacroEditor {
       : state_(state), platform_(platform), errors_(errors), store_(store), style_(style) {}
 
   // Shows the window until Close or Run is pressed (mnuToolsEditMacros_Click). Run puts the macro
-  // into the command pane and presses Enter there.
+  // into the command pane and presses Enter there; what was half typed is then put back.
   void OpenMacroEditor();
 
   // Only the program may close the window; tells the user so.

@@ -40,16 +40,18 @@ TEST_F(FontSize, AFractionIsTakenWithEitherDecimalMark) {
 }
 
 TEST_F(FontSize, ASizeIsOfWholeOrHalfPointsAsRichTextCarriesIt) {
-  EXPECT_TRUE(Takes(u"/SIZE 9.3"));
-  EXPECT_EQ(state.Font.Size, 9.5);
-  EXPECT_TRUE(Takes(u"/SIZE 9.2"));
+  EXPECT_TRUE(Takes(u"/SIZE 9"));
   EXPECT_EQ(state.Font.Size, 9);
+  EXPECT_TRUE(Takes(u"/SIZE 9,50"));
+  EXPECT_EQ(state.Font.Size, 9.5);
 }
 
 TEST_F(FontSize, AnythingElseIsRefusedWithTheRange) {
   for (const std::u16string_view size :
-       {u"7", u"12", u"7.9", u"11.1", u"big", u"9 pt", u"9x", u"1e1", u"0x9", u"-9", u"9.5.1", u".",
-        u",", u"nan", u"inf", u"99999999999999999999"}) {
+       {u"7",   u"12",  u"7.9",    u"11.1", u"9.2",
+        u"9.3", u"9,7", u"10.999", u"big",  u"9 pt",
+        u"9x",  u"1e1", u"0x9",    u"-9",   u"9.5.1",
+        u".",   u",",   u"nan",    u"inf",  u"99999999999999999999"}) {
     EXPECT_FALSE(Takes(u"/SIZE " + std::u16string(size))) << testing::PrintToString(size);
     EXPECT_EQ(state.Font.Size, 10);
   }

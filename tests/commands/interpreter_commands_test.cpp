@@ -110,6 +110,44 @@ TEST_F(InterpreterCommands, ARoutineGetsItsOwnLineWhateverAnEventLeavesInTheStat
   EXPECT_EQ(state.Nickname, u"Al");
 }
 
+TEST_F(InterpreterCommands, ARefusedRoutineLeavesThePaneEmptyAndItsLineInTheHistory) {
+  Connect();
+  for (const std::u16string_view line :
+       {u"/call host 2000", u"/wait  2000 ", u"/cancel   now", u"/refresh", u"/size 12"}) {
+    const std::size_t boxes = fake.dialogs.messages.size();
+    Enter(line);
+    EXPECT_THAT(fake.dialogs.messages, SizeIs(boxes + 1));
+    EXPECT_EQ(pane.Text(), u"");
+    pane.PressKey(key_code::kPageUp);
+    EXPECT_EQ(pane.Text(), line);
+    pane.PressKey(key_code::kEscape);
+  }
+  EXPECT_THAT(Sent(), IsEmpty());
+}
+
+TEST_F(InterpreterCommands, ARefusedRoutineDoesNotJoinTheNextLine) {
+  Enter(u"/close");
+  Enter(u"hi");
+  EXPECT_EQ(Shown(), u"<Bob>hi");
+}
+
+TEST_F(InterpreterCommands, ARoutineThatFailsOrIsGivenUpLeavesThePaneEmptyToo) {
+  fake.dialogs.answers = {Answer::No};
+  Enter(u"/wait 70000");
+  EXPECT_EQ(fake.dialogs.messages.back().title, u"Verlume, 205.");
+  EXPECT_EQ(pane.Text(), u"");
+  fake.dialogs.typed = {u""};
+  Enter(u"/call");
+  EXPECT_THAT(fake.dialogs.asked, SizeIs(1));
+  EXPECT_EQ(pane.Text(), u"");
+}
+
+TEST_F(InterpreterCommands, WhatComesIntoThePaneDuringARoutineStays) {
+  fake.dialogs.whileOpen = [this] { pane.SetText(u"another line"); };
+  Enter(u"/close");
+  EXPECT_EQ(pane.Text(), u"another line");
+}
+
 // The test of the command table checks the ticks of the toggles; this one checks the switches
 // behind them.
 TEST_F(InterpreterCommands, OnAndOffCommandsCanBeRepeated) {

@@ -74,6 +74,64 @@ TEST_F(SetNicknameTest, NothingButControlCharactersIsEmpty) {
   EXPECT_EQ(alice.state.Nickname, u"Alice");
 }
 
+TEST_F(SetNicknameTest, NothingButBlanksIsEmpty) {
+  dialogs.typed = {u" \u00A0\u3000\t"};
+  alice.Nick(u"  \u2003");
+  EXPECT_EQ(dialogs.asked.size(), 1u);
+  EXPECT_EQ(alice.state.Nickname, u"Alice");
+  EXPECT_EQ(Saved(), u"missing");
+  EXPECT_EQ(alice.DialoguePane(), u"");
+}
+
+TEST_F(SetNicknameTest, BlanksAroundItStay) {
+  alice.Nick(u" Al ");
+  EXPECT_EQ(alice.state.Nickname, u" Al ");
+}
+
+TEST_F(SetNicknameTest, TheUserIsToldWhatTheWireCannotCarryAndMayChooseAnother) {
+  Connect();
+  dialogs.answers = {Answer::Yes, Answer::Yes};
+  dialogs.typed = {u"Жук\U0001F41E", u"Jose"};
+  alice.Nick(u"José");
+  ASSERT_EQ(dialogs.messages.size(), 2u);
+  EXPECT_EQ(dialogs.messages[0].text,
+            u"The nickname 'José' contains characters that cannot be sent. The remote computer "
+            u"will show it as 'Jos?'.\r\n\r\nDo you want to choose another nickname?");
+  EXPECT_EQ(dialogs.messages[0].title, u"Nickname definition");
+  EXPECT_EQ(dialogs.messages[0].icon, MessageIcon::Question);
+  EXPECT_EQ(dialogs.messages[0].buttons, MessageButtons::YesNo);
+  EXPECT_EQ(dialogs.messages[0].defaultAnswer, Answer::Yes);
+  EXPECT_NE(dialogs.messages[1].text.find(u"'" + std::u16string(4, u'?') + u"'"),
+            std::u16string::npos);
+  ASSERT_EQ(dialogs.asked.size(), 2u);
+  EXPECT_EQ(dialogs.asked[0].defaultText, u"Alice");
+  EXPECT_EQ(alice.state.Nickname, u"Jose");
+  network.RunUntilIdle();
+  EXPECT_EQ(bob.state.RemoteNickname, u"Jose");
+}
+
+TEST_F(SetNicknameTest, TheUserMayKeepItAllTheSame) {
+  alice.state.IsGreek = true;
+  dialogs.answers = {Answer::No};
+  alice.Nick(u"José");
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text,
+            u"Το ψευδώνυμο «José» περιέχει χαρακτήρες που δεν μπορούν να σταλούν. Ο "
+            u"απομακρυσμένος υπολογιστής θα το εμφανίζει ως «Jos?».\r\n\r\n"
+            u"Θέλετε να επιλέξετε άλλο ψευδώνυμο;");
+  EXPECT_EQ(dialogs.messages[0].title, u"Ορισμός ψευδωνύμου");
+  EXPECT_EQ(alice.state.Nickname, u"José");
+  EXPECT_EQ(Saved(), u"José");
+}
+
+TEST_F(SetNicknameTest, WhatTheWireCarriesIsNotAskedAbout) {
+  for (const std::u16string_view nickname : {u"Who?", u"Άννα-Μαΐα", u"«50 €»", u"A\u00A0b"}) {
+    alice.Nick(nickname);
+    EXPECT_EQ(alice.state.Nickname, nickname);
+  }
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
 TEST_F(SetNicknameTest, ThePeerIsToldWhileConnected) {
   Connect();
   alice.Nick(u"Ally");

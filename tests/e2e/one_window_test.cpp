@@ -56,6 +56,31 @@ TEST_F(OneWindow, FocusIsBackInTheCommandPaneAfterAMenu) {
   EXPECT_TRUE(LineReachesTheCommandPane()) << "left without a choice";
 }
 
+TEST_F(OneWindow, WhatIsHalfTypedStaysWhenTheNicknameIsChosenFromTheMenu) {
+  ASSERT_TRUE(LineReachesTheCommandPane());
+  copy.PressKeys("ctrl+b");
+  copy.Type("half a line");
+  for (int letters = 0; letters < 5; ++letters) copy.PressKeys("Left");
+  copy.PressKeys("alt+t");
+  copy.PressKeys("n");
+  ASSERT_TRUE(copy.TypeInto("Nickname definition", "Zoe"));
+  copy.PressKeys("Return");
+  ASSERT_TRUE(WaitUntil([&] { return copy.Settings().contains("Nickname=Zoe\r\n"); }));
+  copy.TypeLine("-");
+  EXPECT_TRUE(WaitUntil([&] { return copy.Dialogue() == "<Zoe>half a- line"; }))
+      << copy.Dialogue().toStdString();
+  EXPECT_TRUE(copy.Settings().contains("Bold=True"));
+}
+
+TEST_F(OneWindow, ARefusedCommandDoesNotJoinTheNextLine) {
+  ASSERT_TRUE(LineReachesTheCommandPane());
+  copy.TypeLine("/CLOSE");
+  ASSERT_TRUE(copy.AnswerBox("Command '/CLOSE'", "Return"));
+  copy.TypeLine("hello");
+  EXPECT_TRUE(WaitUntil([&] { return copy.Dialogue() == "<Ann1>hello"; }))
+      << copy.Dialogue().toStdString();
+}
+
 TEST_F(OneWindow, FindBarTakesTheKeysUntilEscape) {
   ASSERT_TRUE(LineReachesTheCommandPane());
   copy.PressKeys("ctrl+f");

@@ -56,6 +56,31 @@ TEST_F(ProgramMacrosTest, MacroThatHoldsACommandIsCarriedOut) {
   EXPECT_EQ(ann.program.State().Nickname, u"Zoe");
 }
 
+TEST_F(ProgramMacrosTest, MacroRunFromTheMenuLeavesWhatIsHalfTyped) {
+  Connect();
+  ann.platform.files.files[u"/macros/greet.rtf"] = "{\\rtf1{\\b Good morning}}";
+  fake::FakeMacroWindow& editor = ann.platform.macros;
+  editor.window.whileModal = [&] {
+    editor.lstMacroNames.Choose(0);
+    editor.cmdRun.Click();
+  };
+  fake::FakeRichTextBox& pane = ann.platform.window.rtbCommands;
+  ann.Enter(u"/italics");
+  pane.Type(u"half a line");
+  pane.Select(4, 0);
+  const TextStyle style = ann.program.State().Font;
+  const std::u16string draft = pane.Rtf();
+  ann.platform.window.mnuToolsEditMacros.Click();
+  EXPECT_EQ(ann.Dialogue(), u"<Άννα>Good morning");
+  EXPECT_EQ(pane.Rtf(), draft);
+  EXPECT_EQ(pane.SelStart(), 4u);
+  EXPECT_EQ(ann.program.State().Font, style);
+  EXPECT_TRUE(pane.HasFocus());
+  ann.Enter(u"!");
+  network.RunUntilIdle();
+  EXPECT_TRUE(bob.Dialogue().ends_with(u"<Άννα>half! a line"));
+}
+
 TEST_F(ProgramMacrosTest, CommandPaneIsSavedAsAMacro) {
   ann.platform.window.rtbCommands.Type(u"Good morning, $r");
   ann.platform.dialogs.typed = {u"greet"};

@@ -55,6 +55,7 @@ TEST_F(ProgramNicknamesTest, OneOfTheSettingsFileIsSentAsItIsAndSeenByBoth) {
 
 TEST_F(ProgramNicknamesTest, ATypedOneIsKeptAsItIsAndSeen) {
   Start(u"Eve");
+  eve->platform.dialogs.answers = {Answer::No};  // to choosing one that arrives as it is
   Say(*eve, u"/NICK \u2067eve\u200F");
   EXPECT_EQ(eve->program.State().Nickname, u"\u2067eve\u200F");
   EXPECT_EQ(eve->platform.window.lblLocalNickname.caption, u"\\u2067eve\\u200F");
