@@ -34,7 +34,7 @@ BinaryAddress Parse(const std::string& text) {
   return address;
 }
 
-// A request to the kernel for a new address.
+// The netlink request that adds an address.
 struct AddressRequest {
   nlmsghdr header{};
   ifaddrmsg message{};
