@@ -164,16 +164,14 @@ std::size_t QtRichTextBox::SelLength() const {
 }
 
 void QtRichTextBox::Select(std::size_t start, std::size_t length) {
-  {
-    const RichTextUpdate update(*this);
-    const std::size_t from = std::min(start, TextLength());
-    const std::size_t to = from + std::min(length, TextLength() - from);
-    QTextCursor cursor(widget_->document());
-    cursor.setPosition(DocumentPosition(from));
-    cursor.setPosition(DocumentPosition(to), QTextCursor::KeepAnchor);
-    SetCursor(cursor);
-    RaiseSelChange();
-  }
+  const RichTextUpdate update(*this);
+  const std::size_t from = std::min(start, TextLength());
+  const std::size_t to = from + std::min(length, TextLength() - from);
+  QTextCursor cursor(widget_->document());
+  cursor.setPosition(DocumentPosition(from));
+  cursor.setPosition(DocumentPosition(to), QTextCursor::KeepAnchor);
+  SetCursor(cursor);
+  RaiseSelChange();
 }
 
 SelectionFormat QtRichTextBox::SelFormat() const {

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "platform_qt/text/turn.h"
@@ -9,11 +10,11 @@
 namespace verlume::qt {
 namespace {
 
-// How much text a step inserts, in units: what takes about a millisecond is found by doubling and
-// halving between these.
+// How much text a step inserts, in units. It is doubled or halved between these limits, so that a
+// step takes about kStepTime.
 constexpr std::size_t kShortestStep = 512;
 constexpr std::size_t kLongestStep = 16 * 1024;
-constexpr qint64 kStepMicroseconds = 1000;
+constexpr std::chrono::milliseconds kStepTime{1};
 
 }  // namespace
 
@@ -54,7 +55,7 @@ void TextWriting::InsertStep() {
   widget_.document()->clearUndoRedoStacks();
   if (showsEnd) widget_.ShowEnd();
   // Text that is slow to lay out is inserted in smaller steps.
-  const bool isSlow = timer.nsecsElapsed() / 1000 > kStepMicroseconds;
+  const bool isSlow = std::chrono::nanoseconds(timer.nsecsElapsed()) > kStepTime;
   step_ = std::clamp(isSlow ? step_ / 2 : step_ * 2, kShortestStep, kLongestStep);
 }
 
