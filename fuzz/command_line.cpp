@@ -1,6 +1,5 @@
 // Any UTF-8 typed into the command pane and followed by Enter, first without a peer, then with one.
 // Carriage returns and other control characters in it are keys like any other.
-#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>

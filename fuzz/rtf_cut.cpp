@@ -1,6 +1,5 @@
 // Documents cut in two. The first two bytes say where, the next two how much of the document has
 // arrived by then; the others are the document, without the "{\rtf" at its start.
-#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>

@@ -4,8 +4,6 @@
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <cstdlib>
-#include <functional>
 #include <future>
 #include <iostream>
 

@@ -8,7 +8,6 @@
 
 #include <array>
 #include <cstring>
-#include <string_view>
 
 #include "network/descriptor.h"
 
