@@ -1,6 +1,6 @@
-// What a line costs from the socket to the pane: the processor time of the whole program, both
-// threads, less that of the peer. With and without the painting, which in a flood is done once for
-// many lines; and beside it what Qt's bare widget takes to show a line.
+// What a line costs from the socket to the pane: the processor time of the whole process without
+// that of the peer's thread. Measured with and without painting, since in a flood the window is
+// painted only once for many lines; for comparison, what Qt's bare widget takes to show a line.
 #include <arpa/inet.h>
 #include <benchmark/benchmark.h>
 #include <netinet/in.h>
@@ -20,7 +20,7 @@
 namespace verlume {
 namespace {
 
-constexpr std::int64_t kLines = 2'000;  // in the pane, and that arrive
+constexpr std::int64_t kLines = 2'000;  // in the pane at first, and then arriving
 
 double Seconds(clockid_t clock) {
   timespec time{};
@@ -28,7 +28,7 @@ double Seconds(clockid_t clock) {
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-// Sends a line whenever it is let, from a thread of its own.
+// Sends a line whenever it may, on a thread of its own.
 class Peer {
  public:
   explicit Peer(std::int32_t port) : thread_([this, port] { Run(port); }) {}

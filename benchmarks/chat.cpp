@@ -9,7 +9,7 @@
 namespace verlume {
 namespace {
 
-// The main window that was made last.
+// The main window that was created last.
 QWidget* LastWindow() {
   static int made = 0;
   for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -29,7 +29,7 @@ Chat::Chat(std::int64_t lines) : window_(LastWindow()) {
   platform_.View().frmMain.window.Show();
   for (std::int64_t line = 0; line < lines; ++line) {
     WriteLine();
-    // What is written between two turns of the event loop is put in at once only while it is short.
+    // Without events in between, the pane would insert only the first lines at once.
     if (line % 64 == 0) QApplication::processEvents();
   }
   QApplication::processEvents();

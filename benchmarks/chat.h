@@ -1,4 +1,4 @@
-// The window of a program in conversation, without a program around it.
+// The main window during a conversation, with only the objects that write lines.
 #pragma once
 
 #include <cstdint>
@@ -20,11 +20,11 @@ inline constexpr std::u16string_view kMessage =
 
 class Chat {
  public:
-  // So many lines are in the dialogue.
+  // The dialogue pane has this many lines.
   explicit Chat(std::int64_t lines);
 
   void WriteLine() { dialogue_.WriteDialogueLine(kMessage, Sender::Remote, CommandPane::Keep); }
-  // The dialogue pane alone.
+  // Resizes the dialogue pane only.
   void Resize(int width, int height);
   // Whether the window paints what changes.
   void SetPainted(bool isPainted);
@@ -33,7 +33,7 @@ class Chat {
   void CloseFindBar() { find_.cmdFindClose_Click(); }
   void FindNext() { find_.cmdFindNext_Click(); }
 
-  // Waits for a call on the port that it returns, and takes it.
+  // Listens on the port that it returns, and accepts the call that comes.
   std::int32_t Listen();
   std::int64_t Arrivals() const { return arrivals_; }
 
@@ -53,7 +53,8 @@ class Chat {
   std::int64_t arrivals_ = 0;
 };
 
-// Filled once for all benchmarks, and left to the end of the program: a long one takes its time.
+// Created once for all benchmarks and kept until the program ends, since filling a long pane takes
+// a while.
 Chat& ChatOf(std::int64_t lines);
 
 }  // namespace verlume

@@ -1,6 +1,6 @@
-// What a line of conversation costs in the dialogue pane, beside what it costs in Qt's bare widget;
-// and what a long dialogue costs: in memory, when its window changes size, when it is saved and
-// when it is loaded. Beside these, what a long macro costs.
+// What a line of conversation costs in the dialogue pane, and for comparison in Qt's bare widget;
+// what a long dialogue costs in memory, when resized, saved and loaded; and what a long macro
+// costs.
 #include <benchmark/benchmark.h>
 #include <unistd.h>
 
@@ -38,7 +38,7 @@ void MeasureMemory(benchmark::State& state, Pane& (*paneOf)(std::int64_t lines))
   }
   state.counters["bytes_per_line"] = bytes / static_cast<double>(lines);
 }
-// The first to ask for panes of that length, so that they are made meanwhile.
+// Must be the first benchmark that asks for panes of this length: it measures their creation.
 void BM_MemoryOfLines(benchmark::State& state) {
   MeasureMemory(state, ChatOf);
 }
@@ -54,7 +54,7 @@ void BM_WriteDialogueLine(benchmark::State& state) {
 void BM_BareWriteLine(benchmark::State& state) {
   WriteLines(state, BarePaneOf(state.range(0)));
 }
-// One after the other, so that a ratio holds though the machine's speed drifts.
+// The two alternate, so that the ratio is right even when the machine's speed changes.
 const bool kLinesAdded = [] {
   for (const std::int64_t lines : {std::int64_t{100}, std::int64_t{10'000}, kLong}) {
     for (auto* added : {benchmark::RegisterBenchmark("BM_WriteDialogueLine", BM_WriteDialogueLine),
@@ -83,7 +83,7 @@ void BM_BareResize(benchmark::State& state) {
 BENCHMARK(BM_ResizeDialogue)->Arg(kLong)->Iterations(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_BareResize)->Arg(kLong)->Iterations(20)->Unit(benchmark::kMillisecond);
 
-// What is between the pane and the file; the disk comes on top.
+// Without writing to the disk.
 void BM_SaveDialogue(benchmark::State& state) {
   RichTextBox& pane = ChatOf(state.range(0)).Pane();
   for (auto _ : state) benchmark::DoNotOptimize(pane.Rtf());
@@ -106,7 +106,7 @@ void BM_LoadDialogue(benchmark::State& state) {
 }
 BENCHMARK(BM_LoadDialogue)->Arg(kLong)->Iterations(5)->Unit(benchmark::kMillisecond);
 
-// A macro of so many bytes, which is one line: of words, or of one word without end.
+// A macro of one line, of `state.range(0)` bytes: many words, or a single long one.
 void BM_LoadMacro(benchmark::State& state, std::string_view word) {
   std::string macro = "{\\rtf1\\ansi ";
   while (macro.size() < static_cast<std::size_t>(state.range(0))) macro += word;

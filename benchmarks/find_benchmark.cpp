@@ -1,5 +1,5 @@
-// What finding words costs in a long dialogue, and what an open find bar costs the lines that are
-// written meanwhile.
+// What finding words in a long dialogue costs, and how much an open find bar slows down the writing
+// of lines.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -11,7 +11,7 @@
 namespace verlume {
 namespace {
 
-// Words that stand in every line, and words that stand in none.
+// Words that occur in every line, and words that occur in none.
 void BM_FindNext(benchmark::State& state) {
   Chat& chat = ChatOf(state.range(0));
   chat.OpenFindBar(state.range(1) ? u"ΚΑΛΗΜΕΡΑ" : u"καληνύχτα");

@@ -1,4 +1,4 @@
-// A pane that loads a file which is not on a disk.
+// A pane that loads a file from memory.
 #pragma once
 
 #include <memory>
@@ -8,7 +8,7 @@
 
 namespace verlume {
 
-// One file, whatever its path.
+// The same file under every path.
 class OneFile : public FileSystem {
  public:
   bool IsFolder(std::u16string_view) const noexcept override { return false; }
@@ -32,7 +32,7 @@ class LoadingPane {
  public:
   explicit LoadingPane(qt::Lines lines);
 
-  // How long the window did not answer at worst, in seconds.
+  // Returns the longest time for which the window handled no events, in seconds.
   double Load(const std::string& rtf);
 
  private:

@@ -1,5 +1,5 @@
-// How fast RTF is read and written: on a chat line as it comes from the other side, and on a long
-// dialogue as it is loaded from a file. MB/s are of RTF, counted in characters.
+// How fast RTF is read and written: a chat line as it arrives from the peer, and a long dialogue as
+// it is loaded from a file. MB/s count the characters of the RTF.
 #include <benchmark/benchmark.h>
 
 #include <string>

@@ -6,8 +6,8 @@
 
 namespace verlume {
 
-// Times the writing of lines, each in a turn of the event loop of its own; what the window does
-// between them (it paints) is not counted.
+// Measures the writing of lines. Events are handled after each line, which includes painting; that
+// time is not counted.
 template <class Pane>
 void WriteLines(benchmark::State& state, Pane& pane) {
   for (auto _ : state) {

@@ -1,6 +1,6 @@
-// What a peer's socket delivers. The first byte says how: bit 0 whether the program called or was
-// called, bit 1 whether the handshake has been made, bit 2 whether the pieces come slowly, the
-// others how long each piece is (0: all in one). The other bytes are the stream.
+// Bytes that arrive from a peer. The first byte says how: bit 0 whether the program called or was
+// called, bit 1 whether the handshake is done, bit 2 whether the pieces arrive slowly, the other
+// bits how long each piece is (0: all in one). The remaining bytes are the stream.
 #include <chrono>
 #include <cstdint>
 #include <optional>
@@ -30,7 +30,7 @@ struct Delivery {
   std::size_t length;
 };
 
-// As the socket does it; gives all that came through.
+// Delivers the stream as the socket does, and returns all that was delivered.
 std::string Deliver(std::string_view stream, const Delivery& how, FuzzedCopy& copy) {
   stream::ArrivalAssembler assembler;
   std::string delivered;

@@ -1,5 +1,4 @@
-// How a fuzz target says that something is wrong: a promise that does not hold ends the run at
-// once, as a crash would.
+// The check of a fuzz target: when a condition does not hold, the run ends at once like in a crash.
 #pragma once
 
 #include <cstdio>

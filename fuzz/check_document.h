@@ -1,4 +1,4 @@
-// What the headers of richtext/ promise of every document, whatever it was read from.
+// Checks what the headers of richtext/ promise of every document, whatever it was read from.
 #pragma once
 
 #include <algorithm>
@@ -30,7 +30,7 @@ inline void CheckSound(const richtext::Document& document) {
   }
 }
 
-// The same text in the same look, whatever fonts stand unused in the tables.
+// Whether text and formats are the same; unused fonts in the tables do not count.
 inline bool ShowTheSame(const richtext::Document& a, const richtext::Document& b) {
   const auto isSame = [&](richtext::Run x, richtext::Run y) {
     if (a.fonts[x.format.font] != b.fonts[y.format.font]) return false;

@@ -1,6 +1,5 @@
-// Any UTF-8 typed into the command pane and ended with Enter, first alone, then in a conversation.
+// Any UTF-8 typed into the command pane and followed by Enter, first without a peer, then with one.
 // Carriage returns and other control characters in it are keys like any other.
-#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -22,7 +21,7 @@ void CheckSent(const FuzzedCopy& copy) {
   }
 }
 
-// A line without commands and placeholders goes out as it stands in the pane.
+// A line without commands and placeholders is sent exactly as it is in the pane.
 bool IsPlainLine(std::u16string_view line) {
   return !line.empty() && !line.starts_with(u'/') && line.find(u'$') == line.npos;
 }

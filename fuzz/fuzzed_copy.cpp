@@ -11,7 +11,7 @@ namespace verlume::fuzz {
 namespace {
 
 constexpr std::int32_t kPort = 4000;
-// More dialogs than one input opens.
+// More dialogs than any input opens.
 constexpr std::size_t kDialogs = 200;
 
 }  // namespace

@@ -1,5 +1,5 @@
-// A whole program in memory, before a user who refuses whatever is asked, and beside a peer that
-// does as a fuzz target likes.
+// A whole program in memory. Its user dismisses every box, unless told otherwise; its peer does
+// what the fuzz target says.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +12,7 @@
 
 namespace verlume::fuzz {
 
-// Records its dialogues, has a folder for macros and shows one stamp.
+// It logs its dialogues, has a macros folder and shows one of the two stamps.
 inline constexpr std::string_view kSettings =
     "[General]\r\nNickname=Ann\r\nTimeStamp=False\r\nMacrosfolder=/macros/\r\n"
     "[Logging]\r\nLogfolder=/logs/\r\nLogdialogue=True\r\n";
@@ -21,21 +21,21 @@ enum class Role { Caller, Callee };
 
 class FuzzedCopy {
  public:
-  // The bytes of Verlume.ini, with which the program is started.
+  // Starts the program with these bytes as Verlume.ini.
   explicit FuzzedCopy(std::string_view settings = kSettings);
 
-  // Connects with the peer, in the given role, unless the program has ended. The handshake is the
-  // peer's affair.
+  // Connects with the peer, in the given role, unless the program has ended. Does not send the
+  // peer's part of the handshake.
   void Connect(Role role);
-  // Whatever the peer sends arrives by itself, and what follows from it happens.
+  // The peer sends a text, which arrives as one; handles all events that follow.
   void PeerSends(std::string_view bytes);
   // The peer's part of the handshake, under a nickname.
   void ShakeHands(Role role, std::string_view nickname);
 
-  // What the user answers next, for once, and the file chosen then.
+  // The user's next answer, given once, and the file chosen then.
   void AnswerNext(Answer answer, const std::u16string& path);
 
-  // A line that is not typed key by key, which costs the most of all.
+  // Puts the line into the pane at once: typing it key by key would be too slow.
   void Enter(std::u16string_view line) {
     platform.window.rtbCommands.SetText(line);
     Type(u"\r");
@@ -52,7 +52,7 @@ class FuzzedCopy {
   Program program{platform.platform};
 
  private:
-  // Answers the box that is open. None of them may tell of a failure of the program itself.
+  // Answers the open box. Fails the run if the box reports an internal error of the program.
   void AnswerBox();
   Answer AnswerTo(const Message& message);
   void CancelDialogs();

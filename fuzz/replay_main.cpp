@@ -1,5 +1,6 @@
-// Runs every file of the given folders, or the given files, through the fuzz target that this is
-// linked with: for compilers without libFuzzer. The name comes first, so that a crash has one.
+// For compilers without libFuzzer: runs the given files, or every file of the given folders,
+// through the fuzz target that this is linked with. Prints each name first, so that a crash can be
+// traced.
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>

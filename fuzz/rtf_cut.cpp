@@ -1,6 +1,5 @@
 // Documents cut in two. The first two bytes say where, the next two how much of the document has
-// come by then; the others are the document, behind its "{\rtf".
-#include <algorithm>
+// arrived by then; the others are the document, without the "{\rtf" at its start.
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,7 +17,7 @@ namespace {
 using richtext::CutDocument;
 using richtext::Document;
 
-// A character as it shows.
+// A character with its format.
 struct Shown {
   char16_t unit;
   richtext::CharFormat format;
@@ -31,7 +30,7 @@ void Append(const Document& document, std::vector<Shown>& shown) {
   std::size_t place = 0;
   for (const richtext::Run& run : document.runs) {
     Shown character{0, run.format, document.fonts[run.format.font]};
-    character.format.font = 0;  // the document's own number of it
+    character.format.font = 0;  // the index differs between documents; the font itself is compared
     for (const std::size_t end = place + run.length; place < end; ++place) {
       character.unit = document.text[place];
       shown.push_back(character);
@@ -39,7 +38,7 @@ void Append(const Document& document, std::vector<Shown>& shown) {
   }
 }
 
-// The end of a paragraph at the cut may be missing.
+// A line break at the cut may be missing.
 void CheckTextStays(const Document& before, const Document& behind, const std::u16string& whole) {
   const bool isWhole = before.text + behind.text == whole;
   Check(isWhole || before.text + u"\n" + behind.text == whole,
@@ -57,8 +56,8 @@ void CheckFormatsStay(const Document& before, const Document& behind, const Docu
   Check(parts == all, "before and behind a cut everything has the format it has in the whole");
 }
 
-// Of what has come of the document, everything stays; of what comes later, the text: a font that
-// is declared then may be the default one, and what was shown before is shown already.
+// The part that had arrived keeps text and formats. The part that arrives later keeps its text
+// only: it may declare the default font, too late for what has been shown by then.
 void CheckCut(std::string_view document, std::size_t length, std::size_t arrived) {
   const std::string_view part = document.substr(0, arrived);
   const CutDocument cut = richtext::CutRtf(part, length);
@@ -76,7 +75,7 @@ void CheckCut(std::string_view document, std::size_t length, std::size_t arrived
   CheckTextStays(before, richtext::ReadRtf(completed), richtext::ReadRtf(document).text);
 }
 
-// The scan for the end of a document and its reader agree on the end.
+// The scan for the end of a document and the reader find the same end.
 void CheckEnd(std::string_view document) {
   richtext::RtfParser<char, richtext::RtfState> parser(document.data(),
                                                        document.data() + document.size());

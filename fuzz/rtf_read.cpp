@@ -1,5 +1,5 @@
-// Any bytes, read as a file and as text from the wire, in which TCP may have joined documents; and
-// the cutting of what is too long.
+// Any bytes, read as a file and as text from the wire, where TCP may have joined documents; and cut
+// in two, as a document that is too long is.
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -17,7 +17,7 @@ bool IsOnlyLineEnds(std::u16string_view text) {
   return text.find_first_not_of(std::u16string_view(u"\r\n\0", 3)) == text.npos;
 }
 
-// Nothing is left out but line ends.
+// Only line ends are left out.
 void CheckDocuments(std::u16string_view text) {
   const char16_t* end = text.data();
   for (const auto& [source, document] : richtext::ReadRtfDocuments(text)) {
@@ -32,8 +32,8 @@ void CheckDocuments(std::u16string_view text) {
   Check(IsOnlyLineEnds({end, rest}), "what stands behind the documents is the last of them");
 }
 
-// Two documents, of which the second does not begin with more than full tables. What they show is
-// the affair of the target rtf_cut.
+// A cut gives two documents, which together are longer than the whole by full tables at most. What
+// they show is checked by the target rtf_cut.
 void CheckCut(std::string_view bytes) {
   constexpr std::size_t kLongestOpening = 512 * 1024;
   if (!richtext::LooksLikeRtf(bytes)) return;

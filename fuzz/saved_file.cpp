@@ -25,7 +25,7 @@ void UseAsMacro(FuzzedCopy& copy, std::string_view bytes) {
   copy.Enter(u"/m");
   if (copy.HasEnded()) return;
   fake::FakeMacroWindow& editor = copy.platform.macros;
-  // A macro may open the editor again: then the user leaves it at once.
+  // A macro may open the editor again; the user then closes it at once.
   editor.window.whileModal = [&editor, first = editor.window.timesShownModal] {
     if (editor.window.timesShownModal == first + 1) SaveAndRun(editor);
     editor.window.Unload();

@@ -1,5 +1,5 @@
-// Any bytes as Verlume.ini: the program starts with it, and writing a setting keeps what else
-// stands there. What is no text is kept whole beside it, and the file begun anew.
+// Any bytes as Verlume.ini: the program starts with it, and writing a setting keeps everything else
+// in it. A file that is not text is copied whole, and the program starts a new one.
 #include <algorithm>
 #include <cstdint>
 #include <string>
@@ -73,7 +73,7 @@ void CheckValues(const AppState& state) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace verlume;
-  if (size > kLargestSettingsFile) return 0;  // it is left alone, and nothing is written
+  if (size > kLargestSettingsFile) return 0;  // such a file is neither read nor written
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   fuzz::FuzzedCopy copy(bytes);
   fuzz::CheckValues(copy.program.State());

@@ -21,7 +21,7 @@ void CheckLog(std::string_view log) {
   }
 }
 
-// What a document shows of a text: every end of a line as one.
+// The text as a document shows it: every kind of line end becomes one line break.
 std::u16string Shown(std::u16string_view text) {
   std::u16string shown;
   for (std::size_t i = 0; i < text.size(); ++i) {

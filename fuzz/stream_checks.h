@@ -1,4 +1,4 @@
-// What stays true of the program, whatever a peer sends.
+// Checks what must hold of the program whatever a peer sends.
 #pragma once
 
 #include <string_view>
@@ -7,15 +7,14 @@
 
 namespace verlume::fuzz {
 
-// All that was put into the stream came out of it, but for ends of lines.
+// Everything that went into the stream came out of it, except line ends.
 void CheckNothingLost(std::string_view stream, std::string_view delivered);
 
-// No file was touched but the logs, an entry of a log is one line, and what the user was typing is
-// still there.
+// Only logs were written, each log entry is one line, and what the user was typing is still there.
 void CheckHarmless(const FuzzedCopy& copy, std::u16string_view typed);
 
-// The peer's nickname, put into a line by a placeholder, shows as it is. Types the rest of a line
-// and sends it.
+// Types the rest of a line with a placeholder for the peer's nickname and sends it: the nickname
+// must be shown unchanged.
 void CheckNicknameIsLiteral(FuzzedCopy& copy);
 
 }  // namespace verlume::fuzz

@@ -17,7 +17,8 @@ int main(int argc, char* argv[]) {
     status = platform.Run();
     isLookingUp = platform.IsLookingUp();
   }
-  // Nobody waits any more for a host whose name the system may go on looking up for half a minute.
+  // The system may take another half a minute to look up a host name: an orderly end would wait for
+  // it, although the answer is no longer needed.
   if (isLookingUp) std::_Exit(status);
   return status;
 }

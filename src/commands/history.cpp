@@ -1,6 +1,6 @@
 #include "commands/history.h"
 
-#include <algorithm>
+#include <utility>
 
 #include "platform/char_code.h"
 #include "platform/run_time_failure.h"

@@ -1,7 +1,6 @@
 #include "richtext/rtf_documents.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "richtext/characters.h"
 #include "richtext/rtf_parser.h"

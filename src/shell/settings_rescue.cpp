@@ -16,12 +16,14 @@ bool IsMissing(const RunTimeFailure& failure) {
          failure.number == FailureNumber::PathNotFound;
 }
 
-SettingsTrouble Inspect(const Settings& settings) {
+SettingsTrouble Inspect(const Settings& settings, const std::function<void()>& logFailure) {
   try {
     if (settings.Text().find(u'\0') != std::u16string::npos) return SettingsTrouble::Damaged;
     return AllValuesAreValid(settings) ? SettingsTrouble::None : SettingsTrouble::InvalidValue;
   } catch (const RunTimeFailure& failure) {
-    return IsMissing(failure) ? SettingsTrouble::None : SettingsTrouble::Unreadable;
+    if (IsMissing(failure)) return SettingsTrouble::None;
+    logFailure();
+    return SettingsTrouble::Unreadable;
   }
 }
 
@@ -62,8 +64,9 @@ std::u16string SettingsCopyPath(const AppState& state) {
   return state.IniFile + u".bad";
 }
 
-SettingsTrouble SecureSettingsFile(const AppState& state, FileSystem& files, Settings& settings) {
-  SettingsTrouble trouble = Inspect(settings);
+SettingsTrouble SecureSettingsFile(const AppState& state, FileSystem& files, Settings& settings,
+                                   const std::function<void()>& logFailure) {
+  SettingsTrouble trouble = Inspect(settings, logFailure);
   try {
     if (trouble == SettingsTrouble::InvalidValue && !MakeCopy(state, files, settings)) {
       return SettingsTrouble::None;
@@ -73,6 +76,7 @@ SettingsTrouble SecureSettingsFile(const AppState& state, FileSystem& files, Set
       files.ReplaceText(state.IniFile, u"");
     }
   } catch (const RunTimeFailure&) {
+    logFailure();
     trouble = SettingsTrouble::CopyFailed;
   }
   if (trouble == SettingsTrouble::Unreadable || trouble == SettingsTrouble::CopyFailed) {

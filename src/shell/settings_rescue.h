@@ -2,6 +2,8 @@
 // nothing the user wrote is lost.
 #pragma once
 
+#include <functional>
+
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "shell/app_state.h"
@@ -23,8 +25,10 @@ std::u16string SettingsCopyPath(const AppState& state);
 // Checks the settings file before anything is written to it, and copies it if it cannot be used.
 // AppState must already hold the default language and font, which a start with missing keys writes.
 // An existing copy is replaced, unless it is a copy of this file from before such starts changed
-// it. If the copy fails, `settings` writes nothing from then on. Never fails.
-SettingsTrouble SecureSettingsFile(const AppState& state, FileSystem& files, Settings& settings);
+// it. If the copy fails, `settings` writes nothing from then on. Never throws: it calls
+// `logFailure` while it handles the exception that made the file unreadable or the copy fail.
+SettingsTrouble SecureSettingsFile(const AppState& state, FileSystem& files, Settings& settings,
+                                   const std::function<void()>& logFailure);
 
 // The message that tells the user. Not for None.
 Message SettingsTroubleNote(SettingsTrouble trouble, const AppState& state);

@@ -9,7 +9,6 @@
 #include <deque>
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "platform/socket.h"
 #include "stream/time_point.h"

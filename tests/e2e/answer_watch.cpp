@@ -26,7 +26,7 @@ double Milliseconds(Clock::duration duration) {
   return std::chrono::duration<double, std::milli>(duration).count();
 }
 
-// For how long a thread has been running, and ready to run without running, in milliseconds.
+// How long a thread has run, and how long it was ready but had to wait for a processor, in ms.
 struct Times {
   double running = 0;
   double waiting = 0;
@@ -67,7 +67,7 @@ class Asker {
     return server.pid;
   }
 
-  // Waits a little for the answer.
+  // Waits a moment for the answer.
   bool IsAnswered(std::uint32_t number) {
     bool answered = false;
     while (

@@ -1,5 +1,5 @@
-// How long a program's window takes to answer, as a window manager finds out: it asks the window
-// whether it is alive, and the program's event loop answers.
+// Measures how long a program's window takes to answer, in the way of a window manager: it pings
+// the window, and the program's event loop answers.
 #pragma once
 
 #include <sys/types.h>
@@ -12,7 +12,7 @@ namespace verlume::e2e {
 
 class AnswerWatch {
  public:
-  // Asks from now on, again and again. `window` is the X server's number of it.
+  // Starts asking, repeatedly. `window` is the window's id in the X server.
   AnswerWatch(std::uint32_t window, pid_t program);
   ~AnswerWatch();
   AnswerWatch(const AnswerWatch&) = delete;
@@ -20,14 +20,13 @@ class AnswerWatch {
 
   struct Answers {
     int count = 0;
-    // The longest time between a question and its answer, in milliseconds; and the longest without
-    // the time in which the program, the X server or this watch were ready to run but the machine
-    // had no processor for them.
+    // The longest time between a question and its answer, in milliseconds; and the longest when the
+    // time is left out in which the program, the X server or this watch waited for a processor.
     double worst = 0;
     double worstOfItsOwn = 0;
   };
 
-  // Those so far; a question that is still open counts as answered now.
+  // Stops asking and returns the results; a question still open counts as answered now.
   Answers Stop();
 
  private:

@@ -1,4 +1,4 @@
-// Callers and peers that are gone from one moment to the next, under real boxes.
+// Callers and peers that vanish without notice while a box is open.
 #include <gtest/gtest.h>
 
 #include <QTcpSocket>
@@ -12,7 +12,7 @@ constexpr int kMarkerLength = 69;
 
 class Callers : public testing::Test {
  protected:
-  // Makes the copy wait, and calls it.
+  // Makes the copy wait for a call, and calls it.
   void Call(QTcpSocket& peer) {
     const QString port = NextPort();
     copy.TypeLine("/WAIT " + port);
@@ -41,7 +41,7 @@ class Callers : public testing::Test {
   Copy copy{"Ann", false};
 };
 
-TEST_F(Callers, OneThatIsKilledLeavesAQuestionThatCanBeAnswered) {
+TEST_F(Callers, AfterACallerIsKilledItsQuestionCanStillBeAnswered) {
   Copy bob("Bob", false);
   const QString port = NextPort();
   copy.TypeLine("/WAIT " + port);
@@ -54,7 +54,7 @@ TEST_F(Callers, OneThatIsKilledLeavesAQuestionThatCanBeAnswered) {
   EXPECT_EQ(copy.ExitCode(), 0);
 }
 
-TEST_F(Callers, OneThatCutTheConnectionIsAcceptedInVain) {
+TEST_F(Callers, AcceptingACallerThatHasLeftDoesNoHarm) {
   QTcpSocket peer;
   ASSERT_NO_FATAL_FAILURE(Call(peer));
   peer.abort();
@@ -63,7 +63,7 @@ TEST_F(Callers, OneThatCutTheConnectionIsAcceptedInVain) {
   EXPECT_EQ(copy.ExitCode(), 0);
 }
 
-TEST_F(Callers, APeerThatIsGoneUnderABoxLeavesTheUserFree) {
+TEST_F(Callers, AfterAPeerVanishesUnderABoxTheUserCanGoOn) {
   const struct {
     const char* command;
     const char* title;
@@ -85,7 +85,7 @@ TEST_F(Callers, APeerThatIsGoneUnderABoxLeavesTheUserFree) {
     EXPECT_TRUE(copy.HasWindow(title)) << "and the box stays";
     ASSERT_TRUE(copy.AnswerBox(title, leave));
     ASSERT_TRUE(WaitUntil([&] { return copy.IsActive(); }));
-    // What was refused or given up is still in the command pane.
+    // A command that was refused or cancelled stays in the command pane.
     copy.PressKeys("ctrl+a");
     copy.PressKeys("BackSpace");
   }

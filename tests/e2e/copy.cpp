@@ -10,11 +10,11 @@
 namespace verlume::e2e {
 namespace {
 
-// How far down the window the middle of each pane lies.
+// Where the middle of each pane is, as a part of the window's height.
 constexpr double kDialoguePane = 0.25;
 constexpr double kCommandPane = 0.58;
 
-// Runs a tool to its end and gives what it printed.
+// Runs a tool until it ends and returns its output.
 QString Run(const QString& tool, const QStringList& arguments) {
   QProcess process;
   process.start(tool, arguments);
@@ -29,7 +29,7 @@ QString ReadFile(const QString& path) {
 
 void PutOnClipboard(const QString& text) {
   QProcess xclip;
-  // Its child, which serves the clipboard, must not hold our pipes open.
+  // The child process that serves the clipboard must not keep our pipes open.
   xclip.setStandardOutputFile(QProcess::nullDevice());
   xclip.setStandardErrorFile(QProcess::nullDevice());
   xclip.start("xclip", {"-selection", "clipboard", "-i"});
@@ -101,7 +101,7 @@ void Copy::TypeLine(const QString& line) {
   if (std::all_of(line.begin(), line.end(), [](QChar c) { return c.unicode() < 0x80; })) {
     Type(line);
   } else {
-    // The X server here has no keys for it: it comes by the clipboard.
+    // The X server has no keys for these characters, so they are pasted.
     PutOnClipboard(line);
     PressKeys("ctrl+v");
   }

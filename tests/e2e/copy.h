@@ -1,5 +1,5 @@
-// One copy of the built program in a folder of its own, driven from outside: keys and clicks come
-// from the X server, what it shows is read through the clipboard and its files.
+// One running copy of the built program, in a folder of its own. Keys and clicks are sent through
+// the X server; what it shows is read from the clipboard and from its files.
 #pragma once
 
 #include <QProcess>
@@ -13,7 +13,7 @@ namespace verlume::e2e {
 // Calls `condition` until it holds; false when it does not within the limit.
 bool WaitUntil(const std::function<bool()>& condition, int limitMilliseconds = 20000);
 
-// A port of this machine that is free, most likely; another one each time.
+// A port of this machine that is most likely free; a different one each time.
 QString NextPort();
 
 class Copy {
@@ -33,33 +33,33 @@ class Copy {
 
   // Makes the window the active one.
   void Activate();
-  // The window manager's word for what the window is, as xprop prints it: "DEMANDS_ATTENTION".
+  // Whether the window has this state of the window manager, named as in "DEMANDS_ATTENTION".
   bool HasState(const QString& state) const;
   // Whether the active window is this copy's window of that title.
   bool IsActive(const QString& title = "Verlume") const;
 
   bool HasWindow(const QString& title) const { return !FindWindow(title).isEmpty(); }
 
-  // Presses a key in a box of that title until the box is gone; false when it never came or stays.
+  // Presses a key in the box of that title until it closes; false when it never opens or closes.
   bool AnswerBox(const QString& title, const QString& key);
 
-  // Waits for a window of that title and types into it, ASCII only; false when it never came.
+  // Waits for a window of that title and types into it, ASCII only; false when it never opens.
   bool TypeInto(const QString& title, const QString& text);
   bool Shows(const QString& title) const { return !FindWindow(title).isEmpty(); }
 
-  // Clicks in the window, at parts of its width and height.
+  // Clicks in the window, at a place given as parts of its width and height.
   void ClickAt(double across, double down);
 
   QString Dialogue();  // what the dialogue pane shows, read as a user would copy it
   QString Log(const QString& partner) const;
-  // The end of it, of a kilobyte or so: a log may be long.
+  // The last kilobyte or so of a log, which may be long.
   QString EndOfLog(const QString& partner) const;
   QString Settings() const;
   QString Macro(const QString& name) const;  // the rich text of its file
   const QString& Window() const { return window_; }
-  // Clicks on the close box that the window manager has put into the window's title bar.
+  // Clicks on the close button in the window's title bar.
   void ClickCloseBox();
-  void Kill();  // at once, without a word
+  void Kill();  // at once, without an orderly end
   bool HasEnded() { return program_.state() == QProcess::NotRunning; }
   qint64 Process() const { return program_.processId(); }
   bool WaitForEnd() { return program_.waitForFinished(10000); }

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 
 int main(int argc, char* argv[]) {
-  // Without it xdotool types and finds nothing but ASCII.
+  // Without this locale xdotool can type and find ASCII only.
   qputenv("LC_ALL", "C.UTF-8");
   QCoreApplication application(argc, argv);
   testing::InitGoogleTest(&argc, argv);

@@ -1,11 +1,9 @@
-// A peer that sends as fast as the loopback carries it, and whatever it likes. The window goes on
-// answering, nothing is lost, and memory grows by what is shown.
+// A peer that sends as fast as the loopback allows, and arbitrary content. The window must keep
+// answering, nothing may be lost, and memory may grow only with what is shown.
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <cstdlib>
-#include <functional>
 #include <future>
 #include <iostream>
 
@@ -20,18 +18,18 @@ using namespace std::string_literals;
 
 constexpr double kMebibyte = 1 << 20;
 
-// In the program as users run it a window answers within 100 ms. Sanitizers slow it down.
+// The window has to answer within 100 ms, in a build without sanitizers, which slow it down.
 #if defined(__SANITIZE_ADDRESS__)
 constexpr double kSlowness = 10;
 constexpr int kLimit = 120'000;
-constexpr std::size_t kShare = 32;  // of what is sent
+constexpr std::size_t kShare = 32;  // divides the sizes that are sent
 #else
 constexpr double kSlowness = 1;
 constexpr int kLimit = 240'000;
 constexpr std::size_t kShare = 1;
 #endif
 constexpr double kLongestAnswer = 100 * kSlowness;
-// A sanitizer holds freed memory back for a while.
+// The sanitizer keeps freed memory for a while.
 constexpr double kMostMemory = (kSlowness == 1 ? 48 : 512) * kMebibyte;
 constexpr double kMostMemoryPerCharacter = 4 * kSlowness;
 
@@ -51,7 +49,7 @@ std::string Line(int number) {
 const QString kTextOfLine =
     u"<%1> \u03BA\u03B1\u03BB\u03B7\u03BC\u03AD\u03C1\u03B1, hello there"_qs;
 
-// The numbers "<1>", "<2>"... that a text holds, as long as they follow each other.
+// How many of "<1>", "<2>"... the text has in order, up to the first that is missing.
 int CountInOrder(const QString& text) {
   int count = 0;
   qsizetype at = 0;
@@ -72,7 +70,7 @@ class Flood : public testing::Test {
     memoryBefore = ProcessValue("VmRSS");
   }
 
-  // Sends while the window is being watched, until all of it is shown.
+  // Sends the bytes and watches the window until all of them are shown.
   void SendAndWatch(const std::string& bytes) {
     const int last = --lastNumber_;
     AnswerWatch watch(copy.Window().toUInt(), static_cast<pid_t>(copy.Process()));
@@ -90,7 +88,7 @@ class Flood : public testing::Test {
     EXPECT_LT(answers.worstOfItsOwn, kLongestAnswer);
   }
 
-  // Whether the program did and wanted next to nothing for a while.
+  // Whether the main thread does next to nothing for a while.
   bool IsAtRest() {
     const double before = BusyTime();
     QElapsedTimer timer;
@@ -108,7 +106,7 @@ class Flood : public testing::Test {
     }
     return 0;
   }
-  // For which the main thread ran or was ready to, in milliseconds.
+  // How long the main thread has run or been ready to run, in milliseconds.
   double BusyTime() const {
     QFile file(QString("/proc/%1/task/%1/schedstat").arg(copy.Process()));
     if (!file.open(QIODevice::ReadOnly)) return 0;
@@ -121,7 +119,7 @@ class Flood : public testing::Test {
   double memoryBefore = 0;
 
  private:
-  int lastNumber_ = 0;  // of the line behind what was sent last
+  int lastNumber_ = 0;  // of the last line sent, which marks the end
 };
 
 TEST_F(Flood, LinesAreShownOnceAndInOrder) {
@@ -134,8 +132,8 @@ TEST_F(Flood, LinesAreShownOnceAndInOrder) {
   EXPECT_EQ(CountInOrder(copy.Dialogue()), lines);
 }
 
-// What Eve has sent, without the tags before its lines: of the pane's text, or of the log, where
-// other lines are too.
+// What Eve has sent, without the tags of the lines. `text` is the pane's or the log's, which has
+// other lines too.
 QString LinesOfEve(const QString& text) {
   const QString tag = "<Eve>";
   QString lines;
@@ -177,7 +175,7 @@ TEST_F(Flood, AnEndlessPlainLine) {
   EXPECT_LT(Growth(), kMostMemory + kMostMemoryPerCharacter * static_cast<double>(size));
 }
 
-// One line each, of which the parts of a text engine that are slow get as much as there can be.
+// One line each, full of what is slowest to read or to lay out.
 std::vector<std::pair<const char*, std::string>> CostlyLines() {
   constexpr std::size_t kSize = (3 << 20) / kShare;
   std::string fonts;
@@ -225,7 +223,7 @@ std::vector<std::pair<const char*, std::string>> CostlyLines() {
   };
 }
 
-TEST_F(Flood, CostlyLinesAreShownByAndBy) {
+TEST_F(Flood, TheWindowAnswersWhileCostlyLinesAreInserted) {
   for (const auto& [name, content] : CostlyLines()) {
     SCOPED_TRACE(name);
     std::cout << name << ": ";

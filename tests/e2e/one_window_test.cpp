@@ -7,14 +7,14 @@ namespace {
 
 class OneWindow : public testing::Test {
  protected:
-  // Whether a line typed now goes into the command pane: a command in it is carried out.
+  // Whether typed keys reach the command pane: types a command and checks that it is carried out.
   bool LineReachesTheCommandPane() {
     const QString nickname = QString("Ann%1").arg(++lines_);
     copy.TypeLine("/NICK " + nickname);
     return WaitUntil([&] { return copy.Settings().contains("Nickname=" + nickname + "\r\n"); },
                      10000);
   }
-  // Puts the focus elsewhere and chooses a menu entry by its letters.
+  // Moves the focus elsewhere and then chooses a menu entry by its mnemonics.
   void ChooseFromElsewhere(const QString& menu, const QString& entry) {
     copy.PressKeys("shift+Tab");
     copy.PressKeys(menu);

@@ -1,5 +1,5 @@
-// The other side of a conversation that is no copy of the program: it shakes hands and then sends
-// whatever bytes it likes, as fast as the connection takes them.
+// A peer that is not a copy of the program: it does the handshake and then sends arbitrary bytes as
+// fast as the connection accepts them.
 #pragma once
 
 #include <QString>
@@ -17,10 +17,10 @@ class RawPeer {
   RawPeer& operator=(const RawPeer&) = delete;
 
   const QString& Port() const { return port_; }
-  // Takes the call that comes, within some seconds, and names itself; false when none came.
+  // Accepts a call and does the handshake under that nickname; false when none comes in time.
   bool TakeCall(std::string_view nickname);
-  // Sends all of it, however long that takes; false when the connection broke, or stood still for
-  // half a minute.
+  // Sends all bytes, however long that takes; false when the connection breaks or accepts nothing
+  // for half a minute.
   bool Send(std::string_view bytes);
   void Close();
 

@@ -59,7 +59,8 @@ TEST_F(TwoCopies, ExitCommandEndsTheProgramAfterItsQuestion) {
 TEST_F(TwoCopies, LineFlagsTheTaskBarEntryAndLeavesTheActiveWindowAlone) {
   Connect();
   for (const char* line : {"first", "second"}) {
-    // A program learns a moment later that the user has left it; a line within it flags nothing.
+    // A program learns only a moment later that its window is no longer active; a line that arrives
+    // before then flags nothing.
     EXPECT_TRUE(WaitUntil([&] {
       bob.TypeLine(line);
       return WaitUntil([&] { return ann.HasState("DEMANDS_ATTENTION"); }, 500);
@@ -72,8 +73,8 @@ TEST_F(TwoCopies, LineFlagsTheTaskBarEntryAndLeavesTheActiveWindowAlone) {
 }
 
 TEST_F(TwoCopies, CallLeavesTheActiveWindowAlone) {
-  // A program learns a moment later that the user has left it, and a call within that moment gets
-  // the keyboard: each attempt calls later than the one before.
+  // A program learns only a moment later that its window is no longer active, and a call before
+  // then takes the keyboard. So each attempt calls later than the one before.
   int looks = 0;
   EXPECT_TRUE(WaitUntil([&] {
     const QString port = NextPort();
@@ -108,7 +109,7 @@ TEST_F(TwoCopies, LineUnderAnActiveAboutBoxLeavesItTheKeyboard) {
 TEST(OneCopy, GoesAboveOthersAndBackWithoutLeavingTheScreen) {
   Copy copy("Ann", false);
   QProcess watch;
-  // Line by line, also into a pipe.
+  // Printed line by line, also into a pipe.
   watch.start("stdbuf", {"-oL", "xprop", "-spy", "-id", copy.Window(), "WM_STATE"});
   QString changes;
   const auto watched = [&] {
@@ -127,7 +128,7 @@ TEST(OneCopy, GoesAboveOthersAndBackWithoutLeavingTheScreen) {
   watch.waitForFinished(5000);
 }
 
-TEST(OneCopy, CopyrightOpensTheAboutBoxWhichSaysThatThereIsNoSystemInfo) {
+TEST(OneCopy, CopyrightCommandOpensTheAboutBoxWithoutSystemInfo) {
   Copy copy("Ann", false);
   copy.ClickAt(0.8, 0.88);
   ASSERT_TRUE(WaitUntil([&] { return copy.IsActive("About"); }));

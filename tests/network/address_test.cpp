@@ -1,4 +1,4 @@
-// Names and addresses that a call may go to.
+// The names and addresses that can be called.
 #include <gtest/gtest.h>
 
 #include "network/two_machines.h"
@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 class AddressTest : public testing::Test {
  protected:
-  // Calls, and expects both status lines to tell the addresses in use.
+  // Calls, and expects both status lines to show the addresses in use.
   void ExpectCall(const QString& host, const QString& bobs, const QString& alices) {
     ASSERT_TRUE(conversation_.Connect(host)) << host.toStdString();
     EXPECT_EQ(Alice().Status(),
@@ -41,11 +41,11 @@ TEST_F(AddressTest, AnIPv6AddressMayStandInBrackets) {
   ExpectCall("[fd77::2]", "fd77::2", "fd77::1");
 }
 
-TEST_F(AddressTest, AnAddressOfTheLinkCanBeCalledWithItsDevice) {
+TEST_F(AddressTest, ALinkLocalAddressCanBeCalledWithItsDevice) {
   ExpectCall("fe80::77:2%cable", "fe80::77:2%cable", "fe80::77:1%cable");
 }
 
-TEST_F(AddressTest, ANameOfAnIPv6AddressCanBeCalled) {
+TEST_F(AddressTest, ANameWithAnIPv6AddressCanBeCalled) {
   ExpectCall("bob-by-ipv6", "fd77::2", "fd77::1");
 }
 
@@ -53,11 +53,11 @@ TEST_F(AddressTest, AnIPv4AddressCanBeCalled) {
   ExpectCall("10.77.0.2", "10.77.0.2", "10.77.0.1");
 }
 
-TEST_F(AddressTest, ANameOfAnIPv4AddressCanBeCalled) {
+TEST_F(AddressTest, ANameWithAnIPv4AddressCanBeCalled) {
   ExpectCall("bob-by-ipv4", "10.77.0.2", "10.77.0.1");
 }
 
-TEST_F(AddressTest, ANameOfBothCanBeCalled) {
+TEST_F(AddressTest, ANameWithBothKindsOfAddressCanBeCalled) {
   ASSERT_TRUE(conversation_.Connect("bob"));
   EXPECT_TRUE(Alice().Status().contains("fd77::2") || Alice().Status().contains("10.77.0.2"))
       << Alice().Status().toStdString();

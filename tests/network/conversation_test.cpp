@@ -1,4 +1,4 @@
-// Whole conversations over links that misbehave: every message is shown once, in order, by itself.
+// Whole conversations over bad links: every message is shown once, in order, and on its own.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 
 constexpr int kLimit = 100'000;  // ms
 
-// Two hundred milliseconds either way, give or take fifty, and one frame in twenty lost.
+// A delay of 200 ms each way, give or take 50, and one frame in twenty lost.
 constexpr LinkQuality kBadLink = {.delay = 200ms, .jitter = 50ms, .loss = 0.05};
 
 class ConversationTest : public testing::Test {
@@ -32,7 +32,7 @@ class ConversationTest : public testing::Test {
     time_.start();
   }
 
-  // One after the other types all it has to say: who is busy typing reads late.
+  // Each types all of its messages without a pause, so that it reads late what arrives meanwhile.
   void Start(const Play& play) {
     Play each = play;
     for (Conversation& conversation : conversations_) {
@@ -66,19 +66,19 @@ class ConversationTest : public testing::Test {
   QElapsedTimer time_;
 };
 
-TEST_F(ConversationTest, EveryMessageArrivesByItselfOverAPerfectLink) {
+TEST_F(ConversationTest, EveryMessageArrivesOnItsOwnOverAPerfectLink) {
   ASSERT_NO_FATAL_FAILURE(Connect({}, 1));
   ASSERT_NO_FATAL_FAILURE(Start({.steps = 200}));
   ExpectAllShown();
 }
 
-TEST_F(ConversationTest, EveryMessageArrivesByItselfOverASlowAndLossyLink) {
+TEST_F(ConversationTest, EveryMessageArrivesOnItsOwnOverASlowAndLossyLink) {
   ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 4));
   ASSERT_NO_FATAL_FAILURE(Start({.steps = 50}));
   ExpectAllShown();
 }
 
-TEST_F(ConversationTest, EveryMessageArrivesByItselfOverATelephoneLine) {
+TEST_F(ConversationTest, EveryMessageArrivesOnItsOwnOverATelephoneLine) {
   LinkQuality line = kBadLink;
   line.bitsPerSecond = 56'000;
   line.queueLimit = 32 << 10;
@@ -87,7 +87,7 @@ TEST_F(ConversationTest, EveryMessageArrivesByItselfOverATelephoneLine) {
   ExpectAllShown();
 }
 
-TEST_F(ConversationTest, EveryMessageArrivesByItselfWhenTheLinkStallsForAWhile) {
+TEST_F(ConversationTest, EveryMessageArrivesOnItsOwnWhenTheLinkStallsForAWhile) {
   ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 2));
   ASSERT_NO_FATAL_FAILURE(Start({.steps = 40}));
   const auto hasBegun = [this] {
@@ -98,19 +98,19 @@ TEST_F(ConversationTest, EveryMessageArrivesByItselfWhenTheLinkStallsForAWhile) 
   ExpectAllShown();
 }
 
-TEST_F(ConversationTest, LinesThatWaitWhenTheUserClosesStillArrive) {
+TEST_F(ConversationTest, WaitingLinesStillArriveWhenTheUserCloses) {
   ASSERT_NO_FATAL_FAILURE(Connect({.delay = 50ms}, 1));
   PeerProcess& alice = conversations_.front().Alice();
   PeerProcess& bob = conversations_.front().Bob();
   for (const char* line : {"one", "two", "three", "/CLOSE"}) alice.Enter(line);
   ASSERT_TRUE(WaitUntil([&] { return bob.Status().endsWith(". Disconnected."); }, kLimit));
-  // What the pane shows is told when it has come to rest.
+  // The lines are reported a moment later, once the pane no longer changes.
   WaitUntil([&] { return bob.LinesOfOthers().size() == 3; }, kLimit);
   EXPECT_EQ(bob.LinesOfOthers(), (QStringList{"<Afirst>one", "<Afirst>two", "<Afirst>three"}));
   EXPECT_FALSE(alice.StatusToolTip().contains("not delivered"));
 }
 
-TEST_F(ConversationTest, LinesThatCannotBeSentInTimeWhenTheUserClosesAreTold) {
+TEST_F(ConversationTest, LinesThatCannotBeSentInTimeWhenTheUserClosesAreReported) {
   ASSERT_NO_FATAL_FAILURE(Connect({.delay = 500ms}, 1));
   PeerProcess& alice = conversations_.front().Alice();
   for (int i = 0; i < 5; ++i) alice.Enter(QString("line %1").arg(i));

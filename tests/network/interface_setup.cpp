@@ -8,7 +8,6 @@
 
 #include <array>
 #include <cstring>
-#include <string_view>
 
 #include "network/descriptor.h"
 
@@ -34,7 +33,7 @@ BinaryAddress Parse(const std::string& text) {
   return address;
 }
 
-// A request to the kernel for a new address.
+// The netlink request that adds an address.
 struct AddressRequest {
   nlmsghdr header{};
   ifaddrmsg message{};

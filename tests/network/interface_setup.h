@@ -1,4 +1,5 @@
-// The devices of the network that the calling thread is in. Everything throws std::system_error.
+// Configures the network devices in the namespace of the calling thread. All functions throw
+// std::system_error.
 #pragma once
 
 #include <string>
@@ -6,7 +7,8 @@
 namespace verlume::network {
 
 void SetUp(const std::string& device);
-// An IPv4 or IPv6 address, in use at once: nobody else can have it on a link of two.
+// Adds an IPv4 or IPv6 address without duplicate detection: on a link of two machines nobody else
+// has it.
 void AddAddress(const std::string& device, const std::string& address, int prefixLength);
 
 }  // namespace verlume::network

@@ -12,7 +12,7 @@ double LinkModel::Random() {
 
 void LinkModel::Add(Frame frame, Time now) {
   ++added_;
-  // Always both, so that the fate of a frame depends on no other frame's.
+  // Both numbers are always drawn, so that what happens to one frame does not change the next ones.
   const bool isLost = Random() < quality_.loss;
   const double offset = 2 * Random() - 1;
   const auto jitter = static_cast<Time::rep>(offset * static_cast<double>(quality_.jitter.count()));

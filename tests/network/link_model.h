@@ -1,4 +1,4 @@
-// One direction of a link that misbehaves: which frames it loses, and when it delivers the others.
+// One direction of a bad link: decides which frames are lost, and when the others are delivered.
 // It has neither clock nor thread: time is passed in. The same seed and the same frames at the same
 // times give the same deliveries.
 #pragma once
@@ -12,15 +12,15 @@
 
 namespace verlume::network {
 
-using Time = std::chrono::microseconds;  // since any moment
+using Time = std::chrono::microseconds;  // since an arbitrary moment
 using Frame = std::vector<std::uint8_t>;
 
 struct LinkQuality {
   Time delay{0};
-  Time jitter{0};                  // each frame's delay is off by that much at most, either way
+  Time jitter{0};                  // each frame's delay varies by at most this much, either way
   double loss = 0;                 // from 0 to 1
   std::int64_t bitsPerSecond = 0;  // 0 is no limit
-  std::int64_t queueLimit = 0;     // bytes that may wait for a line of limited speed
+  std::int64_t queueLimit = 0;     // bytes that may wait when the speed is limited
 };
 
 class LinkModel {
@@ -29,14 +29,14 @@ class LinkModel {
 
   // A frame enters the link. It is lost, or delivered later; frames may overtake each other.
   void Add(Frame frame, Time now);
-  // The frames that have come through by now, in the order in which they did.
+  // Returns the frames that are due by now, in the order of their delivery.
   std::vector<Frame> TakeDue(Time now);
-  // When TakeDue has the next frame; nothing while none is under way.
+  // When the next frame is due; nothing while none is under way.
   std::optional<Time> NextDelivery() const;
 
-  // Holds every delivery back until then.
+  // Delays every delivery until then.
   void StallUntil(Time until) { stalledUntil_ = until; }
-  // Loses what is under way and all that will come.
+  // Loses the frames under way and all later ones.
   void Cut();
 
   std::int64_t Added() const { return added_; }
@@ -44,7 +44,7 @@ class LinkModel {
 
  private:
   double Random();  // from 0 to 1
-  // When the frame has left its sender; nothing when it finds no room to wait.
+  // When the frame has been sent; nothing when the queue has no room for it.
   std::optional<Time> TimeSent(std::size_t bytes, Time now);
 
   LinkQuality quality_;

@@ -16,14 +16,14 @@ Frame FrameOf(std::uint8_t name, std::size_t size = 1) {
   return Frame(size, name);
 }
 
-// Frames by the first byte of each.
+// The frames as a string of their first bytes.
 std::vector<int> Names(const std::vector<Frame>& frames) {
   std::vector<int> names;
   for (const Frame& frame : frames) names.push_back(frame.front());
   return names;
 }
 
-// When each of `count` frames, one a millisecond, comes through; those that are lost do not.
+// Sends `count` frames, one per millisecond; returns the times of those that are delivered.
 std::map<int, Time> Deliveries(LinkModel link, int count) {
   for (int i = 0; i < count; ++i) link.Add(FrameOf(static_cast<std::uint8_t>(i)), i * 1ms);
   std::map<int, Time> deliveries;
@@ -72,7 +72,7 @@ TEST(LinkModel, JitterStaysWithinItsBoundsAndChangesTheOrder) {
   EXPECT_TRUE(someOvertake);
 }
 
-TEST(LinkModel, LosesAboutWhatItIsToldToLose) {
+TEST(LinkModel, LosesAboutTheShareItIsGiven) {
   LinkModel link({.loss = 0.05}, 3);
   for (int i = 0; i < 10'000; ++i) link.Add(FrameOf(0), 0ms);
   EXPECT_EQ(link.Added(), 10'000);
@@ -81,7 +81,7 @@ TEST(LinkModel, LosesAboutWhatItIsToldToLose) {
   EXPECT_EQ(static_cast<std::int64_t>(link.TakeDue(0ms).size()), link.Added() - link.Lost());
 }
 
-TEST(LinkModel, TheSameSeedDecidesTheSameAndAnotherOneOtherwise) {
+TEST(LinkModel, TheSameSeedGivesTheSameDeliveriesAndAnotherSeedOthers) {
   const LinkQuality quality = {.delay = 200ms, .jitter = 50ms, .loss = 0.2};
   EXPECT_EQ(Deliveries({quality, 11}, 200), Deliveries({quality, 11}, 200));
   EXPECT_NE(Deliveries({quality, 11}, 200), Deliveries({quality, 12}, 200));
@@ -100,7 +100,7 @@ TEST(LinkModel, ALineOfLimitedSpeedSendsOneFrameAfterTheOther) {
   EXPECT_EQ(link.NextDelivery(), 1020ms) << "a line that rested owes nothing";
 }
 
-TEST(LinkModel, WhatFindsNoRoomToWaitIsLost) {
+TEST(LinkModel, FramesThatDoNotFitIntoTheQueueAreLost) {
   LinkModel link({.bitsPerSecond = 56'000, .queueLimit = 3000}, 1);
   for (int i = 0; i < 4; ++i) link.Add(FrameOf(static_cast<std::uint8_t>(i), 1000), 0ms);
   EXPECT_EQ(link.Lost(), 1);
@@ -109,7 +109,7 @@ TEST(LinkModel, WhatFindsNoRoomToWaitIsLost) {
   EXPECT_THAT(Names(link.TakeDue(1s)), ElementsAre(0, 1, 2, 4));
 }
 
-TEST(LinkModel, AStallHoldsEverythingBackAndLosesNothing) {
+TEST(LinkModel, AStallDelaysEverythingAndLosesNothing) {
   LinkModel link({.delay = 10ms}, 1);
   link.Add(FrameOf(1), 0ms);
   link.StallUntil(5s);
@@ -121,7 +121,7 @@ TEST(LinkModel, AStallHoldsEverythingBackAndLosesNothing) {
   EXPECT_EQ(link.NextDelivery(), 6010ms);
 }
 
-TEST(LinkModel, ACutLosesWhatIsUnderWayAndAllThatComes) {
+TEST(LinkModel, ACutLosesTheFramesUnderWayAndAllLaterOnes) {
   LinkModel link({.delay = 10ms}, 1);
   link.Add(FrameOf(1), 0ms);
   link.Cut();

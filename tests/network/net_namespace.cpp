@@ -15,7 +15,7 @@
 namespace verlume::network {
 namespace {
 
-// A thread of its own: which network a thread sees is changed for good.
+// On a thread of its own, since the namespace of a thread cannot be changed back.
 void RunOnThread(const std::function<void()>& action) {
   std::exception_ptr failure;
   std::thread([&] {
@@ -28,8 +28,8 @@ void RunOnThread(const std::function<void()>& action) {
   if (failure) std::rethrow_exception(failure);
 }
 
-// What most machines use, so that the times which tests take do not depend on this one's choice.
-// Where it may not be chosen, the machine's own does.
+// The congestion control that most machines use, so that the tests take the same time everywhere.
+// Where it cannot be chosen, the machine's default is good enough.
 void ChooseUsualCongestionControl() {
   std::ofstream("/proc/sys/net/ipv4/tcp_congestion_control") << "cubic";
 }

@@ -1,4 +1,4 @@
-// A network of its own, in which only what is put there can be reached. Needs root.
+// A network namespace: only what is put into it can be reached from inside. Needs root.
 #pragma once
 
 #include <functional>
@@ -12,9 +12,9 @@ class NetNamespace {
   // With the loopback device up. Throws std::system_error.
   NetNamespace();
 
-  // Runs the action on a thread inside, to its end; throws what it throws.
+  // Runs the action on a thread inside, and waits for it; throws what it throws.
   void Run(const std::function<void()>& action) const;
-  // Takes the calling process there, before it becomes another program; false on failure.
+  // Moves the calling process inside, for use between fork and exec; false on failure.
   bool Enter() const;
 
  private:

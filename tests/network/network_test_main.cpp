@@ -1,4 +1,4 @@
-// Runs the tests that make networks of their own.
+// Runs the tests that create network namespaces.
 #include <gtest/gtest.h>
 #include <sched.h>
 
@@ -10,9 +10,8 @@
 
 namespace {
 
-// The links and the programs on them go before whatever else the machine does: what is tested is
-// what a network does to a conversation, not what a processor does that is busy elsewhere. Where
-// the machine does not allow it, they compete.
+// Gives the links and the programs on them priority over everything else on the machine: a busy
+// processor must not look like a bad link. Where the machine does not allow it, they run as usual.
 void GoBeforeOthers() {
   sched_param parameters{};
   parameters.sched_priority = sched_get_priority_min(SCHED_RR);

@@ -15,7 +15,7 @@ namespace verlume::network {
 namespace {
 
 constexpr int kLookEvery = 20;  // ms
-constexpr int kTicksToRest = 4;
+constexpr int kTicksUntilStable = 4;
 
 QPlainTextEdit* FindPane(const char* name) {
   for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -75,7 +75,7 @@ void Peer::Obey(const QString& order) {
   hands_.start(0);
 }
 
-// The program lets events through while it handles a line; a user's next key waits for its end.
+// The program handles events while it works on a line, but the next key must wait until it is done.
 void Peer::DoNext() {
   if (isBusy_) return;
   if (work_.empty()) return hands_.stop();
@@ -128,16 +128,16 @@ void Peer::Look() {
   ReportChange("lamp", QString::number(frmMain.shpStatus.FillColor()), lamp_);
   ReportChange("tip", qt::ToQt(frmMain.lblStatus.ToolTip()), toolTip_);
   ReportChange("waiting", qt::ToQt(frmMain.lblWaiting.Caption()), waiting_);
-  // Last: whoever hears of it has heard of the others, but of the lines.
+  // Last, so that a reader of the new status knows all the others too, except the lines.
   ReportChange("status", qt::ToQt(frmMain.lblStatus.Caption()), status_);
 }
 
-// A long line comes into the pane piece by piece, so lines are read when the pane rests.
+// A long line is inserted piece by piece, so lines are reported once the pane no longer changes.
 void Peer::ReportLines() {
   const RichTextBox& pane = platform_.frmMain.rtbData;
   const std::size_t length = pane.TextLength();
-  ticksAtRest_ = length == std::exchange(length_, length) ? ticksAtRest_ + 1 : 0;
-  if (ticksAtRest_ < kTicksToRest || length == lengthReported_) return;
+  ticksUnchanged_ = length == std::exchange(length_, length) ? ticksUnchanged_ + 1 : 0;
+  if (ticksUnchanged_ < kTicksUntilStable || length == lengthReported_) return;
   lengthReported_ = length;
   const QStringList lines = qt::ToQt(pane.Text()).split('\n');
   for (const QString& line : lines.mid(linesReported_)) Report("line", line);

@@ -1,5 +1,5 @@
-// The program with a user inside who does what standard input says and reports what the window
-// shows, a line each.
+// The program with a simulated user, who carries out orders from standard input and reports on
+// standard output what the window shows, one line each.
 //
 // Orders: "enter TEXT" types a line and presses Enter; "play SIDE SEED STEPS LONGEST LONG_LINES"
 // plays a script (script.h) as fast as it can; the end of the input ends the program. A call is
@@ -37,7 +37,7 @@ class Peer : public QObject {
   void ReportLines();
   void AnswerBox();
   void Report(const char* what, const QString& text);
-  // Reports a text that is no longer what it was.
+  // Reports the text if it differs from `last`.
   void ReportChange(const char* what, const QString& text, QString& last);
 
   Platform& platform_;
@@ -49,7 +49,7 @@ class Peer : public QObject {
   QTimer hands_;
   QTimer look_;
   std::size_t length_ = 0;  // of the dialogue pane's text
-  int ticksAtRest_ = 0;
+  int ticksUnchanged_ = 0;
   std::size_t lengthReported_ = 0;
   qsizetype linesReported_ = 0;
   QString status_;

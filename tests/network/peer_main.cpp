@@ -9,9 +9,9 @@
 
 namespace {
 
-// A thread inherits what its process may do: the one that reads and sends keeps going before
-// others, but a window is as slow as it is under a user's eyes, and real-time work of that size
-// would make the system hold up both.
+// Threads inherit their priority: the network thread keeps the one it was given, but the window
+// must be as slow as for a user; at real-time priority its work would hold up the network thread as
+// well.
 void LetOthersGoFirst() {
   const sched_param none{};
   sched_setscheduler(0, SCHED_OTHER, &none);

@@ -27,10 +27,10 @@ QString ToQt(std::u16string_view text) {
   return QString(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
 }
 
-// Where nobody else's work keeps a write waiting: a program that waits for a disk reads nothing.
+// A folder in memory: a program that waits for a busy disk would read nothing meanwhile.
 constexpr auto kFoldersInMemory = "/mnt";
 
-// A table of names of its own for the calling process.
+// Gives the calling process a hosts file of its own.
 bool UseHosts(const char* file) {
   return ::unshare(CLONE_NEWNS) == 0 && ::mount(file, "/etc/hosts", nullptr, MS_BIND, nullptr) == 0;
 }

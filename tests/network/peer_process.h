@@ -12,18 +12,18 @@
 
 namespace verlume::network {
 
-// Lets events through until the condition holds; false when it does not within the limit.
+// Handles events until the condition holds; false when it does not within the limit.
 bool WaitUntil(const std::function<bool()>& condition, int limitMilliseconds);
 
-// To be called once, before any peer is made: their folders are in memory that goes with the
-// calling process. Throws std::system_error.
+// Call this once, before any peer is started: their folders are kept in memory that is freed when
+// the calling process ends. Throws std::system_error.
 void KeepFoldersInMemory();
 
 class PeerProcess {
  public:
-  // Starts it in a folder of its own. `hosts` is what its machine's table of names says.
+  // Starts it in a folder of its own. `hosts` is the content of its /etc/hosts.
   PeerProcess(const NetNamespace& network, char16_t side, const QString& hosts);
-  // Ends it; a test fails when it does not end well.
+  // Ends it; the test fails if its exit status is not 0.
   ~PeerProcess();
 
   void Enter(const QString& line) { Order("enter " + line); }
@@ -36,10 +36,10 @@ class PeerProcess {
   const QString& Lamp() const { return lamp_; }
   const QString& StatusToolTip() const { return toolTip_; }
   const QString& Waiting() const { return waiting_; }
-  // Every text that told of lines that wait, one after the other.
+  // Every text that the label for waiting lines has shown, in order.
   const QStringList& WaitingSoFar() const { return waitingSoFar_; }
   const QStringList& Boxes() const { return boxes_; }
-  // The lines of the dialogue pane that the user did not say.
+  // The lines of the dialogue pane that are not this user's.
   const QStringList& LinesOfOthers() const { return lines_; }
   QString Log(const QString& partner) const;
 

@@ -18,12 +18,12 @@ class Relay {
   Relay(TapDevice& left, TapDevice& right, const LinkQuality& quality, std::uint64_t seed);
   ~Relay();
 
-  // Both directions deliver nothing for that long, then what they held back.
+  // For that long both directions deliver nothing; then they deliver what has waited.
   void Stall(Time duration);
   // Both directions lose everything from now on.
   void Cut();
 
-  // What it carried and lost, for people.
+  // How much it carried and lost, as text for people.
   std::string Account();
 
  private:
@@ -39,7 +39,7 @@ class Relay {
   // How long poll may wait, in milliseconds; -1 is for ever.
   int TimeToNextDelivery();
 
-  std::mutex mutex_;  // of the models
+  std::mutex mutex_;  // guards the models
   std::array<Direction, 2> directions_;
   Descriptor wake_;
   std::atomic<bool> isEnding_ = false;

@@ -1,4 +1,4 @@
-// Two networks, joined by a cable of ours alone.
+// Two networks that are joined only by the relay's cable.
 #include "network/relay.h"
 
 #include <arpa/inet.h>
@@ -71,12 +71,12 @@ class RelayTest : public testing::Test {
   Descriptor receiver_;
 };
 
-TEST_F(RelayTest, WhatOneNetworkSendsComesToTheOtherAfterTheDelay) {
+TEST_F(RelayTest, ADatagramReachesTheOtherNetworkAfterTheDelay) {
   Relay cable(leftEnd_, rightEnd_, {.delay = 100ms}, 1);
   const auto begin = Clock::now();
   Send("hello");
   EXPECT_EQ(Receive(), "hello");
-  // Both ask for each other's hardware address first: there, back, and there again.
+  // First a hardware address is asked for: three delays, for question, answer and datagram.
   EXPECT_GE(Clock::now() - begin, 300ms);
   const auto again = Clock::now();
   Send("and again");
@@ -84,7 +84,7 @@ TEST_F(RelayTest, WhatOneNetworkSendsComesToTheOtherAfterTheDelay) {
   EXPECT_GE(Clock::now() - again, 100ms);
 }
 
-TEST_F(RelayTest, AStallHoldsBackWhatComes) {
+TEST_F(RelayTest, AStallDelaysDatagrams) {
   Relay cable(leftEnd_, rightEnd_, {}, 1);
   Send("hello");
   ASSERT_EQ(Receive(), "hello");
@@ -95,7 +95,7 @@ TEST_F(RelayTest, AStallHoldsBackWhatComes) {
   EXPECT_GE(Clock::now() - begin, 1s);
 }
 
-TEST_F(RelayTest, NothingComesThroughACableThatIsCut) {
+TEST_F(RelayTest, NothingPassesACutCable) {
   Relay cable(leftEnd_, rightEnd_, {}, 1);
   Send("hello");
   ASSERT_EQ(Receive(), "hello");

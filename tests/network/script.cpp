@@ -7,7 +7,7 @@
 namespace verlume::network {
 namespace {
 
-// Letters of both languages, rich text's own characters, and some that the code page lacks.
+// Letters of both languages, characters with a meaning in RTF, and some outside the code page.
 constexpr std::u16string_view kAlphabet =
     u"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789 .,;:!?-  etaoin ETAOIN"
     u"αβγδάέΩΨ{}\\%日€";
@@ -51,7 +51,7 @@ class Author {
     }
   }
 
-  // Mostly what people type; now and then a page.
+  // Mostly as long as what people type; sometimes a page.
   std::size_t Length() {
     const std::size_t page = std::min<std::size_t>(6000, play_.longest);
     return Below(8) == 0 ? Below(page) : Below(Below(4) == 0 ? 1000 : 80);

@@ -1,5 +1,5 @@
-// What one side of a conversation says: a fixed play of a seed. Each step is one message of the
-// protocol.
+// What one side of a conversation says: a script that follows from a seed. Each step is one message
+// of the protocol.
 #pragma once
 
 #include <cstddef>

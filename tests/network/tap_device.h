@@ -17,7 +17,8 @@ class TapDevice {
 
   // The next frame that the network sends; nothing while there is none.
   std::optional<Frame> Read();
-  // Hands the network a frame. A device that takes none loses it, as a card does.
+  // Sends a frame into the network. If the device does not accept it the frame is lost, as with a
+  // real network card.
   void Write(const Frame& frame);
   // Readable when a frame waits.
   int DescriptorNumber() const { return descriptor_.Number(); }

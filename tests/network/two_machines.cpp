@@ -28,14 +28,14 @@ QStringList ExpectedOf(const Play& play) {
   return expected;
 }
 
-// The beginning of a line, and its length: a page is too much to read.
+// The beginning and the length of a line, which may be too long to print.
 std::string Brief(const QStringList& lines, qsizetype index) {
   if (index >= lines.size()) return "nothing";
   return '"' + lines[index].left(120).toStdString() + "\" of " +
          std::to_string(lines[index].size());
 }
 
-// Where the first difference is, and what kind they are of.
+// Describes the first difference.
 void ExpectSameLines(const QStringList& shown, const QStringList& expected, const char* who) {
   if (shown == expected) return;
   qsizetype whole = 0;

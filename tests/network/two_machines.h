@@ -39,13 +39,13 @@ class Conversation {
   // Starts both programs.
   explicit Conversation(const TwoMachines& machines, int port = 4000);
 
-  // Alice calls Bob under that name or address. False when they are not connected within the limit.
+  // Alice calls Bob at that name or address. False when they are not connected within the limit.
   bool Connect(const QString& host, int limitMilliseconds = 20'000);
   // Both play; Bob's play is Alice's with his name.
   void Start(Play play);
-  // Both have said all they had to say; it may still be on its way.
+  // Both have typed all of their script; messages may still be on their way.
   bool HasPlayed() const { return alice_->HasPlayed() && bob_->HasPlayed(); }
-  // Each has as many lines as the other has said.
+  // Each shows as many lines as the other has sent.
   bool IsOver() const;
 
   PeerProcess& Alice() { return *alice_; }

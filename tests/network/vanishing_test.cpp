@@ -1,4 +1,4 @@
-// A peer whose cable is pulled: nobody tells the program that it is gone.
+// A peer whose cable is pulled: nothing tells the program that it has gone.
 #include <gtest/gtest.h>
 
 #include <iostream>
@@ -18,7 +18,7 @@ class VanishingTest : public testing::Test {
  protected:
   void Connect() {
     ASSERT_TRUE(conversation_.Connect(TwoMachines::kBobIPv4));
-    // The handshake's own messages have arrived, so that the line is idle.
+    // The messages of the handshake have arrived, so that the connection is idle.
     Alice().Enter("hello");
     ASSERT_TRUE(WaitUntil([&] { return Bob().LinesOfOthers().size() == 1; }, kIdleLimit));
     Bob().Enter("hello");
@@ -26,7 +26,7 @@ class VanishingTest : public testing::Test {
     ASSERT_TRUE(WaitUntil([&] { return Alice().Waiting() + Bob().Waiting() == ""; }, kIdleLimit));
   }
 
-  // Waits for the end of the connection as Close makes it.
+  // Waits until the program has ended the connection, as after Close.
   static void ExpectCloseWithin(const PeerProcess& peer, const char* partner, int limit) {
     QElapsedTimer time;
     time.start();
@@ -52,7 +52,7 @@ class VanishingTest : public testing::Test {
   Conversation conversation_{machines_};
 };
 
-TEST_F(VanishingTest, IsNoticedWithinHalfAMinuteWhileNothingIsSaid) {
+TEST_F(VanishingTest, IsNoticedWithinHalfAMinuteOnAnIdleConnection) {
   ASSERT_NO_FATAL_FAILURE(Connect());
   machines_.Cable().Cut();
   QElapsedTimer time;
@@ -65,7 +65,7 @@ TEST_F(VanishingTest, IsNoticedWithinHalfAMinuteWhileNothingIsSaid) {
   ExpectToBeUsable(Bob());
 }
 
-TEST_F(VanishingTest, IsNoticedWithinTwentySecondsOfALineThatNobodyAcknowledges) {
+TEST_F(VanishingTest, IsNoticedWithinTwentySecondsOfAnUnacknowledgedLine) {
   ASSERT_NO_FATAL_FAILURE(Connect());
   machines_.Cable().Cut();
   Alice().Enter("are you there?");
@@ -80,7 +80,7 @@ TEST_F(VanishingTest, IsNoticedWithinTwentySecondsOfALineThatNobodyAcknowledges)
   ExpectToBeUsable(Alice());
 }
 
-TEST_F(VanishingTest, ACallThatNobodyHearsEnds) {
+TEST_F(VanishingTest, ACallThatNobodyAnswersEnds) {
   ASSERT_TRUE(WaitUntil([&] { return Alice().IsReady(); }, kIdleLimit));
   machines_.Cable().Cut();
   Alice().Enter(QString("/CALL %1 4000").arg(TwoMachines::kBobIPv4));
@@ -91,7 +91,7 @@ TEST_F(VanishingTest, ACallThatNobodyHearsEnds) {
   ExpectToBeUsable(Alice());
 }
 
-TEST_F(VanishingTest, AStallThatIsOverInTimeEndsNothing) {
+TEST_F(VanishingTest, AShortStallDoesNotEndTheConnection) {
   ASSERT_NO_FATAL_FAILURE(Connect());
   machines_.Cable().Stall(5s);
   Alice().Enter("slow today");

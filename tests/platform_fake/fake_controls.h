@@ -116,7 +116,7 @@ class FakeTextField : public FakeControl<TextField> {
   std::u16string Text() const override { return text; }
   void SelectAll() override { ++timesSelected; }
 
-  // As the user does it.
+  // As a user would.
   void Type(std::u16string_view value) {
     text = value;
     if (onChange) onChange();
@@ -149,7 +149,7 @@ class FakeListBox : public FakeControl<ListBox> {
   void SetTag(std::u16string_view text) override { tag = text; }
   std::u16string Tag() const override { return tag; }
 
-  // As the user does it.
+  // As a user would.
   void Choose(int index) {
     selected = index;
     if (onClick) onClick();

@@ -25,7 +25,7 @@ class FakeFileSystem : public FileSystem {
   void Delete(std::u16string_view path) override;
   char16_t Separator() const override { return u'/'; }
 
-  // For tests: a folder is kept without its trailing separator.
+  // For tests. Folders are stored without a trailing separator.
   void MakeFolder(std::u16string_view path);
   void RemoveFolder(std::u16string_view path);
 
@@ -33,7 +33,7 @@ class FakeFileSystem : public FileSystem {
   std::optional<FailureNumber> writesFail;
   std::optional<FailureNumber> readsFail;
   std::optional<FailureNumber> listingFails;
-  // "A.rtf" and "a.rtf" name one file, under the name that it was made with.
+  // "A.rtf" and "a.rtf" are the same file, which keeps the name that it was created with.
   bool ignoresCase = false;
   std::map<std::u16string, std::string, std::less<>> files;  // path -> bytes
 

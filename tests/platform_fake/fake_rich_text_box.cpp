@@ -9,7 +9,7 @@
 namespace verlume::fake {
 namespace {
 
-// The unit that a real box would store, which uses some units as marks in its text.
+// The unit that a real box would store for this one: it reserves some units for its own use.
 char16_t SafeUnit(char16_t unit, bool singleLine) {
   if (unit == u'\n' || unit == u'\r' || unit == u'\u2028' || unit == u'\u2029') {
     return singleLine ? u' ' : u'\n';

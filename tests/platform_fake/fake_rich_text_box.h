@@ -92,7 +92,7 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   Look insertionLook_;
   int charset_ = richtext::kGreekCharset;
   int updateDepth_ = 0;
-  // What an update has still to tell.
+  // The events that EndUpdate will raise.
   bool selChanged_ = false;
   bool changed_ = false;
 };

@@ -123,7 +123,7 @@ void FakeSocket::Close() {
 }
 
 void FakeSocket::LosePeer() {
-  // A call that fails has no arrivals to wait for.
+  // After a failed call no arrivals are waiting, so onClose need not wait for them.
   const bool wasConnected = state_ == SocketState::Connected || isCloseWaiting_;
   state_ = SocketState::Closed;
   peer_ = nullptr;

@@ -1,4 +1,4 @@
-// A whole program in memory, for the tests of the program.
+// A whole program in memory, for tests.
 #pragma once
 
 #include <string>

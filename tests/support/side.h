@@ -30,7 +30,7 @@ struct Side {
   ConnectionState State() const { return StateOf(state); }
   std::u16string Status() const { return fake.window.lblStatus.caption; }
   std::u16string DialoguePane() const { return fake.window.rtbData.Text(); }
-  // The lamp's colour; -1 if fill and border differ.
+  // The status lamp's colour; -1 if its fill and border differ.
   Color Lamp() const {
     const FakeLamp& lamp = fake.window.shpStatus;
     return lamp.fill == lamp.border ? lamp.fill : -1;
@@ -76,7 +76,7 @@ struct Side {
   }
 };
 
-// Runs an action; one that reads a command line gets this one.
+// Runs an action with a command line, which only some actions read.
 using Action = void (*)(ConnectionActions& actions, std::u16string_view commandLine);
 template <auto action>
 void Run(ConnectionActions& actions, std::u16string_view commandLine) {

@@ -1,4 +1,4 @@
-// What googlemock's matchers of strings say of a std::u16string.
+// googlemock's string matchers for std::u16string.
 #pragma once
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-// verlume_demo SCRIPT LEFT TOP: the program, its window at that place, played by a script.
+// verlume_demo SCRIPT LEFT TOP: the program with its window at that place, operated by a script.
 #include <QApplication>
 #include <QMainWindow>
 

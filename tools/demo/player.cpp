@@ -60,7 +60,7 @@ Player::Player(const QString& scriptFile) {
 void Player::Step() {
   if (script_.isEmpty()) return timer_.stop();
   const QString line = script_.first();
-  // Taken before it is done: typing may open a box, whose loop brings the next step here.
+  // Removed first, since typing may open a box whose event loop calls this for the next line.
   script_.removeFirst();
   if (!Do(line)) script_.prepend(line);
 }

@@ -1,12 +1,12 @@
-// Plays a script at the program's keyboard. Its lines, done one after the other:
+// Types a script into the program. Its lines are carried out one after the other:
 //
 //   > TEXT     types the text into the command pane, key by key, and presses Enter
 //   yes        waits for a question and answers Yes
 //   connected  waits for the other side's nickname
 //   lines N    waits until the dialogue pane holds N lines
-//   print TEXT prints the text, for whoever waits for it
+//   print TEXT prints the text, for a script that waits for it
 //
-// The last line done, it leaves the program to the user.
+// After the last line the program is left to the user.
 #pragma once
 
 #include <QObject>
@@ -21,7 +21,7 @@ class Player : public QObject {
 
  private:
   void Step();
-  bool Do(const QString& line);  // false: not yet possible
+  bool Do(const QString& line);  // false if not yet possible
 
   QStringList script_;
   QTimer timer_;

@@ -1,4 +1,4 @@
-// What the photographer answers to a box once its picture is taken.
+// The answers that the photographer gives to boxes after taking their pictures.
 #pragma once
 
 #include <QString>
@@ -10,14 +10,14 @@ class QWidget;
 namespace verlume::gallery {
 
 using Answer = std::function<void(QWidget* box)>;
-using Answers = std::vector<Answer>;  // to one box after the other
+using Answers = std::vector<Answer>;  // for one box after the other
 
-// A key that goes down and up again.
+// Presses and releases a key.
 void Press(QWidget* widget, int key, const QString& text = {},
            Qt::KeyboardModifiers held = Qt::NoModifier);
 
 Answer Escape();
-// Yes, whatever the default is.
+// Answers Yes, whatever the default is.
 Answer Yes();
 // Fills in the text and presses Enter.
 Answer FillIn(const QString& text);

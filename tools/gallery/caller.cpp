@@ -6,7 +6,7 @@
 namespace verlume::gallery {
 
 Caller::Caller() {
-  // The first bytes are the program's "S": the answer to it.
+  // Answers the program's "S", which are the first bytes that arrive.
   QObject::connect(&socket_, &QTcpSocket::readyRead, &socket_, [this] {
     QObject::disconnect(&socket_, &QTcpSocket::readyRead, nullptr, nullptr);
     const std::string name = richtext::EncodeGreek(BuildProtocolMarker() + u"CΒασίλης" + u'\0');
@@ -16,7 +16,8 @@ Caller::Caller() {
 
 void Caller::Call(quint16 port) {
   socket_.bind(QHostAddress::LocalHost);
-  socket_.setSocketOption(QAbstractSocket::ReceiveBufferSizeSocketOption, 1);  // the least there is
+  socket_.setSocketOption(QAbstractSocket::ReceiveBufferSizeSocketOption,
+                          1);  // becomes the smallest size possible
   socket_.setReadBufferSize(1);
   socket_.connectToHost(QHostAddress::LocalHost, port);
 }

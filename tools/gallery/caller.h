@@ -1,5 +1,5 @@
-// Somebody who calls the program, talks to it, and takes nothing in that it says: what it sends
-// stays on its way.
+// A peer that calls the program and sends lines, but reads nothing: what the program sends stays
+// unacknowledged.
 #pragma once
 
 #include <QTcpSocket>
@@ -12,7 +12,7 @@ class Caller {
 
   // Calls this machine.
   void Call(quint16 port);
-  // Vanishes without a word.
+  // Breaks the connection without an orderly end.
   void Leave() { socket_.abort(); }
 
  private:

@@ -1,4 +1,4 @@
-// The way through the macro editor that shows each of its states and boxes.
+// The steps through the macro editor that show each of its states and boxes.
 #pragma once
 
 #include <QString>
@@ -12,8 +12,8 @@ namespace verlume::gallery {
 struct MacroStep {
   QString name;
   std::function<void(QWidget* editor)> perform;
-  Answers answers = {};         // to the boxes that come of it
-  bool showsTheEditor = false;  // the editor is worth a picture afterwards
+  Answers answers = {};         // to the boxes that the step opens
+  bool showsTheEditor = false;  // take a picture of the editor afterwards
 };
 
 // There must be two macros, "hello" and "goodbye".

@@ -1,5 +1,5 @@
 // verlume_gallery FOLDER: the program, which takes pictures of all its windows and ends.
-// verlume_gallery FOLDER NAME: only of what comes up at its start; the pictures' names are NAME.
+// verlume_gallery FOLDER NAME: only of the boxes that open at its start, as pictures named NAME.
 #include <QApplication>
 
 #include "photographer.h"

@@ -16,9 +16,9 @@ namespace verlume::gallery {
 namespace {
 
 constexpr int kStepMilliseconds = 150;
-constexpr int kStepsToSettle = 4;  // longer than a box ignores keys when it comes up by itself
+constexpr int kStepsToSettle = 4;  // longer than a box that opens by itself ignores keys
 
-// Entries that only turn something on and off, or end the program.
+// Entries that only switch something on or off, or end the program.
 bool OpensABox(const QAction& entry) {
   const bool asksFirst = entry.objectName() == QLatin1String("mnuFileLogRecord");
   return !entry.isSeparator() && (!entry.isCheckable() || asksFirst) &&
@@ -45,7 +45,7 @@ void Photographer::Step() {
   if (next_ == scenes_.size()) return timer_.stop();
   BeginScene(scenes_[next_].name, scenes_[next_].answers);
   isBusy_ = true;
-  // Not from within the step: a scene may open a box, and a timer does not fire inside itself.
+  // Queued: a scene may open a box, and the timer does not fire again before this function returns.
   QMetaObject::invokeMethod(
       this,
       [this, &scene = scenes_[next_++]] {
@@ -115,7 +115,7 @@ void Photographer::AddScenes() {
   AddCall();
 }
 
-// Lines that the caller's machine does not take, and what is told of them when it has gone.
+// Lines that the caller's machine does not accept, and what the program says of them afterwards.
 void Photographer::AddCall() {
   constexpr int kMoreThanItTakes = 4000;  // characters
   scenes_.push_back({QStringLiteral("incoming-call"),
@@ -177,7 +177,7 @@ void Photographer::AddSaving(const QString& name, Answers answers) {
 
 QWidget* Photographer::Type(const QString& text) {
   auto* commands = main_->findChild<QPlainTextEdit*>(QStringLiteral("rtbCommands"));
-  Press(commands, Qt::Key_Escape);  // what a refused command has left there
+  Press(commands, Qt::Key_Escape);  // a refused command stays in the pane
   for (const QChar character : text) Press(commands, 0, character);
   return commands;
 }
@@ -198,7 +198,7 @@ bool Photographer::TakeModal() {
   return box;
 }
 
-// Its picture first, its answer a step later.
+// Takes the picture of a box, and answers the box one step later.
 void Photographer::TakeBox(QWidget* box) {
   if (box != taken_) {
     taken_ = box;
@@ -221,7 +221,7 @@ void Photographer::TakeEditor(QWidget* editor) {
       this, [&step, editor] { step.perform(editor); }, Qt::QueuedConnection);
 }
 
-// Windows that stay beside the main one: their picture, and they go.
+// Takes a picture of every window that is open beside the main one, and closes it.
 void Photographer::TakeWindows() {
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (!window->isVisible() || known_.contains(window) || window->windowType() == Qt::ToolTip) {

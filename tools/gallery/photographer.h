@@ -1,7 +1,6 @@
 // Goes through the program as a user would and takes a picture of every window and box that comes
 // up: the main window, each menu, what each menu entry opens, and the boxes that only a state or a
-// failure brings. A box is answered once its picture is taken, by Escape where nothing else is
-// said.
+// failure brings. Once its picture is taken, a box is answered as the scene says, or by Escape.
 #pragma once
 
 #include <QObject>
@@ -21,15 +20,15 @@ namespace verlume::gallery {
 
 class Photographer : public QObject {
  public:
-  // The pictures are FOLDER/NAME.png; the folder exists. With a name for the start, only what comes
-  // up then is taken.
+  // The pictures are FOLDER/NAME.png; the folder must exist. With a name for the start, a picture
+  // is taken only of what opens at the start of the program.
   Photographer(const QString& folder, const QString& start);
 
  private:
   struct Scene {
     QString name;
     std::function<void()> enter;
-    Answers answers = {};  // to the boxes that come of it
+    Answers answers = {};  // to the boxes that the scene opens
   };
 
   void Step();
@@ -45,11 +44,11 @@ class Photographer : public QObject {
   void TakeEditor(QWidget* editor);
   void TakeWindows();
   void Take(QWidget* window, const QString& name);
-  // The main window, and above it the tool tip of one of its controls.
+  // Takes a picture of the main window with the tool tip of one of its controls.
   void TakeToolTip(const QString& control);
   void AddScenes();
   void AddCall();
-  // Without Enter; gives the command pane.
+  // Does not press Enter; returns the command pane.
   QWidget* Type(const QString& text);
   void Enter(const QString& line);
 
@@ -62,11 +61,11 @@ class Photographer : public QObject {
   Answers answers_;       // of the scene
   int boxesOfScene_ = 0;  // that have been answered
   const std::vector<MacroStep> tour_ = MacroTour();
-  std::size_t step_ = 0;  // of the tour, the next one
+  std::size_t step_ = 0;  // index of the next step of the tour
   int idleSteps_ = 0;
-  bool isBusy_ = false;       // with a scene, which may let events through
-  QWidget* taken_ = nullptr;  // the box whose picture is taken already
-  QSet<QWidget*> known_;      // windows that are not modal and have their picture
+  bool isBusy_ = false;       // with a scene, which may handle events
+  QWidget* taken_ = nullptr;  // the box whose picture has been taken
+  QSet<QWidget*> known_;      // modeless windows whose pictures have been taken
   Caller caller_;
   QTimer timer_;
 };

@@ -20,7 +20,7 @@ constexpr int kStep = 5;                     // ms
 constexpr std::uint64_t kMostInFlight = 20;  // lines that the peer has not shown
 constexpr int kPatience = 60'000;            // ms without any progress
 
-// What happens how often, in lines. Primes, so that all of it happens.
+// After how many lines each of these happens. Primes, so that they happen in all combinations.
 constexpr int kActionLineEvery = 11;
 constexpr int kMacroEvery = 37;
 constexpr int kNicknameEvery = 89;
@@ -68,7 +68,8 @@ void Chatterbox::Step() {
   EndIfStuck();
   NotePeersNickname();
   if (AnswerBox() || isTyping_ || isEnding_) return;
-  isTyping_ = true;  // the program lets events through while it works: one thing at a time
+  isTyping_ =
+      true;  // the program handles events while it works, but only one thing may be typed at a time
   if (!EndPeriodIfDue()) {
     if (!program_.State().IsConnected) {
       Connect();
@@ -125,7 +126,7 @@ void Chatterbox::CloseOnceAllIsShown() {
 }
 
 void Chatterbox::SayNext() {
-  // A nickname is on its way: the number in it tells when it is there.
+  // A nickname has been sent: the number in it shows when it has arrived.
   if (Peers().peersNicknameShown != nickname_) return;
   ++turn_;
   if (turn_ % kNicknameEvery == 0) return TakeNickname();
@@ -184,7 +185,7 @@ void Chatterbox::PressEnter() {
   PressKey(commands_, Qt::Key_Return, QStringLiteral("\r"));
 }
 
-// Sees the pane after every change of it: also what the program is about to clear.
+// Called after every change of the pane, so that nothing is missed before it is cleared.
 void Chatterbox::ReadPane() {
   const int length = data_.document()->characterCount() - 1;
   if (length < readTo_) readTo_ = 0;

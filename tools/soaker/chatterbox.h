@@ -1,7 +1,7 @@
-// Somebody at the keyboard of one copy who never stops: lines, action lines, macros, nicknames,
-// languages, and again and again a new conversation.
+// The simulated user of one copy, who types without a pause: lines, action lines, macros,
+// nicknames, languages, and every now and then begins a new conversation.
 //
-// Every line bears its sender's letter and a number. Each side reads its own dialogue pane: a line
+// Every line has its sender's letter and a number. Each side reads its own dialogue pane: a line
 // that is lost, torn or out of order ends the soak.
 #pragma once
 
@@ -74,7 +74,7 @@ class Chatterbox : public QObject {
 
   int readTo_ = 0;
   std::int64_t charactersShown_ = 0;
-  std::uint64_t linesShown_ = 0;  // of this period
+  std::uint64_t linesShown_ = 0;  // in this period
   int period_ = 0;
   QElapsedTimer sincePeriodBegan_;
   std::int64_t processorBefore_ = 0;

@@ -1,5 +1,5 @@
-// verlume_soak MINUTES: two copies of the program talk for so long; a table of what they cost, and
-// whether that grows.
+// verlume_soak MINUTES: two copies of the program talk for that long. Prints a table of what they
+// cost and whether that grows.
 #include <QApplication>
 #include <QFile>
 #include <QTextStream>

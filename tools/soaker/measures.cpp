@@ -33,7 +33,7 @@ void ReturnReserve() {
 
 int Descriptors() {
   const QDir folder(QStringLiteral("/proc/self/fd"));
-  // Less the one that reads the folder.
+  // Without the descriptor that reads the folder.
   return static_cast<int>(
              folder.entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size()) -
          1;

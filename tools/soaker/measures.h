@@ -1,4 +1,4 @@
-// What a process costs, as the system tells it (Linux).
+// What this process costs, as Linux reports it.
 #pragma once
 
 #include <QElapsedTimer>
@@ -8,16 +8,16 @@
 namespace verlume::soak {
 
 std::int64_t ResidentBytes();
-// What is handed out of the heap; 0 under a sanitizer, which has a heap of its own.
+// The bytes allocated on the heap; 0 under a sanitizer, which has a heap of its own.
 std::int64_t HeapBytes();
-// Gives what the heap holds in reserve back to the system.
+// Returns unused memory of the heap to the system.
 void ReturnReserve();
 int Descriptors();
-// What the process has worked so far.
+// The processor time of the process so far.
 std::int64_t ProcessorMilliseconds();
 
-// How long the event loop lets an event wait: a timer asks every 10 ms and notes how late it was,
-// and how much of that the process itself has worked: the rest was another's turn.
+// Measures how long events wait for the event loop: a timer fires every 10 ms and notes how late it
+// is, and how much of that time the process itself worked; the rest went to other processes.
 class AnswerTimes {
  public:
   AnswerTimes();

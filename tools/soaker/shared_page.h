@@ -1,5 +1,5 @@
-// What the two copies tell each other beside the program, in memory that both have mapped: so each
-// knows how many of its lines the other has shown, and sends no more than that allows.
+// Memory that both copies have mapped, through which they exchange their progress: each knows how
+// many of its lines the other has shown, and limits what it sends accordingly.
 #pragma once
 
 #include <atomic>
@@ -15,7 +15,7 @@ struct SharedPage {
     std::atomic<bool> isQuiet;                      // has seen that the conversation closes
   };
   Side sides[2];
-  // Nobody begins another line: the conversation is about to be closed, or the soak is over.
+  // No new line may be begun: the conversation is about to be closed, or the soak is over.
   std::atomic<bool> isClosing;
   std::atomic<bool> isOver;
 };

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kMinute = 60'000;  // ms
 constexpr int kFewestPeriods = 3;
-// Beyond the minutes asked for: starting, and the last lines.
+// In addition to the minutes asked for: for starting and for the last lines.
 constexpr int kPatienceWithCopies = 120'000;  // ms
 
 constexpr int kLeastPort = 12'000;
@@ -61,7 +61,7 @@ int Supervisor::Run() {
   return complaints.isEmpty() ? 0 : 1;
 }
 
-// Each copy in a folder of its own, which makes it somebody of its own.
+// Each copy runs in a folder of its own, and so has its own settings.
 bool Supervisor::PrepareFolders() const {
   const QDir root(folder_.path());
   const QDir built(QCoreApplication::applicationDirPath());
@@ -100,7 +100,7 @@ void Supervisor::Start(int side, int port) {
        QString::number(periods_), QString::number(periodMilliseconds_)});
 }
 
-// One copy without the other has nothing to do.
+// When one copy has ended, the other has nothing left to do.
 void Supervisor::EndWithTheCopies() {
   const auto hasEnded = [](const Copy& copy) {
     return copy.process.state() == QProcess::NotRunning;

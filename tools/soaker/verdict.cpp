@@ -7,12 +7,12 @@ namespace verlume::soak {
 namespace {
 
 constexpr std::int64_t kMiB = 1 << 20;
-constexpr std::int64_t kHeapGrowth = 1 * kMiB;      // what caches may still take
-constexpr std::int64_t kResidentGrowth = 8 * kMiB;  // and what the heap does not give back
-// Of a connection that was closed a moment before.
+constexpr std::int64_t kHeapGrowth = 1 * kMiB;      // caches may still grow by this much
+constexpr std::int64_t kResidentGrowth = 8 * kMiB;  // and memory that the heap keeps
+// A connection that has just been closed may still have its own.
 constexpr std::int64_t kDescriptorsOnTheirWay = 2;
-// Times the work that a line cost at the beginning. When others keep the machine busy, fewer lines
-// share what the clock and the looking cost.
+// How much more processor time a line may cost than at the beginning. On a busy machine fewer lines
+// are sent, and each bears a greater part of the fixed costs of timers and of watching the pane.
 constexpr double kDearest = 2;
 constexpr std::int64_t kAnswerNoise = 30;  // ms
 

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <chrono>
 
 #include "platform_qt/controls/proportional_layout.h"
 
@@ -124,7 +125,7 @@ void QtMenu::SetCaption(std::u16string_view text) {
 QtTimer::QtTimer(QObject* parent) : timer_(new QTimer(parent)) {
   timer_->setObjectName(QStringLiteral("tmrTimer"));
   timer_->setTimerType(Qt::PreciseTimer);
-  timer_->setInterval(1000);
+  timer_->setInterval(std::chrono::seconds(1));
   QObject::connect(timer_, &QTimer::timeout, timer_, [this] {
     if (onTimer) onTimer();
   });

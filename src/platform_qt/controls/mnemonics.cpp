@@ -4,7 +4,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
-#include <algorithm>
 
 namespace verlume::qt {
 namespace {

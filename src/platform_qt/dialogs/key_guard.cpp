@@ -3,11 +3,12 @@
 #include <QApplication>
 #include <QEvent>
 #include <QWindow>
+#include <chrono>
 
 namespace verlume::qt {
 namespace {
 
-constexpr qint64 kDeafMilliseconds = 500;
+constexpr std::chrono::milliseconds kIgnoringTime{500};
 
 }  // namespace
 
@@ -29,7 +30,7 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
     default:
       return false;
   }
-  if (sinceShown_.isValid() && sinceShown_.hasExpired(kDeafMilliseconds)) {
+  if (sinceShown_.isValid() && sinceShown_.hasExpired(kIgnoringTime.count())) {
     QApplication::instance()->removeEventFilter(this);
     return false;
   }

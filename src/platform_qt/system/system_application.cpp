@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QWidget>
+#include <chrono>
 #include <iostream>
 
 #include "platform_qt/convert/text.h"
@@ -73,9 +74,10 @@ std::u16string QtApplication::HelpFolder() const {
 void QtApplication::YieldToEvents() {
   // Without keys and clicks: a key handled within the handler of the previous key would be typed
   // before that one. And only for a short time, however fast a peer sends.
-  constexpr int kLimitMilliseconds = 20;
+  constexpr std::chrono::milliseconds kLimit{20};
   if (hasEnded_) return;
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kLimitMilliseconds);
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents,
+                                  static_cast<int>(kLimit.count()));
 }
 
 void QtApplication::LogError(std::string_view line) {

@@ -9,7 +9,7 @@
 namespace verlume::qt {
 namespace {
 
-// Qt ends blocks, frames and tables with these and puts U+FFFC for objects.
+// Qt ends blocks, frames and tables with these units, and uses U+FFFC for objects.
 char16_t SafeUnit(char16_t unit, Lines lines) {
   switch (unit) {
     case u'\n':
@@ -25,7 +25,7 @@ char16_t SafeUnit(char16_t unit, Lines lines) {
   }
 }
 
-// The run model counts every unit, so here none is dropped.
+// Drops no unit, since the lengths of the runs count every one.
 QString SafeUnits(std::u16string_view text, Lines lines) {
   QString safe = ToQt(text);
   for (QChar& c : safe) c = SafeUnit(c.unicode(), lines);

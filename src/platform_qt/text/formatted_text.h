@@ -1,4 +1,4 @@
-// Text with its formats, as a QTextDocument can take it in.
+// Text with its formats, ready to be inserted into a QTextDocument.
 #pragma once
 
 #include <QString>
@@ -13,11 +13,12 @@
 
 namespace verlume::qt {
 
-// Text as a document of Qt's can hold it. Line breaks are '\n' (or blanks), "\r\n" is one; the
-// units that Qt gives a meaning of its own become U+FFFD, so that positions never drift.
+// Text that a QTextDocument can hold. A line break becomes '\n', or a blank in a single line;
+// "\r\n" is one line break. Units that Qt treats as control characters become U+FFFD, one for one,
+// so that positions stay the same.
 QString SafeText(std::u16string_view text, Lines lines);
 
-// Safe text, and the formats of its pieces in their order; their lengths add up to the text's.
+// Safe text, and its pieces in order, each in one format. Their lengths add up to the text's.
 struct FormattedText {
   struct Piece {
     qsizetype length;
@@ -32,16 +33,16 @@ struct FormattedText {
   std::vector<Piece> pieces;
 };
 
-// A document taken apart, so that a long one need not become Qt's all at once.
+// Splits a document into parts, so that a long one need not be converted all at once.
 class DocumentParts {
  public:
   DocumentParts(richtext::Document document, Lines lines);
-  // The parts are made of its own copy.
+  // Not copied, since the document may be long.
   DocumentParts(const DocumentParts&) = delete;
   DocumentParts& operator=(const DocumentParts&) = delete;
 
   bool IsDone() const { return at_ == document_.text.size(); }
-  // The next units, about so many: no character is parted.
+  // The next part: `units` long, or one more so as not to split a surrogate pair.
   FormattedText Next(std::size_t units);
 
  private:
@@ -51,10 +52,10 @@ class DocumentParts {
 
   const richtext::Document document_;
   const Lines lines_;
-  std::size_t at_ = 0;     // in the text
-  std::size_t run_ = 0;    // the one at that place
-  std::size_t inRun_ = 0;  // and how much of it has been given
-  // A format of a long document is made once, not with each of its runs.
+  std::size_t at_ = 0;     // position in the text
+  std::size_t run_ = 0;    // index of the run at that position
+  std::size_t inRun_ = 0;  // how much of that run has been returned
+  // Each format of a long document is converted once, not for every run that has it.
   std::map<Key, QTextCharFormat> formats_;
 };
 

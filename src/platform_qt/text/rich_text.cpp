@@ -12,8 +12,8 @@
 namespace verlume::qt {
 namespace {
 
-// Calls visit(formatIndex, begin, end) for the pieces of one format between two positions, as long
-// as it returns true. A line break has a format too: Qt keeps it with the block that it begins.
+// Calls visit(formatIndex, begin, end) for each piece of one format between two positions, until it
+// returns false. A line break has a format too: Qt stores it with the block that follows.
 template <class Visit>
 void VisitPieces(QTextBlock block, int from, int to, Lines lines, Visit visit) {
   for (; block.isValid() && block.position() < to; block = block.next()) {

@@ -1,4 +1,4 @@
-// What a QTextDocument holds: its text and its formats. Of its seams nothing is seen here.
+// Reads the text and the formats of a QTextDocument. Its seams do not show in what is read.
 #pragma once
 
 #include <QTextCursor>
@@ -13,12 +13,12 @@ namespace verlume::qt {
 // The format of the selection's first character, or of the insertion point.
 QTextCharFormat FormatOfFirst(const QTextCursor& cursor);
 
-// An empty document goes on in this format, wherever a cursor is set in it.
+// Gives an empty document the format in which text is inserted next. Does nothing to others.
 void KeepFormatIfEmpty(QTextCursor& cursor, const QTextCharFormat& format);
 
 // A line break is u'\n'.
 std::u16string SelectedText(const QTextCursor& cursor, Lines lines);
-// The selected text with its formats; its fonts are of this character set.
+// The selected text with its formats; its fonts get this character set.
 richtext::Document SelectedDocument(const QTextCursor& cursor, int charset, Lines lines);
 
 // Linear in the number of formatted pieces, not of characters.

@@ -17,8 +17,8 @@ namespace verlume::qt {
 
 namespace {
 
-// The length of documents that a locked box takes in at once, of which each run costs as much as
-// some characters. What is more comes in while events are handled.
+// How much a locked box inserts before events are handled again, in characters; each run counts as
+// several. The rest is inserted between events.
 constexpr std::size_t kLengthAtOnce = 8 * 1024;
 constexpr std::size_t kLengthOfRun = 8;
 
@@ -32,7 +32,7 @@ QtRichTextBox::QtRichTextBox(QWidget* parent, FileSystem& files, Lines lines)
 QtRichTextBox::QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines)
     : QtControl(widget), view_(widget), files_(files), lines_(lines) {
   SetLocked(false);
-  Clear(OwnFormat());
+  Clear(DefaultFormat());
   widget->SetEvents(this);
   turnEnd_.setSingleShot(true);
   QObject::connect(&turnEnd_, &QTimer::timeout, &turnEnd_, [this] { inThisTurn_ = 0; });
@@ -43,7 +43,7 @@ QtRichTextBox::~QtRichTextBox() {
 }
 
 std::u16string QtRichTextBox::Text() const {
-  return SelectedText(Everything(), lines_);
+  return SelectedText(WholeText(), lines_);
 }
 
 std::u16string QtRichTextBox::Rtf() const {
@@ -51,23 +51,23 @@ std::u16string QtRichTextBox::Rtf() const {
 }
 
 richtext::Document QtRichTextBox::Content() const {
-  return SelectedDocument(Everything(), view_->Charset(), lines_);
+  return SelectedDocument(WholeText(), view_->Charset(), lines_);
 }
 
-void QtRichTextBox::WaitForTheRest() const {
+void QtRichTextBox::FinishInsertions() const {
   if (loading_) loading_->Finish();
   for (const auto& writing : writings_) writing->Finish();
 }
 
-QTextCursor QtRichTextBox::Everything() const {
-  WaitForTheRest();
+QTextCursor QtRichTextBox::WholeText() const {
+  FinishInsertions();
   QTextCursor cursor(widget_->document());
   cursor.select(QTextCursor::Document);
   return cursor;
 }
 
 std::size_t QtRichTextBox::TextLength() const {
-  // The document counts a separator behind its last line.
+  // The document counts a separator after its last line too.
   return TextPosition(widget_->document()->characterCount() - 1);
 }
 
@@ -102,7 +102,7 @@ void QtRichTextBox::ReplaceAll(FormattedText text) {
 void QtRichTextBox::Clear(const QTextCharFormat& format) {
   if (loading_) loading_->Abandon();
   loading_.reset();
-  if (!std::exchange(writings_, {}).empty()) NoteWritten();
+  if (!std::exchange(writings_, {}).empty()) RaiseIfFinished();
   const ProgramChange change(*view_);
   widget_->document()->clear();
   QTextCursor cursor(widget_->document());
@@ -117,7 +117,7 @@ void QtRichTextBox::SetCursor(const QTextCursor& cursor) {
   if (update_) {
     update_->cursor = cursor;
   } else {
-    view_->FollowTo(cursor);
+    view_->MoveCursorTo(cursor);
   }
 }
 
@@ -164,16 +164,14 @@ std::size_t QtRichTextBox::SelLength() const {
 }
 
 void QtRichTextBox::Select(std::size_t start, std::size_t length) {
-  {
-    const RichTextUpdate update(*this);
-    const std::size_t from = std::min(start, TextLength());
-    const std::size_t to = from + std::min(length, TextLength() - from);
-    QTextCursor cursor(widget_->document());
-    cursor.setPosition(DocumentPosition(from));
-    cursor.setPosition(DocumentPosition(to), QTextCursor::KeepAnchor);
-    SetCursor(cursor);
-    RaiseSelChange();
-  }
+  const RichTextUpdate update(*this);
+  const std::size_t from = std::min(start, TextLength());
+  const std::size_t to = from + std::min(length, TextLength() - from);
+  QTextCursor cursor(widget_->document());
+  cursor.setPosition(DocumentPosition(from));
+  cursor.setPosition(DocumentPosition(to), QTextCursor::KeepAnchor);
+  SetCursor(cursor);
+  RaiseSelChange();
 }
 
 SelectionFormat QtRichTextBox::SelFormat() const {
@@ -226,19 +224,19 @@ void QtRichTextBox::WriteInTurns(richtext::Document document) {
     return !cursor.hasSelection() && writing->EndsAt(cursor.position());
   });
   if (same != writings_.end()) return (*same)->Add(std::move(document));
-  const bool wasTakingIn = IsTakingIn();
-  writings_.push_back(std::make_unique<TextWriting>(*view_, cursor, [this] { NoteWritten(); }));
+  const bool wasInserting = IsInserting();
+  writings_.push_back(std::make_unique<TextWriting>(*view_, cursor, [this] { RaiseIfFinished(); }));
   writings_.back()->Add(std::move(document));
-  if (!wasTakingIn && onTakingIn) onTakingIn();
+  if (!wasInserting && onInsertionStarted) onInsertionStarted();
 }
 
-bool QtRichTextBox::IsTakingIn() const {
+bool QtRichTextBox::IsInserting() const {
   return std::any_of(writings_.begin(), writings_.end(),
                      [](const auto& writing) { return !writing->IsDone(); });
 }
 
-void QtRichTextBox::NoteWritten() {
-  if (!IsTakingIn() && onTakenIn) onTakenIn();
+void QtRichTextBox::RaiseIfFinished() {
+  if (!IsInserting() && onInsertionFinished) onInsertionFinished();
 }
 
 void QtRichTextBox::SetFontCharset(int charset) {
@@ -255,8 +253,8 @@ void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
                                            std::move(text), [this](int percent) {
                                              if (onLoadProgress) onLoadProgress(percent);
                                            });
-  // What the user can change is all there.
-  if (!Locked()) WaitForTheRest();
+  // A text that the user can change must be complete.
+  if (!Locked()) FinishInsertions();
   Select(0, 0);
   RaiseChange();
 }
@@ -267,10 +265,10 @@ void QtRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) co
 }
 
 void QtRichTextBox::SetLocked(bool locked) {
-  if (!locked) WaitForTheRest();
+  if (!locked) FinishInsertions();
   widget_->setReadOnly(locked);
   if (locked) {
-    // The keyboard selects, copies and scrolls too.
+    // The user can also select, copy and scroll with the keyboard.
     widget_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   }
   widget_->setUndoRedoEnabled(!locked && lines_ == Lines::Single);

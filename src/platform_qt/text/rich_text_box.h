@@ -1,5 +1,6 @@
-// The rich-text box on QPlainTextEdit, which lays out only what it shows: a dialogue of 100,000
-// lines costs nothing to append to or to resize. Outside text never meets Qt's HTML.
+// The rich-text box, based on QPlainTextEdit, which lays out only what it shows: appending to a
+// dialogue of 100,000 lines, or resizing it, takes no longer than with a short one. Text from
+// outside is never interpreted as HTML.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -22,8 +23,8 @@ class TextLoading;
 class TextUpdate;
 class TextWriting;
 
-// Undo is there for the user of a single-line box that is not locked. Ground and letters are the
-// classic white and black whatever the desktop's theme.
+// The user can undo only in a single-line box that is not locked. Text is black on white whatever
+// the desktop's theme.
 class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
  public:
   using Lines = qt::Lines;
@@ -32,8 +33,8 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   QtRichTextBox(QWidget* parent, FileSystem& files, Lines lines);
   ~QtRichTextBox() override;
 
-  // Whether texts that were written are still coming in: from onTakingIn to onTakenIn.
-  bool IsTakingIn() const;
+  // Whether documents are still being inserted: from onInsertionStarted to onInsertionFinished.
+  bool IsInserting() const;
 
   std::u16string Text() const override;
   std::size_t TextLength() const override;
@@ -62,20 +63,20 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
  private:
   QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines);
 
-  // The cursor of the update, or of the widget.
+  // The cursor of the current update, or without one that of the widget.
   QTextCursor Cursor() const;
   void SetCursor(const QTextCursor& cursor);
   bool FitsIntoThisTurn(const richtext::Document& document);
   void WriteInTurns(richtext::Document document);
-  void NoteWritten();
+  void RaiseIfFinished();
   richtext::Document Content() const;
-  // What is put in afterwards is in this format, until another is set.
+  // Text that is inserted afterwards has this format, until another is set.
   void Clear(const QTextCharFormat& format);
   void ReplaceAll(FormattedText text);
-  // With all of a file that is still coming in.
-  QTextCursor Everything() const;
-  void WaitForTheRest() const;
-  // A position in the text, and in the document: they differ in a long single line.
+  // Selects the whole text, after the insertions under way have been finished.
+  QTextCursor WholeText() const;
+  void FinishInsertions() const;
+  // Convert between positions in the text and in the document: they differ behind a seam.
   std::size_t TextPosition(int position) const;
   int DocumentPosition(std::size_t position) const;
   void RaiseSelChange();
@@ -85,10 +86,10 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   FileSystem& files_;
   Lines lines_;
   std::u16string tag_;
-  std::unique_ptr<TextLoading> loading_;                // the last one, done or not
-  std::vector<std::unique_ptr<TextWriting>> writings_;  // done or not, in no order
-  std::unique_ptr<TextUpdate> update_;                  // while one is on
-  std::size_t inThisTurn_ = 0;  // the length of what was written since events were handled last
+  std::unique_ptr<TextLoading> loading_;                // the last one, even when it is done
+  std::vector<std::unique_ptr<TextWriting>> writings_;  // in no order; some may be done
+  std::unique_ptr<TextUpdate> update_;                  // null between updates
+  std::size_t inThisTurn_ = 0;  // written since events were last handled, as kLengthAtOnce counts
   QTimer turnEnd_;
 };
 

@@ -18,7 +18,7 @@ constexpr std::size_t MaxLength(Lines lines) {
   return lines == Lines::Single ? 64 * 1024 : 16 * 1024 * 1024;
 }
 
-// How much of the RTF is read at most for each character that may be taken.
+// The most RTF that is read, in bytes per character that may be inserted.
 constexpr std::size_t kRtfPerCharacter = 16;
 
 QByteArray RtfOf(const QMimeData& source) {

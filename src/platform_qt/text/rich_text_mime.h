@@ -8,8 +8,8 @@
 
 namespace verlume::qt {
 
-// Offers the text in both formats. Each is made when somebody asks for it, so that selecting a
-// long dialogue with the mouse costs no RTF.
+// Offers the text in both formats. Each is made only when it is asked for, since selecting with the
+// mouse already creates this object: writing the RTF of a long dialogue each time would be slow.
 class RichTextMimeData : public QMimeData {
  public:
   explicit RichTextMimeData(richtext::Document document) : document_(std::move(document)) {}
@@ -27,8 +27,8 @@ class RichTextMimeData : public QMimeData {
 // Whether InsertMimeData has something to insert.
 bool HoldsText(const QMimeData& source);
 
-// Replaces the cursor's selection: by the RTF where there is some, else by the plain text in the
-// format of the selection. What is too long to be meant is cut.
+// Replaces the cursor's selection by the RTF if there is any, else by the plain text in the format
+// of the selection. A text that is too long to handle is cut.
 void InsertMimeData(QTextCursor& cursor, const QMimeData& source, Lines lines);
 
 }  // namespace verlume::qt

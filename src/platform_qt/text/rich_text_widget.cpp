@@ -27,7 +27,7 @@ QPalette ClassicPalette() {
   return palette;
 }
 
-// Whether a menu of the widget's window has the keys.
+// Whether the keys are the shortcut of a menu entry of the widget's window.
 bool IsMenuKey(const QWidget& widget, const QKeyEvent& event) {
   const QKeySequence keys(event.keyCombination());
   const QList<QAction*> actions = widget.window()->findChildren<QAction*>();
@@ -43,14 +43,14 @@ RichTextWidget::ProgramChange::~ProgramChange() {
 }
 
 RichTextWidget::UserChange::~UserChange() {
-  if (widget_ && --widget_->userDepth_ == 0) widget_->SettleSelChange();
+  if (widget_ && --widget_->userDepth_ == 0) widget_->RaisePendingEvents();
 }
 
 RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
     : QPlainTextEdit(parent), lines_(lines), seams_(*document(), lines) {
   setPalette(ClassicPalette());
-  QFont font(ToQt(kOwnFontName));
-  font.setPointSizeF(kOwnFontSize);
+  QFont font(ToQt(kDefaultFontName));
+  font.setPointSizeF(kDefaultFontSize);
   setFont(font);
   setLineWrapMode(QPlainTextEdit::WidgetWidth);
   setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -72,8 +72,8 @@ bool RichTextWidget::Swallowed(int keyCode, int shift, int charCode) {
 }
 
 bool RichTextWidget::event(QEvent* event) {
-  // A key of the menus is theirs, also where it would edit text: Ctrl+U deletes a line on some
-  // desktops.
+  // The shortcuts of the menus go before the keys that edit text: on some desktops Ctrl+U deletes a
+  // line.
   if (event->type() == QEvent::ShortcutOverride &&
       IsMenuKey(*this, *static_cast<QKeyEvent*>(event))) {
     event->ignore();
@@ -90,7 +90,7 @@ void RichTextWidget::keyPressEvent(QKeyEvent* event) {
 
 void RichTextWidget::PerformKey(QKeyEvent* event) {
   if (event->key() == Qt::Key_Backtab) {
-    // Qt keeps it from an editor that takes tabs.
+    // Qt does not do this in an editor that accepts tabs.
     QAbstractScrollArea::focusNextPrevChild(false);
     return;
   }
@@ -101,8 +101,7 @@ void RichTextWidget::PerformKey(QKeyEvent* event) {
   PressAcrossSeams(event);
 }
 
-// At a seam there is nothing to step over or to delete: a key that did no more than that is pressed
-// again.
+// A seam is no character: a key that did nothing but step over or delete one is pressed again.
 void RichTextWidget::PressAcrossSeams(QKeyEvent* event) {
   const QPointer<RichTextWidget> self(this);
   const auto inDocument = [this] {
@@ -152,7 +151,7 @@ void RichTextWidget::resizeEvent(QResizeEvent* event) {
   if (showsEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
-void RichTextWidget::FollowTo(const QTextCursor& cursor) {
+void RichTextWidget::MoveCursorTo(const QTextCursor& cursor) {
   const QTextCursor own = textCursor();
   if (own.position() == cursor.position() && own.anchor() == cursor.anchor() &&
       own.charFormat() == cursor.charFormat()) {
@@ -168,7 +167,7 @@ bool RichTextWidget::ShowsEndWithin(const QSize& size) const {
 }
 
 void RichTextWidget::ShowEnd() {
-  // A scroll bar does not know how high the text is before it has been laid out.
+  // The scroll bar's range is an estimate until the text has been laid out.
   constexpr int kMostTries = 4;
   for (int i = 0; i < kMostTries && !(i > 0 && ShowsEnd()); ++i) {
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
@@ -200,7 +199,7 @@ void RichTextWidget::insertFromMimeData(const QMimeData* source) {
 void RichTextWidget::NoteSelChange() {
   if (programDepth_ > 0) return;
   selChanged_ = true;
-  if (userDepth_ == 0) SettleSelChange();
+  if (userDepth_ == 0) RaisePendingEvents();
 }
 
 void RichTextWidget::NoteChange() {
@@ -208,7 +207,7 @@ void RichTextWidget::NoteChange() {
   NoteSelChange();
 }
 
-void RichTextWidget::SettleSelChange() {
+void RichTextWidget::RaisePendingEvents() {
   if (!selChanged_) return KeepInsertionFormat();
   selChanged_ = false;
   if (document()->isEmpty()) {

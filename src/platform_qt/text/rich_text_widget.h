@@ -1,5 +1,5 @@
-// The widget behind the rich-text box: it turns what the user does into the box's events and keeps
-// everything that the user puts in within the box's rules.
+// The widget of the rich-text box: it turns what the user does into the box's events, and applies
+// the box's rules to everything that the user types or pastes.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -14,22 +14,23 @@ class RichTextWidget : public QPlainTextEdit {
  public:
   RichTextWidget(QWidget* parent, Lines lines);
 
-  // Whose events are raised; none when null.
+  // The box whose events are raised; with null none are.
   void SetEvents(const RichTextBox* events) { events_ = events; }
   void SetCharset(int charset) { charset_ = charset; }
   int Charset() const { return charset_; }
   Lines lines() const { return lines_; }
   const Seams& seams() const { return seams_; }
 
-  // Makes its cursor like this one. Its own moves with what is inserted, and setting it costs half
-  // a line's time: it is left alone where it is like that already.
-  void FollowTo(const QTextCursor& cursor);
+  // Sets its cursor to this one, unless they are equal already: its own cursor moves with what is
+  // inserted, and setting it takes half as long as writing a line.
+  void MoveCursorTo(const QTextCursor& cursor);
 
-  // Whether the end of the text can be seen, and scrolling so that it can.
+  // Whether the end of the text is in view, and scrolling it into view.
   bool ShowsEnd() const { return ShowsEndWithin(viewport()->size()); }
   void ShowEnd();
 
-  // While one of these lives the program changes the box: no onSelChange comes of itself.
+  // While an object of this class exists the program changes the box, which then raises neither
+  // onSelChange nor onChange by itself.
   class ProgramChange {
    public:
     explicit ProgramChange(RichTextWidget& widget) : widget_(widget) { ++widget_.programDepth_; }
@@ -54,8 +55,8 @@ class RichTextWidget : public QPlainTextEdit {
   void insertFromMimeData(const QMimeData* source) override;
 
  private:
-  // While one of these lives the user changes the box; what came of it is told once, at its end.
-  // The widget may be gone by then: a key can end the program.
+  // While an object of this class exists the user changes the box; the events are raised once, at
+  // its end. The widget may have been deleted by then: a key can end the program.
   class UserChange {
    public:
     explicit UserChange(RichTextWidget& widget) : widget_(&widget) { ++widget.userDepth_; }
@@ -68,14 +69,14 @@ class RichTextWidget : public QPlainTextEdit {
   };
 
   bool ShowsEndWithin(const QSize& size) const;
-  // Offers a key to the handlers; true when one of them swallowed it or the widget is gone.
+  // Offers a key to the handlers; true when one of them swallowed it or deleted the widget.
   bool Swallowed(int keyCode, int shift, int charCode);
   void PerformKey(QKeyEvent* event);
   void PressAcrossSeams(QKeyEvent* event);
   void TypeText(const QString& text);
   void NoteSelChange();
   void NoteChange();
-  void SettleSelChange();
+  void RaisePendingEvents();
   void KeepInsertionFormat();
 
   const RichTextBox* events_ = nullptr;
@@ -86,7 +87,7 @@ class RichTextWidget : public QPlainTextEdit {
   int userDepth_ = 0;
   bool selChanged_ = false;
   bool changed_ = false;
-  QTextCharFormat lastFormat_;  // of the insertion point, when its box last came to rest
+  QTextCharFormat lastFormat_;  // of the insertion point, after the last change
 };
 
 }  // namespace verlume::qt

@@ -28,7 +28,7 @@ std::size_t Seams::TextPosition(int position) const {
 }
 
 int Seams::DocumentPosition(std::size_t position) const {
-  // Each seam is one position of the document, and of none in the text.
+  // Each seam takes up one position in the document, and none in the text.
   std::size_t before = 0;
   std::size_t notBefore = places_.size();
   while (before < notBefore) {
@@ -39,7 +39,7 @@ int Seams::DocumentPosition(std::size_t position) const {
   return static_cast<int>(position + before);
 }
 
-// Of two blocks that become one, the second may be the one that stays.
+// When two blocks are joined, the one that Qt keeps may be the second, and so its mark.
 void Seams::KeepMark(QTextBlock block) const {
   const bool isSeam = std::binary_search(places_.begin(), places_.end(), block.position());
   block.setUserState(isSeam ? kSeam : kNoSeam);

@@ -1,5 +1,5 @@
-// The seams of a QTextDocument: where a line that is too long to be laid out as a whole goes on in
-// another block. Between two such blocks there is nothing, neither in the text nor in a position.
+// The seams of a QTextDocument: where a line that is too long to be laid out as a whole continues
+// in another block. A seam is no character of the text, and positions in the text do not count it.
 #pragma once
 
 #include <QObject>
@@ -10,22 +10,23 @@
 
 namespace verlume::qt {
 
-// Whether a box holds lines or one line, where every line break that is put in becomes a blank.
+// How many lines a box holds. In a single line every line break that is inserted becomes a blank.
 enum class Lines { Many, Single };
 
-// Every block of a single line but its first begins at a seam; among many lines those that are
-// marked.
+// Whether the block continues the line of the block before it. In a single line every block does
+// but the first, for which the answer has no meaning; among many lines those that are marked do.
 bool BeginsAtSeam(const QTextBlock& block, Lines lines);
-// To be done in the edit block that makes the text block.
+// Call it within the same edit block in which the text block is made.
 void MarkSeam(QTextBlock block);
 
-// Where the seams of a document are, while it changes. It begins as a document without any.
+// Keeps track of where the seams of a document are while it changes. At first it must have none.
 class Seams : public QObject {
  public:
-  // The document outlives this or dies with it.
+  // The document must not be destroyed before this object.
   Seams(QTextDocument& document, Lines lines);
 
-  // A position in the text for one in the document, and back: before the seam where there is one.
+  // Convert a position in the document to one in the text, and back. Where there is a seam, the
+  // position in the document is the one before it.
   std::size_t TextPosition(int position) const;
   int DocumentPosition(std::size_t position) const;
 
@@ -35,7 +36,7 @@ class Seams : public QObject {
 
   QTextDocument& document_;
   const Lines lines_;
-  std::vector<int> places_;  // in the document, of the first character behind each
+  std::vector<int> places_;  // positions in the document of the first character behind each seam
 };
 
 }  // namespace verlume::qt

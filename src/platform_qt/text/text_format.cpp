@@ -26,18 +26,19 @@ Color ColorOf(const QTextCharFormat& format) {
   return brush.style() == Qt::NoBrush ? kAutomaticColor : FromQt(brush.color());
 }
 
-// The name of the font that the text asks for; its family is the one that shows it here.
+// The property that keeps the font name of the text. The family is the font that shows it on this
+// computer.
 constexpr int kFontName = QTextFormat::UserProperty;
 
-// To look for a font that is not there takes milliseconds, with each of its sizes and styles; what
-// another computer sends may name any number of them. So each name is looked for once, and beyond
-// so many names the own font shows.
+// Looking for a font that is not installed takes milliseconds for each of its sizes and styles, and
+// a peer may name any number of such fonts. So each name is looked up once, and beyond a certain
+// number of names missing fonts are shown in the default font.
 QString FamilyToShow(const QString& name) {
   constexpr qsizetype kMostNames = 64;
   static QHash<QString, QString> known;
   const auto found = known.constFind(name);
   if (found != known.constEnd()) return *found;
-  const QString own = ToQt(kOwnFontName);
+  const QString own = ToQt(kDefaultFontName);
   if (known.size() >= kMostNames && !QFontDatabase::hasFamily(name)) return own;
   return *known.insert(name, QFontInfo(QFont(name)).family());
 }
@@ -46,16 +47,16 @@ std::u16string FontNameOf(const QTextCharFormat& format) {
   const QString name = format.stringProperty(kFontName);
   if (!name.isEmpty()) return FromQt(name);
   const QStringList families = format.fontFamilies().toStringList();
-  return families.isEmpty() ? std::u16string(kOwnFontName) : FromQt(families.front());
+  return families.isEmpty() ? std::u16string(kDefaultFontName) : FromQt(families.front());
 }
 
 double FontSizeOf(const QTextCharFormat& format) {
   const double size = format.fontPointSize();
-  return size > 0 ? size : kOwnFontSize;
+  return size > 0 ? size : kDefaultFontSize;
 }
 
 void SetFontName(QTextCharFormat& format, std::u16string_view name) {
-  const QString wanted = ToQt(name.empty() ? kOwnFontName : name);
+  const QString wanted = ToQt(name.empty() ? kDefaultFontName : name);
   format.setProperty(kFontName, wanted);
   format.setFontFamilies({FamilyToShow(wanted)});
 }
@@ -65,7 +66,7 @@ void KeepIfSame(std::optional<T>& common, const std::optional<T>& other) {
   if (common != other) common.reset();
 }
 
-// A document has no more fonts than can be read back; what is beyond takes the first one.
+// A document has no more fonts than the reader accepts; text in further ones gets the first font.
 std::uint16_t IndexOf(const std::u16string& name, int charset, std::vector<richtext::Font>& fonts) {
   const auto found = std::find(fonts.begin(), fonts.end(), richtext::Font{name, charset});
   const auto index = static_cast<std::uint16_t>(found - fonts.begin());
@@ -77,9 +78,14 @@ std::uint16_t IndexOf(const std::u16string& name, int charset, std::vector<richt
 
 }  // namespace
 
-QTextCharFormat OwnFormat() {
-  return ToQt(
-      {std::u16string(kOwnFontName), kOwnFontSize, std::nullopt, false, false, false, false});
+QTextCharFormat DefaultFormat() {
+  return ToQt(SelectionFormat{.fontName = std::u16string(kDefaultFontName),
+                              .fontSize = kDefaultFontSize,
+                              .color = std::nullopt,
+                              .bold = false,
+                              .italic = false,
+                              .underline = false,
+                              .strikethrough = false});
 }
 
 QTextCharFormat ToQt(const SelectionFormat& format) {
@@ -95,13 +101,13 @@ QTextCharFormat ToQt(const SelectionFormat& format) {
 }
 
 SelectionFormat FromQt(const QTextCharFormat& format) {
-  return {FontNameOf(format),
-          FontSizeOf(format),
-          std::max<Color>(ColorOf(format), 0),
-          format.fontWeight() > QFont::Medium,
-          format.fontItalic(),
-          format.fontUnderline(),
-          format.fontStrikeOut()};
+  return {.fontName = FontNameOf(format),
+          .fontSize = FontSizeOf(format),
+          .color = std::max<Color>(ColorOf(format), 0),
+          .bold = format.fontWeight() > QFont::Medium,
+          .italic = format.fontItalic(),
+          .underline = format.fontUnderline(),
+          .strikethrough = format.fontStrikeOut()};
 }
 
 void KeepCommon(SelectionFormat& common, const SelectionFormat& other) {

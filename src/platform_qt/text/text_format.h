@@ -1,4 +1,4 @@
-// The formats of characters: Qt's, the run model's, the box's.
+// Converts character formats between Qt, the documents of richtext/ and the box's interface.
 #pragma once
 
 #include <QTextCharFormat>
@@ -9,21 +9,21 @@
 
 namespace verlume::qt {
 
-// What a box writes with before anything is set: Arial, 10 points, the automatic colour.
-inline constexpr std::u16string_view kOwnFontName = u"Arial";
-inline constexpr double kOwnFontSize = 10;
-QTextCharFormat OwnFormat();
+// The format of text in a box in which none has been set: Arial, 10 points, automatic colour.
+inline constexpr std::u16string_view kDefaultFontName = u"Arial";
+inline constexpr double kDefaultFontSize = 10;
+QTextCharFormat DefaultFormat();
 
-// The members that have a value; merging it into another format leaves the others.
+// Sets only the properties whose members have a value; merging keeps the others.
 QTextCharFormat ToQt(const SelectionFormat& format);
 SelectionFormat FromQt(const QTextCharFormat& format);
-// `common` keeps the members in which `other` is the same.
+// Resets the members of `common` that differ in `other`.
 void KeepCommon(SelectionFormat& common, const SelectionFormat& other);
 // True when no member has a value any more.
 bool IsUndetermined(const SelectionFormat& format);
 
 QTextCharFormat ToQt(const richtext::CharFormat& format, const std::vector<richtext::Font>& fonts);
-// Its font, when it is not among `fonts`, is added there with this character set.
+// Adds its font with this character set to `fonts`, if it is not there yet.
 richtext::CharFormat FromQt(const QTextCharFormat& format, int charset,
                             std::vector<richtext::Font>& fonts);
 

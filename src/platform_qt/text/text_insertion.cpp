@@ -10,9 +10,9 @@
 namespace verlume::qt {
 namespace {
 
-// A block is laid out as a whole, with every key that changes it. What is laid out slowly weighs
-// more: pieces of a format of their own, and scripts whose letters have to be looked for in other
-// fonts or are joined to each other.
+// Every key that changes a block has it laid out as a whole. What is slow to lay out weighs more:
+// each piece with a format of its own, and scripts whose letters come from other fonts or are
+// joined to each other.
 constexpr int kMostWeight = 4096;
 constexpr int kWeightOfPiece = 32;
 constexpr qsizetype kLongestBlock = kMostWeight;
@@ -25,7 +25,7 @@ int Weight(QChar unit) {
   return (c < 0x0590 && !isMark) || isPunctuation ? 1 : kSlow;
 }
 
-// The room that is left in the block behind a piece.
+// The room that is left in the block after a piece.
 int RoomBehind(QStringView piece, int room) {
   room -= kWeightOfPiece;
   for (const QChar unit : piece) room = unit == u'\n' ? kMostWeight : room - Weight(unit);
@@ -39,7 +39,7 @@ int RoomAt(const QTextCursor& cursor) {
   return room;
 }
 
-// How far back from the end of a block a blank is looked for, to end it there.
+// How far back from the end of a block to look for a blank at which to end it.
 constexpr qsizetype kLongestWord = 256;
 
 }  // namespace
@@ -61,25 +61,25 @@ int TextInsertion::Percent() const {
   return IsDone() ? 100 : static_cast<int>(at_ * 100 / size_);
 }
 
-void TextInsertion::PutIn(qsizetype units) {
+void TextInsertion::InsertNext(qsizetype units) {
   qsizetype end = std::min(at_ + units, size_);
   if (end < size_ && text_.text[end].isLowSurrogate()) ++end;
   cursor_.setKeepPositionOnInsert(false);
-  // The anchor has gone on with what was written there.
+  // What others wrote there has moved the anchor.
   cursor_.clearSelection();
   cursor_.beginEditBlock();
   room_ = RoomAt(cursor_);
-  while (at_ < end) PutInPiece(end);
+  while (at_ < end) InsertPiece(end);
   cursor_.endEditBlock();
   cursor_.setKeepPositionOnInsert(true);
-  // A long text is not kept twice.
+  // The document has the text now: a long one is not kept twice.
   if (IsDone()) text_ = FormattedText();
 }
 
-void TextInsertion::PutInPiece(qsizetype end) {
+void TextInsertion::InsertPiece(qsizetype end) {
   const FormattedText::Piece& piece = text_.pieces[piece_];
   const qsizetype rest = piece.length - inPiece_;
-  // The word that is next to come is seen too.
+  // Looks beyond the end, so that the seam stands where it would if all were inserted at once.
   const qsizetype seam = LengthBeforeSeam(std::min(rest, end - at_ + kLongestBlock));
   const qsizetype length = std::min({rest, end - at_, seam});
   const QString text = text_.text.mid(at_, length);
@@ -97,7 +97,7 @@ void TextInsertion::PutInPiece(qsizetype end) {
   inPiece_ = 0;
 }
 
-// How much of the next text goes in before a seam; more than that where there need be none.
+// How much of the next `length` units fits before a seam; `length` + 1 if no seam is needed.
 qsizetype TextInsertion::LengthBeforeSeam(qsizetype length) const {
   const QStringView text = QStringView(text_.text).sliced(at_, length);
   int room = room_ - kWeightOfPiece;
@@ -115,7 +115,7 @@ qsizetype TextInsertion::LengthBeforeSeam(qsizetype length) const {
   return length + 1;
 }
 
-// How much of a text that is longer than the room goes into it: the words that fit.
+// How much of a text that is longer than the room is put before the seam: the words that fit.
 qsizetype TextInsertion::LengthOfCut(qsizetype begin, qsizetype room) const {
   if (room <= 0) return 0;
   const qsizetype searched = std::min(room, kLongestWord);
@@ -129,7 +129,7 @@ void Insert(QTextCursor& cursor, FormattedText text) {
   const qsizetype length = text.text.size();
   cursor.beginEditBlock();
   TextInsertion insertion(cursor, std::move(text));
-  insertion.PutIn(length);
+  insertion.InsertNext(length);
   cursor.endEditBlock();
   cursor.setPosition(insertion.cursor().position());
 }

@@ -1,4 +1,4 @@
-// Text on its way into a QTextDocument, whole or piece by piece.
+// Inserts text into a QTextDocument, at once or piece by piece.
 #pragma once
 
 #include <QTextCursor>
@@ -10,39 +10,39 @@
 
 namespace verlume::qt {
 
-// What is written into the document behind the insertion while it rests stays behind what is still
-// to come.
+// Text that others write directly behind the insertion, between two pieces, stays behind the pieces
+// that follow.
 class TextInsertion {
  public:
   // Replaces the cursor's selection.
   TextInsertion(const QTextCursor& cursor, FormattedText text);
 
-  // Goes on with another text, once this one is in.
+  // Continues with another text. The one before must be done.
   void StartNext(FormattedText text);
 
-  // Puts in the next units, about as many as these.
-  void PutIn(qsizetype units);
-  qsizetype UnitsToCome() const { return size_ - at_; }
-  bool IsDone() const { return UnitsToCome() == 0; }
+  // Inserts the next piece: `units` long, or one more so as not to split a surrogate pair.
+  void InsertNext(qsizetype units);
+  qsizetype UnitsLeft() const { return size_ - at_; }
+  bool IsDone() const { return UnitsLeft() == 0; }
   int Percent() const;
-  // Behind what has been put in.
+  // Behind what has been inserted.
   const QTextCursor& cursor() const { return cursor_; }
 
  private:
-  void PutInPiece(qsizetype end);
+  void InsertPiece(qsizetype end);
   qsizetype LengthBeforeSeam(qsizetype length) const;
   qsizetype LengthOfCut(qsizetype begin, qsizetype room) const;
 
   QTextCursor cursor_;
-  FormattedText text_;  // empty once it is in
+  FormattedText text_;  // empty once it is inserted
   qsizetype size_;
-  qsizetype at_ = 0;       // in the text
-  std::size_t piece_ = 0;  // the one at that place
-  qsizetype inPiece_ = 0;  // and how much of it is in
-  int room_ = 0;           // in the block at the cursor
+  qsizetype at_ = 0;       // position in the text
+  std::size_t piece_ = 0;  // index of the piece at that position
+  qsizetype inPiece_ = 0;  // how much of that piece has been inserted
+  int room_ = 0;           // left in the block at the cursor
 };
 
-// These replace the cursor's selection and leave the cursor behind what came in.
+// These replace the cursor's selection and leave the cursor behind the new text.
 void Insert(QTextCursor& cursor, FormattedText text);
 void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines);
 void InsertDocument(QTextCursor& cursor, richtext::Document document, Lines lines);

@@ -18,9 +18,9 @@ constexpr int kAll = 100;
 TextLoading::TextLoading(RichTextWidget& widget, const QTextCursor& cursor, FormattedText text,
                          std::function<void(int percent)> onProgress)
     : widget_(widget), insertion_(cursor, std::move(text)), onProgress_(std::move(onProgress)) {
-  PutIn(kUnitsAtOnce);
+  InsertNext(kUnitsAtOnce);
   if (insertion_.IsDone()) {
-    told_ = kAll;
+    reported_ = kAll;
     return;
   }
   QObject::connect(&nextTurn_, &QTimer::timeout, &nextTurn_, [this] { RunTurn(); });
@@ -28,20 +28,20 @@ TextLoading::TextLoading(RichTextWidget& widget, const QTextCursor& cursor, Form
 }
 
 void TextLoading::Finish() {
-  if (!insertion_.IsDone()) PutIn(insertion_.UnitsToCome());
+  if (!insertion_.IsDone()) InsertNext(insertion_.UnitsLeft());
   Abandon();
 }
 
 void TextLoading::Abandon() {
   nextTurn_.stop();
-  Tell(kAll);
+  ReportProgress(kAll);
 }
 
-void TextLoading::PutIn(qsizetype units) {
-  // What is written meanwhile is brought into view, and moves down with every piece.
+void TextLoading::InsertNext(qsizetype units) {
+  // Lines that are written meanwhile stay in view, though each piece moves them down.
   const bool showsEnd = widget_.verticalScrollBar()->value() > 0 && widget_.ShowsEnd();
   const RichTextWidget::ProgramChange change(widget_);
-  insertion_.PutIn(units);
+  insertion_.InsertNext(units);
   widget_.document()->clearUndoRedoStacks();
   if (showsEnd) widget_.ShowEnd();
 }
@@ -49,14 +49,14 @@ void TextLoading::PutIn(qsizetype units) {
 void TextLoading::RunTurn() {
   QElapsedTimer turn;
   turn.start();
-  while (!insertion_.IsDone() && !turn.hasExpired(kTurn.count())) PutIn(kUnitsPerStep);
+  while (!insertion_.IsDone() && !turn.hasExpired(kTurn.count())) InsertNext(kUnitsPerStep);
   if (insertion_.IsDone()) nextTurn_.stop();
-  Tell(insertion_.Percent());
+  ReportProgress(insertion_.Percent());
 }
 
-void TextLoading::Tell(int percent) {
-  if (percent <= told_) return;
-  told_ = percent;
+void TextLoading::ReportProgress(int percent) {
+  if (percent <= reported_) return;
+  reported_ = percent;
   onProgress_(percent);
 }
 

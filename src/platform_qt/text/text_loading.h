@@ -1,4 +1,4 @@
-// A long text on its way into a rich-text widget, between the events that the window handles.
+// Inserts a long text into a rich-text widget piece by piece, between the window's events.
 #pragma once
 
 #include <QTimer>
@@ -11,26 +11,26 @@ namespace verlume::qt {
 
 class TextLoading {
  public:
-  // Puts in the first piece at once, at the cursor. `onProgress` hears of every further per cent,
-  // and of 100 once; of none when the first piece is all. What is still to come when the loading
-  // is destroyed is never put in.
+  // Inserts the first piece at once, at the cursor. `onProgress` is called when the percentage has
+  // grown, and last with 100; never when the first piece is the whole text. When this object is
+  // destroyed, what is left is not inserted.
   TextLoading(RichTextWidget& widget, const QTextCursor& cursor, FormattedText text,
               std::function<void(int percent)> onProgress);
 
-  // Puts in all that is still to come.
+  // Inserts all that is left.
   void Finish();
-  // Tells of 100 though not all is in.
+  // Stops, and reports 100 although text is left.
   void Abandon();
 
  private:
-  void PutIn(qsizetype units);
+  void InsertNext(qsizetype units);
   void RunTurn();
-  void Tell(int percent);
+  void ReportProgress(int percent);
 
   RichTextWidget& widget_;
   TextInsertion insertion_;
   std::function<void(int percent)> onProgress_;
-  int told_ = 0;
+  int reported_ = 0;
   QTimer nextTurn_;
 };
 

@@ -9,7 +9,7 @@ TextUpdate::TextUpdate(RichTextWidget& widget)
 
 TextUpdate::~TextUpdate() {
   edit_.endEditBlock();
-  widget_.FollowTo(cursor);
+  widget_.MoveCursorTo(cursor);
   if (selChanged) widget_.ensureCursorVisible();
 }
 

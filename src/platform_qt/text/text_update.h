@@ -1,4 +1,4 @@
-// A change of a rich-text widget that is made of several steps.
+// Makes one change of several changes to a rich-text widget.
 #pragma once
 
 #include <QTextCursor>
@@ -7,8 +7,8 @@
 
 namespace verlume::qt {
 
-// From its making to its end the document does not lay out what is put in. The widget's own cursor
-// must not be set meanwhile, which would have it done at once: `cursor` stands for it.
+// While it exists the document does not lay out what is inserted. Setting the widget's own cursor
+// would cause that at once, so `cursor` takes its place until the end.
 class TextUpdate {
  public:
   explicit TextUpdate(RichTextWidget& widget);
@@ -17,7 +17,7 @@ class TextUpdate {
   TextUpdate& operator=(const TextUpdate&) = delete;
 
   QTextCursor cursor;
-  int depth = 1;  // of updates, one in the other
+  int depth = 1;  // how many updates are nested
   bool selChanged = false;
   bool changed = false;
 

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "platform_qt/text/turn.h"
@@ -9,10 +10,11 @@
 namespace verlume::qt {
 namespace {
 
-// Units of text: as many as take about a millisecond.
+// How much text a step inserts, in units. It is doubled or halved between these limits, so that a
+// step takes about kStepTime.
 constexpr std::size_t kShortestStep = 512;
 constexpr std::size_t kLongestStep = 16 * 1024;
-constexpr qint64 kStepMicroseconds = 1000;
+constexpr std::chrono::milliseconds kStepTime{1};
 
 }  // namespace
 
@@ -31,29 +33,29 @@ void TextWriting::Add(richtext::Document document) {
 }
 
 void TextWriting::Finish() {
-  while (!IsDone()) PutInStep();
+  while (!IsDone()) InsertStep();
 }
 
 void TextWriting::RunTurn() {
   QElapsedTimer turn;
   turn.start();
-  while (!IsDone() && !turn.hasExpired(kTurn.count())) PutInStep();
+  while (!IsDone() && !turn.hasExpired(kTurn.count())) InsertStep();
   if (!IsDone()) return;
   nextTurn_.stop();
   onDone_();
 }
 
-void TextWriting::PutInStep() {
+void TextWriting::InsertStep() {
   const RichTextWidget::ProgramChange change(widget_);
   if (insertion_.IsDone()) return TakeNextPart();
   QElapsedTimer timer;
   timer.start();
   const bool showsEnd = widget_.ShowsEnd();
-  insertion_.PutIn(insertion_.UnitsToCome());
+  insertion_.InsertNext(insertion_.UnitsLeft());
   widget_.document()->clearUndoRedoStacks();
   if (showsEnd) widget_.ShowEnd();
-  // What is laid out slowly comes by smaller steps.
-  const bool isSlow = timer.nsecsElapsed() / 1000 > kStepMicroseconds;
+  // Text that is slow to lay out is inserted in smaller steps.
+  const bool isSlow = std::chrono::nanoseconds(timer.nsecsElapsed()) > kStepTime;
   step_ = std::clamp(isSlow ? step_ / 2 : step_ * 2, kShortestStep, kLongestStep);
 }
 

@@ -1,5 +1,5 @@
-// Documents that were written into a rich-text widget and are too long to be put in at once: they
-// come in between the events that the window handles.
+// Inserts documents that are too long to be inserted at once into a rich-text widget, between the
+// window's events.
 #pragma once
 
 #include <QTimer>
@@ -14,27 +14,27 @@ namespace verlume::qt {
 
 class TextWriting {
  public:
-  // At the cursor, whose selection is replaced. `onDone` comes from the event loop, once. What is
-  // still to come when the writing is destroyed is never put in.
+  // Writes at the cursor, whose selection is replaced. `onDone` is called from the event loop when
+  // everything has been inserted. When this object is destroyed, what is left is not inserted.
   TextWriting(RichTextWidget& widget, const QTextCursor& cursor, std::function<void()> onDone);
 
-  // Behind what is still to come.
+  // Adds a document behind what is left.
   void Add(richtext::Document document);
-  // Whether what is put in at the position would come directly behind all of this.
+  // Whether text inserted at the position would stand directly behind all of this.
   bool EndsAt(int position) const { return insertion_.cursor().position() == position; }
   bool IsDone() const { return waiting_.empty() && insertion_.IsDone(); }
-  // Puts in all that is still to come.
+  // Inserts all that is left.
   void Finish();
 
  private:
   void RunTurn();
-  void PutInStep();
+  void InsertStep();
   void TakeNextPart();
 
   RichTextWidget& widget_;
-  TextInsertion insertion_;            // of the part at hand
-  const QTextCharFormat before_;       // what an empty text is written in
-  std::deque<DocumentParts> waiting_;  // the first one may be partly in
+  TextInsertion insertion_;            // of the current part
+  const QTextCharFormat before_;       // the format before; an empty text keeps it
+  std::deque<DocumentParts> waiting_;  // the first one may be partly inserted
   std::size_t step_ = 1024;            // units
   std::function<void()> onDone_;
   QTimer nextTurn_;

@@ -1,13 +1,13 @@
-// How long texts are put in at a stretch, before the window's own events have their turn.
+// How long a text is inserted without a break before the window handles its events.
 #pragma once
 
 #include <chrono>
 
 namespace verlume::qt {
 
-// Shorter than a frame of the screen, so that no key or click waits for long.
+// Less than the time of a screen frame, so that no key or click waits for long.
 inline constexpr std::chrono::milliseconds kTurn{10};
-// Not 0: who handles the events that wait has to find an end of them.
+// Not 0: a loop that handles events until none is waiting would not end before the text does.
 inline constexpr std::chrono::milliseconds kPauseBetweenTurns{1};
 
 }  // namespace verlume::qt

@@ -211,8 +211,8 @@ void Program::BindSocket() {
   On(sckControl.onConnect, socketEvents_, &SocketEvents::sckControl_Connect);
   On(sckControl.onDataArrival, socketEvents_, &SocketEvents::sckControl_DataArrival);
   // A peer that sends faster than the dialogue pane shows is slowed down.
-  On(platform_.frmMain.rtbData.onTakingIn, sckControl, &Socket::PauseArrivals);
-  On(platform_.frmMain.rtbData.onTakenIn, sckControl, &Socket::ResumeArrivals);
+  On(platform_.frmMain.rtbData.onInsertionStarted, sckControl, &Socket::PauseArrivals);
+  On(platform_.frmMain.rtbData.onInsertionFinished, sckControl, &Socket::ResumeArrivals);
   On(sckControl.onAcknowledged, wire_, &WireProtocol::ShowLinesWaiting);
   On(sckControl.onUndelivered, wire_, &WireProtocol::OnUndelivered);
   On(sckControl.onClose, socketEvents_, &SocketEvents::sckControl_Close);

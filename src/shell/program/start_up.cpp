@@ -31,7 +31,8 @@ void StartUp::Form_Load() {
     ClearWindow();
     SetSettingDefaults(state_, platform_.frmMain);
     ReadLanguage(state_, settings_);
-    trouble = SecureSettingsFile(state_, platform_.files, settings_);
+    trouble = SecureSettingsFile(state_, platform_.files, settings_,
+                                 [this] { errors_.LogException(Procedure::Form_Load); });
     language_.ApplyLanguage();
     if (platform_.application.HasEnded()) return;
     ReadSettings(state_, platform_.frmMain, settings_);

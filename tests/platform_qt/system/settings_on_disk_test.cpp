@@ -36,7 +36,7 @@ class SettingsOnDiskTest : public testing::Test {
   // The content of the file after a start, which writes to it.
   SettingsTrouble Secure() {
     Settings settings(state, files);
-    const SettingsTrouble trouble = SecureSettingsFile(state, files, settings);
+    const SettingsTrouble trouble = SecureSettingsFile(state, files, settings, [] {});
     settings.WriteSetting(u"General", u"Language", u"1");
     return trouble;
   }

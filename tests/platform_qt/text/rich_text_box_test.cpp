@@ -38,7 +38,7 @@ class QtRichTextBoxTest : public testing::Test {
     event.setCommitString(text);
     QCoreApplication::sendEvent(box.widget(), &event);
   }
-  // What the clipboard would be given.
+  // What copying would put on the clipboard.
   void Paste(QtRichTextBox& box, QMimeData* content) {
     QApplication::clipboard()->setMimeData(content);
     box.widget()->paste();
@@ -59,7 +59,7 @@ class QtRichTextBoxTest : public testing::Test {
   QtRichTextBox many{&window, files, Lines::Many};
 };
 
-TEST_F(QtRichTextBoxTest, KeysKnowNoSeamsInALongSingleLine) {
+TEST_F(QtRichTextBoxTest, KeysPassOverTheSeamsOfALongSingleLine) {
   std::u16string text(5'000, u'x');
   text[4'095] = u'<';
   text[4'096] = u'>';
@@ -87,7 +87,7 @@ TEST_F(QtRichTextBoxTest, KeysKnowNoSeamsInALongSingleLine) {
   EXPECT_EQ(single.Text()[4'095], u'x');
 }
 
-TEST_F(QtRichTextBoxTest, KeysWithACodeOfTheirOwnTellIt) {
+TEST_F(QtRichTextBoxTest, KeysWithAKeyCodeReportIt) {
   std::vector<std::pair<int, int>> seen;
   single.onKeyDown = [&](int& code, int shift) {
     seen.emplace_back(code, shift);
@@ -102,7 +102,7 @@ TEST_F(QtRichTextBoxTest, KeysWithACodeOfTheirOwnTellIt) {
   EXPECT_EQ(single.Text(), u"");
 }
 
-TEST_F(QtRichTextBoxTest, ControlKeysTellTheirCharacters) {
+TEST_F(QtRichTextBoxTest, ControlKeysReportTheirCharacterCodes) {
   std::vector<int> seen;
   single.onKeyPress = [&](int& code) { seen.push_back(std::exchange(code, 0)); };
   Press(single, Qt::Key_Return, Qt::NoModifier, "\r");
@@ -116,7 +116,7 @@ TEST_F(QtRichTextBoxTest, ControlKeysTellTheirCharacters) {
   EXPECT_EQ(single.Text(), u"");
 }
 
-TEST_F(QtRichTextBoxTest, ShiftEnterPutsInTheSameBreakAsEnter) {
+TEST_F(QtRichTextBoxTest, ShiftEnterInsertsTheSameLineBreakAsEnter) {
   Press(many, Qt::Key_Return, Qt::NoModifier, "\r");
   Press(many, Qt::Key_Return, Qt::ShiftModifier, "\r");
   EXPECT_EQ(many.Text(), u"\n\n");
@@ -171,7 +171,7 @@ TEST_F(QtRichTextBoxTest, InputMethodsCommitInTheInsertionFormat) {
   EXPECT_EQ(single.SelFormat().bold, true);
 }
 
-TEST_F(QtRichTextBoxTest, InputMethodsBringNoLineBreakIntoASingleLine) {
+TEST_F(QtRichTextBoxTest, InputMethodsInsertNoLineBreakIntoASingleLine) {
   Commit(single, "a\nb");
   EXPECT_EQ(single.Text(), u"a b");
 }
@@ -191,7 +191,7 @@ TEST_F(QtRichTextBoxTest, CopyOffersRtfAndPlainTextOnly) {
   }
 }
 
-TEST_F(QtRichTextBoxTest, PasteTakesTheRtfFirst) {
+TEST_F(QtRichTextBoxTest, PastePrefersRtf) {
   QMimeData* content = PlainText("plain");
   content->setData("application/rtf", "{\\rtf1 rich\\b bold}");
   content->setHtml("<i>html</i>");
@@ -225,7 +225,7 @@ TEST_F(QtRichTextBoxTest, PastingIntoASingleLineIsBounded) {
   EXPECT_EQ(single.TextLength(), 64u * 1024);
 }
 
-TEST_F(QtRichTextBoxTest, ALockedBoxTakesNoPaste) {
+TEST_F(QtRichTextBoxTest, PastingIntoALockedBoxDoesNothing) {
   many.SetLocked(true);
   Paste(many, PlainText("no"));
   EXPECT_EQ(many.Text(), u"");
@@ -240,7 +240,7 @@ TEST_F(QtRichTextBoxTest, LongWordsWrapAtAnyWidth) {
   EXPECT_GT(many.widget()->document()->firstBlock().lineCount(), 10);
 }
 
-TEST_F(QtRichTextBoxTest, EveryRoadOfTheUserToAnotherTextIsTold) {
+TEST_F(QtRichTextBoxTest, EveryWayTheUserChangesTheTextRaisesOnChange) {
   std::vector<std::u16string> told;
   single.SetText(u"abc");
   single.onChange = [&] { told.push_back(single.Text()); };
@@ -253,7 +253,7 @@ TEST_F(QtRichTextBoxTest, EveryRoadOfTheUserToAnotherTextIsTold) {
   EXPECT_EQ(told, (std::vector<std::u16string>{u"bc", u"abc", u"axbc", u"axybc", u""}));
 }
 
-TEST_F(QtRichTextBoxTest, KeysThatChangeNothingTellOfNoChange) {
+TEST_F(QtRichTextBoxTest, KeysThatChangeNothingDoNotRaiseOnChange) {
   int told = 0;
   single.SetText(u"abc");
   single.onChange = [&] { ++told; };
@@ -263,7 +263,7 @@ TEST_F(QtRichTextBoxTest, KeysThatChangeNothingTellOfNoChange) {
   EXPECT_EQ(told, 0);
 }
 
-TEST_F(QtRichTextBoxTest, LossOfTheFocusIsTold) {
+TEST_F(QtRichTextBoxTest, LosingTheFocusRaisesOnLostFocus) {
   int lost = 0;
   window.activateWindow();
   ASSERT_TRUE(WaitForFocus(window));
@@ -274,7 +274,7 @@ TEST_F(QtRichTextBoxTest, LossOfTheFocusIsTold) {
   EXPECT_EQ(lost, 1);
 }
 
-TEST_F(QtRichTextBoxTest, UndoIsForTheUserOfASingleLine) {
+TEST_F(QtRichTextBoxTest, OnlyAnUnlockedSingleLineHasUndo) {
   single.SetText(u"set");
   EXPECT_FALSE(single.widget()->document()->isUndoAvailable());
   Press(single, Qt::Key_A, Qt::NoModifier, "a");
@@ -321,7 +321,7 @@ TEST_F(QtRichTextBoxTest, ACaretKeyThatMovesNothingKeepsTheInsertionFormat) {
   }
 }
 
-TEST_F(QtRichTextBoxTest, MovingTheCaretTellsOnce) {
+TEST_F(QtRichTextBoxTest, MovingTheCaretRaisesOnSelChangeOnce) {
   single.SetRtf(u"{\\rtf1 a\\b b}");
   std::vector<std::optional<bool>> seen;
   single.onSelChange = [&] { seen.push_back(single.SelFormat().bold); };
@@ -330,7 +330,7 @@ TEST_F(QtRichTextBoxTest, MovingTheCaretTellsOnce) {
   EXPECT_EQ(seen, (std::vector<std::optional<bool>>{false, true}));
 }
 
-TEST_F(QtRichTextBoxTest, ABoxMayEndWithinItsOwnKey) {
+TEST_F(QtRichTextBoxTest, ABoxMayBeDeletedByItsOwnKeyHandler) {
   auto doomed = std::make_unique<QtRichTextBox>(&window, files, Lines::Single);
   QWidget* widget = doomed->widget();
   doomed->onKeyPress = [&](int&) { delete std::exchange(widget, nullptr); };
@@ -339,7 +339,7 @@ TEST_F(QtRichTextBoxTest, ABoxMayEndWithinItsOwnKey) {
   EXPECT_EQ(widget, nullptr);
 }
 
-TEST_F(QtRichTextBoxTest, MouseButtonsAreToldOnce) {
+TEST_F(QtRichTextBoxTest, MouseButtonsAreReportedOnce) {
   std::vector<MouseButton> seen;
   many.onMouseDown = [&](MouseButton button) { seen.push_back(button); };
   many.onMouseUp = [&](MouseButton button) { seen.push_back(button); };
@@ -353,7 +353,7 @@ TEST_F(QtRichTextBoxTest, TheLookIsBlackOnWhiteInADarkTheme) {
   dark.setColor(QPalette::Base, Qt::black);
   dark.setColor(QPalette::Text, Qt::white);
   QApplication::setPalette(dark);
-  // A window made before hears of the theme later.
+  // Windows that exist already are told of the new theme later.
   QWidget darkWindow;
   const QtRichTextBox box(&darkWindow, files, Lines::Many);
   EXPECT_EQ(box.widget()->palette().color(QPalette::Base), QColor(Qt::white));
@@ -361,7 +361,7 @@ TEST_F(QtRichTextBoxTest, TheLookIsBlackOnWhiteInADarkTheme) {
   QApplication::setPalette(before);
 }
 
-TEST_F(QtRichTextBoxTest, AWrittenLineComesIntoViewFromAnywhere) {
+TEST_F(QtRichTextBoxTest, AWrittenLineIsScrolledIntoViewFromAnywhere) {
   many.SetLocked(true);
   for (int line = 0; line < 200; ++line) many.SetSelText(u"line\n");
   many.Select(0, 4);
@@ -374,7 +374,7 @@ TEST_F(QtRichTextBoxTest, AWrittenLineComesIntoViewFromAnywhere) {
   EXPECT_TRUE(ShowsCaret(many));
 }
 
-TEST_F(QtRichTextBoxTest, AHundredThousandLinesAreResizedAtOnce) {
+TEST_F(QtRichTextBoxTest, AHundredThousandLinesAreResizedQuickly) {
   std::u16string text;
   for (int line = 0; line < 100'000; ++line) text += u"a line of a long conversation\n";
   many.SetText(text);
@@ -404,7 +404,7 @@ TEST_F(QtRichTextBoxTest, AnUpdateIsOneChangeOfTheDocument) {
   EXPECT_EQ(many.Text(), u"[stamp]<tag>bold and not");
 }
 
-TEST_F(QtRichTextBoxTest, AnUpdateBringsItsEndIntoView) {
+TEST_F(QtRichTextBoxTest, AnUpdateScrollsItsEndIntoView) {
   {
     const RichTextUpdate update(many);
     for (int line = 0; line < 100; ++line) many.SetSelText(u"line\n");

@@ -10,7 +10,7 @@
 namespace verlume::qt {
 namespace {
 
-TEST(QtRichText, ADocumentComesOutAsItWentIn) {
+TEST(QtRichText, ADocumentReadsBackAsItWasInserted) {
   richtext::Document document;
   document.text = u"plain\nbold \u03b1red";
   document.fonts = {{u"Arial", 161}, {u"Tahoma", 161}};
@@ -24,7 +24,7 @@ TEST(QtRichText, ADocumentComesOutAsItWentIn) {
   EXPECT_EQ(SelectedDocument(cursor, 161, Lines::Many), document);
 }
 
-TEST(QtRichText, APartOfADocumentComesOutWithItsFormats) {
+TEST(QtRichText, APartOfADocumentReadsBackWithItsFormats) {
   richtext::Document document;
   document.text = u"abc\ndef";
   document.fonts = {{u"Arial", 161}};
@@ -39,7 +39,7 @@ TEST(QtRichText, APartOfADocumentComesOutWithItsFormats) {
   EXPECT_EQ(part.runs, (std::vector<richtext::Run>{{1, {.bold = true}}, {3, {}}}));
 }
 
-TEST(QtRichText, FontsBeyondTheLimitOfADocumentTakeItsFirst) {
+TEST(QtRichText, FontsBeyondTheLimitOfADocumentBecomeItsFirst) {
   QTextDocument shown;
   QTextCursor cursor(&shown);
   for (std::size_t i = 0; i <= richtext::limits::kMaxFonts; ++i) {

@@ -34,7 +34,7 @@ class QtSeamsTest : public testing::Test {
     }
     return count;
   }
-  // Positions of the text and of the document name the same characters.
+  // Corresponding positions in the text and in the document are at the same character.
   void ExpectPositionsFit() {
     const std::u16string text = Text();
     EXPECT_EQ(seams.TextPosition(End()), text.size());
@@ -48,20 +48,20 @@ class QtSeamsTest : public testing::Test {
     }
   }
 
-  // Without a layout a document tells of no change.
+  // Without a layout a document emits no contentsChange.
   QtSeamsTest() { shown.setDocumentLayout(new QPlainTextDocumentLayout(&shown)); }
 
   QTextDocument shown;
   Seams seams{shown, Lines::Many};
 };
 
-TEST_F(QtSeamsTest, ADocumentOfShortLinesHasNone) {
+TEST_F(QtSeamsTest, ShortLinesHaveNoSeams) {
   InsertAt(0, u"a line\nand another\n\n");
   EXPECT_EQ(CountSeams(), 0);
   ExpectPositionsFit();
 }
 
-TEST_F(QtSeamsTest, ALongLineAmongOthersIsOfSeveralBlocksAndStillOneLine) {
+TEST_F(QtSeamsTest, ALongLineAmongOthersHasSeveralBlocksAndIsStillOneLine) {
   const std::u16string line(10'000, u'x');
   const std::u16string text = u"short\n" + line + u"\nlast";
   InsertAt(0, text);
@@ -70,7 +70,7 @@ TEST_F(QtSeamsTest, ALongLineAmongOthersIsOfSeveralBlocksAndStillOneLine) {
   ExpectPositionsFit();
 }
 
-TEST_F(QtSeamsTest, ALineGrowsBeyondItsBlockPieceByPiece) {
+TEST_F(QtSeamsTest, ALineThatGrowsBeyondItsBlockContinuesInAnother) {
   std::u16string text;
   for (int i = 0; i < 2'000; ++i) {
     InsertAt(End(), u"hello ");
@@ -81,7 +81,7 @@ TEST_F(QtSeamsTest, ALineGrowsBeyondItsBlockPieceByPiece) {
   ExpectPositionsFit();
 }
 
-TEST_F(QtSeamsTest, TheyMoveWithWhatIsPutInBeforeThemAndGoWithWhatIsRemoved) {
+TEST_F(QtSeamsTest, SeamsMoveWithTextInsertedBeforeThemAndVanishWithRemovedText) {
   InsertAt(0, std::u16string(6'000, u'x') + u"\n" + std::u16string(6'000, u'y'));
   InsertAt(0, u"before\n");
   ExpectPositionsFit();
@@ -105,7 +105,7 @@ TEST_F(QtSeamsTest, LineBreaksBesideASeamAreLineBreaks) {
   ExpectPositionsFit();
 }
 
-TEST_F(QtSeamsTest, PositionsFitHoweverTextIsPutInAndRemoved) {
+TEST_F(QtSeamsTest, PositionsStayRightHoweverTextIsInsertedAndRemoved) {
   std::mt19937 random(1);
   for (int step = 0; step < 60; ++step) {
     const int place = static_cast<int>(random() % static_cast<unsigned>(End() + 1));
@@ -126,7 +126,7 @@ TEST_F(QtSeamsTest, PositionsFitHoweverTextIsPutInAndRemoved) {
   }
 }
 
-TEST_F(QtSeamsTest, FormatsAreReadAcrossThem) {
+TEST_F(QtSeamsTest, FormatsAreReadAcrossSeams) {
   richtext::Document document;
   document.text = std::u16string(6'000, u'x') + u"\n" + std::u16string(6'000, u'y');
   document.fonts = {{u"Arial", 161}};

@@ -16,25 +16,25 @@ QTextCharFormat InFont(std::u16string_view name) {
   return ToQt(format);
 }
 
-TEST(QtTextFormat, AFontIsKnownByTheNameItWasGivenWhateverShowsIt) {
+TEST(QtTextFormat, AFontKeepsItsNameWhateverFontShowsIt) {
   const QTextCharFormat format = InFont(u"No Such Font");
   EXPECT_EQ(FromQt(format).fontName, u"No Such Font");
   EXPECT_EQ(format.fontFamilies().toStringList().value(0),
             QFontInfo(QFont("No Such Font")).family());
 }
 
-TEST(QtTextFormat, AnotherFontTakesThePlaceOfOneThatIsNotThere) {
+TEST(QtTextFormat, AMissingFontIsShownInAnother) {
   QTextCharFormat format = InFont(u"No Such Font");
   format.merge(InFont(u"Arial"));
   EXPECT_EQ(FromQt(format).fontName, u"Arial");
 }
 
-TEST(QtTextFormat, AFontWithoutANameIsTheOwnOne) {
-  EXPECT_EQ(FromQt(InFont(u"")).fontName, kOwnFontName);
-  EXPECT_EQ(FromQt(QTextCharFormat()).fontName, kOwnFontName);
+TEST(QtTextFormat, AFontWithoutANameIsTheDefaultFont) {
+  EXPECT_EQ(FromQt(InFont(u"")).fontName, kDefaultFontName);
+  EXPECT_EQ(FromQt(QTextCharFormat()).fontName, kDefaultFontName);
 }
 
-TEST(QtTextFormat, ThousandsOfFontsThatAreNotThereKeepTheirNamesAndShowInFew) {
+TEST(QtTextFormat, ThousandsOfMissingFontsKeepTheirNamesAndAreShownInFewFonts) {
   QSet<QString> families;
   for (int i = 0; i < 5'000; ++i) {
     const QString name = QStringLiteral("No Such Font %1").arg(i);

@@ -19,11 +19,11 @@ int LongestBlock(const QTextDocument& document) {
   return longest;
 }
 
-TEST(QtTextInsertion, ReturnsAndLineFeedsBecomeOneBreakEach) {
+TEST(QtTextInsertion, EveryKindOfLineEndBecomesOneLineBreak) {
   EXPECT_EQ(FromQt(SafeText(u"a\r\nb\rc\nd\r\r\ne", Lines::Many)), u"a\nb\nc\nd\n\ne");
 }
 
-TEST(QtTextInsertion, BreaksOfAnyKindBecomeBlanksInASingleLine) {
+TEST(QtTextInsertion, LineBreaksOfAnyKindBecomeBlanksInASingleLine) {
   EXPECT_EQ(FromQt(SafeText(u"a\r\nb\rc\nd\u2028e\u2029f", Lines::Single)), u"a b c d e f");
 }
 
@@ -31,7 +31,7 @@ TEST(QtTextInsertion, SeparatorsBecomeLineBreaks) {
   EXPECT_EQ(FromQt(SafeText(u"a\u2028b\u2029c", Lines::Many)), u"a\nb\nc");
 }
 
-TEST(QtTextInsertion, UnitsThatQtGivesAMeaningBecomeReplacementCharacters) {
+TEST(QtTextInsertion, ControlUnitsOfQtBecomeReplacementCharacters) {
   using namespace std::string_view_literals;
   EXPECT_EQ(FromQt(SafeText(u"a\0b\uFFFC"sv, Lines::Many)), u"a\uFFFDb\uFFFD");
   const std::u16string frame = {0xFDD0, u'x', 0xFDD1, 0xFDEF};
@@ -47,7 +47,7 @@ TEST(QtTextInsertion, LoneSurrogatesAndNoBreakSpacesStay) {
   EXPECT_EQ(FromQt(SafeText(odd, Lines::Many)), odd);
 }
 
-TEST(QtTextInsertion, ALongSingleLineIsOfShortBlocksThatEndBehindAWord) {
+TEST(QtTextInsertion, ALongSingleLineHasShortBlocksThatEndBehindAWord) {
   QTextDocument shown;
   QTextCursor cursor(&shown);
   InsertText(cursor, FromQt(QStringLiteral("hello, you there ").repeated(2'000)), Lines::Single);
@@ -58,7 +58,7 @@ TEST(QtTextInsertion, ALongSingleLineIsOfShortBlocksThatEndBehindAWord) {
   }
 }
 
-TEST(QtTextInsertion, AWordWithoutEndIsOfShortBlocksToo) {
+TEST(QtTextInsertion, AnEndlessWordHasShortBlocksToo) {
   QTextDocument shown;
   QTextCursor cursor(&shown);
   InsertText(cursor, std::u16string(10'000, u'x'), Lines::Single);
@@ -66,7 +66,7 @@ TEST(QtTextInsertion, AWordWithoutEndIsOfShortBlocksToo) {
   EXPECT_EQ(shown.blockCount(), 3);
 }
 
-TEST(QtTextInsertion, NoPairOfSurrogatesIsCutInTwo) {
+TEST(QtTextInsertion, NoSurrogatePairIsSplit) {
   QTextDocument shown;
   QTextCursor cursor(&shown);
   InsertText(cursor, u"x" + FromQt(QStringLiteral("\U0001F600").repeated(5'000)), Lines::Single);
@@ -75,12 +75,12 @@ TEST(QtTextInsertion, NoPairOfSurrogatesIsCutInTwo) {
   }
 }
 
-TEST(QtTextInsertion, NoPairOfSurrogatesIsCutInTwoBetweenPieces) {
+TEST(QtTextInsertion, NoSurrogatePairIsSplitBetweenPieces) {
   QTextDocument shown;
   const std::u16string text =
       std::u16string(4'000, u'x') + u"\U0001F600" + std::u16string(500, u'x');
   TextInsertion insertion(QTextCursor(&shown), FormattedText(text, {}, Lines::Single));
-  for (const qsizetype units : {4'001, 1, 1, 1'000}) insertion.PutIn(units);
+  for (const qsizetype units : {4'001, 1, 1, 1'000}) insertion.InsertNext(units);
   EXPECT_TRUE(insertion.IsDone());
   for (QTextBlock block = shown.begin(); block.isValid(); block = block.next()) {
     EXPECT_FALSE(block.text().isEmpty());
@@ -104,7 +104,7 @@ TEST(QtTextInsertion, ManyShortPiecesFillTheBlocksOfASingleLine) {
   EXPECT_EQ(SelectedDocument(cursor, 161, Lines::Single), document);
 }
 
-TEST(QtTextInsertion, SlowScriptsAreOfShorterBlocks) {
+TEST(QtTextInsertion, SlowScriptsHaveShorterBlocks) {
   for (const char16_t unit : {u'\u05D0', u'\u0301', u'\u200D', u'\u4E00'}) {
     QTextDocument shown;
     QTextCursor cursor(&shown);
@@ -114,13 +114,13 @@ TEST(QtTextInsertion, SlowScriptsAreOfShorterBlocks) {
   }
 }
 
-TEST(QtTextInsertion, LinesThatAreLongComeInTheSameBlocksByStepsOfAnySize) {
+TEST(QtTextInsertion, LongLinesHaveTheSameBlocksWhateverTheSizeOfTheSteps) {
   const std::u16string text = std::u16string(9'000, u'x') + u"\n" +
                               FromQt(QStringLiteral("hello, you there ").repeated(1'000)) + u"\n";
   for (const qsizetype step : {1'000, 4'095, 4'096, 5'000}) {
     QTextDocument shown;
     TextInsertion insertion(QTextCursor(&shown), FormattedText(text, {}, Lines::Many));
-    while (!insertion.IsDone()) insertion.PutIn(step);
+    while (!insertion.IsDone()) insertion.InsertNext(step);
     EXPECT_LE(LongestBlock(shown), 4096);
     EXPECT_LE(shown.blockCount(), 11) << step;
     QTextCursor cursor(&shown);
@@ -129,7 +129,7 @@ TEST(QtTextInsertion, LinesThatAreLongComeInTheSameBlocksByStepsOfAnySize) {
   }
 }
 
-TEST(QtTextInsertion, WhatIsPutIntoAFullBlockStandsWhereItWasPut) {
+TEST(QtTextInsertion, TextInsertedIntoAFullBlockStandsWhereItWasInserted) {
   QTextDocument shown;
   QTextCursor cursor(&shown);
   InsertText(cursor, std::u16string(5'000, u'x'), Lines::Single);
@@ -141,7 +141,7 @@ TEST(QtTextInsertion, WhatIsPutIntoAFullBlockStandsWhereItWasPut) {
   }
 }
 
-TEST(QtTextInsertion, WhatIsPutInPieceByPieceIsTheSameAsAtOnce) {
+TEST(QtTextInsertion, InsertingPieceByPieceGivesTheSameAsAtOnce) {
   QTextDocument shown;
   QTextCursor cursor(&shown);
   const QString text = QStringLiteral("a line\nand another\n").repeated(100);
@@ -149,7 +149,7 @@ TEST(QtTextInsertion, WhatIsPutInPieceByPieceIsTheSameAsAtOnce) {
   int last = insertion.Percent();
   EXPECT_EQ(last, 0);
   while (!insertion.IsDone()) {
-    insertion.PutIn(333);
+    insertion.InsertNext(333);
     EXPECT_GT(insertion.Percent(), last);
     last = insertion.Percent();
   }
@@ -158,15 +158,15 @@ TEST(QtTextInsertion, WhatIsPutInPieceByPieceIsTheSameAsAtOnce) {
   EXPECT_EQ(SelectedText(cursor, Lines::Many), FromQt(text));
 }
 
-TEST(QtTextInsertion, WhatIsWrittenWhileItRestsStaysBehindIt) {
+TEST(QtTextInsertion, TextWrittenBetweenPiecesStaysBehindThem) {
   QTextDocument shown;
   QTextCursor cursor(&shown);
   TextInsertion insertion(cursor, FormattedText(u"abcdef", {}, Lines::Many));
-  insertion.PutIn(3);
+  insertion.InsertNext(3);
   QTextCursor other(&shown);
   other.movePosition(QTextCursor::End);
   other.insertText("!");
-  insertion.PutIn(3);
+  insertion.InsertNext(3);
   EXPECT_EQ(shown.toPlainText(), "abcdef!");
 }
 

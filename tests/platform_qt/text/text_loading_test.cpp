@@ -38,7 +38,7 @@ class QtTextLoadingTest : public testing::Test {
   std::vector<int> told;
 };
 
-TEST_F(QtTextLoadingTest, ALongFileComesInWhileEventsAreHandled) {
+TEST_F(QtTextLoadingTest, ALongFileIsInsertedBetweenEvents) {
   Load(u"/long.txt");
   EXPECT_GT(box.TextLength(), 0u);
   EXPECT_LT(box.TextLength(), longText.size());
@@ -53,7 +53,7 @@ TEST_F(QtTextLoadingTest, ALongFileComesInWhileEventsAreHandled) {
   EXPECT_EQ(box.SelStart(), 0u);
 }
 
-TEST_F(QtTextLoadingTest, TheProgressRisesToAHundredAndIsToldOnce) {
+TEST_F(QtTextLoadingTest, TheProgressRisesToAHundredAndIsReportedOnce) {
   Load(u"/long.txt");
   ASSERT_TRUE(HandlesEventsUntilLoaded());
   EXPECT_GT(told.size(), 2u);
@@ -64,14 +64,14 @@ TEST_F(QtTextLoadingTest, TheProgressRisesToAHundredAndIsToldOnce) {
   EXPECT_EQ(told.size(), tellings);
 }
 
-TEST_F(QtTextLoadingTest, AShortFileIsInAtOnceAndTellsNothing) {
+TEST_F(QtTextLoadingTest, AShortFileIsInsertedAtOnceWithoutProgress) {
   Load(u"/short.txt");
   EXPECT_EQ(box.TextLength(), 5u);
   QCoreApplication::processEvents();
   EXPECT_THAT(told, IsEmpty());
 }
 
-TEST_F(QtTextLoadingTest, WhoReadsTheTextWaitsForTheRest) {
+TEST_F(QtTextLoadingTest, ReadingTheTextInsertsTheRestFirst) {
   Load(u"/long.txt");
   EXPECT_TRUE(box.Text() == longText);
   EXPECT_THAT(told, testing::ElementsAre(100));
@@ -79,13 +79,13 @@ TEST_F(QtTextLoadingTest, WhoReadsTheTextWaitsForTheRest) {
   EXPECT_EQ(told.size(), 1u);
 }
 
-TEST_F(QtTextLoadingTest, WhoSavesTheTextWaitsForTheRest) {
+TEST_F(QtTextLoadingTest, SavingTheTextInsertsTheRestFirst) {
   Load(u"/long.txt");
   box.SaveFile(u"/copy.txt", TextFileFormat::PlainText);
   EXPECT_TRUE(files.ReadText(u"/copy.txt") == longText);
 }
 
-TEST_F(QtTextLoadingTest, AnotherTextAbandonsTheRest) {
+TEST_F(QtTextLoadingTest, AnotherTextDropsTheRest) {
   Load(u"/long.txt");
   box.SetText(u"other");
   EXPECT_EQ(told.back(), 100);
@@ -93,7 +93,7 @@ TEST_F(QtTextLoadingTest, AnotherTextAbandonsTheRest) {
   EXPECT_EQ(box.Text(), u"other");
 }
 
-TEST_F(QtTextLoadingTest, AnotherFileAbandonsTheRest) {
+TEST_F(QtTextLoadingTest, AnotherFileDropsTheRest) {
   Load(u"/long.txt");
   Load(u"/short.txt");
   EXPECT_EQ(told.back(), 100);
@@ -101,13 +101,13 @@ TEST_F(QtTextLoadingTest, AnotherFileAbandonsTheRest) {
   EXPECT_EQ(box.Text(), u"short");
 }
 
-TEST_F(QtTextLoadingTest, AFileThatCannotBeReadAbandonsNothing) {
+TEST_F(QtTextLoadingTest, AFileThatCannotBeReadDropsNothing) {
   Load(u"/long.txt");
   EXPECT_THROW(Load(u"/none.txt"), RunTimeFailure);
   EXPECT_TRUE(box.Text() == longText);
 }
 
-TEST_F(QtTextLoadingTest, WhatIsWrittenMeanwhileFollowsIt) {
+TEST_F(QtTextLoadingTest, TextWrittenMeanwhileFollowsTheFile) {
   Load(u"/long.txt");
   box.Select(box.TextLength(), 0);
   box.SetSelText(u"\r\n");
@@ -116,7 +116,7 @@ TEST_F(QtTextLoadingTest, WhatIsWrittenMeanwhileFollowsIt) {
   EXPECT_TRUE(box.Text() == longText + u"\na line that arrived");
 }
 
-TEST_F(QtTextLoadingTest, WhatIsWrittenMeanwhileStaysInView) {
+TEST_F(QtTextLoadingTest, TextWrittenMeanwhileStaysInView) {
   window.resize(400, 300);
   box.widget()->resize(400, 200);
   window.show();
@@ -131,7 +131,7 @@ TEST_F(QtTextLoadingTest, WhatIsWrittenMeanwhileStaysInView) {
   EXPECT_EQ(bar.value(), bar.maximum());
 }
 
-TEST_F(QtTextLoadingTest, ALongMacroComesInPieceByPieceToo) {
+TEST_F(QtTextLoadingTest, ALongMacroIsInsertedPieceByPieceToo) {
   files.ReplaceText(u"/long.rtf", u"{\\rtf1 " + std::u16string(500'000, u'x') + u"}");
   QtRichTextBox single(&window, files, Lines::Single);
   single.SetLocked(true);
@@ -141,7 +141,7 @@ TEST_F(QtTextLoadingTest, ALongMacroComesInPieceByPieceToo) {
   EXPECT_TRUE(single.Text() == std::u16string(500'000, u'x'));
 }
 
-TEST_F(QtTextLoadingTest, WhatTheUserCanChangeIsAllThere) {
+TEST_F(QtTextLoadingTest, ATextThatTheUserCanChangeIsComplete) {
   Load(u"/long.txt");
   ASSERT_LT(box.TextLength(), longText.size());
   box.SetLocked(false);
@@ -150,7 +150,7 @@ TEST_F(QtTextLoadingTest, WhatTheUserCanChangeIsAllThere) {
   EXPECT_EQ(box.TextLength(), longText.size());
 }
 
-TEST_F(QtTextLoadingTest, ABoxMayGoWhileItsTextComesIn) {
+TEST_F(QtTextLoadingTest, ABoxMayBeDeletedWhileAFileIsInserted) {
   auto gone = std::make_unique<QtRichTextBox>(&window, files, Lines::Many);
   gone->SetLocked(true);
   gone->LoadFile(u"/long.txt", TextFileFormat::PlainText);

@@ -17,8 +17,8 @@ class QtTextWritingTest : public testing::Test {
  protected:
   QtTextWritingTest() {
     box.SetLocked(true);
-    box.onTakingIn = [this] { ++takingIn; };
-    box.onTakenIn = [this] { ++takenIn; };
+    box.onInsertionStarted = [this] { ++started; };
+    box.onInsertionFinished = [this] { ++finished; };
     while (longText.size() < 500'000) longText += u"some words ";
     longRtf = u"{\\rtf1\\ansi " + longText + u"}";
   }
@@ -27,8 +27,8 @@ class QtTextWritingTest : public testing::Test {
     box.Select(box.TextLength(), 0);
     box.SetSelDocument(richtext::ReadRtf(rtf));
   }
-  bool HandlesEventsUntilTakenIn() {
-    return QTest::qWaitFor([this] { return !box.IsTakingIn(); }, 60'000);
+  bool FinishesInserting() {
+    return QTest::qWaitFor([this] { return !box.IsInserting(); }, 60'000);
   }
 
   fake::FakeFileSystem files;
@@ -36,99 +36,99 @@ class QtTextWritingTest : public testing::Test {
   QtRichTextBox box{&window, files, Lines::Many};
   std::u16string longText;
   std::u16string longRtf;
-  int takingIn = 0;
-  int takenIn = 0;
+  int started = 0;
+  int finished = 0;
 };
 
-TEST_F(QtTextWritingTest, AShortTextIsInAtOnce) {
+TEST_F(QtTextWritingTest, AShortTextIsInsertedAtOnce) {
   Write(u"{\\rtf1 short}");
-  EXPECT_FALSE(box.IsTakingIn());
+  EXPECT_FALSE(box.IsInserting());
   EXPECT_EQ(box.Text(), u"short");
-  EXPECT_EQ(takingIn, 0);
-  EXPECT_EQ(takenIn, 0);
+  EXPECT_EQ(started, 0);
+  EXPECT_EQ(finished, 0);
 }
 
-TEST_F(QtTextWritingTest, TheBeginningIsRaisedOncePerTakingIn) {
+TEST_F(QtTextWritingTest, TheStartIsRaisedOncePerInsertion) {
   Write(longRtf);
   Write(longRtf);
-  EXPECT_EQ(takingIn, 1);
-  ASSERT_TRUE(HandlesEventsUntilTakenIn());
-  EXPECT_EQ(takenIn, 1);
+  EXPECT_EQ(started, 1);
+  ASSERT_TRUE(FinishesInserting());
+  EXPECT_EQ(finished, 1);
   Write(longRtf);
-  EXPECT_EQ(takingIn, 2);
+  EXPECT_EQ(started, 2);
 }
 
-TEST_F(QtTextWritingTest, ALongTextComesInWhileEventsAreHandled) {
+TEST_F(QtTextWritingTest, ALongTextIsInsertedBetweenEvents) {
   Write(longRtf);
-  EXPECT_TRUE(box.IsTakingIn());
-  EXPECT_EQ(takingIn, 1);
+  EXPECT_TRUE(box.IsInserting());
+  EXPECT_EQ(started, 1);
   EXPECT_LT(box.TextLength(), longText.size());
   int handled = 0;
   QTimer other;
   QObject::connect(&other, &QTimer::timeout, &other, [&] { ++handled; });
   other.start(0);
-  ASSERT_TRUE(HandlesEventsUntilTakenIn());
+  ASSERT_TRUE(FinishesInserting());
   EXPECT_GT(handled, 1);
-  EXPECT_EQ(takenIn, 1);
+  EXPECT_EQ(finished, 1);
   EXPECT_EQ(box.TextLength(), longText.size());
   EXPECT_TRUE(box.Text() == longText);
 }
 
-TEST_F(QtTextWritingTest, WhatIsWrittenMeanwhileFollowsIt) {
+TEST_F(QtTextWritingTest, TextWrittenMeanwhileFollowsIt) {
   Write(longRtf);
   box.Select(box.TextLength(), 0);
   box.SetSelText(u"\r\nnext ");
   Write(u"{\\rtf1 line}");
   Write(longRtf);
-  ASSERT_TRUE(HandlesEventsUntilTakenIn());
-  EXPECT_EQ(takenIn, 1);
+  ASSERT_TRUE(FinishesInserting());
+  EXPECT_EQ(finished, 1);
   EXPECT_TRUE(box.Text() == longText + u"\nnext line" + longText);
 }
 
-TEST_F(QtTextWritingTest, TextsOfOneLineFollowEachOther) {
+TEST_F(QtTextWritingTest, TheTextsOfOneLineStayInOrder) {
   Write(longRtf);
   Write(u"{\\rtf1 and short}");
   Write(longRtf);
-  ASSERT_TRUE(HandlesEventsUntilTakenIn());
+  ASSERT_TRUE(FinishesInserting());
   EXPECT_TRUE(box.Text() == longText + u"and short" + longText);
 }
 
-TEST_F(QtTextWritingTest, ManyShortTextsComeInByAndByToo) {
+TEST_F(QtTextWritingTest, ManyShortTextsAreInsertedBetweenEventsToo) {
   std::u16string expected;
   for (int i = 0; i < 1'000; ++i) {
     Write(u"{\\rtf1 {\\b short} text\\par}");
     expected += u"short text";
   }
-  EXPECT_TRUE(box.IsTakingIn());
-  ASSERT_TRUE(HandlesEventsUntilTakenIn());
+  EXPECT_TRUE(box.IsInserting());
+  ASSERT_TRUE(FinishesInserting());
   EXPECT_TRUE(box.Text() == expected);
   Write(u"{\\rtf1 !}");
-  EXPECT_FALSE(box.IsTakingIn()) << "events have been handled since";
+  EXPECT_FALSE(box.IsInserting()) << "events have been handled since";
 }
 
-TEST_F(QtTextWritingTest, WhoReadsTheTextWaitsForTheRest) {
+TEST_F(QtTextWritingTest, ReadingTheTextInsertsTheRestFirst) {
   Write(longRtf);
   EXPECT_TRUE(box.Text() == longText);
-  EXPECT_FALSE(box.IsTakingIn());
+  EXPECT_FALSE(box.IsInserting());
   Write(longRtf);
   box.SaveFile(u"/copy.txt", TextFileFormat::PlainText);
   EXPECT_TRUE(files.ReadText(u"/copy.txt") == longText + longText);
-  ASSERT_TRUE(QTest::qWaitFor([this] { return takenIn > 0; }));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return finished > 0; }));
 }
 
-TEST_F(QtTextWritingTest, AnotherTextAbandonsTheRest) {
+TEST_F(QtTextWritingTest, AnotherTextDropsTheRest) {
   Write(longRtf);
   box.SetText(u"other");
-  EXPECT_FALSE(box.IsTakingIn());
-  EXPECT_EQ(takenIn, 1);
+  EXPECT_FALSE(box.IsInserting());
+  EXPECT_EQ(finished, 1);
   QCoreApplication::processEvents();
   EXPECT_EQ(box.Text(), u"other");
 }
 
-TEST_F(QtTextWritingTest, ABoxThatTheUserChangesTakesAllAtOnce) {
+TEST_F(QtTextWritingTest, AnUnlockedBoxInsertsEverythingAtOnce) {
   box.SetLocked(false);
   Write(longRtf);
-  EXPECT_FALSE(box.IsTakingIn());
+  EXPECT_FALSE(box.IsInserting());
   EXPECT_EQ(box.TextLength(), longText.size());
 }
 
@@ -140,12 +140,12 @@ TEST_F(QtTextWritingTest, TheEndStaysInView) {
   Write(longRtf);
   box.Select(box.TextLength(), 0);
   ASSERT_TRUE(widget.ShowsEnd());
-  ASSERT_TRUE(HandlesEventsUntilTakenIn());
+  ASSERT_TRUE(FinishesInserting());
   EXPECT_GT(widget.verticalScrollBar()->value(), 0);
   EXPECT_TRUE(widget.ShowsEnd());
 }
 
-TEST_F(QtTextWritingTest, WhoLooksAtOlderLinesGoesOnDoingSo) {
+TEST_F(QtTextWritingTest, OlderLinesStayInViewWhenTheUserLooksAtThem) {
   window.resize(400, 300);
   box.widget()->resize(400, 200);
   window.show();
@@ -153,17 +153,17 @@ TEST_F(QtTextWritingTest, WhoLooksAtOlderLinesGoesOnDoingSo) {
   Write(longRtf);
   QScrollBar& bar = *box.widget()->verticalScrollBar();
   bar.setValue(20);
-  ASSERT_TRUE(HandlesEventsUntilTakenIn());
+  ASSERT_TRUE(FinishesInserting());
   EXPECT_EQ(bar.value(), 20);
 }
 
-TEST_F(QtTextWritingTest, ABoxMayGoWhileItsTextComesIn) {
+TEST_F(QtTextWritingTest, ABoxMayBeDeletedWhileATextIsInserted) {
   auto gone = std::make_unique<QtRichTextBox>(&window, files, Lines::Many);
   gone->SetLocked(true);
   gone->SetSelDocument(richtext::ReadRtf(longRtf));
   gone.reset();
   Write(longRtf);
-  EXPECT_TRUE(HandlesEventsUntilTakenIn());
+  EXPECT_TRUE(FinishesInserting());
 }
 
 }  // namespace

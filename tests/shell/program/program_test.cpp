@@ -82,11 +82,11 @@ TEST_F(ProgramTest, LineArrivesInTheStyleItWasTypedIn) {
 TEST_F(ProgramTest, ArrivalsWaitWhileTheDialoguePaneTakesIn) {
   Connect();
   auto& pane = bob.platform.window.rtbData;
-  pane.onTakingIn();
+  pane.onInsertionStarted();
   ann.Enter(u"hello");
   network.RunUntilIdle();
   EXPECT_EQ(bob.Dialogue(), u"");
-  pane.onTakenIn();
+  pane.onInsertionFinished();
   network.RunUntilIdle();
   EXPECT_EQ(bob.Dialogue(), u"<Άννα>hello");
 }

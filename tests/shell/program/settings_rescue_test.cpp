@@ -164,6 +164,7 @@ TEST_F(SettingsRescueTest, WithoutACopyNothingIsOverwritten) {
   EXPECT_TRUE(LastBox().text.starts_with(
       u"Your settings file could not be understood:\r\n\r\n/verlume/Verlume.ini\r\n"));
   EXPECT_NE(LastBox().text.find(u"\r\n/verlume/Verlume.ini.bad\r\n"), std::u16string::npos);
+  EXPECT_THAT(platform->application.loggedErrors, testing::SizeIs(2)) << "the report, and the copy";
   platform->window.freeSizer1.onPostLayout();
   platform->window.rtbCommands.Type(u"/NICK Zoe\r");
   EXPECT_EQ(program->State().Nickname, u"Zoe");
@@ -213,6 +214,7 @@ TEST_F(SettingsRescueTest, AFileThatCannotBeReadStaysAndIsToldOfOnce) {
     EXPECT_EQ(Titles(), kNoteAlone);
     EXPECT_TRUE(LastBox().text.starts_with(
         u"Your settings file could not be read:\r\n\r\n/verlume/Verlume.ini\r\n"));
+    EXPECT_THAT(platform->application.loggedErrors, testing::SizeIs(1));
     EXPECT_NE(LastBox().text.find(u"Δεν ήταν δυνατόν να διαβαστεί"), std::u16string::npos);
     platform->window.rtbCommands.Type(u"/NICK Zoe\r");
     EXPECT_EQ(program->State().Nickname, u"Zoe");
