@@ -19,8 +19,9 @@ class OneFile : public FileSystem {
   std::uint64_t SizeOf(std::u16string_view) const override { return bytes.size(); }
   std::u16string ReadText(std::u16string_view) const override { return {}; }
   std::string ReadBytes(std::u16string_view) const override { return bytes; }
-  void ReplaceText(std::u16string_view, std::u16string_view) override {}
-  void ReplaceBytes(std::u16string_view, std::string_view) override {}
+  std::string ReadStart(std::u16string_view, std::size_t) const override { return {}; }
+  void ReplaceText(std::u16string_view, std::u16string_view, Readers) override {}
+  void ReplaceBytes(std::u16string_view, std::string_view, Readers) override {}
   void AppendText(std::u16string_view, std::u16string_view) override {}
   void Delete(std::u16string_view) override {}
   char16_t Separator() const override { return u'/'; }

@@ -1,6 +1,6 @@
 #include "connection/connection_state.h"
 
-#include "records/dialogue_log.h"
+#include "records/log_file.h"
 #include "shell/delivery.h"
 #include "shell/status_panel.h"
 

@@ -22,6 +22,8 @@ void SocketEvents::sckControl_ConnectionRequest(std::int64_t requestId) {
       platform_.sckControl.Close();
       ForgetRemoteNickname();
       platform_.sckControl.Accept(requestId);
+      isSilent_ = true;
+      silence_ = 0;
       wire_.SendStart();
     } else {
       ResetConnection(state_, platform_);
@@ -50,6 +52,7 @@ void SocketEvents::sckControl_Connect() {
 }
 
 void SocketEvents::sckControl_DataArrival(std::int32_t) {
+  isSilent_ = false;
   errors_.Guard(Procedure::sckControl_DataArrival,
                 [this] { wire_.OnDataArrival(platform_.sckControl.GetData()); });
 }
@@ -68,6 +71,18 @@ void SocketEvents::sckControl_Close() {
     log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());
     state_.LogOpen = false;
   });
+}
+
+void SocketEvents::tmrTimer_Timer() {
+  if (IsSilentCaller() && ++silence_ == kLongestSilence) sckControl_Close();
+}
+
+// The wait may have ended, or have given way to another. While arrivals are paused the caller may
+// have said something that waits.
+bool SocketEvents::IsSilentCaller() const {
+  const Socket& socket = platform_.sckControl;
+  return isSilent_ && StateOf(state_) == ConnectionState::Waiting &&
+         socket.State() == SocketState::Connected && !socket.ArrivalsPaused();
 }
 
 // What the new peer says before it sends its nickname must not appear under the last peer's

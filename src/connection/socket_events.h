@@ -13,6 +13,9 @@
 
 namespace verlume {
 
+// How long a caller that was accepted may say nothing at all.
+inline constexpr int kLongestSilence = 30;  // seconds
+
 class SocketEvents {
  public:
   SocketEvents(AppState& state, Platform& platform, ErrorReport& errors, WireProtocol& wire,
@@ -24,8 +27,12 @@ class SocketEvents {
   void sckControl_Connect();
   void sckControl_DataArrival(std::int32_t bytesTotal);
   void sckControl_Close();
+  // Once a second: lets a caller go that has been accepted and says nothing for kLongestSilence, as
+  // if it had closed the connection. One that has said something may stay silent.
+  void tmrTimer_Timer();
 
  private:
+  bool IsSilentCaller() const;
   bool AskWhetherToAccept(const std::u16string& ip);
   // A new peer has no nickname until it sends one.
   void ForgetRemoteNickname();
@@ -39,6 +46,8 @@ class SocketEvents {
   ErrorReport& errors_;
   WireProtocol& wire_;
   DialogueLog& log_;
+  bool isSilent_ = false;  // the accepted caller has said nothing yet
+  int silence_ = 0;        // for so many seconds
 };
 
 }  // namespace verlume

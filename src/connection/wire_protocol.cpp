@@ -6,6 +6,7 @@
 #include "connection/status_texts.h"
 #include "platform/protocol_marker.h"
 #include "platform/run_time_failure.h"
+#include "records/log_file.h"
 #include "shell/delivery.h"
 #include "shell/language_texts.h"
 #include "shell/maker_texts.h"
@@ -121,9 +122,14 @@ void WireProtocol::OnStart(std::u16string_view data) {
 }
 
 void WireProtocol::OnConfirm(std::u16string_view data) {
+  const bool isNewConversation = StateOf(state_) != ConnectionState::Connected;
   const std::u16string status = EnterConversation();
   TakeNickname(data);
-  OpenLog(status);
+  // A later handshake goes on in the same log: a peer that changes its nickname each time would
+  // make as many files as it likes.
+  if (isNewConversation) NameLog();
+  state_.LogOpen = true;
+  with_.log.AppendConnectionLine(status);
 }
 
 std::u16string WireProtocol::EnterConversation() {
@@ -149,10 +155,9 @@ void WireProtocol::TakeNickname(std::u16string_view data) {
   platform_.frmMain.lblRemoteNickname.SetCaption(state_.RemoteNickname);
 }
 
-void WireProtocol::OpenLog(std::u16string_view statusText) {
+void WireProtocol::NameLog() {
   state_.LogFileStem = LogFileStemOf(state_.RemoteNickname);
-  state_.LogOpen = true;
-  with_.log.AppendConnectionLine(statusText);
+  state_.LogFile.clear();
 }
 
 void WireProtocol::WriteRemoteLine(std::u16string_view text, Sender sender) {

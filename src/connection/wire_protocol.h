@@ -56,7 +56,8 @@ class WireProtocol {
   void OnConfirm(std::u16string_view data);
   // Enters the state Connected; returns the text of the status line.
   std::u16string EnterConversation();
-  void OpenLog(std::u16string_view statusText);
+  // Names the log of a new conversation after the peer.
+  void NameLog();
   void TakeNickname(std::u16string_view data);
   void WriteRemoteLine(std::u16string_view text, Sender sender);
   bool SendWithNickname(char16_t kind);

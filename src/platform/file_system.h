@@ -5,12 +5,16 @@
 // cannot be used as a file (a folder, say), 76 no such folder.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace verlume {
+
+// Who may read a file that is made here. A file that exists keeps its permissions.
+enum class Readers { Usual, OwnerOnly };
 
 class FileSystem {
  public:
@@ -29,11 +33,19 @@ class FileSystem {
   virtual std::uint64_t SizeOf(std::u16string_view path) const = 0;
   virtual std::u16string ReadText(std::u16string_view path) const = 0;
   virtual std::string ReadBytes(std::u16string_view path) const = 0;
+  // The first `limit` bytes of a file, or all if it has fewer.
+  virtual std::string ReadStart(std::u16string_view path, std::size_t limit) const = 0;
   // Replace a file in one step: a failure or a crash leaves the old content.
-  virtual void ReplaceText(std::u16string_view path, std::u16string_view text) = 0;
-  virtual void ReplaceBytes(std::u16string_view path, std::string_view bytes) = 0;
-  // Opens the file, appends the text and closes the file; creates it if it does not exist. After a
-  // failure none of the text is in the file.
+  virtual void ReplaceText(std::u16string_view path, std::u16string_view text, Readers readers) = 0;
+  virtual void ReplaceBytes(std::u16string_view path, std::string_view bytes, Readers readers) = 0;
+  void ReplaceText(std::u16string_view path, std::u16string_view text) {
+    ReplaceText(path, text, Readers::Usual);
+  }
+  void ReplaceBytes(std::u16string_view path, std::string_view bytes) {
+    ReplaceBytes(path, bytes, Readers::Usual);
+  }
+  // Opens the file, appends the text and closes the file; creates it, readable by its owner alone,
+  // if it does not exist. After a failure none of the text is in the file.
   virtual void AppendText(std::u16string_view path, std::u16string_view text) = 0;
   virtual void Delete(std::u16string_view path) = 0;
 

@@ -80,7 +80,8 @@ class RichTextBox : public Control {
   virtual void SetFontCharset(int charset) = 0;
 
   // Whole files. Throw RunTimeFailure (53, 61, 70, 75, 76) and leave box and file as they were. A
-  // file that is no RTF loads as plain text. Saving replaces the file in one step.
+  // file that is no RTF loads as plain text. Plain text loads in the format of a new box, not in
+  // that of what was here. Saving replaces the file in one step.
   //
   // A long file is read at once, but inserted into a locked box piece by piece, between events.
   // Text, Rtf, SaveFile and SetLocked(false) insert the rest first; SetText, SetRtf and LoadFile

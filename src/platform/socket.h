@@ -73,6 +73,7 @@ class Socket {
   // connection until ResumeArrivals. Pausing or resuming twice does no harm.
   virtual void PauseArrivals() = 0;
   virtual void ResumeArrivals() = 0;
+  virtual bool ArrivalsPaused() const = 0;
 
   std::function<void(std::int64_t requestId)> onConnectionRequest;
   std::function<void()> onConnect;

@@ -4,12 +4,12 @@
 
 #include "platform/run_time_failure.h"
 #include "records/dialogue_log_texts.h"
+#include "records/log_file.h"
 #include "richtext/characters.h"
 #include "shell/conversions.h"
 #include "shell/date_time_text.h"
 #include "shell/folder_choice.h"
 #include "shell/folders.h"
-#include "shell/nickname.h"
 #include "shell/setting_names.h"
 
 namespace verlume {
@@ -20,11 +20,6 @@ using namespace dialogue_log_texts;
 bool IsControlOrLineBreak(char16_t c) {
   const bool isLineBreak = c == 0x2028 || c == 0x2029;
   return richtext::IsControlCharacter(c) || isLineBreak;
-}
-
-bool IsAllowedInFileName(std::u16string_view character) {
-  constexpr std::u16string_view kForbidden = u"\\/:*?\"<>|";
-  return IsShowable(character) && kForbidden.find(character) == kForbidden.npos;
 }
 
 // An entry of the log is one line, whatever characters a message or a nickname contains. Changed in
@@ -46,34 +41,20 @@ std::u16string ConnectionLine(const Clock& clock, std::u16string_view statusText
 
 }  // namespace
 
-std::u16string LogFileStemOf(std::u16string_view nickname) {
-  std::u16string stem;
-  while (!nickname.empty()) {
-    const std::u16string_view character = FirstCharacter(nickname);
-    if (stem.size() + character.size() > kNicknameLimit) break;
-    stem += IsAllowedInFileName(character) ? character : u"_";
-    nickname.remove_prefix(character.size());
-  }
-  if (stem.empty() || stem == u"." || stem == u"..") return u"_";
-  return stem;
-}
-
-std::u16string LogPath(const AppState& state, const FileSystem& files) {
-  if (state.LogFolder.empty()) return {};
-  return WithTrailingSeparator(state.LogFolder, files.Separator()) + state.LogFileStem + u".txt";
-}
-
 bool DialogueLog::IsRecording() const {
   return state_.LogDialogue && state_.LogOpen;
 }
 
 void DialogueLog::AppendToLog(std::u16string line) {
-  if (IsRecording()) Append(LogPath(state_, platform_.files), std::move(line));
+  if (!IsRecording()) return;
+  if (state_.LogFile.empty()) state_.LogFile = LogPath(state_, platform_.files);
+  Append(state_.LogFile, std::move(line));
 }
 
-void DialogueLog::Append(const std::u16string& path, std::u16string line) {
+void DialogueLog::Append(std::u16string& path, std::u16string line) {
   errors_.Guard(Procedure::AppendToLog, [&] {
     if (path.empty()) throw RunTimeFailure(FailureNumber::PathNotFound);
+    path = FreeLogPath(path, platform_.files);
     platform_.files.AppendText(path, EntryOf(std::move(line)));
   });
 }
@@ -100,6 +81,7 @@ bool DialogueLog::ChooseLogFolder() {
     // A conversation may have begun while the dialog was open.
     if (!folder || RefuseWhileRecording()) return;
     state_.LogFolder = *folder;
+    state_.LogFile.clear();  // of a conversation that is under way the rest goes there
     settings_.WriteSetting(setting_section::kLogging, setting_key::kLogFolder, *folder);
   });
 }

@@ -12,15 +12,6 @@
 
 namespace verlume {
 
-// The nickname as a file name: each of \ / : * ? " < > | and each character that is not showable
-// becomes "_", and so do "", "." and "..". At most kNicknameLimit characters, so that the name with
-// its extension stays far below the 255 bytes that file systems allow.
-std::u16string LogFileStemOf(std::u16string_view nickname);
-
-// The path of the log file of the current conversation, or of the last one; "" without a log
-// folder.
-std::u16string LogPath(const AppState& state, const FileSystem& files);
-
 class DialogueLog {
  public:
   DialogueLog(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings)
@@ -50,7 +41,8 @@ class DialogueLog {
   void mnuFileLogRecord_Click();
 
  private:
-  void Append(const std::u16string& path, std::u16string line);
+  // Changes the path to the one that is written to.
+  void Append(std::u16string& path, std::u16string line);
   // False when it failed; the failure has been reported (239).
   bool ChooseLogFolder();
   bool RefuseWhileRecording();

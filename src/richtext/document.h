@@ -2,6 +2,7 @@
 // RTF writer writes one, a rich-text box shows one.
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -36,7 +37,7 @@ struct CharFormat {
   bool underline = false;
   bool strikethrough = false;
 
-  bool operator==(const CharFormat&) const = default;
+  auto operator<=>(const CharFormat&) const = default;
 };
 
 // `length` UTF-16 units of one format.

@@ -49,7 +49,7 @@ struct AppState {
   std::u16string CommandLine;   // its plain text
   std::u16string OutgoingText;  // its rich text, as sent and written into the dialogue pane
 
-  // The line that is being written into the dialogue pane.
+  // A record of the line that is being written into the dialogue pane; nothing is decided by it.
   bool ForeignText = false;    // it is the peer's
   bool RemoteMessage = false;  // it names its sender itself: no nickname tag
 
@@ -69,7 +69,8 @@ struct AppState {
   std::u16string LogFolder;
   bool LogDialogue = false;     // the user's switch
   bool LogOpen = false;         // a conversation is in progress
-  std::u16string LogFileStem;   // the peer's nickname made fit for a file name
+  std::u16string LogFileStem;   // the peer's nickname at the first handshake, fit for a file name
+  std::u16string LogFile;       // path of this conversation's log; "" until its first line
   std::u16string ClosedLog;     // log file of the last conversation that ended with lines waiting
   std::u16string DialogFilter;  // of the last load or save dialog
 

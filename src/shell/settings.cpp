@@ -43,7 +43,7 @@ void Settings::WriteSettings(std::u16string_view section, const std::vector<KeyV
   if (!writes_) return;
   std::u16string text = TextToChange();
   for (const auto& [key, value] : values) text = ini_text::Write(text, section, key, value);
-  files_.ReplaceText(state_.IniFile, text);
+  files_.ReplaceText(state_.IniFile, text, Readers::OwnerOnly);
 }
 
 // A file that exists but cannot be read is not replaced: its other lines would be lost.

@@ -54,7 +54,7 @@ bool IsCopied(const AppState& state, const FileSystem& files, const std::u16stri
 // Returns false when there already is a copy of this file.
 bool MakeCopy(const AppState& state, FileSystem& files, const Settings& settings) {
   if (IsCopied(state, files, settings.Text())) return false;
-  files.ReplaceBytes(SettingsCopyPath(state), files.ReadBytes(state.IniFile));
+  files.ReplaceBytes(SettingsCopyPath(state), files.ReadBytes(state.IniFile), Readers::OwnerOnly);
   return true;
 }
 
@@ -73,7 +73,7 @@ SettingsTrouble SecureSettingsFile(const AppState& state, FileSystem& files, Set
     }
     if (trouble == SettingsTrouble::Damaged) {
       MakeCopy(state, files, settings);
-      files.ReplaceText(state.IniFile, u"");
+      files.ReplaceText(state.IniFile, u"", Readers::OwnerOnly);
     }
   } catch (const RunTimeFailure&) {
     logFailure();

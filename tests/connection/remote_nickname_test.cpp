@@ -17,8 +17,10 @@ class RemoteNicknameTest : public testing::Test, protected fake::TwoSides {
     Connect();
   }
 
-  // Alice sends `nickname` in a message of this kind, and says hello.
+  // Alice sends `nickname` in a message of this kind, and says hello. A handshake is the first one
+  // of a conversation.
   void Send(char16_t kind, std::u16string_view nickname) {
+    if (kind != u'N') EnterState(bob.state, ConnectionState::Waiting);
     bob.fake.window.rtbData.SetText(u"");
     alice.fake.socket.SendData(alice.state.ProtocolMarker + kind + std::u16string(nickname) + u'\0',
                                TextKind::Signal);

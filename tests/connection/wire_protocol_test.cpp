@@ -228,11 +228,34 @@ TEST_F(WireProtocolTest, ASecondHandshakeBeginsTheConversationAnew) {
     EXPECT_EQ(alice.State(), ConnectionState::Connected);
   }
   EXPECT_EQ(window.lblChatStartDateTime.caption, u"7 of month 3 2026 - 11 h 5 m 30 s");
-  EXPECT_EQ(alice.LogOf(u"Bob_2"),
+  EXPECT_EQ(alice.LogOf(u"Bob_2"), u"");
+  EXPECT_EQ(alice.LogOf(u"Bob"),
             u"[2026-03-07_10:05:30]***** Remote computer IP address / port: 192.0.2.2 / 4000. "
             u"Active connection.\r\n"
             u"[2026-03-07_11:05:30]***** Remote computer IP address / port: 192.0.2.2 / 4000. "
             u"Active connection.\r\n");
+}
+
+TEST_F(WireProtocolTest, HandshakesUnderManyNicknamesMakeOneLog) {
+  alice.RecordDialogues();
+  for (int i = 0; i < 100; ++i) {
+    Arrive(Message(u"CEve" + DecimalText(i) + u'\0'));
+    Arrive(Message(u"STodo" + DecimalText(i) + u'\0'));
+  }
+  EXPECT_EQ(alice.fake.files.ListFiles(u"/logs", u".txt"), std::vector<std::u16string>{u"Bob.txt"});
+  EXPECT_EQ(alice.state.LogFileStem, u"Bob");
+}
+
+TEST_F(WireProtocolTest, TheNextConversationHasItsOwnLog) {
+  alice.RecordDialogues();
+  Arrive(u"hello");
+  alice.actions.CloseConnection();
+  network.RunUntilIdle();
+  bob.state.Nickname = u"Carol";
+  Connect();
+  Arrive(u"hello");
+  EXPECT_TRUE(alice.LogOf(u"Bob").ends_with(u"Disconnected.\r\n"));
+  EXPECT_TRUE(alice.LogOf(u"Carol").ends_with(u"<Carol>hello\r\n"));
 }
 
 TEST_F(WireProtocolTest, AStartIsAnsweredEachTimeAConfirmNever) {

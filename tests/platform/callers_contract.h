@@ -47,6 +47,63 @@ TYPED_TEST_P(CallersContract, OneThatSaysNothingGivesWayToACall) {
   this->ExpectUsable();
 }
 
+TYPED_TEST_P(CallersContract, OneThatSaysNothingIsLetGo) {
+  ASSERT_NO_FATAL_FAILURE(this->Accept());
+  this->Tick(kLongestSilence - 1);
+  EXPECT_EQ(this->State(), ConnectionState::Waiting);
+  EXPECT_EQ(this->socket.State(), SocketState::Connected);
+  this->Tick(1);
+  EXPECT_TRUE(this->StatusEndsIn(u"A connection could NOT be established."));
+  EXPECT_TRUE(this->WaitForClose(this->peer));
+  this->ExpectUsable();
+}
+
+TYPED_TEST_P(CallersContract, OneThatSaysSomethingMayStay) {
+  ASSERT_NO_FATAL_FAILURE(this->Accept());
+  this->Tick(kLongestSilence - 1);
+  this->peer.socket.SendData(u"it is me", TextKind::Line);
+  ASSERT_TRUE(this->world.Wait([&] { return this->fake.window.rtbData.TextLength() > 0; }));
+  this->Tick(2 * kLongestSilence);
+  EXPECT_EQ(this->State(), ConnectionState::Waiting);
+  EXPECT_EQ(this->socket.State(), SocketState::Connected);
+  EXPECT_EQ(this->peer.closes, 0u);
+}
+
+TYPED_TEST_P(CallersContract, OneWhoseWordsWaitIsNotSilent) {
+  ASSERT_NO_FATAL_FAILURE(this->Accept());
+  this->socket.PauseArrivals();
+  this->peer.socket.SendData(u"it is me", TextKind::Line);
+  this->Tick(2 * kLongestSilence);
+  EXPECT_EQ(this->State(), ConnectionState::Waiting);
+  this->socket.ResumeArrivals();
+  EXPECT_TRUE(this->world.Wait([&] { return this->fake.window.rtbData.TextLength() > 0; }));
+}
+
+TYPED_TEST_P(CallersContract, OneThatConfirmedMayStaySilent) {
+  ASSERT_NO_FATAL_FAILURE(this->Connect());
+  this->Tick(2 * kLongestSilence);
+  EXPECT_EQ(this->State(), ConnectionState::Connected);
+  EXPECT_EQ(this->peer.closes, 0u);
+}
+
+TYPED_TEST_P(CallersContract, EachHasTheWholeTimeToSaySomething) {
+  ASSERT_NO_FATAL_FAILURE(this->Accept());
+  this->Tick(kLongestSilence - 1);
+  this->Enter(u"/CANCEL");
+  ASSERT_TRUE(this->WaitForClose(this->peer));
+  this->peer.connects = 0;
+  this->peer.texts.clear();
+  this->Listen();
+  this->Tick(2 * kLongestSilence);
+  EXPECT_EQ(this->State(), ConnectionState::Waiting) << "a wait without a caller has no end";
+  this->Enter(u"/CANCEL");
+  ASSERT_NO_FATAL_FAILURE(this->Accept());
+  this->Tick(kLongestSilence - 1);
+  EXPECT_EQ(this->socket.State(), SocketState::Connected);
+  this->Tick(1);
+  EXPECT_EQ(this->State(), ConnectionState::Idle);
+}
+
 TYPED_TEST_P(CallersContract, BytesBeforeTheHandshakeMakeNoConversation) {
   ASSERT_NO_FATAL_FAILURE(this->AnswerTheCall(
       Answer::Yes, [this] { this->peer.socket.SendData(u"early", TextKind::Line); }));
@@ -256,8 +313,9 @@ TYPED_TEST_P(CallersContract, TheWindowMayBeClosedDuringACallByName) {
 REGISTER_TYPED_TEST_SUITE_P(
     CallersContract, AFloodBeforeTheHandshakeCanBeCancelled, WhatARejectedOneHasSaidIsNotShown,
     OneThatSaysNothingCanBeCancelled, OneThatSaysNothingGivesWayToAnotherWait,
-    OneThatSaysNothingGivesWayToACall, BytesBeforeTheHandshakeMakeNoConversation,
-    BytesBeforeTheHandshakeAreNotTheFormerPeers,
+    OneThatSaysNothingGivesWayToACall, OneThatSaysNothingIsLetGo, OneThatSaysSomethingMayStay,
+    OneWhoseWordsWaitIsNotSilent, OneThatConfirmedMayStaySilent, EachHasTheWholeTimeToSaySomething,
+    BytesBeforeTheHandshakeMakeNoConversation, BytesBeforeTheHandshakeAreNotTheFormerPeers,
     BytesBeforeTheHandshakeOfACallAreNotTheFormerPeersEither,
     ASecondOneIsNeitherAskedAboutNorConnected, ASecondOneIsRejectedWithTheFirst,
     OneDuringAConversationIsRefused, OneThatLeftIsAcceptedInVain, OneThatLeftIsRejectedAsWell,

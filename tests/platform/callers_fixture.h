@@ -80,6 +80,11 @@ class CallersFixture : public testing::Test {
     ASSERT_TRUE(WaitForState(ConnectionState::Connected));
   }
 
+  // Seconds pass.
+  void Tick(int seconds) {
+    for (; seconds > 0; --seconds) fake.window.tmrTimer.onTimer();
+  }
+
   ConnectionState State() const { return StateOf(program.State()); }
   bool WaitForState(ConnectionState state) {
     return world.Wait([&] { return State() == state; });

@@ -105,6 +105,15 @@ TYPED_TEST_P(FileSystemContract, ASizeIsTheNumberOfBytes) {
   EXPECT_EQ(this->files.SizeOf(this->Path(u"a")), 0u);
 }
 
+TYPED_TEST_P(FileSystemContract, TheStartOfAFileIsItsFirstBytes) {
+  this->files.ReplaceBytes(this->Path(u"a"), "\xEF\xBB\xBFone");
+  EXPECT_EQ(this->files.ReadStart(this->Path(u"a"), 4), "\xEF\xBB\xBFo");
+  EXPECT_EQ(this->files.ReadStart(this->Path(u"a"), 100), "\xEF\xBB\xBFone");
+  EXPECT_EQ(this->files.ReadStart(this->Path(u"a"), 0), "");
+  this->ExpectFailure(FailureNumber::FileNotFound,
+                      [&] { this->files.ReadStart(this->Path(u"missing"), 1); });
+}
+
 TYPED_TEST_P(FileSystemContract, AppendingMakesTheFileAndKeepsWhatItHolds) {
   this->files.AppendText(this->Path(u"log"), u"one\r\n");
   this->files.AppendText(this->Path(u"log"), u"δύο\r\n");
@@ -172,9 +181,10 @@ REGISTER_TYPED_TEST_SUITE_P(FileSystemContract, TellsFilesFromFolders, TextComes
                             ByteOrderMarkIsNoPartOfTheText,
                             LoneSurrogatesAreWrittenAsSomethingReadable,
                             APathThatIsNoTextNamesNothing, BytesComeBackAsTheyWereWritten,
-                            ASizeIsTheNumberOfBytes, AppendingMakesTheFileAndKeepsWhatItHolds,
-                            DeletedFilesAreGone, ListsTheOrdinaryFilesOfAnExtension,
-                            NothingIsListedOfWhatIsNoFolder, MissingFilesAreNotFound,
-                            PathsThroughMissingFoldersAreNotFound, FoldersAreNoFiles);
+                            ASizeIsTheNumberOfBytes, TheStartOfAFileIsItsFirstBytes,
+                            AppendingMakesTheFileAndKeepsWhatItHolds, DeletedFilesAreGone,
+                            ListsTheOrdinaryFilesOfAnExtension, NothingIsListedOfWhatIsNoFolder,
+                            MissingFilesAreNotFound, PathsThroughMissingFoldersAreNotFound,
+                            FoldersAreNoFiles);
 
 }  // namespace verlume

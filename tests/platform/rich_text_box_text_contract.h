@@ -149,6 +149,21 @@ TYPED_TEST_P(RichTextBoxText, FilesAreLoadedInBothFormats) {
   EXPECT_EQ(box.SelStart(), 0u);
 }
 
+TYPED_TEST_P(RichTextBoxText, PlainTextFilesAreLoadedInTheFormatOfANewBox) {
+  RichTextBox& box = *this->many;
+  const SelectionFormat own = box.SelFormat();
+  this->platform.files.files[u"/a.txt"] = "one\r\ntwo";
+  this->platform.files.files[u"/empty.txt"] = "";
+  box.SetSelText(u"before ");
+  box.SetSelFormat(Fancy());
+  box.SetSelText(u"said by a peer");
+  box.LoadFile(u"/a.txt", TextFileFormat::PlainText);
+  ExpectFormat(FormatOf(box, 0, box.TextLength()), own);
+  box.SetSelFormat(Fancy());
+  box.LoadFile(u"/empty.txt", TextFileFormat::PlainText);
+  ExpectFormat(box.SelFormat(), own);
+}
+
 TYPED_TEST_P(RichTextBoxText, FilesAreSavedInBothFormats) {
   RichTextBox& box = *this->many;
   box.SetRtf(u"{\\rtf1 a\\par\\b \\u960?}");
@@ -330,7 +345,8 @@ REGISTER_TYPED_TEST_SUITE_P(
     SeparatorsAndObjectMarksAreHarmless, NoBreakSpacesAndSurrogatesStay,
     SettingTextPutsTheInsertionPointAtTheStart, ASelectionIsCutToTheText,
     PuttingInReplacesTheSelection, ALockedBoxIsChangedByTheProgramAlone, WhatIsNoRtfIsPlainText,
-    RichTextSurvivesSettingItAgain, FilesAreLoadedInBothFormats, FilesAreSavedInBothFormats,
+    RichTextSurvivesSettingItAgain, FilesAreLoadedInBothFormats,
+    PlainTextFilesAreLoadedInTheFormatOfANewBox, FilesAreSavedInBothFormats,
     AFailureLeavesTheBoxAndTheFile, TheTagAndTheGroundAreKept, KeysPassTheHandlersBeforeTheBox,
     AKeySwallowedOnItsWayDownTypesNothing, TheProgramsChangesOfTheSelectionAreTold,
     AChangedTextIsToldOnceWhoeverChangedIt, AChangedTextIsToldBehindItsSelection,

@@ -349,7 +349,9 @@ TYPED_TEST_P(SocketContract, PausedArrivalsAndTheCloseBehindThemWaitInOrder) {
   ASSERT_TRUE(this->WaitUntilAllHasArrived());
   EXPECT_EQ(this->callee.texts.size(), 0u);
   EXPECT_EQ(this->callee.closes, 0u);
+  EXPECT_TRUE(this->callee.socket.ArrivalsPaused());
   this->callee.socket.ResumeArrivals();
+  EXPECT_FALSE(this->callee.socket.ArrivalsPaused());
   EXPECT_EQ(this->callee.texts.size(), 0u) << "operations raise nothing themselves";
   ASSERT_TRUE(this->WaitForClose(this->callee));
   EXPECT_EQ(this->callee.Received(), u"one two three");

@@ -115,11 +115,16 @@ std::string FakeFileSystem::ReadBytes(std::u16string_view path) const {
   return file->second;
 }
 
-void FakeFileSystem::ReplaceText(std::u16string_view path, std::u16string_view text) {
-  ReplaceBytes(path, Utf8(text));
+std::string FakeFileSystem::ReadStart(std::u16string_view path, std::size_t limit) const {
+  return ReadBytes(path).substr(0, limit);
 }
 
-void FakeFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes) {
+void FakeFileSystem::ReplaceText(std::u16string_view path, std::u16string_view text,
+                                 Readers readers) {
+  ReplaceBytes(path, Utf8(text), readers);
+}
+
+void FakeFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes, Readers) {
   CheckWrite(path);
   files[std::u16string(Stored(path))] = bytes;
 }

@@ -202,7 +202,12 @@ std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(
 }
 
 void FakeRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
-  if (format == TextFileFormat::PlainText) return SetText(files_.ReadText(path));
+  if (format == TextFileFormat::PlainText) {
+    const std::u16string text = files_.ReadText(path);
+    selLength_ = 0;
+    insertionLook_ = Look();
+    return SetText(text);
+  }
   ReplaceAll(CellsOf(richtext::ReadRtf(files_.ReadBytes(path))));
 }
 

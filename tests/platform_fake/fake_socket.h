@@ -60,6 +60,7 @@ class FakeSocket : public Socket {
   std::u16string GetData() override;
   void PauseArrivals() override { arePaused_ = true; }
   void ResumeArrivals() override;
+  bool ArrivalsPaused() const override { return arePaused_; }
 
   std::u16string remoteHost;
   std::u16string localIP = u"192.0.2.1";

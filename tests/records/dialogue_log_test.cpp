@@ -5,39 +5,6 @@
 namespace verlume {
 namespace {
 
-TEST(LogFileStemTest, EachForbiddenCharacterBecomesAnUnderscore) {
-  EXPECT_EQ(LogFileStemOf(u"\\/:*?\"<>|"), u"_________");
-  EXPECT_EQ(LogFileStemOf(u"Νίκος. the 1st"), u"Νίκος. the 1st");
-}
-
-TEST(LogFileStemTest, NicknamesThatDifferInForbiddenCharactersShareAStem) {
-  EXPECT_EQ(LogFileStemOf(u"a/b"), u"a_b");
-  EXPECT_EQ(LogFileStemOf(u"a:b"), u"a_b");
-}
-
-TEST(LogFileStemTest, ControlCharacterBecomesAnUnderscore) {
-  EXPECT_EQ(LogFileStemOf(std::u16string(u"a\0b\nc\u0085d", 7)), u"a_b_c_d");
-}
-
-TEST(LogFileStemTest, NothingAndTheNamesOfFoldersBecomeAName) {
-  EXPECT_EQ(LogFileStemOf(u""), u"_");
-  EXPECT_EQ(LogFileStemOf(u"."), u"_");
-  EXPECT_EQ(LogFileStemOf(u".."), u"_");
-  EXPECT_EQ(LogFileStemOf(u"..."), u"...");
-}
-
-TEST(LogFileStemTest, WhatIsNotSeenBecomesAnUnderscore) {
-  EXPECT_EQ(LogFileStemOf(u"\u202Eb\u2028ob\u200F"), u"_b_ob_");
-  EXPECT_EQ(LogFileStemOf(u"a\xD83D"), u"a_");
-}
-
-TEST(LogFileStemTest, OverlongNicknameIsCutToWhatAFileNameHolds) {
-  const std::u16string longestOfOurs(32, u'€');
-  EXPECT_EQ(LogFileStemOf(longestOfOurs), longestOfOurs);
-  EXPECT_EQ(LogFileStemOf(std::u16string(4000, u'€')), longestOfOurs);
-  EXPECT_EQ(LogFileStemOf(std::u16string(31, u'b') + u"\U0001F600"), std::u16string(31, u'b'));
-}
-
 class AppendToLogTest : public RoomTest {
  protected:
   AppendToLogTest() {
@@ -61,10 +28,10 @@ class AppendToLogTest : public RoomTest {
 };
 
 TEST_F(AppendToLogTest, EachLineIsCompleteOnDisk) {
-  log.AppendToLog(u"one");
-  EXPECT_EQ(bobsLog, "one\r\n");
+  log.AppendToLog(u"[2026-03-07_09:05:30]one");
+  EXPECT_EQ(bobsLog, "[2026-03-07_09:05:30]one\r\n");
   log.AppendToLog(u"δύο");
-  EXPECT_EQ(bobsLog, "one\r\nδύο\r\n");
+  EXPECT_EQ(bobsLog, "[2026-03-07_09:05:30]one\r\nδύο\r\n");
 }
 
 TEST_F(AppendToLogTest, FileIsMadeWhenThereIsNone) {
@@ -74,9 +41,56 @@ TEST_F(AppendToLogTest, FileIsMadeWhenThereIsNone) {
 }
 
 TEST_F(AppendToLogTest, LaterConversationIsAppended) {
-  bobsLog = "yesterday\r\n";
+  bobsLog = "[2026-03-06_23:59:59]yesterday\r\n";
   log.AppendToLog(u"today");
-  EXPECT_EQ(bobsLog, "yesterday\r\ntoday\r\n");
+  EXPECT_EQ(bobsLog, "[2026-03-06_23:59:59]yesterday\r\ntoday\r\n");
+}
+
+TEST_F(AppendToLogTest, FileOfTheUsersIsNotTouched) {
+  bobsLog = "buy milk\r\n";
+  log.AppendConnectionLine(u"Active connection.");
+  log.AppendConnectionLine(u"Disconnected.");
+  EXPECT_EQ(bobsLog, "buy milk\r\n");
+  EXPECT_EQ(fake.files.ReadText(u"/logs/bob (2).txt"),
+            u"[2026-03-07_09:05:30]***** Active connection.\r\n"
+            u"[2026-03-07_09:05:30]***** Disconnected.\r\n");
+}
+
+TEST_F(AppendToLogTest, LogKeepsItsNameWhenTheUsersFileIsGone) {
+  bobsLog = "buy milk\r\n";
+  log.AppendConnectionLine(u"Active connection.");
+  fake.files.Delete(u"/logs/bob.txt");
+  log.AppendConnectionLine(u"Disconnected.");
+  EXPECT_FALSE(fake.files.IsFile(u"/logs/bob.txt"));
+  EXPECT_TRUE(fake.files.ReadText(u"/logs/bob (2).txt").ends_with(u"Disconnected.\r\n"));
+}
+
+TEST_F(AppendToLogTest, FileThatTheUserPutsInThePlaceOfTheLogIsNotTouchedEither) {
+  log.AppendConnectionLine(u"Active connection.");
+  bobsLog = "buy milk\r\n";
+  log.AppendConnectionLine(u"Disconnected.");
+  EXPECT_EQ(bobsLog, "buy milk\r\n");
+  EXPECT_EQ(fake.files.ReadText(u"/logs/bob (2).txt"),
+            u"[2026-03-07_09:05:30]***** Disconnected.\r\n");
+}
+
+TEST_F(AppendToLogTest, RestOfAConversationGoesIntoTheFolderChosenMeanwhile) {
+  log.AppendConnectionLine(u"Active connection.");
+  state.LogDialogue = false;
+  fake.files.MakeFolder(u"/new");
+  fake.commonDialog.folders = {u"/new/"};
+  log.mnuFileLogFolder_Click();
+  state.LogDialogue = true;
+  log.AppendConnectionLine(u"Disconnected.");
+  EXPECT_EQ(fake.files.ReadText(u"/new/bob.txt"), u"[2026-03-07_09:05:30]***** Disconnected.\r\n");
+}
+
+TEST_F(AppendToLogTest, FailureToLookIntoTheFileIsReported) {
+  bobsLog = "[2026-03-06_23:59:59]yesterday\r\n";
+  fake.files.readsFail = FailureNumber::PathFileAccessError;
+  FailToAppend();
+  ExpectReported(u"75", u"Verlume, 240.");
+  EXPECT_EQ(bobsLog, "[2026-03-06_23:59:59]yesterday\r\n");
 }
 
 TEST_F(AppendToLogTest, NothingIsWrittenWhileTheSwitchIsOff) {

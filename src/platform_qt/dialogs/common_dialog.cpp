@@ -38,10 +38,13 @@ FileDialog* NewFileDialog(QWidget* owner, const FileChoice& start) {
 
 FileChoice Chosen(const FileDialog& dialog, const FileChoice& start) {
   FileChoice choice = start;
-  const QString path = dialog.selectedFiles().value(0);
+  const QString path = dialog.Path();
   choice.fileName = FromQt(QDir::toNativeSeparators(path));
   choice.flags &= ~dialog_flag::kExtensionDifferent;
-  if (HasOtherExtension(path, ToQt(start.defaultExtension))) {
+  // A name without an extension is chosen only for a file that has that name; none was altered.
+  const bool isBare =
+      dialog.acceptMode() == QFileDialog::AcceptOpen && !QFileInfo(path).fileName().contains(u'.');
+  if (!isBare && HasOtherExtension(path, ToQt(start.defaultExtension))) {
     choice.flags |= dialog_flag::kExtensionDifferent;
   }
   return choice;
@@ -59,8 +62,8 @@ QString ProposedName(const FileChoice& start) {
 
 FileChoice QtCommonDialog::ShowOpen(const FileChoice& start) {
   FileDialog* dialog = NewFileDialog(ParentOfBoxes(mainWindow_), start);
-  const bool mustExist = start.flags & dialog_flag::kFileMustExist;
-  dialog->setFileMode(mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  dialog->setFileMode(QFileDialog::AnyFile);
+  if (start.flags & dialog_flag::kFileMustExist) dialog->RequireFile();
   if (!start.fileName.empty()) dialog->selectFile(ToQt(start.fileName));
   return Ask(dialog, [&start](const FileDialog& done) { return Chosen(done, start); });
 }

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTreeView>
@@ -66,13 +67,25 @@ void FileDialog::FitColumns() {
 }
 
 void FileDialog::accept() {
-  const QStringList files = selectedFiles();
-  const QString refusal = files.isEmpty() ? QString() : RefusalOf(files.first());
+  const QString path = Path();
+  const QString refusal = path.isEmpty() ? QString() : RefusalOf(path);
   if (refusal.isEmpty()) return QFileDialog::accept();
   QMessageBox box(QMessageBox::Warning, windowTitle(), QString(), QMessageBox::Ok, this);
   box.setTextFormat(Qt::PlainText);
   box.setText(refusal);
   box.exec();
+}
+
+QString FileDialog::Path() const {
+  const QString path = selectedFiles().value(0);
+  const QString extension = u'.' + defaultSuffix();
+  const auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  const bool wasTyped = !edit || edit->text().endsWith(extension, Qt::CaseInsensitive);
+  if (!requireFile_ || wasTyped || !path.endsWith(extension) || QFileInfo::exists(path)) {
+    return path;
+  }
+  const QString bare = path.chopped(extension.size());
+  return QFileInfo(bare).isFile() ? bare : path;
 }
 
 // Qt's own wording, so that the translator translates it like Qt's other texts.
@@ -83,6 +96,10 @@ QString FileDialog::RefusalOf(const QString& path) const {
     return QFileDialog::tr(
                "%1\nDirectory not found.\nPlease verify the correct directory name was given.")
         .arg(QDir::toNativeSeparators(folder));
+  }
+  if (requireFile_ && !file.exists()) {
+    return QFileDialog::tr("%1\nFile not found.\nPlease verify the correct file name was given.")
+        .arg(QDir::toNativeSeparators(path));
   }
   if (refuseReadOnly_ && file.isFile() && !file.isWritable()) {
     return QCoreApplication::translate("QSaveFile", "Existing file %1 is not writable")

@@ -33,8 +33,15 @@ class FileDialog : private FileTypesHolder, public QFileDialog {
 
   // Refuses a name in a folder that does not exist.
   void RequireFolder() { requireFolder_ = true; }
+  // Refuses a file that does not exist, with a box. QFileDialog::ExistingFile disables the button
+  // instead, and also for files that the name filter hides.
+  void RequireFile() { requireFile_ = true; }
   // Refuses a file that exists and is read-only.
   void RefuseReadOnly() { refuseReadOnly_ = true; }
+
+  // The chosen path; empty if there is none. Qt adds the default extension to a name without one.
+  // If a file must exist, and does only without the extension, that file is meant.
+  QString Path() const;
 
  protected:
   void accept() override;
@@ -45,6 +52,7 @@ class FileDialog : private FileTypesHolder, public QFileDialog {
   QString RefusalOf(const QString& path) const;
 
   bool requireFolder_ = false;
+  bool requireFile_ = false;
   bool refuseReadOnly_ = false;
 };
 

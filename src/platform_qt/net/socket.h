@@ -47,6 +47,7 @@ class QtSocket : public QObject, public Socket {
   std::u16string GetData() override;
   void PauseArrivals() override { arrivalsPaused_ = true; }
   void ResumeArrivals() override;
+  bool ArrivalsPaused() const override { return arrivalsPaused_; }
 
   // Whether the system is still looking up a host name, even of a cancelled call. It cannot be
   // stopped, and the end of the application waits for it.

@@ -33,11 +33,12 @@ void FlushFolder(const std::string& folder) {
 
 }  // namespace
 
-FileReplacement::FileReplacement(const std::string& folder) : path_(folder + "/.verlume.new") {
-  if (OpenUnderCommonName()) return;
+FileReplacement::FileReplacement(const std::string& folder, mode_t mode)
+    : path_(folder + "/.verlume.new") {
+  if (OpenUnderCommonName(mode)) return;
   path_ = folder + "/.verlume-" + std::to_string(::getpid()) + ".new";
   ::unlink(path_.c_str());
-  file_.emplace(path_, kNewFile);
+  file_.emplace(path_, kNewFile, mode);
 }
 
 FileReplacement::~FileReplacement() {
@@ -45,9 +46,9 @@ FileReplacement::~FileReplacement() {
 }
 
 // A failure that another copy did not cause happens again with the other name, and is thrown there.
-bool FileReplacement::OpenUnderCommonName() try {
+bool FileReplacement::OpenUnderCommonName(mode_t mode) try {
   if (!RemoveRemnant(path_)) return false;
-  file_.emplace(path_, kNewFile);
+  file_.emplace(path_, kNewFile, mode);
   // Another copy may have taken the file for a leftover before it was locked.
   if (file_->TryToLock()) return true;
   file_.reset();

@@ -17,7 +17,7 @@ namespace verlume::qt {
 // locked, this copy uses a name of its own.
 class FileReplacement {
  public:
-  explicit FileReplacement(const std::string& folder);
+  explicit FileReplacement(const std::string& folder, mode_t mode = kUsual);
   ~FileReplacement();
   FileReplacement(const FileReplacement&) = delete;
   FileReplacement& operator=(const FileReplacement&) = delete;
@@ -28,7 +28,7 @@ class FileReplacement {
   void TakePlaceOf(const std::string& path);
 
  private:
-  bool OpenUnderCommonName();
+  bool OpenUnderCommonName(mode_t mode);
 
   std::string path_;
   std::optional<OpenFile> file_;

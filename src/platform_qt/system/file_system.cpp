@@ -125,14 +125,19 @@ std::string QtFileSystem::ReadBytes(std::u16string_view path) const {
   return OpenFile(NameOf(path), O_RDONLY).ReadAll();
 }
 
-void QtFileSystem::ReplaceText(std::u16string_view path, std::u16string_view text) {
-  ReplaceBytes(path, Utf8(text));
+std::string QtFileSystem::ReadStart(std::u16string_view path, std::size_t limit) const {
+  return OpenFile(NameOf(path), O_RDONLY).ReadStart(limit);
 }
 
-void QtFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes) {
+void QtFileSystem::ReplaceText(std::u16string_view path, std::u16string_view text,
+                               Readers readers) {
+  ReplaceBytes(path, Utf8(text), readers);
+}
+
+void QtFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes, Readers readers) {
   const std::string target = FollowLinks(NameOf(path));
   const std::optional<mode_t> permissions = CheckReplaceable(target);
-  FileReplacement fresh(FolderOf(target));
+  FileReplacement fresh(FolderOf(target), readers == Readers::OwnerOnly ? kOwnerOnly : kUsual);
   // Before anything is written, so that nobody can read it meanwhile who may not read the file.
   if (permissions) fresh.File().SetPermissions(*permissions);
   fresh.File().Write(bytes);
@@ -140,7 +145,7 @@ void QtFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes
 }
 
 void QtFileSystem::AppendText(std::u16string_view path, std::u16string_view text) {
-  OpenFile file(NameOf(path), O_WRONLY | O_CREAT | O_APPEND);
+  OpenFile file(NameOf(path), O_WRONLY | O_CREAT | O_APPEND, kOwnerOnly);
   file.Append(Utf8(text));
   file.Close();
 }

@@ -16,9 +16,12 @@ class QtFileSystem : public FileSystem {
   std::uint64_t SizeOf(std::u16string_view path) const override;
   std::u16string ReadText(std::u16string_view path) const override;
   std::string ReadBytes(std::u16string_view path) const override;
-  void ReplaceText(std::u16string_view path, std::u16string_view text) override;
+  std::string ReadStart(std::u16string_view path, std::size_t limit) const override;
+  using FileSystem::ReplaceBytes;
+  using FileSystem::ReplaceText;
+  void ReplaceText(std::u16string_view path, std::u16string_view text, Readers readers) override;
   // A symbolic link stays; the file to which it leads is replaced and keeps its permissions.
-  void ReplaceBytes(std::u16string_view path, std::string_view bytes) override;
+  void ReplaceBytes(std::u16string_view path, std::string_view bytes, Readers readers) override;
   void AppendText(std::u16string_view path, std::u16string_view text) override;
   void Delete(std::u16string_view path) override;
   char16_t Separator() const override { return u'/'; }

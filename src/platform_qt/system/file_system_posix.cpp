@@ -4,7 +4,9 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <limits>
 #include <utility>
 
 #include "platform/run_time_failure.h"
@@ -48,9 +50,9 @@ std::string FolderOf(const std::string& path) {
 }
 
 // With O_NONBLOCK, opening a pipe does not block the program; ordinary files ignore it.
-OpenFile::OpenFile(const std::string& path, int flags)
+OpenFile::OpenFile(const std::string& path, int flags, mode_t mode)
     : path_(path),
-      descriptor_(::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666)) {
+      descriptor_(::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, mode)) {
   if (descriptor_ < 0) ThrowErrno(path);
   struct stat found;
   if (::fstat(descriptor_, &found) == 0 && S_ISREG(found.st_mode)) return;
@@ -63,17 +65,23 @@ OpenFile::~OpenFile() {
 }
 
 std::string OpenFile::ReadAll() const {
+  return ReadStart(std::numeric_limits<std::size_t>::max());
+}
+
+std::string OpenFile::ReadStart(std::size_t limit) const {
   std::string bytes;
   char buffer[64 << 10];
-  for (;;) {
-    const ssize_t count = ::read(descriptor_, buffer, sizeof buffer);
-    if (count == 0) return bytes;
+  while (bytes.size() < limit) {
+    const std::size_t wanted = std::min(sizeof buffer, limit - bytes.size());
+    const ssize_t count = ::read(descriptor_, buffer, wanted);
+    if (count == 0) break;
     if (count > 0) {
       bytes.append(buffer, static_cast<std::size_t>(count));
     } else if (errno != EINTR) {
       ThrowErrno(path_);
     }
   }
+  return bytes;
 }
 
 void OpenFile::Write(std::string_view bytes) {

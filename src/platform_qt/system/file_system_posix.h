@@ -3,6 +3,7 @@
 
 #include <sys/stat.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,16 +18,23 @@ bool Find(const std::string& path, struct stat& found);
 // The folder that contains the path.
 std::string FolderOf(const std::string& path);
 
+// Permissions of a new file.
+inline constexpr mode_t kUsual = 0666;  // less what the user's umask takes away
+inline constexpr mode_t kOwnerOnly = 0600;
+
 // A file that is open during the lifetime of this object. Every operation throws a RunTimeFailure.
 class OpenFile {
  public:
-  // `flags` are those of open(2). Only ordinary files are opened.
-  OpenFile(const std::string& path, int flags);
+  // `flags` are those of open(2). Only ordinary files are opened. `mode` is for a file that is
+  // made.
+  OpenFile(const std::string& path, int flags, mode_t mode = kUsual);
   ~OpenFile();
   OpenFile(const OpenFile&) = delete;
   OpenFile& operator=(const OpenFile&) = delete;
 
   std::string ReadAll() const;
+  // Reads at most `limit` bytes.
+  std::string ReadStart(std::size_t limit) const;
   void Write(std::string_view bytes);
   // Writes everything or, on failure, restores the file's length.
   void Append(std::string_view bytes);

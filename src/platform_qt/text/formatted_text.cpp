@@ -75,12 +75,10 @@ FormattedText DocumentParts::Next(std::size_t units) {
 }
 
 const QTextCharFormat& DocumentParts::FormatOf(const richtext::CharFormat& format) {
-  const Key key(format.font, format.halfPoints, format.color, format.bold, format.italic,
-                format.underline, format.strikethrough);
-  const auto known = formats_.find(key);
+  const auto known = formats_.find(format);
   return known != formats_.end()
              ? known->second
-             : formats_.emplace(key, ToQt(format, document_.fonts)).first->second;
+             : formats_.emplace(format, ToQt(format, document_.fonts)).first->second;
 }
 
 }  // namespace verlume::qt

@@ -5,7 +5,6 @@
 #include <QTextCharFormat>
 #include <map>
 #include <string_view>
-#include <tuple>
 #include <vector>
 
 #include "platform_qt/text/seams.h"
@@ -48,15 +47,13 @@ class DocumentParts {
  private:
   const QTextCharFormat& FormatOf(const richtext::CharFormat& format);
 
-  using Key = std::tuple<int, int, Color, bool, bool, bool, bool>;
-
   const richtext::Document document_;
   const Lines lines_;
   std::size_t at_ = 0;     // position in the text
   std::size_t run_ = 0;    // index of the run at that position
   std::size_t inRun_ = 0;  // how much of that run has been returned
   // Each format of a long document is converted once, not for every run that has it.
-  std::map<Key, QTextCharFormat> formats_;
+  std::map<richtext::CharFormat, QTextCharFormat> formats_;
 };
 
 }  // namespace verlume::qt

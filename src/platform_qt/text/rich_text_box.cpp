@@ -244,11 +244,10 @@ void QtRichTextBox::SetFontCharset(int charset) {
 }
 
 void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
-  const QTextCharFormat before = FormatOfFirst(widget_->textCursor());
-  FormattedText text = format == TextFileFormat::PlainText
-                           ? FormattedText(files_.ReadText(path), before, lines_)
-                           : FormattedText(richtext::ReadRtf(files_.ReadBytes(path)), lines_);
-  Clear(before);
+  const bool isPlain = format == TextFileFormat::PlainText;
+  FormattedText text = isPlain ? FormattedText(files_.ReadText(path), DefaultFormat(), lines_)
+                               : FormattedText(richtext::ReadRtf(files_.ReadBytes(path)), lines_);
+  Clear(isPlain ? DefaultFormat() : FormatOfFirst(widget_->textCursor()));
   loading_ = std::make_unique<TextLoading>(*view_, QTextCursor(widget_->document()),
                                            std::move(text), [this](int percent) {
                                              if (onLoadProgress) onLoadProgress(percent);

@@ -87,7 +87,10 @@ void Program::BindWindow() {
   On(frmMain.window.onQueryUnload, shutDown_, &ShutDown::Form_QueryUnload);
   On(frmMain.window.onUnload, shutDown_, &ShutDown::Form_Unload);
   On(frmMain.freeSizer1.onPostLayout, startUp_, &StartUp::freeSizer1_PostLayout);
-  On(frmMain.tmrTimer.onTimer, statusPanel_, &StatusPanel::tmrTimer_Timer);
+  frmMain.tmrTimer.onTimer = [this] {
+    statusPanel_.tmrTimer_Timer();
+    socketEvents_.tmrTimer_Timer();
+  };
 }
 
 void Program::BindAbout() {

@@ -68,6 +68,7 @@ void StartUp::SetInitialValues() {
   state_.HistoryDown = -1;
   state_.LogFolder.clear();
   state_.LogFileStem.clear();
+  state_.LogFile.clear();
   state_.MacrosFolder.clear();
   state_.MacroToRun.clear();
   state_.LogOpen = false;

@@ -111,10 +111,29 @@ TEST_F(QtFileSystemTest, ReplacingKeepsThePermissions) {
 TEST_F(QtFileSystemTest, NewFilesHaveTheUsersUsualPermissions) {
   const mode_t mask = ::umask(027);
   files.ReplaceText(Path(u"a"), u"x");
-  files.AppendText(Path(u"b"), u"x");
   ::umask(mask);
   EXPECT_EQ(PermissionsOf(Path(u"a")), mode_t{0640});
-  EXPECT_EQ(PermissionsOf(Path(u"b")), mode_t{0640});
+}
+
+TEST_F(QtFileSystemTest, PrivateFilesAreTheirOwnersAlone) {
+  const mode_t mask = ::umask(0);
+  files.ReplaceText(Path(u"a"), u"x", Readers::OwnerOnly);
+  files.ReplaceText(Path(u"a"), u"y", Readers::OwnerOnly);
+  files.AppendText(Path(u"b"), u"x");
+  ::umask(mask);
+  EXPECT_EQ(PermissionsOf(Path(u"a")), mode_t{0600});
+  EXPECT_EQ(PermissionsOf(Path(u"b")), mode_t{0600});
+}
+
+TEST_F(QtFileSystemTest, FilesThatExistKeepTheirPermissions) {
+  for (const auto* name : {u"a", u"b"}) {
+    files.ReplaceText(Path(name), u"x");
+    SetPermissions(Path(name), 0644);
+  }
+  files.ReplaceText(Path(u"a"), u"y", Readers::OwnerOnly);
+  files.AppendText(Path(u"b"), u"y");
+  EXPECT_EQ(PermissionsOf(Path(u"a")), mode_t{0644});
+  EXPECT_EQ(PermissionsOf(Path(u"b")), mode_t{0644});
 }
 
 TEST_F(QtFileSystemTest, ReplacingFollowsLinks) {

@@ -25,11 +25,16 @@ class RealDisk : public fake::FakeFileSystem {
   std::uint64_t SizeOf(std::u16string_view path) const override { return real_.SizeOf(path); }
   std::u16string ReadText(std::u16string_view path) const override { return real_.ReadText(path); }
   std::string ReadBytes(std::u16string_view path) const override { return real_.ReadBytes(path); }
-  void ReplaceText(std::u16string_view path, std::u16string_view text) override {
-    real_.ReplaceText(path, text);
+  std::string ReadStart(std::u16string_view path, std::size_t limit) const override {
+    return real_.ReadStart(path, limit);
   }
-  void ReplaceBytes(std::u16string_view path, std::string_view bytes) override {
-    real_.ReplaceBytes(path, bytes);
+  using FileSystem::ReplaceBytes;
+  using FileSystem::ReplaceText;
+  void ReplaceText(std::u16string_view path, std::u16string_view text, Readers readers) override {
+    real_.ReplaceText(path, text, readers);
+  }
+  void ReplaceBytes(std::u16string_view path, std::string_view bytes, Readers readers) override {
+    real_.ReplaceBytes(path, bytes, readers);
   }
   void AppendText(std::u16string_view path, std::u16string_view text) override {
     real_.AppendText(path, text);

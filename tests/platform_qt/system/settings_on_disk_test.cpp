@@ -46,6 +46,19 @@ class SettingsOnDiskTest : public testing::Test {
   AppState state;
 };
 
+TEST_F(SettingsOnDiskTest, NewFilesAreTheirOwnersAlone) {
+  const auto permissions = [](const QString& path) {
+    struct stat found;
+    return ::stat(path.toUtf8().constData(), &found) == 0 ? found.st_mode & 07777 : 0;
+  };
+  Settings(state, files).WriteSetting(u"General", u"Language", u"1");
+  EXPECT_EQ(permissions(IniFile()), mode_t{0600});
+  ASSERT_TRUE(QFile::remove(IniFile()));
+  Write(IniFile(), "[General]\nDateStamp=maybe\n");
+  EXPECT_EQ(Secure(), SettingsTrouble::InvalidValue);
+  EXPECT_EQ(permissions(Kept()), mode_t{0600});
+}
+
 TEST_F(SettingsOnDiskTest, AFileWithABadValueIsKept) {
   const QByteArray bad = "[General]\nDateStamp=maybe\n";
   Write(IniFile(), bad);

@@ -1,0 +1,91 @@
+#include "records/log_file.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/run_time_failure.h"
+#include "platform_fake/fake_file_system.h"
+
+namespace verlume {
+namespace {
+
+TEST(LogFileStemTest, EachForbiddenCharacterBecomesAnUnderscore) {
+  EXPECT_EQ(LogFileStemOf(u"\\/:*?\"<>|"), u"_________");
+  EXPECT_EQ(LogFileStemOf(u"Νίκος. the 1st"), u"Νίκος. the 1st");
+}
+
+TEST(LogFileStemTest, NicknamesThatDifferInForbiddenCharactersShareAStem) {
+  EXPECT_EQ(LogFileStemOf(u"a/b"), u"a_b");
+  EXPECT_EQ(LogFileStemOf(u"a:b"), u"a_b");
+}
+
+TEST(LogFileStemTest, ControlCharacterBecomesAnUnderscore) {
+  EXPECT_EQ(LogFileStemOf(std::u16string(u"a\0b\nc\u0085d", 7)), u"a_b_c_d");
+}
+
+TEST(LogFileStemTest, NothingAndTheNamesOfFoldersBecomeAName) {
+  EXPECT_EQ(LogFileStemOf(u""), u"_");
+  EXPECT_EQ(LogFileStemOf(u"."), u"_");
+  EXPECT_EQ(LogFileStemOf(u".."), u"_");
+  EXPECT_EQ(LogFileStemOf(u"..."), u"...");
+}
+
+TEST(LogFileStemTest, WhatIsNotSeenBecomesAnUnderscore) {
+  EXPECT_EQ(LogFileStemOf(u"\u202Eb\u2028ob\u200F"), u"_b_ob_");
+  EXPECT_EQ(LogFileStemOf(u"a\xD83D"), u"a_");
+}
+
+TEST(LogFileStemTest, OverlongNicknameIsCutToWhatAFileNameHolds) {
+  const std::u16string longestOfOurs(32, u'€');
+  EXPECT_EQ(LogFileStemOf(longestOfOurs), longestOfOurs);
+  EXPECT_EQ(LogFileStemOf(std::u16string(4000, u'€')), longestOfOurs);
+  EXPECT_EQ(LogFileStemOf(std::u16string(31, u'b') + u"\U0001F600"), std::u16string(31, u'b'));
+}
+
+class FreeLogPathTest : public testing::Test {
+ protected:
+  FreeLogPathTest() { files.MakeFolder(u"/logs"); }
+  std::u16string FreePath() const { return FreeLogPath(u"/logs/todo.txt", files); }
+
+  fake::FakeFileSystem files;
+};
+
+TEST_F(FreeLogPathTest, MissingFileIsMade) {
+  EXPECT_EQ(FreePath(), u"/logs/todo.txt");
+}
+
+TEST_F(FreeLogPathTest, EmptyFileAndLogAreAppendedTo) {
+  for (const auto* content : {"", "[2026-03-07_09:05:30]***** Active connection.\r\n",
+                              "[1999-12-31_23:59:59]<Bob>hello"}) {
+    files.files[u"/logs/todo.txt"] = content;
+    EXPECT_EQ(FreePath(), u"/logs/todo.txt") << content;
+  }
+}
+
+TEST_F(FreeLogPathTest, FileThatDoesNotBeginLikeALogIsLeftAlone) {
+  for (const auto* content :
+       {"buy milk\r\n", "\r\n[2026-03-07_09:05:30]", "[", "[2026-03-07]", "[2026-03-07_09:05:30",
+        "[2026-03-07 09:05:30]", "[2026-03-0x_09:05:30]", " [2026-03-07_09:05:30]"}) {
+    files.files[u"/logs/todo.txt"] = content;
+    EXPECT_EQ(FreePath(), u"/logs/todo (2).txt") << content;
+  }
+}
+
+TEST_F(FreeLogPathTest, NumbersGoOnUntilALogOrNothingIsFound) {
+  files.files[u"/logs/todo.txt"] = files.files[u"/logs/todo (2).txt"] = "buy milk\r\n";
+  EXPECT_EQ(FreePath(), u"/logs/todo (3).txt");
+  files.files[u"/logs/todo (3).txt"] = "[2026-03-07_09:05:30]<todo>hello\r\n";
+  EXPECT_EQ(FreePath(), u"/logs/todo (3).txt");
+  files.files[u"/logs/todo (3).txt"] = "buy bread\r\n";
+  EXPECT_EQ(FreePath(), u"/logs/todo (4).txt");
+}
+
+TEST_F(FreeLogPathTest, FileThatMayNotBeReadIsLeftAlone) {
+  files.files[u"/logs/todo.txt"] = "";
+  files.readsFail = FailureNumber::PermissionDenied;
+  EXPECT_EQ(FreePath(), u"/logs/todo (2).txt");
+  files.readsFail = FailureNumber::PathFileAccessError;
+  EXPECT_THROW(FreePath(), RunTimeFailure);
+}
+
+}  // namespace
+}  // namespace verlume
