@@ -37,6 +37,7 @@ struct CharFormat {
   bool underline = false;
   bool strikethrough = false;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): clang-tidy 14 sees a 0 in what the compiler makes of it.
   auto operator<=>(const CharFormat&) const = default;
 };
 
