@@ -199,6 +199,8 @@ inline constexpr TextPair kAsk = {
     u"Έχετε εισερχόμενη κλήση για σύνδεση με απομακρυσμένο υπολογιστή, στην διεύθυνση %1, "
     u"μέσω της θύρας %2.\r\n\r\n"
     u"Θα την αποδεχθείτε;"};
+// A tick. With it, No does not end the wait.
+inline constexpr TextPair kKeepWaiting = {u"&Keep waiting", u"&Συνέχιση της αναμονής"};
 
 }  // namespace connection_request
 

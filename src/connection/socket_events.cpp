@@ -1,16 +1,20 @@
 #include "connection/socket_events.h"
 
 #include <string>
+#include <utility>
 
 #include "connection/connection_state.h"
 #include "connection/connection_texts.h"
 #include "connection/status_texts.h"
+#include "shell/delivery.h"
 
 namespace verlume {
 
 void SocketEvents::sckControl_ConnectionRequest(std::int64_t requestId) {
+  const std::u16string ip = platform_.sckControl.RemoteHostIP();
+  // The user is not to notice this, so the focus stays where it is.
+  if (refused_.IsTurnedAway(ip, now_)) return platform_.sckControl.Reject(requestId);
   errors_.Guard(Procedure::sckControl_ConnectionRequest, [&] {
-    const std::u16string ip = platform_.sckControl.RemoteHostIP();
     ShowPeer(ip);
     const bool isAccepted = AskWhetherToAccept(ip);
     // The wait may have ended while the question was open: any error ends it, and has been
@@ -19,18 +23,34 @@ void SocketEvents::sckControl_ConnectionRequest(std::int64_t requestId) {
                                 platform_.sckControl.State() == SocketState::Listening;
     if (!isStillWaiting) return;
     if (isAccepted) {
-      platform_.sckControl.Close();
-      ForgetRemoteNickname();
-      platform_.sckControl.Accept(requestId);
-      isSilent_ = true;
-      silence_ = 0;
-      wire_.SendStart();
+      AcceptCaller(requestId);
+    } else if (keepsWaiting_) {
+      RejectCaller(requestId, ip);
     } else {
       ResetConnection(state_, platform_);
       SetStatus(status_texts::kRejected, ip, state_.LocalPort);
     }
   });
   platform_.frmMain.rtbCommands.SetFocus();
+}
+
+void SocketEvents::AcceptCaller(std::int64_t requestId) {
+  platform_.sckControl.Close();
+  ForgetRemoteNickname();
+  platform_.sckControl.Accept(requestId);
+  isSilent_ = true;
+  silence_ = 0;
+  wire_.SendStart();
+}
+
+void SocketEvents::RejectCaller(std::int64_t requestId, const std::u16string& ip) {
+  platform_.sckControl.Reject(requestId);
+  platform_.frmMain.lblRemoteIP.SetCaption(u"");
+  platform_.frmMain.lblRemotePort.SetCaption(u"");
+  platform_.frmMain.lblStatus.SetCaption(
+      status_texts::kWaiting.Fill(state_.IsGreek, {DecimalText(state_.LocalPort)}));
+  refused_.Refuse(ip, now_);
+  ShowTurnedAway();
 }
 
 bool SocketEvents::AskWhetherToAccept(const std::u16string& ip) {
@@ -40,7 +60,13 @@ bool SocketEvents::AskWhetherToAccept(const std::u16string& ip) {
       Question(texts::kAsk.Fill(isGreek, {ip, DecimalText(platform_.sckControl.RemotePort())}),
                texts::kTitle.In(isGreek), Answer::Yes);
   ask.unexpected = true;
-  return platform_.dialogs.ShowMessage(ask) == Answer::Yes;
+  Tick keepWaiting{std::u16string(texts::kKeepWaiting.In(isGreek)), keepsWaiting_};
+  ask.tick = &keepWaiting;
+  const bool isAccepted = platform_.dialogs.ShowMessage(ask) == Answer::Yes;
+  keepsWaiting_ = keepWaiting.isSet;
+  if (!keepsWaiting_) refused_.Clear();
+  ShowTurnedAway();
+  return isAccepted;
 }
 
 void SocketEvents::sckControl_Connect() {
@@ -74,7 +100,16 @@ void SocketEvents::sckControl_Close() {
 }
 
 void SocketEvents::tmrTimer_Timer() {
+  ++now_;
+  ShowTurnedAway();
   if (IsSilentCaller() && ++silence_ == kLongestSilence) sckControl_Close();
+}
+
+void SocketEvents::ShowTurnedAway() {
+  std::vector<std::u16string> addresses = refused_.TurnedAway(now_);
+  if (addresses == state_.TurnedAway) return;
+  state_.TurnedAway = std::move(addresses);
+  ShowDelivery(state_, platform_.frmMain);
 }
 
 // The wait may have ended, or have given way to another. While arrivals are paused the caller may

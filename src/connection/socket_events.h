@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "connection/refused_callers.h"
 #include "connection/wire_protocol.h"
 #include "platform/platform.h"
 #include "records/dialogue_log.h"
@@ -23,17 +24,23 @@ class SocketEvents {
       : state_(state), platform_(platform), errors_(errors), wire_(wire), log_(log) {}
 
   // Asks the user in a modal box, and acts on the answer only if this side is still listening then.
+  // No ends the wait, unless "Keep waiting" is ticked. While it is, who was refused again and again
+  // is not asked about (refused_callers.h).
   void sckControl_ConnectionRequest(std::int64_t requestId);
   void sckControl_Connect();
   void sckControl_DataArrival(std::int32_t bytesTotal);
   void sckControl_Close();
   // Once a second: lets a caller go that has been accepted and says nothing for kLongestSilence, as
-  // if it had closed the connection. One that has said something may stay silent.
+  // if it had closed the connection. One that has said something may stay silent. And shows which
+  // callers are still turned away.
   void tmrTimer_Timer();
 
  private:
   bool IsSilentCaller() const;
   bool AskWhetherToAccept(const std::u16string& ip);
+  void AcceptCaller(std::int64_t requestId);
+  void RejectCaller(std::int64_t requestId, const std::u16string& ip);
+  void ShowTurnedAway();
   // A new peer has no nickname until it sends one.
   void ForgetRemoteNickname();
   // Shows that a connection to this peer is being established.
@@ -46,6 +53,9 @@ class SocketEvents {
   ErrorReport& errors_;
   WireProtocol& wire_;
   DialogueLog& log_;
+  bool keepsWaiting_ = false;  // after a No, as the user ticked last
+  RefusedCallers refused_;
+  RefusedCallers::Seconds now_{0};
   bool isSilent_ = false;  // the accepted caller has said nothing yet
   int silence_ = 0;        // for so many seconds
 };

@@ -15,6 +15,12 @@ enum class MessageIcon { Information, Question, Stop };
 enum class MessageButtons { Ok, YesNo, YesNoCancel };
 enum class Answer { Ok, Yes, No, Cancel };
 
+// A check box below the text of a message box.
+struct Tick {
+  std::u16string text;  // with a mnemonic
+  bool isSet = false;   // in: at first; out: as the user left it, whatever the answer
+};
+
 struct Message {
   std::u16string text;
   std::u16string title;
@@ -24,6 +30,7 @@ struct Message {
   // The user did nothing to cause the box: it ignores keys for its first half second, so that
   // typing does not answer it by accident, and the window's task bar entry is flagged.
   bool unexpected = false;
+  Tick* tick = nullptr;  // none by default; lives longer than the box
 };
 
 // The four kinds of message box that the program shows.

@@ -44,13 +44,16 @@ class Socket {
 
   // Listens on the local port, IPv4 and IPv6. Throws RunTimeFailure 10048 when the port is in use,
   // 70 when it is not allowed. Raises onConnectionRequest for one caller; further callers wait in
-  // the backlog until the socket is closed.
+  // the backlog until it is rejected, or the socket closed.
   virtual void Listen() = 0;
   // Calls the remote host. Raises onConnect, or onClose within 15 s when no connection can be made.
   virtual void Connect() = 0;
   // Accepts the call `requestId`, right after Close has ended the listening. Raises onClose if the
   // caller has left meanwhile, or the id is unknown.
   virtual void Accept(std::int64_t requestId) = 0;
+  // Sends the caller `requestId` away and goes on listening. Nothing happens if it is not the one
+  // that is asked about.
+  virtual void Reject(std::int64_t requestId) = 0;
   // Ends the connection, the call or the listening; of its events only onUndelivered can follow.
   // Queued texts are still sent, for 2 s at most.
   virtual void Close() = 0;

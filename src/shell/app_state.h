@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "shell/text_style.h"
 
@@ -44,6 +45,7 @@ struct AppState {
   std::size_t LinesWaiting = 0;   // sent, but not yet acknowledged by the peer's machine
   std::size_t LinesUndelivered = 0;  // lines of an ended conversation that were never acknowledged
   bool UndeliveredBefore = false;  // LinesUndelivered is about the conversation before the last one
+  std::vector<std::u16string> TurnedAway;  // addresses whose calls are rejected without asking
 
   // The line being executed.
   std::u16string CommandLine;   // its plain text

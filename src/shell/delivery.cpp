@@ -17,6 +17,18 @@ constexpr TextPair kUndeliveredBefore = {
     u"%1 lines of the conversation before were not delivered.",
     u"%1 γραμμές της προηγούμενης συνομιλίας δεν παραδόθηκαν."};
 
+constexpr TextPair kOneTurnedAway = {u"Calls from %1 are turned away.",
+                                     u"Οι κλήσεις από %1 απορρίπτονται."};
+// %1 an address, %2 how many besides
+constexpr TextPair kTurnedAway = {u"Calls from %1 and %2 more are turned away.",
+                                  u"Οι κλήσεις από %1 και %2 ακόμη απορρίπτονται."};
+
+std::u16string TurnedAwayText(const std::vector<std::u16string>& addresses, bool isGreek) {
+  const auto others = static_cast<long long>(addresses.size()) - 1;
+  return others == 0 ? kOneTurnedAway.Fill(isGreek, {addresses[0]})
+                     : kTurnedAway.Fill(isGreek, {addresses[0], DecimalText(others)});
+}
+
 std::u16string Fill(const TextPair& one, const TextPair& several, std::size_t lines, bool isGreek) {
   return (lines == 1 ? one : several).Fill(isGreek, {DecimalText(static_cast<long long>(lines))});
 }
@@ -39,6 +51,10 @@ void ShowDelivery(const AppState& state, const MainWindow& frmMain) {
     toolTip += u": " + (state.UndeliveredBefore
                             ? Fill(kOneUndeliveredBefore, kUndeliveredBefore, lines, isGreek)
                             : UndeliveredText(lines, isGreek));
+  }
+  if (!state.TurnedAway.empty()) {
+    toolTip +=
+        (state.LinesUndelivered > 0 ? u" " : u": ") + TurnedAwayText(state.TurnedAway, isGreek);
   }
   frmMain.lblStatus.SetToolTip(toolTip);
 }

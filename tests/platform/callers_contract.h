@@ -196,6 +196,19 @@ TYPED_TEST_P(CallersContract, ASecondOneIsRejectedWithTheFirst) {
   this->ExpectUsable();
 }
 
+TYPED_TEST_P(CallersContract, ASecondOneIsAskedAboutIfTheWaitGoesOn) {
+  this->fake.dialogs.setsTick = true;
+  ASSERT_NO_FATAL_FAILURE(this->AnswerTheCall(Answer::No, [this] {
+    this->Call(this->other);
+    ASSERT_TRUE(this->world.Wait([&] { return this->other.connects == 1; }));
+    this->fake.dialogs.answers.push_back(Answer::Yes);
+  }));
+  EXPECT_TRUE(this->WaitForClose(this->peer));
+  EXPECT_TRUE(this->world.Wait([&] { return this->other.texts.size() == 1; }));
+  EXPECT_EQ(this->fake.dialogs.messages.size(), 2u);
+  EXPECT_EQ(this->other.closes, 0u);
+}
+
 TYPED_TEST_P(CallersContract, OneDuringAConversationIsRefused) {
   ASSERT_NO_FATAL_FAILURE(this->Connect());
   this->Call(this->other);
@@ -318,7 +331,8 @@ REGISTER_TYPED_TEST_SUITE_P(
     BytesBeforeTheHandshakeMakeNoConversation, BytesBeforeTheHandshakeAreNotTheFormerPeers,
     BytesBeforeTheHandshakeOfACallAreNotTheFormerPeersEither,
     ASecondOneIsNeitherAskedAboutNorConnected, ASecondOneIsRejectedWithTheFirst,
-    OneDuringAConversationIsRefused, OneThatLeftIsAcceptedInVain, OneThatLeftIsRejectedAsWell,
+    ASecondOneIsAskedAboutIfTheWaitGoesOn, OneDuringAConversationIsRefused,
+    OneThatLeftIsAcceptedInVain, OneThatLeftIsRejectedAsWell,
     OneThatLeavesInsteadOfConfirmingMakesNoConversation,
     AnAnswerToAPeerThatIsGoneEndsTheConversation, WaitingAndCallingMayAlternateAsFastAsTheyLike,
     ACallToItselfIsRefused, CallsToWhatDoesNotExistComeToNothing, ACallByNameIsCancelledAtOnce,

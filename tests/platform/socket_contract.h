@@ -257,6 +257,46 @@ TYPED_TEST_P(SocketContract, ASecondCallerWaitsAndIsRefusedWhenTheListenerCloses
   EXPECT_EQ(this->caller.closes, 0u);
 }
 
+TYPED_TEST_P(SocketContract, ARejectedCallerIsClosedAndTheNextOneIsAskedAbout) {
+  ASSERT_NO_FATAL_FAILURE(this->Ring());
+  this->Call(this->other);
+  ASSERT_TRUE(this->world.Wait([&] { return this->other.connects == 1; }));
+  const std::int32_t port = this->callee.socket.LocalPort();
+  this->callee.socket.Reject(this->callee.requests.back());
+  EXPECT_EQ(this->callee.socket.RemoteHostIP(), u"");
+  EXPECT_TRUE(this->WaitForClose(this->caller));
+  ASSERT_TRUE(this->world.Wait([&] { return this->callee.requests.size() == 2; }));
+  EXPECT_EQ(this->callee.socket.State(), SocketState::Listening);
+  EXPECT_EQ(this->callee.socket.LocalPort(), port);
+  EXPECT_EQ(this->other.closes, 0u);
+  this->Answer();
+  this->other.socket.SendData(u"hello", TextKind::Line);
+  EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"hello"; }));
+}
+
+TYPED_TEST_P(SocketContract, ARejectedCallerWhoHasLeftMakesRoomForTheNext) {
+  ASSERT_NO_FATAL_FAILURE(this->Ring());
+  this->caller.socket.Close();
+  this->LetEventsThrough();
+  this->callee.socket.Reject(this->callee.requests.back());
+  this->Call(this->other);
+  EXPECT_TRUE(this->world.Wait([&] { return this->callee.requests.size() == 2; }));
+}
+
+TYPED_TEST_P(SocketContract, OnlyTheCallerThatIsAskedAboutCanBeRejected) {
+  ASSERT_NO_FATAL_FAILURE(this->Ring());
+  this->callee.socket.Reject(this->callee.requests.back() + 1);
+  this->LetEventsThrough();
+  EXPECT_EQ(this->caller.closes, 0u);
+  this->Answer();
+  ASSERT_TRUE(
+      this->world.Wait([&] { return this->callee.socket.State() == SocketState::Connected; }));
+  this->callee.socket.Reject(this->callee.requests.back());
+  this->LetEventsThrough();
+  EXPECT_EQ(this->callee.socket.State(), SocketState::Connected);
+  EXPECT_EQ(this->caller.closes, 0u);
+}
+
 TYPED_TEST_P(SocketContract, AnsweringACallerWhoHasLeftCloses) {
   ASSERT_NO_FATAL_FAILURE(this->Ring());
   this->caller.socket.Close();
@@ -428,7 +468,9 @@ REGISTER_TYPED_TEST_SUITE_P(
     OperationsRaiseNothingThemselves, TextsArriveWithTheirLength,
     CharactersOutsideTheCodePageArriveAsQuestionMarks, NothingIsSentUnlessConnected,
     TextSentBeforeTheAnswerArrivesAfterIt, ARefusedCallCloses, ARefusedCallCanNoLongerBeAnswered,
-    ASecondCallerWaitsAndIsRefusedWhenTheListenerCloses, AnsweringACallerWhoHasLeftCloses,
+    ASecondCallerWaitsAndIsRefusedWhenTheListenerCloses,
+    ARejectedCallerIsClosedAndTheNextOneIsAskedAbout, ARejectedCallerWhoHasLeftMakesRoomForTheNext,
+    OnlyTheCallerThatIsAskedAboutCanBeRejected, AnsweringACallerWhoHasLeftCloses,
     AnsweringAnUnknownCallCloses, ArrivalsComeBeforeTheCloseWhichComesOnce,
     WordsSentOnAnsweringStillArriveWhenTheCalleeClosesAtOnce, ACallThatNobodyTakesCloses,
     ACancelledCallRaisesNothing, ClosingInsideAnEventEndsTheEvents,

@@ -27,6 +27,11 @@ Value TakeChoice(std::deque<std::optional<Value>>& script, const char* what) {
 Answer FakeDialogs::ShowMessage(const Message& message) {
   messages.push_back(message);
   if (whileOpen) whileOpen();
+  if (message.tick) {
+    messages.back().tick = nullptr;  // it does not live as long
+    ticksShown.push_back(*message.tick);
+    if (setsTick) message.tick->isSet = *setsTick;
+  }
   if (message.buttons == MessageButtons::Ok) return Answer::Ok;
   return Take(answers, "a message box");
 }

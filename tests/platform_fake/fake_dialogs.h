@@ -27,11 +27,13 @@ class FakeDialogs : public Dialogs {
   // The script.
   std::deque<Answer> answers;
   std::deque<std::u16string> typed;  // "" is Cancel
+  std::optional<bool> setsTick;      // what the user makes of each tick; left alone by default
   // Called while each box is open, before it is answered.
   std::function<void()> whileOpen;
 
   // What was shown.
   std::vector<Message> messages;
+  std::vector<Tick> ticksShown;
   std::vector<Asked> asked;
   std::optional<bool> isGreek;
 };

@@ -82,6 +82,21 @@ void FakeSocket::Accept(std::int64_t requestId) {
   for (const std::u16string& text : std::exchange(caller->early_, {})) Arrive(text);
 }
 
+void FakeSocket::Reject(std::int64_t requestId) {
+  if (state_ != SocketState::Listening || request_ == 0 || requestId != request_) return;
+  DropCaller();
+  remoteHostIP_.clear();
+  AskNextCaller();
+}
+
+void FakeSocket::DropCaller() {
+  request_ = 0;
+  FakeSocket* caller = std::exchange(pending_, nullptr);
+  if (!caller) return;
+  caller->peer_ = nullptr;
+  caller->Post([caller] { caller->LosePeer(); });
+}
+
 // As on a real machine, closing a listener refuses the callers that wait after the current one. The
 // current one is kept for an Accept right afterwards, and dropped otherwise.
 void FakeSocket::Close() {
@@ -112,14 +127,7 @@ void FakeSocket::Close() {
   arrival_.clear();
   isCloseWaiting_ = false;
   ++generation_;
-  if (request_ == 0) return;
-  Post([this] {
-    request_ = 0;
-    FakeSocket* caller = std::exchange(pending_, nullptr);
-    if (!caller) return;
-    caller->peer_ = nullptr;
-    caller->Post([caller] { caller->LosePeer(); });
-  });
+  if (request_ != 0) Post([this] { DropCaller(); });
 }
 
 void FakeSocket::LosePeer() {

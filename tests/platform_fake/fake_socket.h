@@ -53,6 +53,7 @@ class FakeSocket : public Socket {
   void Listen() override;
   void Connect() override;
   void Accept(std::int64_t requestId) override;
+  void Reject(std::int64_t requestId) override;
   void Close() override;
   void SendData(std::u16string_view text, TextKind kind) override;
   std::size_t LinesWaiting() const override;
@@ -82,6 +83,7 @@ class FakeSocket : public Socket {
   void DeliverArrival();
   void LosePeer();
   void AskNextCaller();
+  void DropCaller();
 
   FakeNetwork& network_;
   SocketState state_ = SocketState::Closed;

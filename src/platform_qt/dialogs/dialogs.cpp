@@ -1,6 +1,7 @@
 #include "platform_qt/dialogs/dialogs.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -54,6 +55,13 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
     default:
       return QMessageBox::Information;
   }
+}
+
+void AddTick(QMessageBox& box, const Tick& tick) {
+  auto* check = new QCheckBox(ToQt(tick.text));
+  check->setObjectName(QStringLiteral("tick"));
+  check->setChecked(tick.isSet);
+  box.setCheckBox(check);
 }
 
 QString WithLineBreaks(std::u16string_view text) {
@@ -127,6 +135,7 @@ Answer QtDialogs::ShowMessage(const Message& message) {
   box->setText(WithLineBreaks(message.text));
   box->setIcon(IconOf(message.icon));
   AddButtons(*box, message);
+  if (message.tick) AddTick(*box, *message.tick);
   KeepToOwnProgram(box);
   if (message.unexpected) {
     new KeyGuard(box);
@@ -135,6 +144,7 @@ Answer QtDialogs::ShowMessage(const Message& message) {
   box->exec();
   if (!box) return AnswerOfClosing(message.buttons);
   const std::unique_ptr<QMessageBox> owned(box.data());
+  if (message.tick) message.tick->isSet = owned->checkBox()->isChecked();
   const QAbstractButton* clicked = owned->clickedButton();
   for (const ButtonDesign& design : kButtons) {
     if (clicked && clicked == owned->button(design.button)) return design.answer;

@@ -142,6 +142,13 @@ void QtSocket::Accept(std::int64_t requestId) {
   peer_ = caller.peer;
 }
 
+void QtSocket::Reject(std::int64_t requestId) {
+  if (!caller_.socket || requestId != caller_.id || state_ != SocketState::Listening) return;
+  AbortCaller();
+  peer_ = {};
+  server_.resumeAccepting();
+}
+
 void QtSocket::Connect() {
   Close();
   state_ = SocketState::Connecting;

@@ -40,6 +40,7 @@ class QtSocket : public QObject, public Socket {
   void Listen() override;
   void Connect() override;
   void Accept(std::int64_t requestId) override;
+  void Reject(std::int64_t requestId) override;
   void Close() override;
   void SendData(std::u16string_view text, TextKind kind) override;
   std::size_t LinesWaiting() const override;

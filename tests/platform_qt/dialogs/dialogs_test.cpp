@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QElapsedTimer>
 #include <QInputDialog>
 #include <QLabel>
@@ -74,6 +75,32 @@ TEST_F(QtDialogsTest, EveryButtonAnswersItsOwn) {
   EXPECT_EQ(AnswerTo(all, [](QDialog& box) { Click(box, QMessageBox::Yes); }), Answer::Yes);
   EXPECT_EQ(AnswerTo(all, [](QDialog& box) { Click(box, QMessageBox::No); }), Answer::No);
   EXPECT_EQ(AnswerTo(all, [](QDialog& box) { Click(box, QMessageBox::Cancel); }), Answer::Cancel);
+}
+
+TEST_F(QtDialogsTest, ATickComesBackAsTheUserLeftIt) {
+  Message ask = Question(u"?", u"t", Answer::Yes);
+  Tick tick{u"&Keep waiting", false};
+  ask.tick = &tick;
+  AnswerTo(ask, [](QDialog& dialog) {
+    QCheckBox* check = AsBox(dialog).checkBox();
+    EXPECT_EQ(check->text(), "&Keep waiting");
+    EXPECT_FALSE(check->isChecked());
+    check->click();
+    Click(dialog, QMessageBox::No);
+  });
+  EXPECT_TRUE(tick.isSet);
+  AnswerTo(ask, [](QDialog& dialog) {
+    EXPECT_TRUE(AsBox(dialog).checkBox()->isChecked());
+    dialog.reject();
+  });
+  EXPECT_TRUE(tick.isSet);
+}
+
+TEST_F(QtDialogsTest, ABoxHasNoTickUnlessItIsAskedFor) {
+  AnswerTo(Note(u"?", u"t"), [](QDialog& dialog) {
+    EXPECT_EQ(AsBox(dialog).checkBox(), nullptr);
+    Click(dialog, QMessageBox::Ok);
+  });
 }
 
 TEST_F(QtDialogsTest, EnterGivesTheDefaultAnswer) {

@@ -175,6 +175,24 @@ TEST_F(QtSocketCallers, OneThatHalfClosesHasLeft) {
   EXPECT_TRUE(WaitFor([&] { return connected.HasEnded(); }));
 }
 
+TEST_F(QtSocketCallers, ManyThatAreTurnedAwayLeaveNothingBehind) {
+  user.answer = [this](std::int64_t id) { socket.Reject(id); };
+  std::size_t descriptors = 0;
+  for (std::size_t call = 1; call <= 300; ++call) {
+    RawPeer peer(port);
+    peer.Send("take me");
+    ASSERT_TRUE(WaitFor([&] { return peer.HasEnded(); }));
+    EXPECT_EQ(user.requests.size(), call);
+    const auto inUse = static_cast<std::size_t>(DescriptorsInUse());
+    if (call == 10) descriptors = inUse;
+    if (call > 10) {
+      EXPECT_LE(inUse, descriptors + 1);
+    }
+  }
+  EXPECT_EQ(socket.State(), SocketState::Listening);
+  EXPECT_EQ(user.texts.size() + user.closes, 0u);
+}
+
 TEST_F(QtSocketCallers, AThousandInTheBacklogCostNoDescriptor) {
   RawPeer first(port);
   ASSERT_TRUE(WaitForRequest());
