@@ -186,6 +186,17 @@ TEST_F(ReadableTextTest, LinesAreMendedWhenTheyComeIntoViewAndNoneMoves) {
   EXPECT_TRUE(far.layout()->formats().isEmpty());
 }
 
+TEST_F(ReadableTextTest, WhatIsReadableAlreadyIsNotLaidOutAgain) {
+  Write(kWhite, u"white\nwhite\n");
+  Write(0xFF0000, u"blue\n");
+  Ink();
+  const QTextBlock first = box.widget()->document()->firstBlock();
+  MakeReadable(first, 200, kWhite);
+  EXPECT_EQ(first.layout()->lineCount(), 1);
+  MakeReadable(first, 200, kYellow);
+  EXPECT_EQ(first.layout()->lineCount(), 0);
+}
+
 TEST_F(ReadableTextTest, AMendedTextRaisesNoEvents) {
   Write(kWhite, u"white");
   int events = 0;
