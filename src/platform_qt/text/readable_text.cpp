@@ -34,13 +34,11 @@ void AddShade(FormatRanges& shades, int start, int length, const QTextCharFormat
   shades.append({start, length, painted});
 }
 
-// Text that is being composed stands in the layout, but not in the document. It looks like the
-// character before it.
+// Text that is being composed stands in the layout, but not in the document.
 FormatRanges ShadesOf(const QTextBlock& block, Color background) {
   FormatRanges shades;
   const int composed = static_cast<int>(block.layout()->preeditAreaText().size());
   const int place = std::max(block.layout()->preeditAreaPosition() - 1, 0);
-  if (block.begin().atEnd()) AddShade(shades, 0, composed, block.charFormat(), background);
   for (auto it = block.begin(); !it.atEnd(); ++it) {
     const QTextFragment fragment = it.fragment();
     const int start = fragment.position() - block.position();

@@ -10,7 +10,8 @@
 #include <QTest>
 #include <QTextBlock>
 #include <algorithm>
-#include <string>
+#include <functional>
+#include <string_view>
 
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/convert/text.h"
@@ -42,20 +43,28 @@ class ReadableTextTest : public testing::Test {
     box.SetSelText(text);
   }
   // The colour in the line that stands out most from the background.
-  Color Ink(int line = 0) {
-    const QWidget* viewport = box.widget()->viewport();
+  Color Ink(int line = 0) { return InkBetween(0, box.widget()->width(), line); }
+  Color InkBetween(int left, int right, int line = 0) {
     const QImage picture = box.widget()->viewport()->grab().toImage();
     const QTextBlock block = box.widget()->document()->findBlockByNumber(line);
-    const int top = box.widget()->cursorRect(QTextCursor(block)).top();
-    const int bottom = box.widget()->cursorRect(QTextCursor(block)).bottom();
+    const QRect place = box.widget()->cursorRect(QTextCursor(block));
+    const QRect area = QRect(QPoint(left, place.top()), QPoint(right, place.bottom()));
     Color most = box.BackColor();
-    for (int y = std::max(top, 0); y <= std::min(bottom, viewport->height() - 1); ++y) {
-      for (int x = 0; x < viewport->width(); ++x) {
-        const Color color = FromQt(picture.pixelColor(x, y));
-        if (Contrast(color, box.BackColor()) > Contrast(most, box.BackColor())) most = color;
-      }
-    }
+    ForEachPoint(area.intersected(picture.rect()), [&](QPoint point) {
+      const Color color = FromQt(picture.pixelColor(point));
+      if (Contrast(color, box.BackColor()) > Contrast(most, box.BackColor())) most = color;
+    });
     return most;
+  }
+  static void ForEachPoint(const QRect& area, const std::function<void(QPoint)>& act) {
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+      for (int x = area.left(); x <= area.right(); ++x) act({x, y});
+    }
+  }
+  // The first block, after it was painted.
+  QTextBlock Mended() {
+    Ink();
+    return box.widget()->document()->firstBlock();
   }
   double Legibility(int line = 0) { return Contrast(Ink(line), box.BackColor()); }
 
@@ -135,18 +144,24 @@ TEST_F(ReadableTextTest, SelectedTextCanBeReadOnEveryBackground) {
   }
 }
 
-TEST_F(ReadableTextTest, TextThatIsBeingComposedCanBeRead) {
-  for (const std::u16string_view before : {u"", u"MMM"}) {
-    box.SetText(u"");
-    Write(kWhite, before);
-    QInputMethodEvent composing(QStringLiteral("████"), {});
-    QCoreApplication::sendEvent(box.widget(), &composing);
-    EXPECT_GE(Legibility(), kLegible);
-    EXPECT_EQ(box.Text(), before);
-    QInputMethodEvent end;
-    end.setCommitString(QStringLiteral("█"));
-    QCoreApplication::sendEvent(box.widget(), &end);
-    EXPECT_GE(Legibility(), kLegible);
+TEST_F(ReadableTextTest, TextIsReadableWhileSomeIsComposedInIt) {
+  for (const std::u16string_view before : {u"", u"MMMM"}) {
+    for (std::size_t caret = 0; caret <= before.size(); caret += 2) {
+      box.SetText(u"");
+      Write(kWhite, before);
+      box.Select(caret, 0);
+      QInputMethodEvent composing(QStringLiteral("████"), {});
+      QCoreApplication::sendEvent(box.widget(), &composing);
+      const QTextLine line = Mended().layout()->lineAt(0);
+      for (int place = 0; place < line.textLength(); ++place) {
+        const int left = static_cast<int>(line.cursorToX(place));
+        const int right = static_cast<int>(line.cursorToX(place + 1));
+        EXPECT_GE(Contrast(InkBetween(left, right), kWhite), kLegible) << caret << ' ' << place;
+      }
+      EXPECT_EQ(box.Text(), before);
+      QInputMethodEvent end;
+      QCoreApplication::sendEvent(box.widget(), &end);
+    }
   }
 }
 
@@ -160,9 +175,7 @@ TEST_F(ReadableTextTest, TheLookOfComposedTextIsKept) {
       {QInputMethodEvent::Attribute(QInputMethodEvent::TextFormat, 0, 4, marked)});
   QCoreApplication::sendEvent(box.widget(), &composing);
   box.SetBackColor(kNight);
-  Ink();
-  const QTextLayout* layout = box.widget()->document()->firstBlock().layout();
-  const auto formats = layout->formats();
+  const auto formats = Mended().layout()->formats();
   EXPECT_TRUE(std::any_of(formats.begin(), formats.end(), [](const auto& range) {
     return range.format.background().color() == QColor(Qt::blue) &&
            range.format.foreground().color() == QColor(Qt::white) && range.length == 4;
@@ -189,8 +202,7 @@ TEST_F(ReadableTextTest, LinesAreMendedWhenTheyComeIntoViewAndNoneMoves) {
 TEST_F(ReadableTextTest, WhatIsReadableAlreadyIsNotLaidOutAgain) {
   Write(kWhite, u"white\nwhite\n");
   Write(0xFF0000, u"blue\n");
-  Ink();
-  const QTextBlock first = box.widget()->document()->firstBlock();
+  const QTextBlock first = Mended();
   MakeReadable(first, 200, kWhite);
   EXPECT_EQ(first.layout()->lineCount(), 1);
   MakeReadable(first, 200, kYellow);
