@@ -3,7 +3,10 @@
 #include <QAbstractItemModel>
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QCoreApplication>
+#include <QFontDatabase>
+#include <QGroupBox>
 #include <QIntValidator>
 #include <QLayout>
 #include <QLineEdit>
@@ -14,6 +17,8 @@
 #include <cmath>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/dialogs/font_families.h"
+#include "platform_qt/dialogs/font_styles.h"
 
 namespace verlume::qt {
 namespace {
@@ -35,6 +40,29 @@ void ShowColorOn(QPushButton* button, Color color) {
   button->setIcon(sample);
 }
 
+// Qt does not name the lists of its dialog. They come in this order, that of the sizes last.
+enum List { kFamilies, kStyles };
+
+constexpr QStringView kSample = u"AaBbYy ΑαΒβΩω";
+
+// The sample stands in a box, like the effects, and the other fields do not.
+QLineEdit* SampleOf(const QFontDialog& dialog) {
+  const QList<QGroupBox*> boxes = dialog.findChildren<QGroupBox*>();
+  for (const QGroupBox* box : boxes) {
+    if (auto* sample = box->findChild<QLineEdit*>()) return sample;
+  }
+  return nullptr;
+}
+
+// The fields beside a list that show what is chosen there pass the focus on to it.
+QLineEdit* FieldOf(const QFontDialog& dialog, const QListView* list) {
+  const QList<QLineEdit*> fields = dialog.findChildren<QLineEdit*>();
+  const auto found = std::find_if(fields.begin(), fields.end(), [list](const QLineEdit* field) {
+    return field->focusProxy() == list;
+  });
+  return found == fields.end() ? nullptr : *found;
+}
+
 }  // namespace
 
 FontDialog::FontDialog(QWidget* owner, const FontChoice& start, double minimumSize,
@@ -45,8 +73,36 @@ FontDialog::FontDialog(QWidget* owner, const FontChoice& start, double minimumSi
   start_.size = std::clamp(start.size, minimum_, maximum_);
   LimitSizes();
   setCurrentFont(FontOf(start_));
-  shownFamily_ = currentFont().family();
+  sample_ = SampleOf(*this);
+  sample_->setText(kSample.toString());
+  TakeOverLists();
   AddColorButton();
+}
+
+void FontDialog::TakeOverLists() {
+  const auto lists = findChildren<QListView*>(Qt::FindDirectChildrenOnly);
+  QListView* families = lists.at(kFamilies);
+  QListView* styles = lists.at(kStyles);
+  styles_ = new FontStyles(styles, FieldOf(*this, styles), [this] { return families_->Shown(); });
+  styles_->Set(start_.bold, start_.italic);
+  families_ = new FontFamilies(families, FieldOf(*this, families), ToQt(start_.name), [this] {
+    styles_->Show();
+    CompleteSample();
+  });
+  families_->Restore();
+  connect(this, &QFontDialog::currentFontChanged, this, [this] { CompleteSample(); });
+  connect(findChild<QComboBox*>(), &QComboBox::activated, this, [this](int system) {
+    if (system == QFontDatabase::Any) sample_->setText(kSample.toString());
+    families_->Restore();
+    // Qt forgets the size when it finds no family for a writing system.
+    sizeField_->setText(shownSize_);
+  });
+}
+
+// Qt shows the sample in a style that the family has.
+void FontDialog::CompleteSample() {
+  QFont font = sample_->font();
+  if (styles_->Complete(font)) sample_->setFont(font);
 }
 
 // Qt does not name the parts of its dialog. The size field is the one that accepts only numbers,
@@ -55,6 +111,10 @@ void FontDialog::LimitSizes() {
   for (QLineEdit* edit : findChildren<QLineEdit*>()) {
     if (!qobject_cast<const QIntValidator*>(edit->validator())) continue;
     edit->setValidator(new QIntValidator(int(std::ceil(minimum_)), int(maximum_), edit));
+    sizeField_ = edit;
+    connect(edit, &QLineEdit::textChanged, this, [this, edit](const QString& text) {
+      if (edit->hasAcceptableInput()) shownSize_ = text;
+    });
   }
   const QList<QListView*> lists = findChildren<QListView*>();
   for (QListView* list : lists) {
@@ -104,9 +164,9 @@ void FontDialog::ChooseColor(QPushButton* button) {
 FontChoice FontDialog::Choice() const {
   const QFont font = selectedFont();
   FontChoice choice = start_;
-  if (font.family() != shownFamily_) choice.name = FromQt(font.family());
-  choice.bold = font.bold();
-  choice.italic = font.style() != QFont::StyleNormal;
+  choice.name = FromQt(families_->Chosen());
+  choice.bold = styles_->Bold();
+  choice.italic = styles_->Italic();
   choice.underline = font.underline();
   choice.strikethrough = font.strikeOut();
   // The dialog shows a fractional size rounded; it stays unless the user changes it.

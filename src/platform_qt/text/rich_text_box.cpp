@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/text/readable_text.h"
 #include "platform_qt/text/rich_text_widget.h"
 #include "platform_qt/text/text_format.h"
 #include "platform_qt/text/text_loading.h"
@@ -278,9 +279,7 @@ bool QtRichTextBox::Locked() const {
 }
 
 void QtRichTextBox::SetBackColor(Color color) {
-  QPalette palette = widget_->palette();
-  palette.setColor(QPalette::Base, ToQt(color));
-  widget_->setPalette(palette);
+  widget_->setPalette(PanePalette(color));
 }
 
 Color QtRichTextBox::BackColor() const {

@@ -2,30 +2,20 @@
 
 #include <QAction>
 #include <QInputMethodEvent>
-#include <QPalette>
+#include <QPaintEvent>
 #include <QScrollBar>
 #include <algorithm>
 #include <utility>
 
 #include "platform_qt/controls/key_codes.h"
 #include "platform_qt/convert/text.h"
+#include "platform_qt/text/readable_text.h"
 #include "platform_qt/text/rich_text_mime.h"
 #include "platform_qt/text/text_format.h"
 #include "platform_qt/text/text_insertion.h"
 
 namespace verlume::qt {
 namespace {
-
-// The classic look, in light and in dark desktops alike.
-QPalette ClassicPalette() {
-  QPalette palette;
-  palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::Text, Qt::black);
-  palette.setColor(QPalette::PlaceholderText, Qt::darkGray);
-  palette.setColor(QPalette::Highlight, QColor(0x30, 0x66, 0xB0));
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  return palette;
-}
 
 // Whether the keys are the shortcut of a menu entry of the widget's window.
 bool IsMenuKey(const QWidget& widget, const QKeyEvent& event) {
@@ -48,7 +38,7 @@ RichTextWidget::UserChange::~UserChange() {
 
 RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
     : QPlainTextEdit(parent), lines_(lines), seams_(*document(), lines) {
-  setPalette(ClassicPalette());
+  setPalette(PanePalette(FromQt(QColor(Qt::white))));
   QFont font(ToQt(kDefaultFontName));
   font.setPointSizeF(kDefaultFontSize);
   setFont(font);
@@ -149,6 +139,12 @@ void RichTextWidget::resizeEvent(QResizeEvent* event) {
   const bool showsEnd = ShowsEndWithin(event->oldSize());
   QPlainTextEdit::resizeEvent(event);
   if (showsEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+void RichTextWidget::paintEvent(QPaintEvent* event) {
+  MakeReadable(firstVisibleBlock(), event->rect().bottom() + 1 - contentOffset().y(),
+               FromQt(palette().color(QPalette::Base)));
+  QPlainTextEdit::paintEvent(event);
 }
 
 void RichTextWidget::MoveCursorTo(const QTextCursor& cursor) {

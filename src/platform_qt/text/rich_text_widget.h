@@ -49,6 +49,7 @@ class RichTextWidget : public QPlainTextEdit {
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   QMimeData* createMimeDataFromSelection() const override;

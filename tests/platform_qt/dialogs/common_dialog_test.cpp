@@ -7,11 +7,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
-#include <QFontDialog>
 #include <QLineEdit>
-#include <QListView>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -267,123 +264,6 @@ TEST_F(QtCommonDialogTest, ColorGoesInAndComesOut) {
 TEST_F(QtCommonDialogTest, CancelledColorIsACancel) {
   const ModalDriver driver([](QDialog& dialog) { dialog.reject(); });
   EXPECT_EQ(FailureOf([this] { dialogs.ShowColor(0); }), FailureNumber::Cancelled);
-}
-
-class FontDialogTest : public QtCommonDialogTest {
- protected:
-  static QFontDialog& AsFonts(QDialog& dialog) { return dynamic_cast<QFontDialog&>(dialog); }
-  FontChoice Ask(std::function<void(QFontDialog&)> act) {
-    const ModalDriver driver([act = std::move(act)](QDialog& dialog) {
-      act(AsFonts(dialog));
-      dialog.accept();
-    });
-    return dialogs.ShowFont(start, 8, 11);
-  }
-
-  FontChoice start{.name = u"DejaVu Sans",
-                   .bold = true,
-                   .italic = false,
-                   .underline = true,
-                   .strikethrough = false,
-                   .color = 0x1234,
-                   .size = 10};
-};
-
-TEST_F(FontDialogTest, StyleGoesInAndComesOutUnchanged) {
-  const FontChoice choice = Ask([](QFontDialog& fonts) {
-    EXPECT_EQ(fonts.currentFont().family(), "DejaVu Sans");
-    EXPECT_TRUE(fonts.currentFont().bold());
-    EXPECT_TRUE(fonts.currentFont().underline());
-    EXPECT_FALSE(fonts.currentFont().strikeOut());
-  });
-  EXPECT_EQ(choice.name, u"DejaVu Sans");
-  EXPECT_TRUE(choice.bold);
-  EXPECT_FALSE(choice.italic);
-  EXPECT_TRUE(choice.underline);
-  EXPECT_FALSE(choice.strikethrough);
-  EXPECT_EQ(choice.color, 0x1234);
-  EXPECT_EQ(choice.size, 10);
-}
-
-TEST_F(FontDialogTest, StyleGoesInAndComesOutInGreekToo) {
-  QtDialogs boxes(&mainWindow);
-  boxes.SetLanguage(true);
-  start.italic = true;
-  const FontChoice choice = Ask([](QFontDialog&) {});
-  EXPECT_TRUE(choice.bold);
-  EXPECT_TRUE(choice.italic);
-}
-
-TEST_F(FontDialogTest, FontThatIsNotInstalledStaysWhileNoOtherIsChosen) {
-  start.name = u"No Such Font";
-  EXPECT_EQ(Ask([](QFontDialog&) {}).name, u"No Such Font");
-}
-
-TEST_F(FontDialogTest, ChosenStyleComesOut) {
-  const FontChoice choice = Ask([](QFontDialog& fonts) {
-    QFont font(QStringLiteral("DejaVu Sans Mono"));
-    font.setPointSize(9);
-    font.setItalic(true);
-    font.setStrikeOut(true);
-    fonts.setCurrentFont(font);
-  });
-  EXPECT_EQ(choice.name, u"DejaVu Sans Mono");
-  EXPECT_FALSE(choice.bold);
-  EXPECT_TRUE(choice.italic);
-  EXPECT_FALSE(choice.underline);
-  EXPECT_TRUE(choice.strikethrough);
-  EXPECT_EQ(choice.size, 9);
-}
-
-TEST_F(FontDialogTest, ChosenColorComesOut) {
-  for (const bool accepted : {true, false}) {
-    const FontChoice choice = Ask([accepted](QFontDialog& fonts) {
-      const ModalDriver colors([accepted](QDialog& dialog) {
-        dynamic_cast<QColorDialog&>(dialog).setCurrentColor(Qt::red);
-        accepted ? dialog.accept() : dialog.reject();
-      });
-      fonts.findChild<QPushButton*>("cmdColor")->click();
-    });
-    EXPECT_EQ(choice.color, accepted ? 255 : 0x1234);
-  }
-}
-
-TEST_F(FontDialogTest, SizeIsHeldWithinItsLimits) {
-  const auto sized = [this](int size) {
-    return Ask([size](QFontDialog& fonts) {
-             QFont font = fonts.currentFont();
-             font.setPointSize(size);
-             fonts.setCurrentFont(font);
-           })
-        .size;
-  };
-  EXPECT_EQ(sized(72), 11);
-  EXPECT_EQ(sized(6), 8);
-}
-
-TEST_F(FontDialogTest, SizeWithAFractionStaysWhenLeftAlone) {
-  start.size = 9.5;
-  EXPECT_EQ(Ask([](QFontDialog&) {}).size, 9.5);
-}
-
-TEST_F(FontDialogTest, OnlySizesWithinTheLimitsAreOffered) {
-  Ask([](QFontDialog& fonts) {
-    QStringList offered;
-    for (const QListView* list : fonts.findChildren<QListView*>()) {
-      for (int row = 0; row < list->model()->rowCount(); ++row) {
-        const QString text = list->model()->index(row, 0).data().toString();
-        bool isNumber = false;
-        text.toInt(&isNumber);
-        if (isNumber && !list->isRowHidden(row)) offered.append(text);
-      }
-    }
-    EXPECT_EQ(offered, (QStringList{"8", "9", "10", "11"}));
-  });
-}
-
-TEST_F(FontDialogTest, CancelledFontIsACancel) {
-  const ModalDriver driver([](QDialog& dialog) { dialog.reject(); });
-  EXPECT_EQ(FailureOf([this] { dialogs.ShowFont(start, 8, 11); }), FailureNumber::Cancelled);
 }
 
 }  // namespace
