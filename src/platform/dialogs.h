@@ -27,8 +27,8 @@ struct Message {
   MessageIcon icon = MessageIcon::Information;
   MessageButtons buttons = MessageButtons::Ok;
   Answer defaultAnswer = Answer::Ok;
-  // The user did nothing to cause the box: it ignores keys for its first half second, so that
-  // typing does not answer it by accident, and the window's task bar entry is flagged.
+  // The user did not ask for the box. What is being typed goes on into the control below it; keys
+  // answer it only after a pause, and bare letters never. The window's task bar entry is flagged.
   bool unexpected = false;
   Tick* tick = nullptr;  // none by default; lives longer than the box
 };

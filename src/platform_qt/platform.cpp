@@ -30,6 +30,9 @@ QtPlatform::QtPlatform()
           .tools = tools_,
       } {
   QApplication::setStyle(new ReadableStyle);
+  // The program yields while it handles a key. A box that opened then would keep that key waiting
+  // until it is answered, and the key would come after what is typed meanwhile.
+  socket_.HoldRequestsWhile([this] { return application_.IsYielding(); });
 }
 
 }  // namespace verlume::qt

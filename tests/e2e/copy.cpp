@@ -134,9 +134,12 @@ void Copy::PressKeys(const QString& keys) {
 bool Copy::AnswerBox(const QString& title, const QString& key) {
   QString box;
   if (!WaitUntil([&] { return !(box = FindWindow(title)).isEmpty(); })) return false;
+  // A box that the user did not ask for is answered only by a key after a second without one, and
+  // sometimes the first such key only moves the keyboard to it.
+  constexpr int kRest = 1500;
   return WaitUntil([&] {
     Run("xdotool", {"windowactivate", "--sync", box, "key", key});
-    return FindWindow(title).isEmpty();
+    return WaitUntil([&] { return FindWindow(title).isEmpty(); }, kRest);
   });
 }
 

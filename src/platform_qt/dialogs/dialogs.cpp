@@ -10,7 +10,7 @@
 
 #include "platform_qt/convert/text.h"
 #include "platform_qt/dialogs/focus_refusal.h"
-#include "platform_qt/dialogs/key_guard.h"
+#include "platform_qt/dialogs/typing_guard.h"
 
 namespace verlume::qt {
 namespace {
@@ -90,6 +90,11 @@ std::u16string AsOneLine(QString text) {
   return FromQt(text);
 }
 
+// Whether the window below the box has not been shown yet: the user has just started the program.
+bool IsStartingUp(const QWidget& box) {
+  return box.parentWidget() && !box.parentWidget()->window()->isVisible();
+}
+
 }  // namespace
 
 QWidget* ParentOfBoxes(QWidget* mainWindow) {
@@ -100,8 +105,9 @@ QWidget* ParentOfBoxes(QWidget* mainWindow) {
 
 void KeepToOwnProgram(QWidget* box) {
   const bool isActive = QGuiApplication::applicationState() == Qt::ApplicationActive;
-  box->setAttribute(Qt::WA_ShowWithoutActivating, !isActive);
-  if (!isActive) new FocusRefusal(box);
+  const bool mayTakeKeyboard = isActive || IsStartingUp(*box);
+  box->setAttribute(Qt::WA_ShowWithoutActivating, !mayTakeKeyboard);
+  if (!mayTakeKeyboard) new FocusRefusal(box);
 }
 
 QtDialogs::QtDialogs(QWidget* mainWindow) : mainWindow_(mainWindow) {}
@@ -138,7 +144,7 @@ Answer QtDialogs::ShowMessage(const Message& message) {
   if (message.tick) AddTick(*box, *message.tick);
   KeepToOwnProgram(box);
   if (message.unexpected) {
-    new KeyGuard(box);
+    new TypingGuard(box, keyClock_);
     if (mainWindow_) QApplication::alert(mainWindow_);
   }
   box->exec();

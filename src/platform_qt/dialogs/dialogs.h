@@ -6,6 +6,7 @@
 
 #include "platform/dialogs.h"
 #include "platform_qt/dialogs/greek_translator.h"
+#include "platform_qt/dialogs/key_clock.h"
 
 class QMessageBox;
 
@@ -15,7 +16,8 @@ namespace verlume::qt {
 QWidget* ParentOfBoxes(QWidget* mainWindow);
 
 // Prepares a box or dialog to be shown so that it takes the keyboard only from this program's
-// windows, never from another program.
+// windows, never from another program. A box that is shown before the main window takes it: then
+// the user has just started the program.
 void KeepToOwnProgram(QWidget* box);
 
 class QtDialogs : public Dialogs {
@@ -32,6 +34,7 @@ class QtDialogs : public Dialogs {
   void AddButtons(QMessageBox& box, const Message& message) const;
 
   QPointer<QWidget> mainWindow_;
+  KeyClock keyClock_;
   GreekTranslator greek_;
   bool isGreek_ = false;
 };

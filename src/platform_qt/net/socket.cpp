@@ -20,6 +20,7 @@ namespace {
 
 constexpr std::chrono::seconds kConnectLimit{15};
 constexpr std::chrono::seconds kAcceptPause{1};
+constexpr std::chrono::milliseconds kHeldRequestPause{10};
 // What a caller may send before it is accepted, and what Qt reads ahead afterwards.
 constexpr qint64 kReadBuffer = Connection::kReadSize;
 constexpr std::int32_t kLastPort = 65535;
@@ -121,6 +122,11 @@ void QtSocket::Listen() {
 }
 
 void QtSocket::RaiseConnectionRequest() {
+  if (holdsRequests_ && holdsRequests_()) {
+    QTimer::singleShot(kHeldRequestPause, this,
+                       [this] { Post(&QtSocket::RaiseConnectionRequest); });
+    return;
+  }
   QTcpSocket* socket = server_.nextPendingConnection();
   if (!socket) return;
   // A caller that has reset the connection already has no address, and is not asked about. The

@@ -50,6 +50,9 @@ class QtSocket : public QObject, public Socket {
   void ResumeArrivals() override;
   bool ArrivalsPaused() const override { return arrivalsPaused_; }
 
+  // While this holds no connection request is raised; the caller waits.
+  void HoldRequestsWhile(std::function<bool()> condition) { holdsRequests_ = std::move(condition); }
+
   // Whether the system is still looking up a host name, even of a cancelled call. It cannot be
   // stopped, and the end of the application waits for it.
   bool IsLookingUp() const { return lookUps_ > 0; }
@@ -98,6 +101,7 @@ class QtSocket : public QObject, public Socket {
   Peer peer_;
   std::int64_t lastRequest_ = 0;
   int lookUps_ = 0;  // under way
+  std::function<bool()> holdsRequests_;
 
   SocketState state_ = SocketState::Closed;
   std::uint64_t generation_ = 0;

@@ -45,6 +45,7 @@ class QtApplication : public QObject, public Application {
   std::u16string HelpFolder() const override;
   // Does nothing after the program has ended.
   void YieldToEvents() override;
+  bool IsYielding() const { return isYielding_; }
   // Hides all windows and leaves all event loops, also those of modal boxes. Handlers that are
   // running run to their end; boxes that they open return at once.
   void End() override;
@@ -59,6 +60,7 @@ class QtApplication : public QObject, public Application {
 
  private:
   QString programFolder_;
+  bool isYielding_ = false;
   bool hasEnded_ = false;
 };
 

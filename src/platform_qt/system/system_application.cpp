@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 #include <QStandardPaths>
 #include <QWidget>
 #include <chrono>
@@ -76,6 +77,7 @@ void QtApplication::YieldToEvents() {
   // before that one. And only for a short time, however fast a peer sends.
   constexpr std::chrono::milliseconds kLimit{20};
   if (hasEnded_) return;
+  const QScopedValueRollback<bool> yielding(isYielding_, true);
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents,
                                   static_cast<int>(kLimit.count()));
 }
