@@ -108,7 +108,7 @@ void CommandInterpreter::WriteActionLine(std::u16string_view typedWord) {
   state_.OutgoingText = rtf;
   state_.RemoteMessage = true;
   with_.wire.SendActionLine(rtf);
-  with_.dialogue.WriteDialogueLine(rtf, Sender::NamedInText, CommandPane::Clear);
+  with_.dialogue.WriteDialogueLine(rtf, Sender::LocalAction, CommandPane::Clear);
 }
 
 Nicknames CommandInterpreter::NicknamesInForce() const {

@@ -9,6 +9,7 @@
 #include "shell/nickname.h"
 #include "shell/setting_names.h"
 #include "shell/trim.h"
+#include "shell/who_is_who.h"
 
 namespace verlume {
 namespace {
@@ -46,8 +47,11 @@ void ConnectionActions::SetNickname(std::u16string_view commandLine) {
 
     // Saved first: if that fails, the nickname does not change.
     with_.settings.WriteSetting(setting_section::kGeneral, setting_key::kNickname, nickname);
+    const std::u16string before = WhoIsWho(state_);
     state_.Nickname = nickname;
     platform_.frmMain.lblLocalNickname.SetCaption(ShowableNickname(nickname));
+    ExplainRemoteNickname(state_, platform_.frmMain);
+    with_.wire.SayWhoIsWho(before);
     WriteOutgoingText();
     with_.wire.SendNickname();
   });

@@ -11,6 +11,7 @@
 #include "shell/language_texts.h"
 #include "shell/maker_texts.h"
 #include "shell/nickname.h"
+#include "shell/who_is_who.h"
 
 namespace verlume {
 namespace {
@@ -82,10 +83,10 @@ void WireProtocol::OnDataArrival(std::u16string_view data) {
     case kConfirm:
       return OnConfirm(data);
     case kNickname:
-      return TakeNickname(data);
+      return OnNickname(data);
     case kActionLine:
       state_.RemoteMessage = true;
-      return WriteRemoteLine(data.substr(kMarkerLength + 1), Sender::NamedInText);
+      return WriteRemoteLine(data.substr(kMarkerLength + 1), Sender::RemoteAction);
     default:
       state_.ForeignText = true;
       return WriteRemoteLine(data, Sender::Remote);
@@ -130,6 +131,18 @@ void WireProtocol::OnConfirm(std::u16string_view data) {
   if (isNewConversation) NameLog();
   state_.LogOpen = true;
   with_.log.AppendConnectionLine(status);
+  SayWhoIsWho({});
+}
+
+void WireProtocol::OnNickname(std::u16string_view data) {
+  const std::u16string before = WhoIsWho(state_);
+  TakeNickname(data);
+  SayWhoIsWho(before);
+}
+
+void WireProtocol::SayWhoIsWho(std::u16string_view before) {
+  const std::u16string now = WhoIsWho(state_);
+  if (!now.empty() && now != before) with_.log.AppendConnectionLine(now);
 }
 
 std::u16string WireProtocol::EnterConversation() {
@@ -153,6 +166,7 @@ void WireProtocol::TakeNickname(std::u16string_view data) {
   if (end == rest.npos) throw RunTimeFailure(FailureNumber::InvalidProcedureCall);
   state_.RemoteNickname = ShowableNickname(rest.substr(0, end));
   platform_.frmMain.lblRemoteNickname.SetCaption(state_.RemoteNickname);
+  ExplainRemoteNickname(state_, platform_.frmMain);
 }
 
 void WireProtocol::NameLog() {

@@ -45,6 +45,10 @@ class WireProtocol {
   // 5 when a handshake or nickname message has no end, 6 when the count overflows.
   void OnDataArrival(std::u16string_view data);
 
+  // Appends to the log which nickname is whose, if they read alike. Does nothing if it would say
+  // what `before` says.
+  void SayWhoIsWho(std::u16string_view before);
+
   // Shows how many lines the peer's machine has not acknowledged yet.
   void ShowLinesWaiting();
   // A connection ended before these lines were delivered: says so in the tool tip of the status
@@ -54,6 +58,7 @@ class WireProtocol {
  private:
   void OnStart(std::u16string_view data);
   void OnConfirm(std::u16string_view data);
+  void OnNickname(std::u16string_view data);
   // Enters the state Connected; returns the text of the status line.
   std::u16string EnterConversation();
   // Names the log of a new conversation after the peer.

@@ -28,6 +28,9 @@ struct SelectionFormat {
   std::optional<bool> strikethrough;
 };
 
+// Who a paragraph is from. The three of the peer look the same and differ in their words.
+enum class Author { None, User, Peer, PeerReadingAlike, PeerWithBrackets, File };
+
 enum class TextFileFormat { RichText, PlainText };
 
 // Key codes of onKeyDown. All other keys have kOther.
@@ -65,9 +68,21 @@ class RichTextBox : public Control {
   // With an insertion point, it sets the format of what is inserted or typed there next.
   virtual void SetSelFormat(const SelectionFormat& format) = 0;
   // Replace the selection; the insertion point is behind it afterwards. Plain text takes the
-  // selection's format, a document brings its own. Both work in a locked box too.
+  // selection's format, a document brings its own. Both work in a locked box too. In a locked box,
+  // a direction of writing that the text in front leaves open does not reach into a document.
   virtual void SetSelText(std::u16string_view text) = 0;
   virtual void SetSelDocument(richtext::Document document) = 0;
+
+  // Who the paragraphs are from that the selection touches; read, the first of them. Both halves of
+  // a paragraph that is divided are from its author, also when a text that is put in divides it.
+  // SetText and SetRtf make paragraphs from Author::None, LoadFile from Author::File. The author is
+  // not part of the text: it is neither copied nor saved, and no text can hold it.
+  virtual void SetSelAuthor(Author author) = 0;
+  virtual Author SelAuthor() const = 0;
+  // What is said of the paragraphs of an author other than None: in a tool tip, and to assistive
+  // tools while the caret is in one. From the first call on the box shows a margin beside the text,
+  // which marks each line with its author.
+  virtual void SetAuthorWords(Author author, std::u16string_view words) = 0;
 
   // Everything between the two is one change: at its end it is laid out and scrolled into view, and
   // onSelChange and onChange are raised, once each at most. Updates may be nested. Do not handle

@@ -1,5 +1,6 @@
 #include "records/dialogue_log.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/run_time_failure.h"
@@ -10,6 +11,7 @@
 #include "shell/date_time_text.h"
 #include "shell/folder_choice.h"
 #include "shell/folders.h"
+#include "shell/nickname.h"
 #include "shell/setting_names.h"
 
 namespace verlume {
@@ -22,6 +24,20 @@ bool IsControlOrLineBreak(char16_t c) {
   return richtext::IsControlCharacter(c) || isLineBreak;
 }
 
+// A mark that changes the direction of writing would change how the rest of the entry is read.
+std::u16string WithEscapedMarks(std::u16string line) {
+  if (std::none_of(line.begin(), line.end(), richtext::IsDirectionMark)) return line;
+  std::u16string escaped;
+  for (const char16_t c : line) {
+    if (richtext::IsDirectionMark(c)) {
+      escaped += EscapeOf(c);
+    } else {
+      escaped += c;
+    }
+  }
+  return escaped;
+}
+
 // An entry of the log is one line, whatever characters a message or a nickname contains. Changed in
 // place, because a line may be megabytes long.
 std::u16string EntryOf(std::u16string line) {
@@ -31,6 +47,7 @@ std::u16string EntryOf(std::u16string line) {
     line[length++] = IsControlOrLineBreak(line[i]) ? u' ' : line[i];
   }
   line.resize(length);
+  line = WithEscapedMarks(std::move(line));
   line += u"\r\n";
   return line;
 }

@@ -21,8 +21,9 @@ class DialogueLog {
   bool IsRecording() const;
 
   // Appends one line; does nothing while logging is off or no conversation is in progress. Line
-  // breaks and other control characters in the line are written as blanks. The file is complete
-  // after each line. A failure is reported (240), not thrown.
+  // breaks and other control characters in the line are written as blanks, marks that change the
+  // direction of writing as escapes such as "\u202E". The file is complete after each line. A
+  // failure is reported (240), not thrown.
   void AppendToLog(std::u16string line);
 
   // Appends "[date_time]***** " + text: a line about the connection.

@@ -40,6 +40,13 @@ constexpr bool IsControlCharacter(char16_t unit) {
   return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
 }
 
+// Invisible characters that change the direction in which the text behind them, or around them, is
+// written: marks, embeddings, overrides and isolates.
+constexpr bool IsDirectionMark(char16_t unit) {
+  return unit == 0x061C || unit == 0x200E || unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) ||
+         (unit >= 0x2066 && unit <= 0x2069);
+}
+
 // A character outside the Basic Multilingual Plane is a high surrogate, then a low one.
 constexpr bool IsHighSurrogate(char32_t unit) {
   return unit >= 0xD800 && unit < 0xDC00;

@@ -5,6 +5,7 @@
 #include "shell/setting_names.h"
 #include "shell/settings_reader.h"
 #include "shell/status_panel.h"
+#include "shell/who_is_who.h"
 
 namespace verlume {
 
@@ -17,6 +18,8 @@ void Language::ApplyLanguage() {
     for (const auto& [set, text] : PanelTexts(frmMain)) set(text.In(isGreek));
     ShowLamp(state_, frmMain);
     ShowDelivery(state_, frmMain);
+    ExplainRemoteNickname(state_, frmMain);
+    SetAuthorWords(frmMain.rtbData, isGreek);
     frmMain.mnuToolsAlwaysOnTop.SetToolTip(
         frmMain.window.CanBeTopMost() ? u"" : kNeverTopMost.In(isGreek));
     frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);

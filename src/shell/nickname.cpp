@@ -32,13 +32,6 @@ bool IsIn(const Range (&ranges)[kCount], char16_t c) {
                      [c](const Range& range) { return c >= range.first && c <= range.last; });
 }
 
-std::u16string EscapeOf(char16_t c) {
-  constexpr std::u16string_view kDigits = u"0123456789ABCDEF";
-  std::u16string escape = c < 0x100 ? u"\\x" : u"\\u";
-  for (int shift = c < 0x100 ? 4 : 12; shift >= 0; shift -= 4) escape += kDigits[(c >> shift) & 15];
-  return escape;
-}
-
 }  // namespace
 
 std::u16string_view FirstCharacter(std::u16string_view text) {
@@ -49,6 +42,13 @@ bool IsShowable(std::u16string_view character) {
   if (character.size() == 2) return true;
   const char16_t c = character.front();
   return !richtext::IsControlCharacter(c) && !richtext::IsSurrogate(c) && !IsIn(kNotShowable, c);
+}
+
+std::u16string EscapeOf(char16_t c) {
+  constexpr std::u16string_view kDigits = u"0123456789ABCDEF";
+  std::u16string escape = c < 0x100 ? u"\\x" : u"\\u";
+  for (int shift = c < 0x100 ? 4 : 12; shift >= 0; shift -= 4) escape += kDigits[(c >> shift) & 15];
+  return escape;
 }
 
 std::u16string ShowableNickname(std::u16string_view nickname) {

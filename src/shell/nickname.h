@@ -19,6 +19,9 @@ std::u16string_view FirstCharacter(std::u16string_view text);
 // isolates, characters without a width, and half a surrogate pair.
 bool IsShowable(std::u16string_view character);
 
+// A visible escape for a character of one unit: "\x07" below U+0100, else "\u202E".
+std::u16string EscapeOf(char16_t character);
+
 // The nickname with every character that is not showable replaced by a visible escape such as
 // "\x07" or "\u202E", and cut to kNicknameLimit characters. No escape and no pair is cut in two.
 std::u16string ShowableNickname(std::u16string_view nickname);

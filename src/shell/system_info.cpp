@@ -8,7 +8,7 @@
 namespace verlume {
 namespace {
 
-constexpr TextPair kTitle = {u"System information", u"Πληροφορίες συστήματος"};
+constexpr TextPair kSystemInfoTitle = {u"System information", u"Πληροφορίες συστήματος"};
 constexpr TextPair kUnavailable = {
     u"System Information is unavailable at this time.",
     u"Οι Πληροφορίες Συστήματος δεν είναι διαθέσιμες αυτή τη στιγμή."};
@@ -31,7 +31,8 @@ std::optional<std::u16string> PathOfTool(const Platform& platform) {
 void StartSysInfo(const AppState& state, Platform& platform) {
   const std::optional<std::u16string> path = PathOfTool(platform);
   if (path && platform.tools.StartProgram(*path)) return;
-  platform.dialogs.ShowMessage(Note(kUnavailable.In(state.IsGreek), kTitle.In(state.IsGreek)));
+  platform.dialogs.ShowMessage(
+      Note(kUnavailable.In(state.IsGreek), kSystemInfoTitle.In(state.IsGreek)));
 }
 
 }  // namespace verlume

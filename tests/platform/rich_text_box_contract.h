@@ -61,12 +61,14 @@ inline constexpr std::u16string_view kBoldRtf =
 
 }  // namespace verlume
 
+#include "platform/rich_text_box_author_contract.h"
 #include "platform/rich_text_box_format_contract.h"
 #include "platform/rich_text_box_text_contract.h"
 
 namespace verlume {
 // Instantiates every part of the contract for one platform.
-#define VERLUME_RICH_TEXT_BOX_CONTRACT(name, Platform)             \
-  INSTANTIATE_TYPED_TEST_SUITE_P(name, RichTextBoxText, Platform); \
-  INSTANTIATE_TYPED_TEST_SUITE_P(name, RichTextBoxFormat, Platform)
+#define VERLUME_RICH_TEXT_BOX_CONTRACT(name, Platform)               \
+  INSTANTIATE_TYPED_TEST_SUITE_P(name, RichTextBoxText, Platform);   \
+  INSTANTIATE_TYPED_TEST_SUITE_P(name, RichTextBoxFormat, Platform); \
+  INSTANTIATE_TYPED_TEST_SUITE_P(name, RichTextBoxAuthor, Platform)
 }  // namespace verlume

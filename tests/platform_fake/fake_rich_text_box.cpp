@@ -35,8 +35,9 @@ void FakeRichTextBox::SetRtf(std::u16string_view rtf) {
   ReplaceAll(CellsOf(richtext::ReadRtf(rtf)));
 }
 
-void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells) {
+void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells, Author author) {
   cells_ = std::move(cells);
+  authors.assign(ParagraphOf(cells_.size()) + 1, author);
   selStart_ = selLength_ = 0;
   if (!cells_.empty()) insertionLook_ = cells_.front().look;
   RaiseSelChange();
@@ -138,6 +139,17 @@ void FakeRichTextBox::SetSelDocument(richtext::Document document) {
   RaiseChange();
 }
 
+std::size_t FakeRichTextBox::ParagraphOf(std::size_t position) const {
+  const auto isBreak = [](const Cell& cell) { return cell.character == u'\n'; };
+  return static_cast<std::size_t>(std::count_if(
+      cells_.begin(), cells_.begin() + static_cast<std::ptrdiff_t>(position), isBreak));
+}
+
+void FakeRichTextBox::SetSelAuthor(Author author) {
+  const std::size_t last = ParagraphOf(selStart_ + selLength_);
+  for (std::size_t i = ParagraphOf(selStart_); i <= last; ++i) authors[i] = author;
+}
+
 void FakeRichTextBox::EndUpdate() {
   if (--updateDepth_ > 0) return;
   if (std::exchange(selChanged_, false)) RaiseSelChange();
@@ -161,9 +173,16 @@ void FakeRichTextBox::RaiseChange() {
 }
 
 void FakeRichTextBox::Insert(const std::vector<Cell>& cells) {
+  const auto first = static_cast<std::ptrdiff_t>(ParagraphOf(selStart_));
+  const auto last = static_cast<std::ptrdiff_t>(ParagraphOf(selStart_ + selLength_));
+  const Author author = authors[ParagraphOf(selStart_)];
+  authors.erase(authors.begin() + first, authors.begin() + last);
+  authors[ParagraphOf(selStart_)] = author;
   const auto at = cells_.begin() + static_cast<std::ptrdiff_t>(selStart_);
   const auto next = cells_.erase(at, at + static_cast<std::ptrdiff_t>(selLength_));
   cells_.insert(next, cells.begin(), cells.end());
+  const std::size_t added = ParagraphOf(selStart_ + cells.size()) - ParagraphOf(selStart_);
+  authors.insert(authors.begin() + first, added, author);
   if (!cells.empty()) insertionLook_ = cells.back().look;
   selStart_ += cells.size();
   selLength_ = 0;
@@ -206,9 +225,9 @@ void FakeRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) 
     const std::u16string text = files_.ReadText(path);
     selLength_ = 0;
     insertionLook_ = Look();
-    return SetText(text);
+    return ReplaceAll(CellsOf(text), Author::File);
   }
-  ReplaceAll(CellsOf(richtext::ReadRtf(files_.ReadBytes(path))));
+  ReplaceAll(CellsOf(richtext::ReadRtf(files_.ReadBytes(path))), Author::File);
 }
 
 void FakeRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) const {

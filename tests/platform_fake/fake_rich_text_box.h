@@ -1,6 +1,8 @@
 // A rich-text box in memory: every character with its format.
 #pragma once
 
+#include <map>
+#include <string>
 #include <vector>
 
 #include "platform/rich_text_box.h"
@@ -34,6 +36,11 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   void SetSelFormat(const SelectionFormat& format) override;
   void SetSelText(std::u16string_view text) override;
   void SetSelDocument(richtext::Document document) override;
+  void SetSelAuthor(Author author) override;
+  Author SelAuthor() const override { return authors[ParagraphOf(selStart_)]; }
+  void SetAuthorWords(Author author, std::u16string_view words) override {
+    authorWords[author] = words;
+  }
   void BeginUpdate() override { ++updateDepth_; }
   void EndUpdate() override;
   void SetFontCharset(int charset) override { charset_ = charset; }
@@ -52,6 +59,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   // Presses a key with a key code; false if the handler swallowed it.
   bool PressKey(int keyCode, int shift = 0);
 
+  std::vector<Author> authors{Author::None};  // of each paragraph
+  std::map<Author, std::u16string> authorWords;
   bool locked = false;
   std::u16string tag;
   Color backColor = 0xFFFFFF;
@@ -77,10 +86,12 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   };
 
   void Insert(const std::vector<Cell>& cells);
+  // The number of the paragraph in which a position is, counted from 0.
+  std::size_t ParagraphOf(std::size_t position) const;
   std::vector<Cell> CellsOf(std::u16string_view text) const;
   std::vector<Cell> CellsOf(const richtext::Document& document) const;
   void TakeInsertionLook();
-  void ReplaceAll(std::vector<Cell> cells);
+  void ReplaceAll(std::vector<Cell> cells, Author author = Author::None);
   void RaiseSelChange();
   void RaiseChange();
 

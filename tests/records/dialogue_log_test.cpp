@@ -124,6 +124,14 @@ TEST_F(AppendToLogTest, ControlCharactersBecomeBlanks) {
   EXPECT_EQ(bobsLog, "a b [31mc d e f\r\n");
 }
 
+TEST_F(AppendToLogTest, MarksThatTurnTheDirectionOfWritingAreSeen) {
+  log.AppendToLog(u"<Bob>a\u202Eb\u202C\u200Ec\u2067d\u2069\u061Ce \U0001F468\u200D\U0001F467");
+  EXPECT_EQ(bobsLog,
+            "<Bob>a\\u202Eb\\u202C\\u200Ec\\u2067d\\u2069\\u061Ce "
+            "\xF0\x9F\x91\xA8\xE2\x80\x8D\xF0\x9F\x91\xA7\r\n")
+      << "what joins two signs stays";
+}
+
 TEST_F(AppendToLogTest, ConnectionLineHasTimeAndStars) {
   log.AppendConnectionLine(u"Disconnected.");
   EXPECT_EQ(bobsLog, "[2026-03-07_09:05:30]***** Disconnected.\r\n");

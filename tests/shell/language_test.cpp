@@ -47,6 +47,7 @@ void Collect(ShownTexts& texts, const fake::FakePicture& picture) {
 }
 void Collect(ShownTexts& texts, const fake::FakeRichTextBox& box) {
   Collect<RichTextBox>(texts, box);
+  for (const auto& [author, words] : box.authorWords) texts.push_back({"margin", words});
 }
 void Collect(ShownTexts& texts, const fake::FakeTextField& field) {
   Collect<TextField>(texts, field);

@@ -8,6 +8,7 @@
 #include "shell/date_time_text.h"
 #include "shell/nickname.h"
 #include "shell/setting_names.h"
+#include "shell/who_is_who.h"
 
 namespace verlume {
 namespace {
@@ -24,6 +25,10 @@ SelectionFormat PlainBlackArial(double size) {
           .italic = false,
           .underline = false,
           .strikethrough = false};
+}
+
+bool IsAction(Sender sender) {
+  return sender == Sender::LocalAction || sender == Sender::RemoteAction;
 }
 
 void GoToEnd(RichTextBox& pane) {
@@ -52,7 +57,7 @@ void Dialogue::WriteDialogueLine(std::u16string_view rtf, Sender sender, Command
 }
 
 void Dialogue::ClearFlagOf(Sender sender) {
-  if (sender == Sender::NamedInText) state_.RemoteMessage = false;
+  if (IsAction(sender)) state_.RemoteMessage = false;
   if (sender == Sender::Remote) state_.ForeignText = false;
 }
 
@@ -76,15 +81,14 @@ void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
 }
 
 std::u16string Dialogue::TagOf(Sender sender) const {
-  switch (sender) {
-    case Sender::NamedInText:
-      return u" ";
-    case Sender::Remote:
-      return u"<" + state_.RemoteNickname + u">";
-    case Sender::Local:
-      break;
-  }
+  if (IsAction(sender)) return u" ";
+  if (sender == Sender::Remote) return u"<" + state_.RemoteNickname + u">";
   return u"<" + ShowableNickname(state_.Nickname) + u">";
+}
+
+Author Dialogue::AuthorOf(Sender sender) const {
+  const bool isRemote = sender == Sender::Remote || sender == Sender::RemoteAction;
+  return isRemote ? PeerAsAuthor(state_) : Author::User;
 }
 
 void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,
@@ -93,8 +97,9 @@ void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sen
   const RichTextUpdate update(pane);
   GoToEnd(pane);
   if (pane.TextLength() > 0) pane.SetSelText(u"\r\n");
+  pane.SetSelAuthor(AuthorOf(sender));
   if (!stamp.empty()) AddInFormat(pane, u"[" + std::u16string(stamp) + u"]", kStampSize);
-  if (sender == Sender::NamedInText) {
+  if (IsAction(sender)) {
     pane.SetSelText(tag);
   } else {
     AddInFormat(pane, tag, kTagSize);

@@ -15,7 +15,7 @@
 namespace verlume {
 
 // Who says a line. An action line names its sender itself and gets no tag.
-enum class Sender { Local, Remote, NamedInText };
+enum class Sender { Local, Remote, LocalAction, RemoteAction };
 
 enum class CommandPane { Keep, Clear };
 
@@ -26,10 +26,10 @@ class Dialogue {
       : state_(state), platform_(platform), errors_(errors), settings_(settings), log_(log) {}
 
   // Writes one line of rich text at the end of the dialogue pane, with stamp and nickname tag, and
-  // hands it to the log. An empty text writes nothing. In every case the command pane is then
-  // emptied if asked, and gets the focus, unless the find bar has it. Clears the flag of AppState
-  // that records such a line. A failure is reported (207), not thrown; the command pane then keeps
-  // its text and gets the focus.
+  // hands it to the log. All its paragraphs are from the sender, whatever they say. An empty text
+  // writes nothing. In every case the command pane is then emptied if asked, and gets the focus,
+  // unless the find bar has it. Clears the flag of AppState that records such a line. A failure is
+  // reported (207), not thrown; the command pane then keeps its text and gets the focus.
   void WriteDialogueLine(std::u16string_view rtf, Sender sender, CommandPane commandPane);
   // The end of a command that writes no line.
   void ClearCommandPane() { WriteDialogueLine(u"", Sender::Local, CommandPane::Clear); }
@@ -44,6 +44,7 @@ class Dialogue {
   void ClearFlagOf(Sender sender);
   void WriteLine(std::u16string_view rtf, Sender sender);
   std::u16string TagOf(Sender sender) const;
+  Author AuthorOf(Sender sender) const;
   void AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,
                  std::vector<richtext::ReadDocument> documents);
   void SwitchStamp(MenuEntry& entry, bool& stampSwitch, std::u16string_view key);

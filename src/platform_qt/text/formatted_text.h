@@ -41,6 +41,7 @@ class DocumentParts {
   DocumentParts& operator=(const DocumentParts&) = delete;
 
   bool IsDone() const { return at_ == document_.text.size(); }
+  bool IsAtStart() const { return at_ == 0; }
   // The next part: `units` long, or one more so as not to split a surrogate pair.
   FormattedText Next(std::size_t units);
 

@@ -5,6 +5,9 @@
 #include <utility>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/text/author_margin.h"
+#include "platform_qt/text/open_direction.h"
+#include "platform_qt/text/paragraph_author.h"
 #include "platform_qt/text/readable_text.h"
 #include "platform_qt/text/rich_text_widget.h"
 #include "platform_qt/text/text_format.h"
@@ -199,12 +202,36 @@ void QtRichTextBox::SetSelDocument(richtext::Document document) {
   const RichTextUpdate update(*this);
   if (FitsIntoThisTurn(document)) {
     QTextCursor cursor = Cursor();
+    if (Locked() && !cursor.hasSelection()) EndDirection(cursor);
     InsertDocument(cursor, std::move(document), lines_);
     SetCursor(cursor);
   } else {
     WriteInTurns(std::move(document));
   }
   RaiseChange();
+}
+
+void QtRichTextBox::SetSelAuthor(Author author) {
+  const ProgramChange change(*view_);
+  SetAuthor(Cursor(), author, lines_);
+}
+
+Author QtRichTextBox::SelAuthor() const {
+  return AuthorOf(widget_->document()->findBlock(Cursor().selectionStart()));
+}
+
+void QtRichTextBox::SetAuthorWords(Author author, std::u16string_view words) {
+  if (!margin_) {
+    margin_ = new AuthorMargin(*view_);
+    margin_->SetDescription(ToQt(toolTip_));
+  }
+  margin_->SetWords(author, ToQt(words));
+}
+
+void QtRichTextBox::SetToolTip(std::u16string_view text) {
+  toolTip_ = text;
+  QtControl::SetToolTip(text);
+  if (margin_) margin_->SetDescription(ToQt(text));
 }
 
 bool QtRichTextBox::FitsIntoThisTurn(const richtext::Document& document) {
@@ -249,6 +276,7 @@ void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
   FormattedText text = isPlain ? FormattedText(files_.ReadText(path), DefaultFormat(), lines_)
                                : FormattedText(richtext::ReadRtf(files_.ReadBytes(path)), lines_);
   Clear(isPlain ? DefaultFormat() : FormatOfFirst(widget_->textCursor()));
+  SetSelAuthor(Author::File);
   loading_ = std::make_unique<TextLoading>(*view_, QTextCursor(widget_->document()),
                                            std::move(text), [this](int percent) {
                                              if (onLoadProgress) onLoadProgress(percent);

@@ -18,6 +18,7 @@
 
 namespace verlume::qt {
 
+class AuthorMargin;
 class RichTextWidget;
 class TextLoading;
 class TextUpdate;
@@ -36,6 +37,8 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   // Whether documents are still being inserted: from onInsertionStarted to onInsertionFinished.
   bool IsInserting() const;
 
+  void SetToolTip(std::u16string_view text) override;
+  std::u16string ToolTip() const override { return toolTip_; }
   std::u16string Text() const override;
   std::size_t TextLength() const override;
   void SetText(std::u16string_view text) override;
@@ -48,6 +51,9 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   void SetSelFormat(const SelectionFormat& format) override;
   void SetSelText(std::u16string_view text) override;
   void SetSelDocument(richtext::Document document) override;
+  void SetSelAuthor(Author author) override;
+  Author SelAuthor() const override;
+  void SetAuthorWords(Author author, std::u16string_view words) override;
   void BeginUpdate() override;
   void EndUpdate() override;
   void SetFontCharset(int charset) override;
@@ -86,6 +92,8 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   FileSystem& files_;
   Lines lines_;
   std::u16string tag_;
+  std::u16string toolTip_;
+  AuthorMargin* margin_ = nullptr;                      // belongs to the widget
   std::unique_ptr<TextLoading> loading_;                // the last one, even when it is done
   std::vector<std::unique_ptr<TextWriting>> writings_;  // in no order; some may be done
   std::unique_ptr<TextUpdate> update_;                  // null between updates

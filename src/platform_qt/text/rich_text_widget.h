@@ -14,6 +14,13 @@ class RichTextWidget : public QPlainTextEdit {
  public:
   RichTextWidget(QWidget* parent, Lines lines);
 
+  // For the margin beside the text.
+  using QPlainTextEdit::blockBoundingGeometry;
+  using QPlainTextEdit::blockBoundingRect;
+  using QPlainTextEdit::contentOffset;
+  using QPlainTextEdit::firstVisibleBlock;
+  using QPlainTextEdit::setViewportMargins;
+
   // The box whose events are raised; with null none are.
   void SetEvents(const RichTextBox* events) { events_ = events; }
   void SetCharset(int charset) { charset_ = charset; }

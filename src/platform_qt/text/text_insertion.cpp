@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/text/open_direction.h"
 #include "platform_qt/text/text_format.h"
 
 namespace verlume::qt {
@@ -55,6 +56,12 @@ void TextInsertion::StartNext(FormattedText text) {
   size_ = text_.text.size();
   at_ = inPiece_ = 0;
   piece_ = 0;
+}
+
+void TextInsertion::EndOpenDirection() {
+  cursor_.setKeepPositionOnInsert(false);
+  EndDirection(cursor_);
+  cursor_.setKeepPositionOnInsert(true);
 }
 
 int TextInsertion::Percent() const {

@@ -19,6 +19,9 @@ class TextInsertion {
 
   // Continues with another text. The one before must be done.
   void StartNext(FormattedText text);
+  // A direction of writing that is open at the cursor does not reach the text that is inserted
+  // next.
+  void EndOpenDirection();
 
   // Inserts the next piece: `units` long, or one more so as not to split a surrogate pair.
   void InsertNext(qsizetype units);

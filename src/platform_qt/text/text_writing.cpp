@@ -61,6 +61,7 @@ void TextWriting::InsertStep() {
 
 void TextWriting::TakeNextPart() {
   if (!waiting_.front().IsDone()) {
+    if (waiting_.front().IsAtStart()) insertion_.EndOpenDirection();
     insertion_.StartNext(waiting_.front().Next(step_));
     return;
   }

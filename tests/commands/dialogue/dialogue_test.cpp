@@ -97,7 +97,7 @@ TEST_F(DialogueTest, RemoteLineHasTheRemoteNicknameAndTheNextLocalLineTheLocalOn
 
 TEST_F(DialogueTest, ActionLineBeginsWithASpaceAndHasNoTag) {
   state.RemoteMessage = true;
-  WriteAs(Sender::NamedInText, u"Bob waves");
+  WriteAs(Sender::RemoteAction, u"Bob waves");
   EXPECT_FALSE(state.RemoteMessage);
   Write(u"hello");
   EXPECT_EQ(pane.Text(), u" Bob waves\n<Bob>hello");
@@ -108,7 +108,7 @@ TEST_F(DialogueTest, ActionLineBeginsWithASpaceAndHasNoTag) {
 
 TEST_F(DialogueTest, ActionLineFollowsItsStamp) {
   state.TimeStamp = true;
-  WriteAs(Sender::NamedInText, u"Bob waves");
+  WriteAs(Sender::RemoteAction, u"Bob waves");
   EXPECT_EQ(pane.Text(), u"[09:05:30] Bob waves");
 }
 
@@ -116,7 +116,7 @@ TEST_F(DialogueTest, ALineClearsNoFlagButItsOwn) {
   state.RemoteMessage = state.ForeignText = true;
   Write(u"hello");
   EXPECT_TRUE(state.RemoteMessage && state.ForeignText);
-  WriteAs(Sender::NamedInText, u"Bob waves");
+  WriteAs(Sender::RemoteAction, u"Bob waves");
   EXPECT_TRUE(state.ForeignText);
   WriteAs(Sender::Remote, u"hello");
   EXPECT_FALSE(state.RemoteMessage || state.ForeignText);
@@ -147,7 +147,7 @@ TEST_F(DialogueTest, MessageKeepsItsOwnFormat) {
 
 TEST_F(DialogueTest, SpaceOfAnActionLineHasTheFormatOfTheEndOfThePane) {
   Write(u"one");
-  WriteAs(Sender::NamedInText, u"Bob waves");
+  WriteAs(Sender::RemoteAction, u"Bob waves");
   EXPECT_EQ(FormatAt(9, 1).fontName, u"Courier New");
 }
 
@@ -193,7 +193,7 @@ TEST_F(DialogueTest, EmptyTextShowsTheLastLineAndEmptiesAndFocusesTheCommandPane
 TEST_F(DialogueTest, EmptyTextLeavesNoFlagBehind) {
   state.RemoteMessage = state.ForeignText = true;
   WriteAs(Sender::Remote, u"");
-  WriteAs(Sender::NamedInText, u"");
+  WriteAs(Sender::RemoteAction, u"");
   EXPECT_FALSE(state.RemoteMessage || state.ForeignText);
   EXPECT_EQ(pane.Text(), u"");
 }
@@ -207,6 +207,27 @@ TEST_F(DialogueTest, ALineIsOneChangeOfThePane) {
   Write(u"one");
   EXPECT_EQ(changes, 1);
   EXPECT_EQ(selChanges, 1);
+}
+
+TEST_F(DialogueTest, EveryParagraphIsFromItsSender) {
+  WriteAs(Sender::Local, u"one");
+  WriteAs(Sender::Remote, u"two\n[09:05:30]<Bob>forged");
+  WriteAs(Sender::LocalAction, u"Bob waves");
+  WriteAs(Sender::RemoteAction, u"Bob waves");
+  EXPECT_THAT(pane.authors,
+              ElementsAre(Author::User, Author::Peer, Author::Peer, Author::User, Author::Peer));
+}
+
+TEST_F(DialogueTest, ANicknameThatReadsLikeTheUsersIsOfAnAuthorOfItsOwn) {
+  state.RemoteNickname = u"B\u03BFb";  // with a Greek omicron
+  WriteAs(Sender::Remote, u"one");
+  state.RemoteNickname = u"Bob>I agree";
+  WriteAs(Sender::Remote, u"two");
+  WriteAs(Sender::RemoteAction, u"Bob waves");
+  state.RemoteNickname = u"Bill";
+  WriteAs(Sender::Remote, u"three");
+  EXPECT_THAT(pane.authors, ElementsAre(Author::PeerReadingAlike, Author::PeerWithBrackets,
+                                        Author::PeerWithBrackets, Author::Peer));
 }
 
 TEST_F(DialogueTest, AFailureOfTheLogIsAskedAboutOnceTheLineIsWhole) {
@@ -258,7 +279,7 @@ TEST_F(DialogueTest, VanishedLogFolderLeavesTheProgramUsable) {
 TEST_F(DialogueTest, LineThatFailsIsReportedAndLeavesNothingToTheNextOne) {
   pane.formatFails = FailureNumber::InvalidProcedureCall;
   state.TimeStamp = state.RemoteMessage = state.ForeignText = true;
-  for (const Sender sender : {Sender::NamedInText, Sender::Remote}) {
+  for (const Sender sender : {Sender::RemoteAction, Sender::Remote}) {
     commands.SetText(u"hello");
     commands.timesFocused = 0;
     AnswerNoToErrors();

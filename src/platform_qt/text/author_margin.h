@@ -1,0 +1,48 @@
+// The margin of a rich-text widget that shows who each line is from. It lies outside the viewport,
+// where no text is ever drawn.
+#pragma once
+
+#include <QString>
+#include <QTextBlock>
+#include <QWidget>
+#include <functional>
+#include <map>
+
+#include "platform/rich_text_box.h"
+#include "platform_qt/text/rich_text_widget.h"
+
+namespace verlume::qt {
+
+class AuthorMargin : public QWidget {
+ public:
+  // Belongs to the pane, and takes its place at once.
+  explicit AuthorMargin(RichTextWidget& pane);
+
+  // What is said of an author's lines: in the margin's tool tip, and as the description of the pane
+  // for assistive tools while the caret is in such a line.
+  void SetWords(Author author, const QString& words);
+  // The pane's description while the caret is in a line from nobody.
+  void SetDescription(const QString& description);
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  // Calls visit(block, top) for each block that is in view between two heights.
+  void VisitBlocks(qreal from, qreal to,
+                   const std::function<void(const QTextBlock&, qreal top)>& visit) const;
+  void DrawMarks(QPainter& painter, const QTextBlock& block, qreal top, const QRectF& clip) const;
+  QString WordsOf(Author author) const;
+  QString WordsAt(int y) const;
+  void PlaceBeside(const QRect& text);
+  void Follow(const QRect& area, int dy);
+  void DescribeCaret();
+
+  RichTextWidget& pane_;
+  std::map<Author, QString> words_;
+  QString description_;
+};
+
+}  // namespace verlume::qt

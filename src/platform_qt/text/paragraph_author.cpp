@@ -1,0 +1,38 @@
+#include "platform_qt/text/paragraph_author.h"
+
+#include <QTextDocument>
+
+namespace verlume::qt {
+namespace {
+
+constexpr int kAuthor = QTextFormat::UserProperty + 1;
+
+QTextBlock FirstOfParagraph(QTextBlock block, Lines lines) {
+  while (block.previous().isValid() && BeginsAtSeam(block, lines)) block = block.previous();
+  return block;
+}
+
+QTextBlock LastOfParagraph(QTextBlock block, Lines lines) {
+  while (block.next().isValid() && BeginsAtSeam(block.next(), lines)) block = block.next();
+  return block;
+}
+
+}  // namespace
+
+Author AuthorOf(const QTextBlock& block) {
+  // 0, that is Author::None, without the property.
+  return static_cast<Author>(block.blockFormat().intProperty(kAuthor));
+}
+
+void SetAuthor(const QTextCursor& selection, Author author, Lines lines) {
+  const QTextDocument& document = *selection.document();
+  const QTextBlock first = FirstOfParagraph(document.findBlock(selection.selectionStart()), lines);
+  const QTextBlock last = LastOfParagraph(document.findBlock(selection.selectionEnd()), lines);
+  QTextCursor blocks(first);
+  blocks.setPosition(last.position(), QTextCursor::KeepAnchor);
+  QTextBlockFormat format;
+  format.setProperty(kAuthor, static_cast<int>(author));
+  blocks.mergeBlockFormat(format);
+}
+
+}  // namespace verlume::qt

@@ -1,0 +1,14 @@
+// Which nicknames a reader takes for the same.
+#pragma once
+
+#include <string_view>
+
+namespace verlume {
+
+// Whether the two look so much alike that one may be read as the other: they differ only in case,
+// accents, blanks, characters without a width, letters of the Latin, Greek and Cyrillic alphabets
+// that look the same, or in I l 1 |, O 0 and rn m. Nothing reads like a name of which none of that
+// leaves a character.
+bool ReadAlike(std::u16string_view one, std::u16string_view other);
+
+}  // namespace verlume
