@@ -81,6 +81,7 @@ double Contrast(Color one, Color other) {
 
 Color ReadableShade(Color color, Color background) {
   if (Contrast(color, background) >= kLegible) return color;
+  if (color == kBlack) return kWhite;
   // Black or white has that contrast with any background.
   const int darker = PartTowards(kBlack, color, background);
   const int lighter = PartTowards(kWhite, color, background);

@@ -10,8 +10,9 @@ namespace verlume::qt {
 double Contrast(Color one, Color other);
 
 // The colour to paint text with. A colour whose contrast with the background is at least 3 comes
-// back as it is; of any other the nearest shade, darker or lighter, with a contrast of 4.5. The
-// shade has the hue of the colour, unless it is black, white or a grey.
+// back as it is; of any other the nearest shade, darker or lighter, with a contrast of 4.5. It has
+// the hue of the colour, unless that has none. Black, which is the colour of all text for which
+// nobody chose one, becomes white.
 Color ReadableShade(Color color, Color background);
 
 }  // namespace verlume::qt

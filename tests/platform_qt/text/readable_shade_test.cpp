@@ -29,7 +29,13 @@ TEST(ReadableShadeTest, OtherColorsBecomeJustDarkOrLightEnough) {
   EXPECT_EQ(ReadableShade(0x959595, kWhite), 0x767676);  // 2.99
   EXPECT_EQ(ReadableShade(kWhite, kWhite), 0x767676);
   EXPECT_EQ(ReadableShade(0xFEFEFE, kWhite), 0x767676);
-  EXPECT_EQ(ReadableShade(kBlack, kBlack), 0x757575);
+  EXPECT_EQ(ReadableShade(0x010101, kBlack), 0x757575);
+}
+
+TEST(ReadableShadeTest, BlackBecomesWhiteOnADarkBackground) {
+  EXPECT_EQ(ReadableShade(kBlack, kBlack), kWhite);
+  EXPECT_EQ(ReadableShade(kBlack, kNight), kWhite);
+  EXPECT_EQ(ReadableShade(kBlack, 0x808080), kBlack);
 }
 
 TEST(ReadableShadeTest, TheHueStays) {
