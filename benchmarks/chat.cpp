@@ -5,6 +5,7 @@
 #include <map>
 
 #include "connection/connection_state.h"
+#include "shell/who_is_who.h"
 
 namespace verlume {
 namespace {
@@ -26,6 +27,7 @@ Chat::Chat(std::int64_t lines) : window_(LastWindow()) {
   state_.ProtocolMarker = BuildProtocolMarker();
   state_.RemoteNickname = u"nickname";
   state_.DateStamp = state_.TimeStamp = true;
+  SetAuthorWords(Pane(), false);
   platform_.View().frmMain.window.Show();
   for (std::int64_t line = 0; line < lines; ++line) {
     WriteLine();
@@ -37,6 +39,10 @@ Chat::Chat(std::int64_t lines) : window_(LastWindow()) {
 
 void Chat::Resize(int width, int height) {
   window_->findChild<QWidget*>("rtbData")->resize(width, height);
+}
+
+void Chat::Paint() {
+  window_->findChild<QWidget*>("rtbData")->repaint();
 }
 
 void Chat::SetPainted(bool isPainted) {

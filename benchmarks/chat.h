@@ -26,6 +26,8 @@ class Chat {
   void WriteLine() { dialogue_.WriteDialogueLine(kMessage, Sender::Remote, CommandPane::Keep); }
   // Resizes the dialogue pane only.
   void Resize(int width, int height);
+  // Paints the dialogue pane at once.
+  void Paint();
   // Whether the window paints what changes.
   void SetPainted(bool isPainted);
 

@@ -83,6 +83,13 @@ void BM_BareResize(benchmark::State& state) {
 BENCHMARK(BM_ResizeDialogue)->Arg(kLong)->Iterations(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_BareResize)->Arg(kLong)->Iterations(20)->Unit(benchmark::kMillisecond);
 
+// The whole pane, with its margin.
+void BM_PaintDialogue(benchmark::State& state) {
+  Chat& chat = ChatOf(state.range(0));
+  for (auto _ : state) chat.Paint();
+}
+BENCHMARK(BM_PaintDialogue)->Arg(kLong)->Iterations(100)->Unit(benchmark::kMicrosecond);
+
 // Without writing to the disk.
 void BM_SaveDialogue(benchmark::State& state) {
   RichTextBox& pane = ChatOf(state.range(0)).Pane();

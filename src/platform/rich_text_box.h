@@ -81,7 +81,7 @@ class RichTextBox : public Control {
   virtual Author SelAuthor() const = 0;
   // What is said of the paragraphs of an author other than None: in a tool tip, and to assistive
   // tools while the caret is in one. From the first call on the box shows a margin beside the text,
-  // which marks each line with its author.
+  // which marks each line with its author, and each line begins at the left.
   virtual void SetAuthorWords(Author author, std::u16string_view words) = 0;
 
   // Everything between the two is one change: at its end it is laid out and scrolled into view, and

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "richtext/characters.h"
 #include "shell/look_alike_tables.h"
 #include "shell/nickname.h"
 
@@ -55,6 +56,7 @@ char16_t Replaced(char16_t c, const Replacement& replacement) {
 }
 
 char16_t WithoutAccent(char16_t c) {
+  if (richtext::IsAscii(c)) return c;
   if (c >= 0xFF01 && c <= 0xFF5E) return static_cast<char16_t>(c - 0xFF01 + u'!');  // full width
   if (c >= kFirstAccented && c <= std::rbegin(kAccentedGreek)->last) {
     const auto isIn = [c](const AccentedGroup& group) { return c <= group.last; };

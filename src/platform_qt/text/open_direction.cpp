@@ -1,6 +1,8 @@
 #include "platform_qt/text/open_direction.h"
 
 #include <QTextBlock>
+#include <QTextDocument>
+#include <QTextOption>
 #include <algorithm>
 #include <vector>
 
@@ -54,6 +56,12 @@ void EndDirection(QTextCursor& cursor) {
   cursor.insertBlock(cursor.blockFormat(), cursor.charFormat());
   MarkSeam(cursor.block());
   cursor.endEditBlock();
+}
+
+void BeginLinesAtTheLeft(QTextDocument& document) {
+  QTextOption option = document.defaultTextOption();
+  option.setTextDirection(Qt::LeftToRight);
+  document.setDefaultTextOption(option);
 }
 
 }  // namespace verlume::qt

@@ -28,6 +28,8 @@ void SetAuthor(const QTextCursor& selection, Author author, Lines lines) {
   const QTextDocument& document = *selection.document();
   const QTextBlock first = FirstOfParagraph(document.findBlock(selection.selectionStart()), lines);
   const QTextBlock last = LastOfParagraph(document.findBlock(selection.selectionEnd()), lines);
+  // A new line has the author of the one before, and setting it takes a while.
+  if (first == last && AuthorOf(first) == author) return;
   QTextCursor blocks(first);
   blocks.setPosition(last.position(), QTextCursor::KeepAnchor);
   QTextBlockFormat format;

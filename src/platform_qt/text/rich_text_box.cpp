@@ -222,6 +222,7 @@ Author QtRichTextBox::SelAuthor() const {
 
 void QtRichTextBox::SetAuthorWords(Author author, std::u16string_view words) {
   if (!margin_) {
+    BeginLinesAtTheLeft(*widget_->document());
     margin_ = new AuthorMargin(*view_);
     margin_->SetDescription(ToQt(toolTip_));
   }

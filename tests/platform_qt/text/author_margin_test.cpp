@@ -135,6 +135,25 @@ TEST_F(AuthorMarginTest, NoRichTextChangesWhoItIsFrom) {
   EXPECT_EQ(authors, std::vector(authors.size(), Author::Peer));
 }
 
+// Hebrew letters and marks behind a tag that has no letter of its own.
+TEST_F(AuthorMarginTest, NoTextPutsItselfInFrontOfItsTag) {
+  for (const char16_t* text :
+       {u"\\u1488?bc", u"\\u8207?abc", u"\\u8295?abc", u"\\u8238?abc", u"abc"}) {
+    box.SetText(u"");
+    {
+      const RichTextUpdate update(box);
+      box.SetSelText(u"<42>");
+      box.SetSelDocument(richtext::ReadRtf(u"{\\rtf1\\uc1 " + std::u16string(text) + u"}"));
+    }
+    QTextCursor tag(pane->document());
+    tag.setPosition(1);
+    QTextCursor middle(pane->document());
+    middle.setPosition(6);
+    EXPECT_LT(pane->cursorRect(tag).left(), pane->cursorRect(middle).left())
+        << QString::fromUtf16(text).toStdString();
+  }
+}
+
 TEST_F(AuthorMarginTest, ATextThatComesInTurnsIsFromItsAuthorThroughout) {
   std::u16string rtf = u"{\\rtf1 ";
   for (int i = 0; i < 3'000; ++i) rtf += u"some words \\par ";
