@@ -73,6 +73,7 @@ FontDialog::FontDialog(QWidget* owner, const FontChoice& start, double minimumSi
   start_.size = std::clamp(start.size, minimum_, maximum_);
   LimitSizes();
   setCurrentFont(FontOf(start_));
+  shownSize_ = sizeField_->text();
   sample_ = SampleOf(*this);
   sample_->setText(kSample.toString());
   TakeOverLists();

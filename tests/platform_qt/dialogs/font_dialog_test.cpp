@@ -265,9 +265,12 @@ TEST_F(FontDialogTest, TheOwnFamilyStaysInEveryWritingSystem) {
   }
 }
 
-TEST_F(FontDialogTest, AStyleChosenAfterAWritingSystemComesOut) {
+TEST_F(FontDialogTest, WhatIsChosenAroundAWritingSystemComesOut) {
   const auto act = [](FontDialog& fonts) {
-    ChooseWritingSystem(fonts, QFontDatabase::Greek);
+    Choose(fonts, kSizes, "9");
+    for (const auto system : {QFontDatabase::Thai, QFontDatabase::Greek}) {
+      ChooseWritingSystem(fonts, system);
+    }
     Choose(fonts, kStyles, "Oblique");
     Choose(fonts, kFamilies, "DejaVu Sans Mono");
   };
@@ -275,6 +278,7 @@ TEST_F(FontDialogTest, AStyleChosenAfterAWritingSystemComesOut) {
   EXPECT_EQ(choice.name, u"DejaVu Sans Mono");
   EXPECT_FALSE(choice.bold);
   EXPECT_TRUE(choice.italic);
+  EXPECT_EQ(choice.size, 9);
 }
 
 TEST_F(FontDialogTest, TheSampleShowsBothAlphabetsInBothLanguages) {
