@@ -1,7 +1,6 @@
 #include "platform_qt/dialogs/late_modality.h"
 
 #include <QGuiApplication>
-#include <QWindow>
 #include <chrono>
 
 namespace verlume::qt {
@@ -26,7 +25,10 @@ bool LateModality::eventFilter(QObject*, QEvent* event) {
   if (!IsPending()) return false;
   // A box that is modal for the window below it, and has none, blocks no window. Its native window
   // exists now; creating it earlier, by winId(), would give native windows to other widgets too.
-  if (event->type() == QEvent::Show) box_->windowHandle()->setTransientParent(nullptr);
+  if (event->type() == QEvent::Show) {
+    below_ = box_->windowHandle()->transientParent();
+    box_->windowHandle()->setTransientParent(nullptr);
+  }
   if (event->type() == QEvent::WindowActivate) limit_.start(kLatecomers);
   return false;
 }
@@ -34,6 +36,7 @@ bool LateModality::eventFilter(QObject*, QEvent* event) {
 void LateModality::BlockOthers() {
   limit_.stop();
   box_->windowHandle()->setModality(Qt::ApplicationModal);
+  box_->windowHandle()->setTransientParent(below_);
   // Qt finds out anew whether a window is blocked when the window gets its parent.
   for (QWindow* window : QGuiApplication::topLevelWindows()) {
     window->setTransientParent(window->transientParent());

@@ -3,8 +3,10 @@
 
 #include <QEvent>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 namespace verlume::qt {
 
@@ -27,6 +29,7 @@ class LateModality : public QObject {
   void BlockOthers();
 
   QWidget* box_;
+  QPointer<QWindow> below_;
   QTimer limit_;
 };
 

@@ -136,8 +136,12 @@ TEST_F(QtDialogsTest, ButtonsSpeakTheLanguage) {
 
 TEST_F(QtDialogsTest, ABoxBeforeTheFirstWindowTakesTheKeyboard) {
   mainWindow.hide();
-  EXPECT_TRUE(QTest::qWaitFor([] { return !QApplication::activeWindow(); }, 10000));
+  const auto isInactive = [] {
+    return QGuiApplication::applicationState() != Qt::ApplicationActive;
+  };
+  ASSERT_TRUE(QTest::qWaitFor(isInactive, 10000));
   AnswerTo(Note(u"?", u"t"), [](QDialog& box) {
+    EXPECT_FALSE(box.testAttribute(Qt::WA_ShowWithoutActivating));
     EXPECT_TRUE(WaitForFocus(box));
     box.reject();
   });

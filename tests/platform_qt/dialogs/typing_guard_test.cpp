@@ -281,6 +281,7 @@ TEST_F(TypingGuardTest, TheWindowBelowIsBlockedAsSoonAsTheBoxHasTheKeyboard) {
   AnswerTo([this](QMessageBox& box) {
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return box.windowHandle()->modality() == Qt::ApplicationModal; }, 10000));
+    EXPECT_EQ(box.windowHandle()->transientParent(), mainWindow.windowHandle());
     QTest::keyClick(mainWindow.windowHandle(), Qt::Key_A);
     EXPECT_EQ(control->toPlainText(), "");
     box.reject();

@@ -81,6 +81,15 @@ class QtSocketCallers : public testing::Test {
   std::int32_t port = 0;
 };
 
+TEST_F(QtSocketCallers, ARequestThatIsHeldIsRaisedAfterwards) {
+  int asked = 0;
+  socket.HoldRequestsWhile([&] { return ++asked < 3; });
+  const RawPeer peer(port);
+  ASSERT_TRUE(WaitForRequest());
+  EXPECT_EQ(asked, 3);
+  EXPECT_EQ(user.requests.size(), 1u);
+}
+
 TEST_F(QtSocketCallers, OneThatSaysNothingCostsNothing) {
   RawPeer peer(port);
   ASSERT_TRUE(WaitForRequest());

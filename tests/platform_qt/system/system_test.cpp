@@ -173,9 +173,14 @@ TEST_F(QtApplicationFolders, HelpLiesInTheInstalledDataFolderWhereTheProgramHasN
 TEST(QtApplicationEvents, YieldingLetsWaitingEventsThrough) {
   QtApplication application;
   bool isHandled = false;
-  QTimer::singleShot(0, &application, [&] { isHandled = true; });
+  QTimer::singleShot(0, &application, [&] {
+    isHandled = true;
+    EXPECT_TRUE(application.IsYielding());
+  });
+  EXPECT_FALSE(application.IsYielding());
   application.YieldToEvents();
   EXPECT_TRUE(isHandled);
+  EXPECT_FALSE(application.IsYielding());
 }
 
 TEST(QtApplicationEvents, TheEndClosesEveryWindowAndLeavesEveryLoop) {
