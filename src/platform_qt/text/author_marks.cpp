@@ -3,12 +3,12 @@
 #include <QPolygonF>
 #include <algorithm>
 #include <array>
-#include <cmath>
+
+#include "platform_qt/convert/text.h"
+#include "platform_qt/text/readable_shade.h"
 
 namespace verlume::qt {
 namespace {
-
-constexpr double kContrast = 3;
 
 // The first that has enough contrast is taken. The dark tones are so dark and the light ones so
 // light that on every ground one of the two has it.
@@ -25,19 +25,8 @@ Tones TonesOf(Author author) {
   }
 }
 
-double Linear(float channel) {
-  return channel <= 0.04045F ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double Luminance(const QColor& color) {
-  return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) +
-         0.0722 * Linear(color.blueF());
-}
-
-// As WCAG 2 defines it, from 1 to 21.
-double Contrast(const QColor& one, const QColor& other) {
-  const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
-  return (lighter + 0.05) / (darker + 0.05);
+double ContrastOf(const QColor& one, const QColor& other) {
+  return Contrast(FromQt(one), FromQt(other));
 }
 
 QColor Mixed(const QColor& one, const QColor& other, float partOfOther) {
@@ -72,14 +61,15 @@ void DrawDots(QPainter& painter, const QRectF& place) {
 
 QColor MarginGround(const QColor& pane) {
   constexpr float kPart = 0.1F;
-  const bool isLight = Contrast(pane, Qt::black) > Contrast(pane, Qt::white);
+  const bool isLight = ContrastOf(pane, Qt::black) > ContrastOf(pane, Qt::white);
   return Mixed(pane, isLight ? Qt::black : Qt::white, kPart);
 }
 
 QColor MarkColor(Author author, const QColor& ground) {
   const Tones tones = TonesOf(author);
-  return *std::find_if(tones.begin(), std::prev(tones.end()),
-                       [&](const QColor& tone) { return Contrast(tone, ground) >= kContrast; });
+  return *std::find_if(tones.begin(), std::prev(tones.end()), [&](const QColor& tone) {
+    return ContrastOf(tone, ground) >= kLegibleContrast;
+  });
 }
 
 void DrawMark(QPainter& painter, Author author, const QRectF& place) {

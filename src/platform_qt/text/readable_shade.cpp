@@ -7,7 +7,6 @@
 namespace verlume::qt {
 namespace {
 
-constexpr double kLegible = 3;
 constexpr double kWellLegible = 4.5;
 
 // WCAG 2 adds this to each luminance, for the light that every screen reflects.
@@ -80,7 +79,7 @@ double Contrast(Color one, Color other) {
 }
 
 Color ReadableShade(Color color, Color background) {
-  if (Contrast(color, background) >= kLegible) return color;
+  if (Contrast(color, background) >= kLegibleContrast) return color;
   if (color == kBlack) return kWhite;
   // Black or white has that contrast with any background.
   const int darker = PartTowards(kBlack, color, background);

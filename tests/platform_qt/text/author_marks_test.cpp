@@ -4,25 +4,14 @@
 
 #include <QImage>
 #include <algorithm>
-#include <cmath>
+
+#include "platform_qt/convert/text.h"
+#include "platform_qt/text/readable_shade.h"
 
 namespace verlume::qt {
 namespace {
 
 constexpr Author kMarked[] = {Author::User, Author::Peer, Author::File};
-
-double Linear(double channel) {
-  return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-double Luminance(const QColor& color) {
-  return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) +
-         0.0722 * Linear(color.blueF());
-}
-double Contrast(const QColor& one, const QColor& other) {
-  const double a = Luminance(one) + 0.05;
-  const double b = Luminance(other) + 0.05;
-  return std::max(a, b) / std::min(a, b);
-}
 
 QImage Drawn(Author author, qreal scale = 1) {
   QImage image(QSize(kMarkWidth, 16) * scale, QImage::Format_RGB32);
@@ -43,7 +32,7 @@ TEST(AuthorMarks, EveryMarkIsReadableOnEveryGround) {
       for (int blue = 0; blue < 256; blue += 15) {
         const QColor ground = MarginGround(QColor(red, green, blue));
         for (const Author author : kMarked) {
-          ASSERT_GE(Contrast(MarkColor(author, ground), ground), 3.0)
+          ASSERT_GE(Contrast(FromQt(MarkColor(author, ground)), FromQt(ground)), 3.0)
               << red << ' ' << green << ' ' << blue << ' ' << static_cast<int>(author);
         }
       }
