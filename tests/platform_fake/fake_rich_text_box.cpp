@@ -37,7 +37,7 @@ void FakeRichTextBox::SetRtf(std::u16string_view rtf) {
 
 void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells, Author author) {
   cells_ = std::move(cells);
-  authors.assign(ParagraphOf(cells_.size()) + 1, author);
+  authors.assign(LineBreaks(cells_, 0, cells_.size()) + 1, author);
   selStart_ = selLength_ = 0;
   if (!cells_.empty()) insertionLook_ = cells_.front().look;
   RaiseSelChange();
@@ -139,15 +139,22 @@ void FakeRichTextBox::SetSelDocument(richtext::Document document) {
   RaiseChange();
 }
 
-std::size_t FakeRichTextBox::ParagraphOf(std::size_t position) const {
+std::size_t FakeRichTextBox::LineBreaks(const std::vector<Cell>& cells, std::size_t start,
+                                        std::size_t length) {
   const auto isBreak = [](const Cell& cell) { return cell.character == u'\n'; };
-  return static_cast<std::size_t>(std::count_if(
-      cells_.begin(), cells_.begin() + static_cast<std::ptrdiff_t>(position), isBreak));
+  const auto first = cells.begin() + static_cast<std::ptrdiff_t>(start);
+  return static_cast<std::size_t>(
+      std::count_if(first, first + static_cast<std::ptrdiff_t>(length), isBreak));
+}
+
+std::size_t FakeRichTextBox::ParagraphOf(std::size_t position) const {
+  return position == cells_.size() ? authors.size() - 1 : LineBreaks(cells_, 0, position);
 }
 
 void FakeRichTextBox::SetSelAuthor(Author author) {
-  const std::size_t last = ParagraphOf(selStart_ + selLength_);
-  for (std::size_t i = ParagraphOf(selStart_); i <= last; ++i) authors[i] = author;
+  const std::size_t first = ParagraphOf(selStart_);
+  const std::size_t last = first + LineBreaks(cells_, selStart_, selLength_);
+  for (std::size_t i = first; i <= last; ++i) authors[i] = author;
 }
 
 void FakeRichTextBox::EndUpdate() {
@@ -173,16 +180,15 @@ void FakeRichTextBox::RaiseChange() {
 }
 
 void FakeRichTextBox::Insert(const std::vector<Cell>& cells) {
-  const auto first = static_cast<std::ptrdiff_t>(ParagraphOf(selStart_));
-  const auto last = static_cast<std::ptrdiff_t>(ParagraphOf(selStart_ + selLength_));
-  const Author author = authors[ParagraphOf(selStart_)];
-  authors.erase(authors.begin() + first, authors.begin() + last);
-  authors[ParagraphOf(selStart_)] = author;
+  const std::size_t paragraph = ParagraphOf(selStart_);
+  const Author author = authors[paragraph];
+  const auto behind = authors.begin() + static_cast<std::ptrdiff_t>(paragraph) + 1;
+  const auto removed = static_cast<std::ptrdiff_t>(LineBreaks(cells_, selStart_, selLength_));
+  authors.insert(authors.erase(behind, behind + removed), LineBreaks(cells, 0, cells.size()),
+                 author);
   const auto at = cells_.begin() + static_cast<std::ptrdiff_t>(selStart_);
   const auto next = cells_.erase(at, at + static_cast<std::ptrdiff_t>(selLength_));
   cells_.insert(next, cells.begin(), cells.end());
-  const std::size_t added = ParagraphOf(selStart_ + cells.size()) - ParagraphOf(selStart_);
-  authors.insert(authors.begin() + first, added, author);
   if (!cells.empty()) insertionLook_ = cells.back().look;
   selStart_ += cells.size();
   selLength_ = 0;

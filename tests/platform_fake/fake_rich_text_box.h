@@ -86,6 +86,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   };
 
   void Insert(const std::vector<Cell>& cells);
+  static std::size_t LineBreaks(const std::vector<Cell>& cells, std::size_t start,
+                                std::size_t length);
   // The number of the paragraph in which a position is, counted from 0.
   std::size_t ParagraphOf(std::size_t position) const;
   std::vector<Cell> CellsOf(std::u16string_view text) const;
