@@ -1,6 +1,7 @@
 // A rich-text box in memory: every character with its format.
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "platform/rich_text_box.h"
@@ -61,8 +62,9 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   std::optional<FailureNumber> rtfFails;         // Rtf and SetRtf do
 
  private:
+  // Cheap to copy: every character has one.
   struct Look {
-    std::u16string fontName = u"Arial";
+    std::uint32_t font = 0;  // index into fontNames_
     double fontSize = 10;
     Color color = kAutomaticColor;
     bool bold = false;
@@ -78,7 +80,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
 
   void Insert(const std::vector<Cell>& cells);
   std::vector<Cell> CellsOf(std::u16string_view text) const;
-  std::vector<Cell> CellsOf(const richtext::Document& document) const;
+  std::vector<Cell> CellsOf(const richtext::Document& document);
+  std::uint32_t FontOf(std::u16string_view name);
   void TakeInsertionLook();
   void ReplaceAll(std::vector<Cell> cells);
   void RaiseSelChange();
@@ -86,6 +89,7 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
 
   FakeFileSystem& files_;
   Lines lines_;
+  std::vector<std::u16string> fontNames_ = {u"Arial"};
   std::vector<Cell> cells_;
   std::size_t selStart_ = 0;
   std::size_t selLength_ = 0;
