@@ -1,6 +1,7 @@
 // Bytes that arrive from a peer. The first byte says how: bit 0 whether the program called or was
 // called, bit 1 whether the handshake is done, bit 2 whether the pieces arrive slowly, the other
 // bits how long each piece is (0: all in one). The remaining bytes are the stream.
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <optional>
@@ -21,6 +22,8 @@ constexpr std::chrono::milliseconds kQuick{1};
 
 constexpr CostLimits kLimits = {.nanoseconds = 20'000, .heapBytes = 200};
 
+// Each may be a line of the pane in memory, which takes much more than its text.
+constexpr std::size_t kMostPieces = 2'000;
 // One read returns no more.
 constexpr std::size_t kLongestRead = 256 << 10;
 // A part of a document that is too long to be held back: what was held back, one read more, and
@@ -57,8 +60,9 @@ std::string Deliver(std::string_view stream, const Delivery& how, FuzzedCopy& co
     copy.Receive(*bytes);
   };
   stream::TimePoint now;
+  const std::size_t length = std::max(how.length, stream.size() / kMostPieces);
   while (!stream.empty()) {
-    const std::string_view piece = stream.substr(0, how.length);
+    const std::string_view piece = stream.substr(0, length);
     stream.remove_prefix(piece.size());
     assembler.Add(piece, now);
     TakeAll(assembler, now, arrive);

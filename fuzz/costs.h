@@ -15,7 +15,8 @@ struct CostLimits {
 class Costs {
  public:
   static constexpr double kTimeOfAny = 1e9;  // nanoseconds
-  static constexpr double kHeapOfAny = 1 << 20;
+  // A font that is used for the first time takes megabytes.
+  static constexpr double kHeapOfAny = 16 << 20;
 
   Costs(std::size_t bytes, CostLimits limits);
   // Fails the run when the input has taken too much time.
