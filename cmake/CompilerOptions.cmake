@@ -42,11 +42,31 @@ if(VERLUME_THREAD_SANITIZE)
   add_link_options(-fsanitize=thread)
 endif()
 
+# Coverage guides the fuzzer: of the program itself, not of the standard library.
 if(VERLUME_FUZZ)
-  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
-                      -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
+  add_compile_options(
+    -fsanitize-coverage-ignorelist=${PROJECT_SOURCE_DIR}/fuzz/not_covered.txt)
+  if(VERLUME_FUZZ_FAST)
+    add_compile_options(-fsanitize-coverage=inline-8bit-counters,pc-table)
+  else()
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+  endif()
 endif()
+
+if(VERLUME_COVERAGE)
+  add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
+  add_link_options(-fprofile-instr-generate)
+endif()
+
+# What is compiled in this folder does not count as the program when coverage guides the fuzzer.
+function(verlume_not_covered)
+  if(VERLUME_FUZZ)
+    add_compile_options(-Wno-unused-command-line-argument
+      -fno-sanitize-coverage=inline-8bit-counters,pc-table,trace-cmp,indirect-calls)
+  endif()
+endfunction()
 
 # verlume_library(NAME SOURCES... [LINKS targets...]): one room of the house. Every library sees
 # src/ as its include root; what it may link is what its floor may use.

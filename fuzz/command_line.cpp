@@ -6,12 +6,16 @@
 #include <vector>
 
 #include "fuzz/check.h"
+#include "fuzz/costs.h"
+#include "fuzz/coverage.h"
 #include "fuzz/fuzzed_copy.h"
 #include "richtext/code_pages.h"
 #include "richtext/rtf_reader.h"
 
 namespace verlume::fuzz {
 namespace {
+
+constexpr CostLimits kLimits = {.nanoseconds = 1'000'000, .heapBytes = 0};  // per key, not per byte
 
 void CheckSent(const FuzzedCopy& copy) {
   const std::u16string& marker = copy.program.State().ProtocolMarker;
@@ -51,13 +55,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace verlume::fuzz;
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   const std::u16string keys = richtext::DecodeUtf8OrGreek(bytes);
-  FuzzedCopy alone;
+  const Costs costs(size, kLimits);
+  static FuzzedCopy alone;
+  alone.StartAgain();
   alone.platform.files.files[u"/macros/hello.rtf"] = "{\\rtf1\\b Hello, \\b0 $r}";
-  Enter(alone, keys);
-
-  FuzzedCopy connected;
+  static FuzzedCopy connected;
+  connected.StartAgain();
   connected.Connect(Role::Callee);
   connected.ShakeHands(Role::Callee, "Bob");
+  ForgetCoverage();
+  Enter(alone, keys);
   Enter(connected, keys);
   return 0;
 }

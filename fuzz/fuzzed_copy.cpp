@@ -1,5 +1,6 @@
 #include "fuzz/fuzzed_copy.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "connection/wire_protocol.h"
@@ -11,20 +12,72 @@ namespace verlume::fuzz {
 namespace {
 
 constexpr std::int32_t kPort = 4000;
-// More dialogs than any input opens.
-constexpr std::size_t kDialogs = 200;
+constexpr std::u16string_view kSettingsPath = u"/verlume/Verlume.ini";
 
 }  // namespace
 
 FuzzedCopy::FuzzedCopy(std::string_view settings) {
   platform.files.MakeFolder(u"/macros");
   platform.files.MakeFolder(u"/logs");
-  platform.files.files[u"/verlume/Verlume.ini"] = settings;
   platform.dialogs.whileOpen = [this] { AnswerBox(); };
+  platform.commonDialog.whileOpen = [this] { CancelDialog(); };
+  Clean();
+  Start(settings);
+}
+
+void FuzzedCopy::StartAgain(std::string_view settings) {
+  const std::string& file = platform.files.files[std::u16string(kSettingsPath)];
+  // Whatever changes for good is written into the settings file.
+  const bool isChanged = HasEnded() || file != writtenByStart_ || settings != settings_;
+  Clean();
+  if (isChanged) return Start(settings);
+  platform.files.files[std::u16string(kSettingsPath)] = writtenByStart_;
+  const_cast<AppState&>(program.State()) = *started_;
+  platform.window.rtbData.SetText(u"");
+  platform.window.rtbCommands.SetText(u"");
+}
+
+// What the program does not set when it starts.
+void FuzzedCopy::Clean() {
+  peer.onConnectionRequest = nullptr;
+  peer.Close();
+  platform.socket.Close();
+  platform.socket.ResumeArrivals();
+  network.RunUntilIdle();
+  platform.socket.sent.clear();
+  peer.sent.clear();
+  platform.files.files.clear();
+  platform.dialogs.messages.clear();
+  platform.dialogs.asked.clear();
+  platform.commonDialog.files.clear();
+  platform.commonDialog.filesShown.clear();
+  platform.commonDialog.foldersShown.clear();
+  platform.commonDialog.colorsShown.clear();
+  platform.commonDialog.fontsShown.clear();
+  platform.application.loggedErrors.clear();
+  platform.tools.started.clear();
+  for (fake::FakeLabel* counter : {&platform.window.lblChatDuration, &platform.window.lblBytesSent,
+                                   &platform.window.lblBytesReceived}) {
+    counter->tag.clear();
+  }
+  platform.application.ended = false;
+  platform.window.window.unloaded = false;
+  platform.window.fraFind.visible = false;
+  platform.window.txtFind.text.clear();
+  accepts_ = false;
+  next_.reset();
   platform.macros.window.whileModal = [this] { platform.macros.window.Unload(); };
-  CancelDialogs();
+}
+
+void FuzzedCopy::Start(std::string_view settings) {
+  // A program that starts finds these values as they are declared.
+  const_cast<AppState&>(program.State()) = AppState();
+  platform.files.files[std::u16string(kSettingsPath)] = settings;
   program.Start();
   if (!HasEnded()) platform.window.freeSizer1.onPostLayout();
+  settings_ = settings;
+  writtenByStart_ = platform.files.files[std::u16string(kSettingsPath)];
+  started_ = program.State();
 }
 
 void FuzzedCopy::AnswerBox() {
@@ -50,12 +103,13 @@ void FuzzedCopy::AnswerNext(Answer answer, const std::u16string& path) {
   platform.commonDialog.files.push_front(choice);
 }
 
-void FuzzedCopy::CancelDialogs() {
+// Each dialog is cancelled, unless its answer is given.
+void FuzzedCopy::CancelDialog() {
   fake::FakeCommonDialog& dialog = platform.commonDialog;
-  dialog.files.assign(kDialogs, std::nullopt);
-  dialog.folders.assign(kDialogs, std::nullopt);
-  dialog.colors.assign(kDialogs, std::nullopt);
-  dialog.fonts.assign(kDialogs, std::nullopt);
+  dialog.files.resize(std::max<std::size_t>(dialog.files.size(), 1));
+  dialog.folders.resize(1);
+  dialog.colors.resize(1);
+  dialog.fonts.resize(1);
 }
 
 void FuzzedCopy::Connect(Role role) {
@@ -78,8 +132,8 @@ void FuzzedCopy::Connect(Role role) {
   accepts_ = false;
 }
 
-void FuzzedCopy::PeerSends(std::string_view bytes) {
-  peer.SendData(richtext::DecodeGreek(bytes), TextKind::Line);
+void FuzzedCopy::Receive(std::string_view bytes) {
+  platform.socket.Receive(richtext::DecodeGreek(bytes));
   network.RunUntilIdle();
 }
 
@@ -88,7 +142,7 @@ void FuzzedCopy::ShakeHands(Role role, std::string_view nickname) {
   message += role == Role::Callee ? 'C' : 'S';
   message += nickname;
   message += '\0';
-  PeerSends(message);
+  Receive(message);
 }
 
 }  // namespace verlume::fuzz

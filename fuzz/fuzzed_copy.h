@@ -1,5 +1,6 @@
 // A whole program in memory. Its user dismisses every box, unless told otherwise; its peer does
-// what the fuzz target says.
+// what the fuzz target says. To make one takes longer than what most inputs do with it: a target
+// makes one and starts it again for each input.
 #pragma once
 
 #include <cstddef>
@@ -24,11 +25,14 @@ class FuzzedCopy {
   // Starts the program with these bytes as Verlume.ini.
   explicit FuzzedCopy(std::string_view settings = kSettings);
 
+  // Makes it what a new one would be: no connection, no files but its settings, no lines.
+  void StartAgain(std::string_view settings = kSettings);
+
   // Connects with the peer, in the given role, unless the program has ended. Does not send the
   // peer's part of the handshake.
   void Connect(Role role);
-  // The peer sends a text, which arrives as one; handles all events that follow.
-  void PeerSends(std::string_view bytes);
+  // A text of the peer arrives; handles all events that follow.
+  void Receive(std::string_view bytes);
   // The peer's part of the handshake, under a nickname.
   void ShakeHands(Role role, std::string_view nickname);
 
@@ -55,7 +59,14 @@ class FuzzedCopy {
   // Answers the open box. Fails the run if the box reports an internal error of the program.
   void AnswerBox();
   Answer AnswerTo(const Message& message);
-  void CancelDialogs();
+  void CancelDialog();
+  void Clean();
+  void Start(std::string_view settings);
+
+  // Of the last start.
+  std::string settings_;
+  std::string writtenByStart_;
+  std::optional<AppState> started_;
 
   bool accepts_ = false;  // the peer's call
   std::optional<Answer> next_;

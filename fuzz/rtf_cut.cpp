@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "fuzz/check_document.h"
+#include "fuzz/costs.h"
 #include "richtext/document_scan.h"
 #include "richtext/rtf_cut.h"
 #include "richtext/rtf_parser.h"
@@ -13,6 +14,8 @@
 
 namespace verlume::fuzz {
 namespace {
+
+constexpr CostLimits kLimits = {.nanoseconds = 5'000, .heapBytes = 64};
 
 using richtext::CutDocument;
 using richtext::Document;
@@ -96,6 +99,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   constexpr std::size_t kNumbers = 4;
   constexpr std::string_view kStart = "{\\rtf";
   if (size < kNumbers) return 0;
+  const Costs costs(size, kLimits);
   std::string document(kStart);
   document.append(reinterpret_cast<const char*>(data) + kNumbers, size - kNumbers);
   if (document.size() > verlume::richtext::kDeepestCut) return 0;  // none is nested deeper

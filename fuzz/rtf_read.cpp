@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "fuzz/check_document.h"
+#include "fuzz/costs.h"
 #include "richtext/code_pages.h"
 #include "richtext/rtf_cut.h"
 #include "richtext/rtf_documents.h"
@@ -12,6 +13,8 @@
 
 namespace verlume::fuzz {
 namespace {
+
+constexpr CostLimits kLimits = {.nanoseconds = 2'000, .heapBytes = 64};
 
 bool IsOnlyLineEnds(std::u16string_view text) {
   return text.find_first_not_of(std::u16string_view(u"\r\n\0", 3)) == text.npos;
@@ -50,7 +53,10 @@ void CheckCut(std::string_view bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace verlume;
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  fuzz::CheckSound(richtext::ReadRtf(bytes));
+  const fuzz::Costs costs(size, fuzz::kLimits);
+  const richtext::Document document = richtext::ReadRtf(bytes);
+  costs.CheckHeap();
+  fuzz::CheckSound(document);
   const std::u16string text = richtext::DecodeGreek(bytes);
   fuzz::Check(richtext::EncodeGreek(text) == bytes, "decoding and encoding gives the same bytes");
   fuzz::CheckSound(richtext::ReadRtf(text));

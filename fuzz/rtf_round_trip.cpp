@@ -5,11 +5,14 @@
 #include <string_view>
 
 #include "fuzz/check_document.h"
+#include "fuzz/costs.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 
 namespace verlume::fuzz {
 namespace {
+
+constexpr CostLimits kLimits = {.nanoseconds = 5'000, .heapBytes = 64};
 
 void CheckWritten(const richtext::Document& document, const std::u16string& rtf) {
   const auto isAscii = [](char16_t unit) { return unit > 0 && unit < 0x80; };
@@ -38,7 +41,9 @@ void CheckEscaped(const std::u16string& text) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace verlume;
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  const fuzz::Costs costs(size, fuzz::kLimits);
   const richtext::Document document = richtext::ReadRtf(bytes);
+  costs.CheckHeap();
   fuzz::CheckRoundTrip(document);
   fuzz::CheckEscaped(document.text);
   // Any UTF-16 units as text: fuzzed RTF seldom produces them.

@@ -5,10 +5,14 @@
 #include <string_view>
 
 #include "fuzz/check.h"
+#include "fuzz/costs.h"
+#include "fuzz/coverage.h"
 #include "fuzz/fuzzed_copy.h"
 
 namespace verlume::fuzz {
 namespace {
+
+constexpr CostLimits kLimits = {.nanoseconds = 40'000, .heapBytes = 200};
 
 void SaveAndRun(fake::FakeMacroWindow& editor) {
   editor.lstMacroNames.Choose(0);
@@ -39,8 +43,8 @@ std::u16string Load(FuzzedCopy& copy, Answer format, const std::u16string& path)
   return copy.platform.window.rtbData.Text();
 }
 
-void UseAsDialogue(std::string_view bytes, Answer format) {
-  FuzzedCopy copy;
+void UseAsDialogue(FuzzedCopy& copy, std::string_view bytes, Answer format) {
+  copy.StartAgain();
   copy.platform.files.files[u"/logs/in"] = bytes;
   const std::u16string loaded = Load(copy, format, u"/logs/in");
   if (loaded.empty()) return;  // there is nothing to save
@@ -55,11 +59,15 @@ void UseAsDialogue(std::string_view bytes, Answer format) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace verlume;
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  fuzz::FuzzedCopy copy;
+  static fuzz::FuzzedCopy copy;
+  copy.StartAgain();
   copy.Connect(fuzz::Role::Callee);
   copy.ShakeHands(fuzz::Role::Callee, "Bob");
+  fuzz::ForgetCoverage();
+  const fuzz::Costs costs(size, fuzz::kLimits);
   fuzz::UseAsMacro(copy, bytes);
-  fuzz::UseAsDialogue(bytes, Answer::Yes);
-  fuzz::UseAsDialogue(bytes, Answer::No);
+  fuzz::UseAsDialogue(copy, bytes, Answer::Yes);
+  fuzz::UseAsDialogue(copy, bytes, Answer::No);
+  costs.CheckHeap();
   return 0;
 }

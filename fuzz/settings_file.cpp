@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "fuzz/check.h"
+#include "fuzz/costs.h"
 #include "fuzz/fuzzed_copy.h"
 #include "richtext/code_pages.h"
 #include "shell/ini_text.h"
@@ -14,6 +15,8 @@
 
 namespace verlume::fuzz {
 namespace {
+
+constexpr CostLimits kLimits = {.nanoseconds = 40'000, .heapBytes = 200};
 
 constexpr std::u16string_view kByteOrderMark = u"\uFEFF";
 
@@ -75,7 +78,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace verlume;
   if (size > kLargestSettingsFile) return 0;  // such a file is neither read nor written
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  fuzz::FuzzedCopy copy(bytes);
+  const fuzz::Costs costs(size, fuzz::kLimits);
+  static fuzz::FuzzedCopy copy;
+  copy.StartAgain(bytes);
   fuzz::CheckValues(copy.program.State());
   const bool on = copy.program.State().DateStamp;
   copy.Enter(on ? u"/nodate" : u"/date");
@@ -83,7 +88,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto written = ini_text::Read(after, u"General", u"DateStamp");
   fuzz::Check(written == (on ? u"False" : u"True"), "what is written is read back");
   fuzz::CheckNothingLost(bytes, copy);
-  fuzz::CheckValues(
-      fuzz::FuzzedCopy(copy.platform.files.files[u"/verlume/Verlume.ini"]).program.State());
+  const std::string file = copy.platform.files.files[u"/verlume/Verlume.ini"];
+  copy.StartAgain(file);
+  fuzz::CheckValues(copy.program.State());
   return 0;
 }

@@ -100,14 +100,24 @@ std::vector<std::u16string> FakeFileSystem::ListFiles(std::u16string_view folder
 }
 
 std::uint64_t FakeFileSystem::SizeOf(std::u16string_view path) const {
-  return ReadBytes(path).size();
+  return Find(path).size();
 }
 
+// A program that starts reads its settings file again and again.
 std::u16string FakeFileSystem::ReadText(std::u16string_view path) const {
-  return richtext::DecodeUtf8OrGreek(ReadBytes(path));
+  const std::string& bytes = Find(path);
+  if (bytes != lastBytes_) {
+    lastBytes_ = bytes;
+    lastText_ = richtext::DecodeUtf8OrGreek(bytes);
+  }
+  return lastText_;
 }
 
 std::string FakeFileSystem::ReadBytes(std::u16string_view path) const {
+  return Find(path);
+}
+
+const std::string& FakeFileSystem::Find(std::u16string_view path) const {
   if (readsFail) throw RunTimeFailure(*readsFail);
   CheckPath(path);
   const auto file = files.find(Stored(path));
@@ -116,7 +126,7 @@ std::string FakeFileSystem::ReadBytes(std::u16string_view path) const {
 }
 
 std::string FakeFileSystem::ReadStart(std::u16string_view path, std::size_t limit) const {
-  return ReadBytes(path).substr(0, limit);
+  return Find(path).substr(0, limit);
 }
 
 void FakeFileSystem::ReplaceText(std::u16string_view path, std::u16string_view text,

@@ -42,10 +42,14 @@ class FakeFileSystem : public FileSystem {
 
  private:
   std::u16string_view Stored(std::u16string_view path) const noexcept;
+  const std::string& Find(std::u16string_view path) const;
   void CheckPath(std::u16string_view path) const;
   void CheckWrite(std::u16string_view path) const;
 
   std::set<std::u16string, std::less<>> folders_ = {u"/"};
+  // What ReadText decoded last.
+  mutable std::string lastBytes_;
+  mutable std::u16string lastText_;
 };
 
 }  // namespace verlume::fake

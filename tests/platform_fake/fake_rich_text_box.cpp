@@ -18,11 +18,13 @@ char16_t SafeUnit(char16_t unit, bool singleLine) {
   return isMark ? u'\uFFFD' : unit;
 }
 
+constexpr std::uint16_t kUnused = 0xFFFF;
+
 }  // namespace
 
 std::u16string FakeRichTextBox::Text() const {
-  std::u16string text;
-  for (const Cell& cell : cells_) text += cell.character;
+  std::u16string text(cells_.size(), u'\0');
+  std::ranges::transform(cells_, text.begin(), &Cell::character);
   return text;
 }
 
@@ -39,7 +41,12 @@ void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells, Author author) {
   cells_ = std::move(cells);
   authors.assign(LineBreaks(cells_, 0, cells_.size()) + 1, author);
   selStart_ = selLength_ = 0;
-  if (!cells_.empty()) insertionLook_ = cells_.front().look;
+  if (cells_.empty()) {
+    const std::u16string font = std::exchange(fontNames_, {u"Arial"})[insertionLook_.font];
+    insertionLook_.font = FontOf(font);
+  } else {
+    insertionLook_ = cells_.front().look;
+  }
   RaiseSelChange();
   RaiseChange();
 }
@@ -47,16 +54,18 @@ void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells, Author author) {
 std::u16string FakeRichTextBox::Rtf() const {
   if (rtfFails) throw RunTimeFailure(*rtfFails);
   richtext::Document document;
-  const auto indexOf = [&document, this](const std::u16string& name) {
-    const auto same = [&](const richtext::Font& font) { return font.name == name; };
-    const auto found = std::find_if(document.fonts.begin(), document.fonts.end(), same);
-    if (found != document.fonts.end()) return found - document.fonts.begin();
-    document.fonts.push_back({name, charset_});
-    return static_cast<std::ptrdiff_t>(document.fonts.size()) - 1;
+  // In the order of their first use.
+  std::vector<std::uint16_t> places(fontNames_.size(), kUnused);
+  const auto placeOf = [&](std::uint32_t font) {
+    if (places[font] == kUnused) {
+      places[font] = static_cast<std::uint16_t>(document.fonts.size());
+      document.fonts.push_back({fontNames_[font], charset_});
+    }
+    return places[font];
   };
   for (const auto& [character, look] : cells_) {
     richtext::CharFormat format;
-    format.font = static_cast<std::uint16_t>(indexOf(look.fontName));
+    format.font = placeOf(look.font);
     format.halfPoints = static_cast<std::uint16_t>(look.fontSize * 2);
     format.color = look.color;
     format.bold = look.bold;
@@ -94,7 +103,7 @@ SelectionFormat FakeRichTextBox::SelFormat() const {
   if (formatIsMixed) return {};
   const Look& first = selLength_ > 0 ? cells_[selStart_].look : insertionLook_;
   const auto shown = [](Color color) { return std::max<Color>(color, 0); };
-  SelectionFormat format{.fontName = first.fontName,
+  SelectionFormat format{.fontName = fontNames_[first.font],
                          .fontSize = first.fontSize,
                          .color = shown(first.color),
                          .bold = first.bold,
@@ -103,7 +112,7 @@ SelectionFormat FakeRichTextBox::SelFormat() const {
                          .strikethrough = first.strikethrough};
   for (std::size_t i = selStart_; i < selStart_ + selLength_; ++i) {
     const Look& look = cells_[i].look;
-    if (look.fontName != first.fontName) format.fontName.reset();
+    if (look.font != first.font) format.fontName.reset();
     if (look.fontSize != first.fontSize) format.fontSize.reset();
     if (shown(look.color) != shown(first.color)) format.color.reset();
     if (look.bold != first.bold) format.bold.reset();
@@ -116,8 +125,10 @@ SelectionFormat FakeRichTextBox::SelFormat() const {
 
 void FakeRichTextBox::SetSelFormat(const SelectionFormat& format) {
   if (formatFails) throw RunTimeFailure(*formatFails);
-  const auto apply = [&format](Look& look) {
-    look.fontName = format.fontName.value_or(look.fontName);
+  std::optional<std::uint32_t> font;
+  if (format.fontName) font = FontOf(*format.fontName);
+  const auto apply = [&](Look& look) {
+    if (font) look.font = *font;
     look.fontSize = format.fontSize.value_or(look.fontSize);
     look.color = format.color.value_or(look.color);
     look.bold = format.bold.value_or(look.bold);
@@ -197,6 +208,7 @@ void FakeRichTextBox::Insert(const std::vector<Cell>& cells) {
 std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(std::u16string_view text) const {
   const Look& look = selLength_ > 0 ? cells_[selStart_].look : insertionLook_;
   std::vector<Cell> cells;
+  cells.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char16_t c = text[i];
     if (c == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') continue;
@@ -205,14 +217,21 @@ std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(std::u16string_view 
   return cells;
 }
 
-std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(
-    const richtext::Document& document) const {
+std::uint32_t FakeRichTextBox::FontOf(std::u16string_view name) {
+  const auto found = std::ranges::find(fontNames_, name);
+  const auto font = static_cast<std::uint32_t>(found - fontNames_.begin());
+  if (found == fontNames_.end()) fontNames_.emplace_back(name);
+  return font;
+}
+
+std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(const richtext::Document& document) {
   std::vector<Cell> cells;
+  cells.reserve(document.text.size());
   std::size_t at = 0;
   for (const richtext::Run& run : document.runs) {
     Look look;
     const std::u16string& name = document.fonts[run.format.font].name;
-    if (!name.empty()) look.fontName = name;
+    if (!name.empty()) look.font = FontOf(name);
     look.fontSize = run.format.halfPoints / 2.0;
     look.color = run.format.color;
     look.bold = run.format.bold;

@@ -1,6 +1,7 @@
 // A rich-text box in memory: every character with its format.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
@@ -70,8 +71,9 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   std::optional<FailureNumber> rtfFails;         // Rtf and SetRtf do
 
  private:
+  // Cheap to copy: every character has one.
   struct Look {
-    std::u16string fontName = u"Arial";
+    std::uint32_t font = 0;  // index into fontNames_
     double fontSize = 10;
     Color color = kAutomaticColor;
     bool bold = false;
@@ -91,7 +93,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   // The number of the paragraph in which a position is, counted from 0.
   std::size_t ParagraphOf(std::size_t position) const;
   std::vector<Cell> CellsOf(std::u16string_view text) const;
-  std::vector<Cell> CellsOf(const richtext::Document& document) const;
+  std::vector<Cell> CellsOf(const richtext::Document& document);
+  std::uint32_t FontOf(std::u16string_view name);
   void TakeInsertionLook();
   void ReplaceAll(std::vector<Cell> cells, Author author = Author::None);
   void RaiseSelChange();
@@ -99,6 +102,7 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
 
   FakeFileSystem& files_;
   Lines lines_;
+  std::vector<std::u16string> fontNames_ = {u"Arial"};
   std::vector<Cell> cells_;
   std::size_t selStart_ = 0;
   std::size_t selLength_ = 0;

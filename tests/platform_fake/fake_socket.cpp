@@ -193,6 +193,12 @@ void FakeSocket::Arrive(std::u16string text) {
   Post([this] { DeliverArrival(); });
 }
 
+void FakeSocket::Receive(std::u16string text) {
+  if (state_ != SocketState::Connected) return;
+  arrivals_.push_back(std::move(text));
+  DeliverArrival();
+}
+
 void FakeSocket::DeliverArrival() {
   if (arePaused_ || arrivals_.empty()) return;
   arrival_.clear();

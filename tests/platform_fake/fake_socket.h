@@ -63,6 +63,9 @@ class FakeSocket : public Socket {
   void ResumeArrivals() override;
   bool ArrivalsPaused() const override { return arePaused_; }
 
+  // A text arrives at once, without a peer that sends it. Does nothing unless connected.
+  void Receive(std::u16string text);
+
   std::u16string remoteHost;
   std::u16string localIP = u"192.0.2.1";
   std::vector<std::u16string> sent;  // every text handed to SendData while connected

@@ -1,4 +1,4 @@
-// A whole program with windows in memory and files on a real disk.
+// A whole program with files on a real disk; its windows are in memory, if the test has no others.
 #pragma once
 
 #include <QDir>
@@ -56,9 +56,10 @@ struct ApplicationIn : fake::FakeApplication {
 
 // A program in `folder`, with the settings file that is there, and with its logs and macros in the
 // folders "logs" and "macros" below. Logging is on, and lines have no stamps.
-class ProgramOnDisk {
+template <class Window = fake::FakeMainWindow>
+class BasicProgramOnDisk {
  public:
-  ProgramOnDisk(fake::FakeNetwork& network, const QString& folder)
+  BasicProgramOnDisk(fake::FakeNetwork& network, const QString& folder)
       : folder_(folder), socket(network), application(FromQt(folder)), program(platform) {
     for (const char* name : {"logs", "macros"}) QDir(folder).mkpath(name);
     const std::u16string settings = Path(u"Verlume.ini");
@@ -98,7 +99,7 @@ class ProgramOnDisk {
 
  public:
   RealDisk disk;
-  fake::FakeMainWindow window{disk};
+  Window window{disk};
   fake::FakeAboutWindow about;
   fake::FakeMacroWindow macros{disk};
   fake::FakeSocket socket;
@@ -114,5 +115,7 @@ class ProgramOnDisk {
       disk,           clock,          locale,           application, help,    tools};
   Program program;
 };
+
+using ProgramOnDisk = BasicProgramOnDisk<>;
 
 }  // namespace verlume::qt

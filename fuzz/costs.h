@@ -1,0 +1,40 @@
+// What an input may cost. The time is that of the processor: a busy machine changes it little.
+#pragma once
+
+#include <cstddef>
+
+namespace verlume::fuzz {
+
+// For each byte of the input. Every input may cost kTimeOfAny and kHeapOfAny besides. Under
+// AddressSanitizer the limits are ten times as high.
+struct CostLimits {
+  double nanoseconds;
+  double heapBytes;
+};
+
+class Costs {
+ public:
+  static constexpr double kTimeOfAny = 1e9;  // nanoseconds
+  // A font that is used for the first time takes megabytes.
+  static constexpr double kHeapOfAny = 16 << 20;
+
+  Costs(std::size_t bytes, CostLimits limits);
+  // Fails the run when the input has taken too much time.
+  ~Costs();
+  Costs(const Costs&) = delete;
+  Costs& operator=(const Costs&) = delete;
+
+  // Fails the run when what was made of the input takes too much memory. To be called while it
+  // exists. Inputs of less than a kilobyte are not looked at.
+  void CheckHeap() const;
+
+ private:
+  double Limit(double perByte) const { return perByte * static_cast<double>(bytes_); }
+
+  const std::size_t bytes_;
+  const CostLimits limits_;
+  double timeBefore_;
+  double heapBefore_;
+};
+
+}  // namespace verlume::fuzz
