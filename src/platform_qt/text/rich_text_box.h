@@ -15,11 +15,13 @@
 #include "platform_qt/controls/control.h"
 #include "platform_qt/text/rich_text.h"
 #include "platform_qt/text/text_insertion.h"
+#include "platform_qt/text/text_limit.h"
 
 namespace verlume::qt {
 
 class RichTextWidget;
 class TextLoading;
+class TextReading;
 class TextUpdate;
 class TextWriting;
 
@@ -38,6 +40,7 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
 
   std::u16string Text() const override;
   std::size_t TextLength() const override;
+  void ReadInTurns(TextReader read) override;
   void SetText(std::u16string_view text) override;
   std::u16string Rtf() const override;
   void SetRtf(std::u16string_view rtf) override;
@@ -48,6 +51,9 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   void SetSelFormat(const SelectionFormat& format) override;
   void SetSelText(std::u16string_view text) override;
   void SetSelDocument(richtext::Document document) override;
+  bool MoreIsComing() const override;
+  void DropInsertions() override;
+  void SetMostParagraphs(std::size_t paragraphs) override;
   void BeginUpdate() override;
   void EndUpdate() override;
   void SetFontCharset(int charset) override;
@@ -70,12 +76,13 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   void WriteInTurns(richtext::Document document);
   void RaiseIfFinished();
   richtext::Document Content() const;
+  // Handles timer and socket events until the condition holds.
+  void WaitUntil(const std::function<bool()>& condition) const;
   // Text that is inserted afterwards has this format, until another is set.
   void Clear(const QTextCharFormat& format);
   void ReplaceAll(FormattedText text);
-  // Selects the whole text, after the insertions under way have been finished.
-  QTextCursor WholeText() const;
-  void FinishInsertions() const;
+  void WaitForInsertions() const;
+  void NoteLoaded();
   // Convert between positions in the text and in the document: they differ behind a seam.
   std::size_t TextPosition(int position) const;
   int DocumentPosition(std::size_t position) const;
@@ -86,11 +93,17 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   FileSystem& files_;
   Lines lines_;
   std::u16string tag_;
+  TextFormats formats_;  // of the documents that are written
+  std::unique_ptr<TextLimit> limit_;
+  std::unique_ptr<TextLimit::Hold> whileLoading_;
+  std::unique_ptr<TextReading> reading_;                // the last one, even when it is done
   std::unique_ptr<TextLoading> loading_;                // the last one, even when it is done
   std::vector<std::unique_ptr<TextWriting>> writings_;  // in no order; some may be done
   std::unique_ptr<TextUpdate> update_;                  // null between updates
   std::size_t inThisTurn_ = 0;  // written since events were last handled, as kLengthAtOnce counts
   QTimer turnEnd_;
+  int finished_ = 0;  // how often onInsertionFinished was due
+  QTimer memoryReturn_;
 };
 
 }  // namespace verlume::qt
