@@ -34,6 +34,10 @@ class Chat {
   void OpenFindBar(std::u16string_view words);
   void CloseFindBar() { find_.cmdFindClose_Click(); }
   void FindNext() { find_.cmdFindNext_Click(); }
+  // A long dialogue is searched between events.
+  bool IsSearching() {
+    return platform_.View().frmMain.findBar.lblFindResult.Caption() == u"Searching\u2026";
+  }
 
   // Listens on the port that it returns, and accepts the call that comes.
   std::int32_t Listen();

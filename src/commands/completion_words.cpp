@@ -15,10 +15,14 @@ std::vector<Completion> CompletionsOf(std::u16string_view typed, bool isGreek,
                                       std::span<const std::u16string> macros,
                                       const Locale& locale) {
   std::vector<Completion> found;
-  const TextSearch beginning(typed, locale);
+  bool begins = false;
+  TextSearch search(typed, locale, [&](const TextMatch& match) { begins |= match.start == 0; });
   const auto add = [&](std::u16string_view word, bool isMacro) {
-    const auto match = beginning.Find(word, 0);
-    if (match && match->start == 0) found.push_back({std::u16string(word), isMacro});
+    begins = false;
+    search.Restart(0);
+    search.Feed(word);
+    search.Finish();
+    if (begins) found.push_back({std::u16string(word), isMacro});
   };
   const auto addCommands = [&](bool inGreek) {
     for (const CommandRow& row : CommandTable()) {

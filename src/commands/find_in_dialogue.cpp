@@ -1,6 +1,8 @@
 #include "commands/find_in_dialogue.h"
 
+#include <algorithm>
 #include <string>
+#include <utility>
 
 #include "shell/text_pair.h"
 
@@ -8,6 +10,9 @@ namespace verlume {
 namespace {
 
 constexpr TextPair kNotFound = {u"Not found", u"Δεν βρέθηκε"};
+constexpr TextPair kNotFoundYet = {u"Not found, more is coming", u"Δεν βρέθηκε, έρχονται κι άλλα"};
+constexpr TextPair kMoreIsComing = {u", more is coming", u", έρχονται κι άλλα"};
+constexpr TextPair kSearching = {u"Searching\u2026", u"Αναζήτηση\u2026"};
 constexpr TextPair kPlace = {u"%1 of %2", u"%1 από %2"};
 constexpr TextPair kPlaceFromTop = {u"%1 of %2, from the top", u"%1 από %2, από την αρχή"};
 constexpr TextPair kPlaceFromEnd = {u"%1 of %2, from the end", u"%1 από %2, από το τέλος"};
@@ -47,16 +52,61 @@ void FindInDialogue::cmdFindClose_Click() {
   errors_.Guard(Procedure::FindInDialogue, [this] {
     platform_.frmMain.findBar.fraFind.SetVisible(false);
     hasMatch_ = false;
+    running_.reset();
   });
   platform_.frmMain.rtbCommands.SetFocus();
 }
 
+void FindInDialogue::rtbData_LinesRemoved(std::size_t position, std::size_t length) {
+  if (position_ >= position) position_ -= std::min(position_ - position, length);
+}
+
 void FindInDialogue::Search(Step step) {
-  const TextSearch search(platform_.frmMain.findBar.txtFind.Text(), platform_.locale);
+  running_.reset();
+  TextSearch search(platform_.frmMain.findBar.txtFind.Text(), platform_.locale,
+                    [this](const TextMatch& match) { NotePlace(match); });
   if (search.IsEmpty()) return ShowNothing(u"");
   const std::size_t from = step == Step::Next && hasMatch_ ? position_ + 1 : position_;
-  const Places places = FindPlaces(search, from);
-  if (places.count == 0) return ShowNothing(kNotFound.In(state_.IsGreek));
+  running_.emplace(std::move(search), step, from, Places());
+  platform_.frmMain.rtbData.ReadInTurns(
+      [this](std::size_t position, std::u16string_view piece, bool isLast) {
+        errors_.Guard(Procedure::FindInDialogue, [&] { TakePiece(position, piece, isLast); });
+      });
+  if (!running_) return;
+  platform_.frmMain.findBar.lblFindResult.SetCaption(kSearching.In(state_.IsGreek));
+}
+
+void FindInDialogue::TakePiece(std::size_t position, std::u16string_view piece, bool isLast) {
+  if (!running_) return;
+  if (position == 0) {
+    running_->search.Restart(0);
+    running_->places = {};
+  }
+  running_->search.Feed(piece);
+  if (!isLast) return;
+  running_->search.Finish();
+  const Step step = running_->step;
+  const Places places = running_->places;
+  running_.reset();
+  ShowResult(step, places);
+}
+
+void FindInDialogue::NotePlace(const TextMatch& match) {
+  Places& places = running_->places;
+  places.last = {.number = ++places.count, .match = match};
+  if (!places.first) places.first = places.last;
+  if (match.start < running_->from) {
+    places.before = places.last;
+  } else if (!places.after) {
+    places.after = places.last;
+  }
+}
+
+void FindInDialogue::ShowResult(Step step, const Places& places) {
+  const bool moreIsComing = platform_.frmMain.rtbData.MoreIsComing();
+  if (places.count == 0) {
+    return ShowNothing((moreIsComing ? kNotFoundYet : kNotFound).In(state_.IsGreek));
+  }
   const bool isPrevious = step == Step::Previous;
   const std::optional<Place>& wanted = isPrevious ? places.before : places.after;
   const std::optional<Place>& other = isPrevious ? places.last : places.first;
@@ -64,28 +114,12 @@ void FindInDialogue::Search(Step step) {
   ShowPlace(wrapped ? *other : *wanted, places.count, wrapped, step);
 }
 
-FindInDialogue::Places FindInDialogue::FindPlaces(const TextSearch& search,
-                                                  std::size_t from) const {
-  const std::u16string text = platform_.frmMain.rtbData.Text();
-  Places places;
-  for (auto match = search.Find(text, 0); match;
-       match = search.Find(text, match->start + match->length)) {
-    places.last = {.number = ++places.count, .match = *match};
-    if (!places.first) places.first = places.last;
-    if (match->start < from) {
-      places.before = places.last;
-    } else if (!places.after) {
-      places.after = places.last;
-    }
-  }
-  return places;
-}
-
 void FindInDialogue::ShowPlace(const Place& place, std::size_t count, bool wrapped, Step step) {
   const TextPair& text = !wrapped ? kPlace : step == Step::Previous ? kPlaceFromEnd : kPlaceFromTop;
   const auto decimal = [](std::size_t n) { return DecimalText(static_cast<long long>(n)); };
-  platform_.frmMain.findBar.lblFindResult.SetCaption(
-      text.Fill(state_.IsGreek, {decimal(place.number), decimal(count)}));
+  std::u16string result = text.Fill(state_.IsGreek, {decimal(place.number), decimal(count)});
+  if (platform_.frmMain.rtbData.MoreIsComing()) result += kMoreIsComing.In(state_.IsGreek);
+  platform_.frmMain.findBar.lblFindResult.SetCaption(result);
   position_ = place.match.start;
   hasMatch_ = true;
   platform_.frmMain.rtbData.Select(place.match.start, place.match.length);

@@ -1,8 +1,9 @@
 // Finds text in the dialogue pane. No copy of the dialogue is kept: every search reads the pane
-// again.
+// again. A long dialogue is searched between events, and the bar says so meanwhile.
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 #include "commands/text_search.h"
 #include "platform/platform.h"
@@ -26,6 +27,9 @@ class FindInDialogue {
   void cmdFindNext_Click();
   void cmdFindPrevious_Click();
 
+  // Lines have left the pane: the current match stays where it is in the text.
+  void rtbData_LinesRemoved(std::size_t position, std::size_t length);
+
   // Closes the bar and gives the focus back to the command pane.
   void cmdFindClose_Click();
 
@@ -46,8 +50,18 @@ class FindInDialogue {
     std::optional<Place> last;
   };
 
+  // A search that has not gone through the whole dialogue yet.
+  struct Running {
+    TextSearch search;
+    Step step;
+    std::size_t from;
+    Places places;
+  };
+
   void Search(Step step);
-  Places FindPlaces(const TextSearch& search, std::size_t from) const;
+  void TakePiece(std::size_t position, std::u16string_view piece, bool isLast);
+  void NotePlace(const TextMatch& match);
+  void ShowResult(Step step, const Places& places);
   void ShowPlace(const Place& place, std::size_t count, bool wrapped, Step step);
   void ShowNothing(std::u16string_view result);
 
@@ -59,6 +73,7 @@ class FindInDialogue {
   // cannot be used: every written line moves it.
   std::size_t position_ = 0;
   bool hasMatch_ = false;
+  std::optional<Running> running_;
 };
 
 }  // namespace verlume

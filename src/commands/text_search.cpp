@@ -1,10 +1,13 @@
 #include "commands/text_search.h"
 
+#include <utility>
+
 namespace verlume {
 
 // The algorithm of Knuth, Morris and Pratt: a peer chooses the text, so the search must take linear
 // time for every text.
-TextSearch::TextSearch(std::u16string_view words, const Locale& locale) : locale_(locale) {
+TextSearch::TextSearch(std::u16string_view words, const Locale& locale, TakeMatch take)
+    : locale_(locale), take_(std::move(take)) {
   for (const char16_t c : words) {
     if (const char16_t letter = locale.BaseLetter(c)) letters_ += letter;
   }
@@ -15,29 +18,40 @@ TextSearch::TextSearch(std::u16string_view words, const Locale& locale) : locale
     if (letters_[matched] == letters_[i]) ++matched;
     fallback_[i + 1] = matched;
   }
+  places_.resize(letters_.size());
 }
 
-std::optional<TextMatch> TextSearch::Find(std::u16string_view text, std::size_t from) const {
-  if (IsEmpty()) return std::nullopt;
-  std::size_t matched = 0;
-  for (std::size_t i = from; i < text.size(); ++i) {
-    const char16_t letter = locale_.BaseLetter(text[i]);
-    if (letter == 0) continue;
-    while (matched > 0 && letters_[matched] != letter) matched = fallback_[matched];
-    if (letters_[matched] == letter) ++matched;
-    if (matched == letters_.size()) return MatchThatEndsWith(text, i);
-  }
-  return std::nullopt;
+void TextSearch::Restart(std::size_t position) {
+  position_ = position;
+  matched_ = 0;
+  match_.reset();
 }
 
-TextMatch TextSearch::MatchThatEndsWith(std::u16string_view text, std::size_t lastLetter) const {
-  std::size_t start = lastLetter;
-  for (std::size_t letters = 1; letters < letters_.size();) {
-    if (locale_.BaseLetter(text[--start]) != 0) ++letters;
+void TextSearch::Feed(std::u16string_view piece) {
+  if (IsEmpty()) return;
+  for (const char16_t c : piece) {
+    if (const char16_t letter = locale_.BaseLetter(c)) {
+      Finish();
+      FeedLetter(letter);
+    } else if (match_) {
+      ++match_->length;
+    }
+    ++position_;
   }
-  std::size_t end = lastLetter + 1;
-  while (end < text.size() && locale_.BaseLetter(text[end]) == 0) ++end;
-  return {start, end - start};
+}
+
+void TextSearch::FeedLetter(char16_t letter) {
+  places_[lettersSeen_++ % places_.size()] = position_;
+  while (matched_ > 0 && letters_[matched_] != letter) matched_ = fallback_[matched_];
+  if (letters_[matched_] == letter) ++matched_;
+  if (matched_ < letters_.size()) return;
+  const std::size_t start = places_[lettersSeen_ % places_.size()];
+  match_ = TextMatch{start, position_ + 1 - start};
+  matched_ = 0;
+}
+
+void TextSearch::Finish() {
+  if (match_) take_(*std::exchange(match_, std::nullopt));
 }
 
 }  // namespace verlume

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,25 +20,39 @@ struct TextMatch {
   bool operator==(const TextMatch&) const = default;
 };
 
+// Goes once through a text that is handed over in pieces. A match begins behind the end of the one
+// before it.
 class TextSearch {
  public:
-  // `locale` decides which letters are equal; it must outlive the search.
-  TextSearch(std::u16string_view words, const Locale& locale);
+  using TakeMatch = std::function<void(const TextMatch&)>;
+
+  // `locale` decides which letters are equal; it must outlive the search. `take` gets the matches,
+  // each as soon as its end is known.
+  TextSearch(std::u16string_view words, const Locale& locale, TakeMatch take);
 
   // No letter to look for: nothing matches.
   bool IsEmpty() const { return letters_.empty(); }
 
-  // The first match that starts at `from` or after it. Takes time linear in the text up to the end
-  // of the match.
-  std::optional<TextMatch> Find(std::u16string_view text, std::size_t from) const;
+  // Begins anew with a text whose first piece stands at this position.
+  void Restart(std::size_t position);
+  // The next piece. Takes time linear in its length.
+  void Feed(std::u16string_view piece);
+  // There are no more pieces.
+  void Finish();
 
  private:
-  TextMatch MatchThatEndsWith(std::u16string_view text, std::size_t lastLetter) const;
+  void FeedLetter(char16_t letter);
 
   const Locale& locale_;
+  TakeMatch take_;
   std::u16string letters_;
   // By number of letters matched so far: how many stay matched when the next letter differs.
   std::vector<std::size_t> fallback_;
+  std::size_t position_ = 0;
+  std::size_t matched_ = 0;          // letters
+  std::vector<std::size_t> places_;  // of as many letters before the position as are looked for
+  std::size_t lettersSeen_ = 0;
+  std::optional<TextMatch> match_;  // accents that follow will be part of it
 };
 
 }  // namespace verlume

@@ -34,6 +34,8 @@ void ResetConnection(AppState& state, Platform& platform) {
   frmMain.lblRemotePort.SetCaption(u"");
   ShowLamp(state, frmMain);
   platform.sckControl.Close();
+  // When the peer closes, the socket raises that only when all that came before has been inserted.
+  frmMain.rtbData.DropInsertions();
   state.LinesWaiting = 0;
   ShowDelivery(state, frmMain);
 }

@@ -14,7 +14,8 @@ ConnectionState StateOf(const AppState& state);
 void EnterState(AppState& state, ConnectionState entered);
 
 // Goes back to Idle from any state: clears the flags, lblLocalPort, lblRemoteIP, lblRemotePort and
-// lblWaiting, turns the lamp red and closes the socket, which still sends what waits.
+// lblWaiting, turns the lamp red and closes the socket, which still sends what waits. What the peer
+// has said and the dialogue pane does not show yet is dropped.
 void ResetConnection(AppState& state, Platform& platform);
 
 }  // namespace verlume

@@ -48,6 +48,13 @@ class RichTextBox : public Control {
  public:
   virtual std::u16string Text() const = 0;
   virtual std::size_t TextLength() const = 0;  // constant time
+  // Hands over the text that is there, in pieces and in order, each with its place in the text: the
+  // first ones at once, the rest between events. The last one is marked; a text without characters
+  // has one. When the text before the place that was reached changes, or is replaced, it begins
+  // anew, with a piece at 0. Ends an earlier reading of this box.
+  using TextReader =
+      std::function<void(std::size_t position, std::u16string_view piece, bool isLast)>;
+  virtual void ReadInTurns(TextReader read) = 0;
   // Replaces everything. The new text takes the format of the selection's first character, or of
   // the insertion point; a box that is emptied keeps that format for what is typed next. The
   // insertion point goes to the start.
@@ -84,6 +91,17 @@ class RichTextBox : public Control {
   // which marks each line with its author, and each line begins at the left.
   virtual void SetAuthorWords(Author author, std::u16string_view words) = 0;
 
+  // Whether text is still being inserted, of long documents (SetSelDocument) or of a long file
+  // (LoadFile).
+  virtual bool MoreIsComing() const = 0;
+  // Drops what SetSelDocument has not inserted yet.
+  virtual void DropInsertions() = 0;
+
+  // How many paragraphs the box keeps of what is written into it, 0 for all; a long paragraph
+  // counts as several. Beyond them the oldest lines leave it, between events and a few more at once
+  // than they must; what SetText, SetRtf and LoadFile have put there stays, and is not counted.
+  virtual void SetMostParagraphs(std::size_t paragraphs) = 0;
+
   // Everything between the two is one change: at its end it is laid out and scrolled into view, and
   // onSelChange and onChange are raised, once each at most. Updates may be nested. Do not handle
   // events, and do not call SetText, SetRtf, LoadFile or SetLocked, within an update. Use
@@ -98,10 +116,12 @@ class RichTextBox : public Control {
   // file that is no RTF loads as plain text. Plain text loads in the format of a new box, not in
   // that of what was here. Saving replaces the file in one step.
   //
-  // A long file is read at once, but inserted into a locked box piece by piece, between events.
-  // Text, Rtf, SaveFile and SetLocked(false) insert the rest first; SetText, SetRtf and LoadFile
-  // drop the rest; everything else works on what has been inserted so far. Text that is written
-  // behind it stays behind it.
+  // A long file is read at once, but inserted piece by piece, between events. Text, Rtf, SaveFile
+  // and SetLocked(false) wait for the rest, and so does LoadFile in a box that is not locked; a
+  // long text is also written to its file between events. While they wait timer and socket events
+  // are handled; keys and clicks keep waiting. SetText, SetRtf and LoadFile drop the rest;
+  // everything else works on what has been inserted so far. Text that is written behind it stays
+  // behind it.
   virtual void LoadFile(std::u16string_view path, TextFileFormat format) = 0;
   virtual void SaveFile(std::u16string_view path, TextFileFormat format) const = 0;
 
@@ -136,6 +156,11 @@ class RichTextBox : public Control {
   // inserts at once raises neither.
   std::function<void()> onInsertionStarted;
   std::function<void()> onInsertionFinished;
+  // Of a box with SetMostParagraphs, from the event loop. onNearlyFull: nine tenths of what it
+  // keeps are there; raised once until all text is replaced. onLinesRemoved: `length` units at
+  // `position` have left.
+  std::function<void()> onNearlyFull;
+  std::function<void(std::size_t position, std::size_t length)> onLinesRemoved;
   // The keyboard focus has gone elsewhere, perhaps to another window or to a menu.
   std::function<void()> onLostFocus;
 };

@@ -29,10 +29,13 @@ FontTable::FontTable() : documentUpperHalf_(UpperHalf(kAnsiPage)) {
 void FontTable::Begin(int number) {
   isOpen_ = number >= 0 && number <= limits::kMaxFontNumber && entries_.size() <= limits::kMaxFonts;
   if (!isOpen_) return;
-  const auto place = static_cast<std::size_t>(number);
-  if (place >= indexOfNumber_.size()) indexOfNumber_.resize(place + 1, kDefaultFont);
   current_ = static_cast<std::uint16_t>(entries_.size());
-  indexOfNumber_[place] = current_;
+  const auto place = numbers_.begin() + (PlaceOf(number) - numbers_.cbegin());
+  if (place != numbers_.end() && place->first == number) {
+    place->second = current_;
+  } else {
+    numbers_.insert(place, {number, current_});
+  }
   entries_.push_back({{{}, kDefaultCharset}, number, nullptr});
 }
 

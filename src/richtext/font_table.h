@@ -2,8 +2,10 @@
 // bytes of each are read in.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "richtext/document.h"
@@ -42,8 +44,8 @@ class FontTable {
 
   // kDefaultFont for numbers that are not declared.
   std::uint16_t IndexOf(int number) const {
-    const auto place = static_cast<std::size_t>(number);
-    return number >= 0 && place < indexOfNumber_.size() ? indexOfNumber_[place] : kDefaultFont;
+    const auto known = PlaceOf(number);
+    return known != numbers_.end() && known->first == number ? known->second : kDefaultFont;
   }
 
   // In the order they came in; the first has index 1. A number may be declared again: it is the
@@ -64,12 +66,16 @@ class FontTable {
   void GiveFontsTo(Document& document) const;
 
  private:
+  std::vector<std::pair<int, std::uint16_t>>::const_iterator PlaceOf(int number) const {
+    return std::ranges::lower_bound(numbers_, number, {}, &std::pair<int, std::uint16_t>::first);
+  }
   std::uint16_t Resolve(std::uint16_t index) const {
     return index == kDefaultFont ? IndexOf(defaultNumber_) : index;
   }
 
   std::vector<FontDeclaration> entries_;  // the first is the font without a name
-  std::vector<std::uint16_t> indexOfNumber_;
+  // Number and index, by number. Not indexed by it: a document of 30 bytes may use the greatest.
+  std::vector<std::pair<int, std::uint16_t>> numbers_;
   const char16_t* documentUpperHalf_;
   int defaultNumber_ = 0;
   std::uint16_t current_ = 0;

@@ -1,8 +1,10 @@
 #include "richtext/rtf_documents.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "richtext/characters.h"
+#include "richtext/document_joiner.h"
 #include "richtext/rtf_parser.h"
 #include "richtext/rtf_reader.h"
 
@@ -25,23 +27,39 @@ ReadDocument ReadFirst(std::u16string_view text) {
   return {.source = text.substr(0, length), .document = parser.GetListener().TakePart()};
 }
 
-}  // namespace
-
-std::vector<ReadDocument> ReadRtfDocuments(std::u16string_view text) {
-  std::vector<ReadDocument> documents;
+// Hands the documents over one by one.
+template <typename Take>
+void ReadEach(std::u16string_view text, Take take) {
+  bool isFirst = true;
   while (!text.empty()) {
     const bool isRtf = LooksLikeRtf(text);
     const std::u16string_view plain = text.substr(0, isRtf ? 0 : text.find(kOpening));
     const bool isRest =
-        !isRtf && !documents.empty() && std::all_of(plain.begin(), plain.end(), IsLineEndOrNul);
-    if (isRtf) {
-      documents.push_back(ReadFirst(text));
-    } else if (!isRest) {
-      documents.push_back({.source = plain, .document = ReadPlainText(plain)});
+        !isRtf && !isFirst && std::all_of(plain.begin(), plain.end(), IsLineEndOrNul);
+    isFirst = false;
+    std::size_t length = plain.size();
+    if (!isRest) {
+      ReadDocument read =
+          isRtf ? ReadFirst(text) : ReadDocument{.source = plain, .document = ReadPlainText(plain)};
+      length = read.source.size();
+      take(std::move(read));
     }
-    text.remove_prefix(isRest ? plain.size() : documents.back().source.size());
+    text.remove_prefix(length);
   }
+}
+
+}  // namespace
+
+std::vector<ReadDocument> ReadRtfDocuments(std::u16string_view text) {
+  std::vector<ReadDocument> documents;
+  ReadEach(text, [&](ReadDocument read) { documents.push_back(std::move(read)); });
   return documents;
+}
+
+Document ReadJoinedRtfDocuments(std::u16string_view text) {
+  DocumentJoiner joiner;
+  ReadEach(text, [&](ReadDocument read) { joiner.Add(std::move(read.document)); });
+  return joiner.Take();
 }
 
 }  // namespace verlume::richtext

@@ -18,4 +18,7 @@ struct ReadDocument {
 // without any RTF is one document. Linear.
 std::vector<ReadDocument> ReadRtfDocuments(std::u16string_view text);
 
+// The same, joined into one document: the text may hold a hundred thousand.
+Document ReadJoinedRtfDocuments(std::u16string_view text);
+
 }  // namespace verlume::richtext

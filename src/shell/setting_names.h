@@ -21,6 +21,7 @@ inline constexpr std::u16string_view kTimeStamp = u"TimeStamp";
 inline constexpr std::u16string_view kAlwaysOnTop = u"AlwaysOnTop";
 inline constexpr std::u16string_view kMacrosFolder = u"Macrosfolder";
 inline constexpr std::u16string_view kSuggestCommands = u"Suggestcommands";
+inline constexpr std::u16string_view kMostParagraphs = u"Mostparagraphs";
 // Of FontLocal.
 inline constexpr std::u16string_view kFontName = u"Name";
 inline constexpr std::u16string_view kFontBold = u"Bold";

@@ -15,6 +15,9 @@ namespace {
 
 constexpr Color kWhite = 0xFFFFFF;
 
+// What the dialogue pane keeps: months of talk, and at most about 300 MB of memory.
+constexpr std::int32_t kDefaultMostParagraphs = 200'000;
+
 using Value = std::optional<std::u16string_view>;
 
 struct Target {
@@ -70,6 +73,16 @@ void CheckColor(std::u16string_view text) {
 }
 void CheckNumber(std::u16string_view text) {
   NumberOf(text);
+}
+
+// A value that makes no sense counts as missing: it is not worth an error message at every start.
+std::int32_t MostParagraphsOf(Value value) {
+  try {
+    const std::int32_t most = value ? IntegerOf(*value) : -1;
+    return most < 0 ? kDefaultMostParagraphs : most;
+  } catch (const RunTimeFailure&) {
+    return kDefaultMostParagraphs;
+  }
 }
 
 struct Key {
@@ -137,6 +150,10 @@ constexpr Key kKeys[] = {
      [](Value value, Target to) {
        SetSwitch(to.state.SuggestCommands, IsNotOff(value), to.frmMain.mnuToolsCompletions);
      }},
+    {setting_section::kGeneral, setting_key::kMostParagraphs, 20, kNull, CheckText,
+     [](Value value, Target to) {
+       to.frmMain.rtbData.SetMostParagraphs(static_cast<std::size_t>(MostParagraphsOf(value)));
+     }},
 };
 
 // The value of a key in the file.
@@ -171,6 +188,7 @@ void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
   SetSwitch(state.AlwaysOnTop, false, frmMain.mnuToolsAlwaysOnTop);
   SetSwitch(state.LogDialogue, false, frmMain.mnuFileLogRecord);
   SetSwitch(state.SuggestCommands, true, frmMain.mnuToolsCompletions);
+  frmMain.rtbData.SetMostParagraphs(kDefaultMostParagraphs);
 }
 
 void ReadLanguage(AppState& state, const Settings& settings) {

@@ -199,5 +199,61 @@ TEST_F(FindTest, EntryOfAnOpenBarGoesToItsFieldAndLeavesTheMatch) {
   EXPECT_EQ(pane.SelStart(), kThird);
 }
 
+TEST_F(FindTest, ALongDialogueIsSearchedBetweenEvents) {
+  pane.readsLater = true;
+  find.mnuToolsFind_Click();
+  window.txtFind.Type(u"cat");
+  EXPECT_EQ(Result(), u"Searching\u2026");
+  EXPECT_EQ(pane.SelLength(), 0U);
+  pane.reader(0, pane.Text().substr(0, 10), false);
+  EXPECT_EQ(Result(), u"Searching\u2026");
+  pane.reader(10, pane.Text().substr(10), true);
+  EXPECT_EQ(Result(), u"1 of 3");
+  EXPECT_EQ(Selected(), u"cat");
+}
+
+TEST_F(FindTest, ASearchBeginsAnewWhenTheReadingDoes) {
+  pane.readsLater = true;
+  find.mnuToolsFind_Click();
+  window.txtFind.Type(u"cat");
+  pane.reader(0, u"cat cat ca", false);
+  pane.reader(0, pane.Text(), true);
+  EXPECT_EQ(Result(), u"1 of 3");
+}
+
+TEST_F(FindTest, AClosedBarFindsNothingMore) {
+  pane.readsLater = true;
+  find.mnuToolsFind_Click();
+  window.txtFind.Type(u"cat");
+  find.cmdFindClose_Click();
+  pane.reader(0, pane.Text(), true);
+  EXPECT_EQ(pane.SelLength(), 0U);
+}
+
+TEST_F(FindTest, SaysThatMoreIsComing) {
+  pane.moreIsComing = true;
+  find.mnuToolsFind_Click();
+  window.txtFind.Type(u"cat");
+  EXPECT_EQ(Result(), u"1 of 3, more is coming");
+  window.txtFind.Type(u"cow");
+  EXPECT_EQ(Result(), u"Not found, more is coming");
+  state.IsGreek = true;
+  window.txtFind.Type(u"cats");
+  EXPECT_EQ(Result(), u"1 από 1, έρχονται κι άλλα");
+}
+
+TEST_F(FindTest, TheMatchStaysTheSameWhenLinesLeave) {
+  find.mnuToolsFind_Click();
+  window.txtFind.Type(u"cat");
+  find.cmdFindNext_Click();
+  ASSERT_EQ(pane.SelStart(), kSecond);
+  const std::size_t gone = pane.Text().find(u'\n') + 1;
+  pane.SetText(pane.Text().substr(gone));
+  find.rtbData_LinesRemoved(0, gone);
+  find.cmdFindNext_Click();
+  EXPECT_EQ(pane.SelStart(), kThird - gone);
+  EXPECT_EQ(Result(), u"2 of 2");
+}
+
 }  // namespace
 }  // namespace verlume

@@ -1,17 +1,35 @@
 #include "commands/text_search.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 #include "platform_fake/fake_system.h"
 
 namespace verlume {
 namespace {
 
+using testing::ElementsAre;
+
 class TextSearchTest : public testing::Test {
  protected:
   std::optional<TextMatch> Find(std::u16string_view words, std::u16string_view text,
                                 std::size_t from = 0) {
-    return TextSearch(words, locale).Find(text, from);
+    const std::vector<TextMatch> all =
+        FindAll(words, {text.substr(std::min(from, text.size()))}, from);
+    return all.empty() ? std::nullopt : std::optional(all.front());
+  }
+  // `pieces` are of one text, which begins at the position.
+  std::vector<TextMatch> FindAll(std::u16string_view words,
+                                 const std::vector<std::u16string_view>& pieces,
+                                 std::size_t position = 0) {
+    std::vector<TextMatch> matches;
+    TextSearch search(words, locale, [&](const TextMatch& match) { matches.push_back(match); });
+    search.Restart(position);
+    for (const std::u16string_view piece : pieces) search.Feed(piece);
+    search.Finish();
+    return matches;
   }
 
   fake::FakeLocale locale;
@@ -44,10 +62,10 @@ TEST_F(TextSearchTest, AccentsOfTheirOwnBelongToTheLetterBeforeThem) {
 }
 
 TEST_F(TextSearchTest, WordsWithoutALetterAreNothingToLookFor) {
-  EXPECT_TRUE(TextSearch(u"", locale).IsEmpty());
-  EXPECT_TRUE(TextSearch(u"\u0301", locale).IsEmpty());
+  EXPECT_TRUE(TextSearch(u"", locale, {}).IsEmpty());
+  EXPECT_TRUE(TextSearch(u"\u0301", locale, {}).IsEmpty());
   EXPECT_EQ(Find(u"", u"text"), std::nullopt);
-  EXPECT_FALSE(TextSearch(u" ", locale).IsEmpty());
+  EXPECT_FALSE(TextSearch(u" ", locale, {}).IsEmpty());
 }
 
 TEST_F(TextSearchTest, MatchThatBeginsWithinABrokenOneIsFound) {
@@ -60,6 +78,19 @@ TEST_F(TextSearchTest, MatchThatBeginsWithinABrokenOneIsFound) {
 TEST_F(TextSearchTest, PlaceBehindTheEndFindsNothing) {
   EXPECT_EQ(Find(u"a", u"aaa", 3), std::nullopt);
   EXPECT_EQ(Find(u"a", u"aaa", 100), std::nullopt);
+}
+
+TEST_F(TextSearchTest, MatchesDoNotOverlap) {
+  EXPECT_THAT(FindAll(u"aba", {u"ababaaba"}), ElementsAre(TextMatch{0, 3}, TextMatch{5, 3}));
+}
+
+TEST_F(TextSearchTest, WhereTheTextIsDividedMakesNoDifference) {
+  const std::u16string_view text = u"cafe\u0301 <caf> CAFE\u0301\u0302";
+  const std::vector<TextMatch> whole = FindAll(u"caf\u00E9", {text});
+  ASSERT_THAT(whole, ElementsAre(TextMatch{0, 5}, TextMatch{12, 6}));
+  for (std::size_t i = 0; i <= text.size(); ++i) {
+    EXPECT_EQ(FindAll(u"caf\u00E9", {text.substr(0, i), u"", text.substr(i)}), whole);
+  }
 }
 
 // A naive search would take the product of both lengths: minutes.

@@ -61,5 +61,13 @@ TEST(ConnectionStateTest, ResetLeavesWhatTellsOfTheLastConversation) {
   EXPECT_EQ(two.alice.fake.window.lblBytesSent.tag, u"12");
 }
 
+TEST(ConnectionStateTest, ResetDropsWhatIsNotShownYet) {
+  fake::FakeNetwork network;
+  fake::Side side(network, u"Alice", u"192.0.2.1");
+  const int before = side.fake.window.rtbData.timesDropped;
+  ResetConnection(side.state, side.fake.platform);
+  EXPECT_EQ(side.fake.window.rtbData.timesDropped, before + 1);
+}
+
 }  // namespace
 }  // namespace verlume

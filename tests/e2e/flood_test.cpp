@@ -1,53 +1,17 @@
 // A peer that sends as fast as the loopback allows, and arbitrary content. The window must keep
 // answering, nothing may be lost, and memory may grow only with what is shown.
-#include <gtest/gtest.h>
-
-#include <QElapsedTimer>
-#include <QFile>
-#include <future>
 #include <iostream>
 
-#include "answer_watch.h"
-#include "copy.h"
-#include "raw_peer.h"
+#include "flood.h"
 
 namespace verlume::e2e {
 namespace {
 
 using namespace std::string_literals;
 
-constexpr double kMebibyte = 1 << 20;
-
-// The window has to answer within 100 ms, in a build without sanitizers, which slow it down.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr double kSlowness = 10;
-constexpr int kLimit = 120'000;
-constexpr std::size_t kShare = 32;  // divides the sizes that are sent
-#else
-constexpr double kSlowness = 1;
-constexpr int kLimit = 240'000;
-constexpr std::size_t kShare = 1;
-#endif
-constexpr double kLongestAnswer = 100 * kSlowness;
 // The sanitizer keeps freed memory for a while.
 constexpr double kMostMemory = (kSlowness == 1 ? 48 : 512) * kMebibyte;
 constexpr double kMostMemoryPerCharacter = 4 * kSlowness;
-
-std::string Repeat(std::string_view piece, std::size_t size) {
-  std::string text;
-  text.reserve(size + piece.size());
-  while (text.size() < size) text += piece;
-  return text;
-}
-
-std::string Line(int number) {
-  return R"({\rtf1\ansi\ansicpg1253\deff0{\fonttbl{\f0\fnil\fcharset161 Tahoma;}}{\colortbl ;)"
-         R"(\red0\green0\blue255;}\viewkind4\uc1\pard\cf1\f0\fs17 <)" +
-         std::to_string(number) + R"(> \'ea\'e1\'eb\'e7\'ec\'dd\'f1\'e1, hello there\par})";
-}
-
-const QString kTextOfLine =
-    u"<%1> \u03BA\u03B1\u03BB\u03B7\u03BC\u03AD\u03C1\u03B1, hello there"_qs;
 
 // How many of "<1>", "<2>"... the text has in order, up to the first that is missing.
 int CountInOrder(const QString& text) {
@@ -56,71 +20,6 @@ int CountInOrder(const QString& text) {
   while ((at = text.indexOf('<' + QString::number(count + 1) + '>', at)) >= 0) ++count;
   return count;
 }
-
-class Flood : public testing::Test {
- protected:
-  void SetUp() override {
-    ASSERT_TRUE(WaitUntil([&] {
-      copy.Activate();
-      return copy.IsActive();
-    }));
-    copy.TypeLine("/CALL 127.0.0.1 " + peer.Port());
-    ASSERT_TRUE(peer.TakeCall("Eve"));
-    ASSERT_TRUE(WaitUntil([&] { return copy.Log("Eve").contains("Active connection."); }));
-    memoryBefore = ProcessValue("VmRSS");
-  }
-
-  // Sends the bytes and watches the window until all of them are shown.
-  void SendAndWatch(const std::string& bytes) {
-    const int last = --lastNumber_;
-    AnswerWatch watch(copy.Window().toUInt(), static_cast<pid_t>(copy.Process()));
-    auto sent =
-        std::async(std::launch::async, [&] { return peer.Send(bytes) && peer.Send(Line(last)); });
-    EXPECT_TRUE(WaitUntil(
-        [&] { return copy.EndOfLog("Eve").contains('<' + QString::number(last) + '>'); }, kLimit));
-    WaitUntil([&] { return IsAtRest(); }, kLimit);
-    const AnswerWatch::Answers answers = watch.Stop();
-    EXPECT_TRUE(sent.get());
-    std::cout << "worst answer " << answers.worst << " ms, of its own " << answers.worstOfItsOwn
-              << " ms, of " << answers.count << "; memory " << Growth() / kMebibyte << " MiB more, "
-              << ProcessValue("VmHWM") / kMebibyte << " MiB at most\n";
-    EXPECT_GT(answers.count, 10);
-    EXPECT_LT(answers.worstOfItsOwn, kLongestAnswer);
-  }
-
-  // Whether the main thread does next to nothing for a while.
-  bool IsAtRest() {
-    const double before = BusyTime();
-    QElapsedTimer timer;
-    timer.start();
-    WaitUntil([&] { return timer.elapsed() > 300; });
-    return BusyTime() - before < 60;
-  }
-
-  double Growth() const { return ProcessValue("VmRSS") - memoryBefore; }
-  double ProcessValue(const QByteArray& name) const {
-    QFile file(QString("/proc/%1/status").arg(copy.Process()));
-    if (!file.open(QIODevice::ReadOnly)) return 0;
-    for (const QByteArray& line : file.readAll().split('\n')) {
-      if (line.startsWith(name)) return line.simplified().split(' ').at(1).toDouble() * 1024;
-    }
-    return 0;
-  }
-  // How long the main thread has run or been ready to run, in milliseconds.
-  double BusyTime() const {
-    QFile file(QString("/proc/%1/task/%1/schedstat").arg(copy.Process()));
-    if (!file.open(QIODevice::ReadOnly)) return 0;
-    const QList<QByteArray> times = file.readAll().split(' ');
-    return (times.at(0).toDouble() + times.at(1).toDouble()) / 1e6;
-  }
-
-  Copy copy{"Ann", false};
-  RawPeer peer;
-  double memoryBefore = 0;
-
- private:
-  int lastNumber_ = 0;  // of the last line sent, which marks the end
-};
 
 TEST_F(Flood, LinesAreShownOnceAndInOrder) {
   const int lines = 10'000 / static_cast<int>(kShare);
@@ -154,7 +53,7 @@ TEST_F(Flood, ALineOfFiveMebibytesIsShownWhole) {
     text += QStringView(u" w\u03BFrds, \u03B1 and \U0001F600 more; ");
   }
   SendAndWatch(R"({\rtf1\ansi\ansicpg1253 )" + content + "}");
-  text += kTextOfLine.arg(-1);
+  text += TextOfLine(-1);
   EXPECT_TRUE(LinesOfEve(copy.Log("Eve")) == text);
   EXPECT_TRUE(LinesOfEve(copy.Dialogue()) == text);
 }

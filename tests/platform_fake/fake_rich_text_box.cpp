@@ -28,6 +28,11 @@ std::u16string FakeRichTextBox::Text() const {
   return text;
 }
 
+void FakeRichTextBox::ReadInTurns(TextReader read) {
+  reader = std::move(read);
+  if (!readsLater) reader(0, Text(), true);
+}
+
 void FakeRichTextBox::SetText(std::u16string_view text) {
   ReplaceAll(CellsOf(text));
 }

@@ -27,6 +27,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   }
   std::u16string Text() const override;
   std::size_t TextLength() const override { return cells_.size(); }
+  // In one piece, unless `readsLater`: then the test calls `reader`.
+  void ReadInTurns(TextReader read) override;
   void SetText(std::u16string_view text) override;
   std::u16string Rtf() const override;
   void SetRtf(std::u16string_view rtf) override;
@@ -42,6 +44,9 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   void SetAuthorWords(Author author, std::u16string_view words) override {
     authorWords[author] = words;
   }
+  bool MoreIsComing() const override { return moreIsComing; }
+  void DropInsertions() override { ++timesDropped; }
+  void SetMostParagraphs(std::size_t paragraphs) override { mostParagraphs = paragraphs; }
   void BeginUpdate() override { ++updateDepth_; }
   void EndUpdate() override;
   void SetFontCharset(int charset) override { charset_ = charset; }
@@ -62,6 +67,11 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
 
   std::vector<Author> authors{Author::None};  // of each paragraph
   std::map<Author, std::u16string> authorWords;
+  bool readsLater = false;
+  TextReader reader;
+  bool moreIsComing = false;
+  int timesDropped = 0;
+  std::size_t mostParagraphs = 0;
   bool locked = false;
   std::u16string tag;
   Color backColor = 0xFFFFFF;

@@ -259,5 +259,17 @@ TEST_F(SettingsReaderTest, TheLocalFontSurvivesARestart) {
   EXPECT_EQ(state.Font.Size, 9);
 }
 
+TEST_F(SettingsReaderTest, TheDialoguePaneKeepsWhatTheFileSays) {
+  const fake::FakeRichTextBox& pane = window.rtbData;
+  for (const char* value : {"", "NULL", "many", "-1", "99999999999"}) {
+    Read(std::string("[General]\nMostparagraphs=") + value + "\n");
+    EXPECT_EQ(pane.mostParagraphs, 200'000u) << value;
+  }
+  Read("[General]\nMostparagraphs=5000\n");
+  EXPECT_EQ(pane.mostParagraphs, 5'000u);
+  Read("[General]\nMostparagraphs=0\n");
+  EXPECT_EQ(pane.mostParagraphs, 0u);
+}
+
 }  // namespace
 }  // namespace verlume

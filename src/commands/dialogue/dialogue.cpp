@@ -3,15 +3,23 @@
 #include <string>
 #include <utility>
 
+#include "richtext/look_budget.h"
 #include "richtext/rtf_documents.h"
 #include "shell/conversions.h"
 #include "shell/date_time_text.h"
 #include "shell/nickname.h"
 #include "shell/setting_names.h"
+#include "shell/text_pair.h"
 #include "shell/who_is_who.h"
 
 namespace verlume {
 namespace {
+
+constexpr TextPair kNearlyFull = {
+    u"***** The dialogue is very long: its oldest lines will soon leave this pane. To keep them, "
+    u"save the dialogue now (/SAVEDIALOGUEAS).",
+    u"***** Ο διάλογος είναι πολύ μεγάλος: οι παλαιότερες γραμμές του σε λίγο θα φύγουν από εδώ. "
+    u"Για να τις κρατήσετε, αποθηκεύστε τον διάλογο τώρα (/ΑΠΟΘΉΚΕΥΣΗΔΙΑΛΌΓΟΥΩΣ)."};
 
 constexpr double kStampSize = 7;  // points
 constexpr double kTagSize = 8;
@@ -69,14 +77,12 @@ void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
   if (state_.DateStamp) stamp = date;
   if (state_.TimeStamp) stamp = state_.DateStamp ? both : time;
   const std::u16string tag = TagOf(sender);
-  // Usually one: lines that TCP has joined are shown as one line, all of them.
-  std::vector<richtext::ReadDocument> documents = richtext::ReadRtfDocuments(rtf);
+  // Lines that TCP has joined are shown as one line, all of them.
+  richtext::Document document = richtext::ReadJoinedRtfDocuments(rtf);
   std::u16string logLine;
-  if (log_.IsRecording()) {
-    logLine = u"[" + both + u"]" + tag;
-    for (const richtext::ReadDocument& each : documents) logLine += each.document.text;
-  }
-  AddToPane(stamp, tag, sender, std::move(documents));
+  if (log_.IsRecording()) logLine = u"[" + both + u"]" + tag + document.text;
+  richtext::KeepWithinBudget(document);
+  AddToPane(stamp, tag, sender, std::move(document));
   log_.AppendToLog(std::move(logLine));
 }
 
@@ -92,7 +98,7 @@ Author Dialogue::AuthorOf(Sender sender) const {
 }
 
 void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,
-                         std::vector<richtext::ReadDocument> documents) {
+                         richtext::Document document) {
   RichTextBox& pane = platform_.frmMain.rtbData;
   const RichTextUpdate update(pane);
   GoToEnd(pane);
@@ -104,7 +110,7 @@ void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sen
   } else {
     AddInFormat(pane, tag, kTagSize);
   }
-  for (richtext::ReadDocument& each : documents) pane.SetSelDocument(std::move(each.document));
+  pane.SetSelDocument(std::move(document));
 }
 
 void Dialogue::mnuToolsDate_Click() {
@@ -130,6 +136,19 @@ void Dialogue::SwitchStamp(MenuEntry& entry, bool& stampSwitch, std::u16string_v
 void Dialogue::mnuToolsClearDialogue_Click() {
   errors_.Guard(Procedure::mnuToolsClear_Click, [this] { platform_.frmMain.rtbData.SetText(u""); });
   platform_.frmMain.rtbCommands.SetFocus();
+}
+
+// A note in the pane, for a peer could bring up a box by talking much. It is no part of the
+// conversation: the log does not get it.
+void Dialogue::rtbData_NearlyFull() {
+  errors_.Guard(Procedure::WriteDialogueLine, [this] {
+    RichTextBox& pane = platform_.frmMain.rtbData;
+    const RichTextUpdate update(pane);
+    GoToEnd(pane);
+    pane.SetSelText(u"\r\n");
+    pane.SetSelAuthor(Author::None);
+    AddInFormat(pane, kNearlyFull.In(state_.IsGreek), kTagSize);
+  });
 }
 
 }  // namespace verlume

@@ -3,11 +3,10 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/platform.h"
 #include "records/dialogue_log.h"
-#include "richtext/rtf_documents.h"
+#include "richtext/document.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
 #include "shell/settings.h"
@@ -40,13 +39,16 @@ class Dialogue {
 
   void mnuToolsClearDialogue_Click();
 
+  // The pane is nearly full: says so in the pane, and how the dialogue is saved before lines leave.
+  void rtbData_NearlyFull();
+
  private:
   void ClearFlagOf(Sender sender);
   void WriteLine(std::u16string_view rtf, Sender sender);
   std::u16string TagOf(Sender sender) const;
   Author AuthorOf(Sender sender) const;
   void AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,
-                 std::vector<richtext::ReadDocument> documents);
+                 richtext::Document document);
   void SwitchStamp(MenuEntry& entry, bool& stampSwitch, std::u16string_view key);
 
   AppState& state_;

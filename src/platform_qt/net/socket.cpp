@@ -1,6 +1,7 @@
 #include "platform_qt/net/socket.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QHostInfo>
 #include <QNetworkProxy>
 #include <QPointer>
@@ -24,6 +25,8 @@ constexpr std::chrono::milliseconds kHeldRequestPause{10};
 // What a caller may send before it is accepted, and what Qt reads ahead afterwards.
 constexpr qint64 kReadBuffer = Connection::kReadSize;
 constexpr std::int32_t kLastPort = 65535;
+// How long arrivals are raised before other events are handled.
+constexpr std::chrono::milliseconds kTurn{5};
 
 // The system's own choice lies mostly above what a caller can name.
 bool ListenOnFreePort(QTcpServer& server) {
@@ -221,13 +224,20 @@ void QtSocket::RaiseAcknowledged() {
   if (onAcknowledged) onAcknowledged();
 }
 
+// Those that wait are raised together, for a while: the window is painted once for all of them.
 void QtSocket::DeliverArrival() {
-  if (arrivalsPaused_) return;
-  if (connection_->IsOver()) return EndConnection();
-  auto arrival = connection_->NextArrival();
-  // Posted before the handler runs, which may open a modal box.
-  if (connection_->HasArrival() || connection_->IsOver()) Post(&QtSocket::DeliverArrival);
-  if (arrival) RaiseArrival(std::move(*arrival));
+  const QPointer self(this);
+  const std::uint64_t generation = generation_;
+  QElapsedTimer turn;
+  turn.start();
+  while (self && generation == generation_ && !arrivalsPaused_ && !turn.hasExpired(kTurn.count())) {
+    if (connection_->IsOver()) return EndConnection();
+    auto arrival = connection_->NextArrival();
+    if (!arrival) return;
+    // Posted before the handler runs, which may open a modal box.
+    if (connection_->HasArrival() || connection_->IsOver()) Post(&QtSocket::DeliverArrival);
+    RaiseArrival(std::move(*arrival));
+  }
 }
 
 void QtSocket::ResumeArrivals() {

@@ -47,11 +47,12 @@ QString SafeText(std::u16string_view text, Lines lines) {
 FormattedText::FormattedText(std::u16string_view plain, const QTextCharFormat& format, Lines lines)
     : text(SafeText(plain, lines)), pieces{{text.size(), format}} {}
 
-FormattedText::FormattedText(richtext::Document document, Lines lines)
-    : FormattedText(DocumentParts(std::move(document), lines).Next(std::u16string::npos)) {}
+FormattedText::FormattedText(richtext::Document document, Lines lines, TextFormats* formats)
+    : FormattedText(DocumentParts(std::move(document), lines, formats).Next(std::u16string::npos)) {
+}
 
-DocumentParts::DocumentParts(richtext::Document document, Lines lines)
-    : document_(std::move(document)), lines_(lines) {}
+DocumentParts::DocumentParts(richtext::Document document, Lines lines, TextFormats* formats)
+    : document_(std::move(document)), lines_(lines), boxFormats_(formats) {}
 
 FormattedText DocumentParts::Next(std::size_t units) {
   const std::size_t begin = at_;
@@ -76,9 +77,10 @@ FormattedText DocumentParts::Next(std::size_t units) {
 
 const QTextCharFormat& DocumentParts::FormatOf(const richtext::CharFormat& format) {
   const auto known = formats_.find(format);
-  return known != formats_.end()
-             ? known->second
-             : formats_.emplace(format, ToQt(format, document_.fonts)).first->second;
+  if (known != formats_.end()) return known->second;
+  const QTextCharFormat converted =
+      boxFormats_ ? boxFormats_->Of(format, document_.fonts) : ToQt(format, document_.fonts);
+  return formats_.emplace(format, converted).first->second;
 }
 
 }  // namespace verlume::qt

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform_qt/text/seams.h"
+#include "platform_qt/text/text_formats.h"
 #include "richtext/document.h"
 
 namespace verlume::qt {
@@ -26,7 +27,7 @@ struct FormattedText {
 
   FormattedText() = default;
   FormattedText(std::u16string_view plain, const QTextCharFormat& format, Lines lines);
-  FormattedText(richtext::Document document, Lines lines);
+  FormattedText(richtext::Document document, Lines lines, TextFormats* formats = nullptr);
 
   QString text;
   std::vector<Piece> pieces;
@@ -35,7 +36,8 @@ struct FormattedText {
 // Splits a document into parts, so that a long one need not be converted all at once.
 class DocumentParts {
  public:
-  DocumentParts(richtext::Document document, Lines lines);
+  // `formats` are those of the box, if these are limited; they must outlive this.
+  DocumentParts(richtext::Document document, Lines lines, TextFormats* formats = nullptr);
   // Not copied, since the document may be long.
   DocumentParts(const DocumentParts&) = delete;
   DocumentParts& operator=(const DocumentParts&) = delete;
@@ -53,6 +55,7 @@ class DocumentParts {
   std::size_t at_ = 0;     // position in the text
   std::size_t run_ = 0;    // index of the run at that position
   std::size_t inRun_ = 0;  // how much of that run has been returned
+  TextFormats* const boxFormats_;
   // Each format of a long document is converted once, not for every run that has it.
   std::map<richtext::CharFormat, QTextCharFormat> formats_;
 };

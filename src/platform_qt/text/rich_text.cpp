@@ -3,7 +3,6 @@
 #include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
-#include <unordered_map>
 #include <unordered_set>
 
 #include "platform_qt/convert/text.h"
@@ -74,22 +73,35 @@ std::u16string SelectedText(const QTextCursor& cursor, Lines lines) {
 }
 
 richtext::Document SelectedDocument(const QTextCursor& cursor, int charset, Lines lines) {
-  richtext::Document document;
-  document.text = SelectedText(cursor, lines);
-  std::unordered_map<int, richtext::CharFormat> formats;
-  VisitSelectedPieces(cursor, lines, [&](int index, int begin, int end) {
-    auto known = formats.find(index);
-    if (known == formats.end()) {
-      const QTextCharFormat format = FormatAt(*cursor.document(), index);
-      known = formats.emplace(index, FromQt(format, charset, document.fonts)).first;
+  PartsReader reader(charset, lines);
+  reader.Add(cursor);
+  return reader.Take();
+}
+
+int EndOfPart(const QTextDocument& document, int begin) {
+  constexpr int kBlocks = 128;
+  constexpr int kUnits = 16 * 1024;
+  QTextBlock block = document.findBlock(begin);
+  for (int i = 0; i < kBlocks && block.isValid() && block.position() < begin + kUnits; ++i) {
+    block = block.next();
+  }
+  return block.isValid() ? block.position() : document.characterCount() - 1;
+}
+
+void PartsReader::Add(const QTextCursor& part) {
+  document_.text += SelectedText(part, lines_);
+  VisitSelectedPieces(part, lines_, [&](int index, int begin, int end) {
+    auto known = formats_.find(index);
+    if (known == formats_.end()) {
+      const QTextCharFormat format = FormatAt(*part.document(), index);
+      known = formats_.emplace(index, FromQt(format, charset_, document_.fonts)).first;
     }
-    if (document.runs.empty() || document.runs.back().format != known->second) {
-      document.runs.push_back({0, known->second});
+    if (document_.runs.empty() || document_.runs.back().format != known->second) {
+      document_.runs.push_back({0, known->second});
     }
-    document.runs.back().length += static_cast<std::size_t>(end - begin);
+    document_.runs.back().length += static_cast<std::size_t>(end - begin);
     return true;
   });
-  return document;
 }
 
 SelectionFormat SelectedFormat(const QTextCursor& cursor, Lines lines) {

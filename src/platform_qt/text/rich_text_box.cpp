@@ -1,19 +1,27 @@
 #include "platform_qt/text/rich_text_box.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QTextBlock>
 #include <algorithm>
+#include <future>
 #include <utility>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/system/free_memory.h"
 #include "platform_qt/text/author_margin.h"
 #include "platform_qt/text/open_direction.h"
 #include "platform_qt/text/paragraph_author.h"
 #include "platform_qt/text/readable_text.h"
 #include "platform_qt/text/rich_text_widget.h"
 #include "platform_qt/text/text_format.h"
+#include "platform_qt/text/text_limit.h"
 #include "platform_qt/text/text_loading.h"
+#include "platform_qt/text/text_reading.h"
 #include "platform_qt/text/text_update.h"
 #include "platform_qt/text/text_writing.h"
+#include "platform_qt/text/turn.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 
@@ -26,6 +34,10 @@ namespace {
 constexpr std::size_t kLengthAtOnce = 8 * 1024;
 constexpr std::size_t kLengthOfRun = 8;
 
+// A text so long, in characters, is saved between events; and when it has been removed, its memory
+// goes back to the system.
+constexpr std::size_t kLongText = 64 * 1024;
+
 }  // namespace
 
 using ProgramChange = RichTextWidget::ProgramChange;
@@ -35,9 +47,20 @@ QtRichTextBox::QtRichTextBox(QWidget* parent, FileSystem& files, Lines lines)
 
 QtRichTextBox::QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines)
     : QtControl(widget), view_(widget), files_(files), lines_(lines) {
+  limit_ = std::make_unique<TextLimit>(
+      *widget, TextLimit::Events{.onNearlyFull =
+                                     [this] {
+                                       if (onNearlyFull) onNearlyFull();
+                                     },
+                                 .onTrimmed =
+                                     [this](std::size_t from, std::size_t length) {
+                                       if (onLinesRemoved) onLinesRemoved(from, length);
+                                     }});
   SetLocked(false);
   Clear(DefaultFormat());
   widget->SetEvents(this);
+  memoryReturn_.setSingleShot(true);
+  QObject::connect(&memoryReturn_, &QTimer::timeout, &memoryReturn_, [] { GiveBackFreeMemory(); });
   turnEnd_.setSingleShot(true);
   QObject::connect(&turnEnd_, &QTimer::timeout, &turnEnd_, [this] { inThisTurn_ = 0; });
 }
@@ -47,27 +70,72 @@ QtRichTextBox::~QtRichTextBox() {
 }
 
 std::u16string QtRichTextBox::Text() const {
-  return SelectedText(WholeText(), lines_);
+  WaitForInsertions();
+  QTextCursor cursor(widget_->document());
+  cursor.select(QTextCursor::Document);
+  return SelectedText(cursor, lines_);
 }
 
 std::u16string QtRichTextBox::Rtf() const {
   return richtext::WriteRtf(Content());
 }
 
+// What is written behind it meanwhile is not read.
 richtext::Document QtRichTextBox::Content() const {
-  return SelectedDocument(WholeText(), view_->Charset(), lines_);
+  WaitForInsertions();
+  const TextLimit::Hold hold(*limit_);
+  PartsReader reader(view_->Charset(), lines_);
+  QTextCursor part(widget_->document());
+  const int end = widget_->document()->characterCount() - 1;
+  const auto readTurn = [&] {
+    QElapsedTimer turn;
+    turn.start();
+    while (part.position() < end && !turn.hasExpired(kTurn.count())) {
+      part.setPosition(part.position());
+      part.setPosition(std::min(EndOfPart(*widget_->document(), part.position()), end),
+                       QTextCursor::KeepAnchor);
+      reader.Add(part);
+    }
+    return part.position() >= end;
+  };
+  if (!readTurn()) WaitUntil(readTurn);
+  return reader.Take();
 }
 
-void QtRichTextBox::FinishInsertions() const {
-  if (loading_) loading_->Finish();
-  for (const auto& writing : writings_) writing->Finish();
+void QtRichTextBox::WaitUntil(const std::function<bool()>& condition) const {
+  QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+  while (!condition()) QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  QGuiApplication::restoreOverrideCursor();
 }
 
-QTextCursor QtRichTextBox::WholeText() const {
-  FinishInsertions();
-  QTextCursor cursor(widget_->document());
-  cursor.select(QTextCursor::Document);
-  return cursor;
+// A peer may begin another long line as soon as the one under way is finished: that one is not
+// waited for.
+void QtRichTextBox::WaitForInsertions() const {
+  if (!MoreIsComing()) return;
+  const auto hasFinished = [this, before = finished_] {
+    const bool hasLoaded = !loading_ || loading_->IsDone();
+    return hasLoaded && (!IsInserting() || finished_ != before);
+  };
+  WaitUntil(hasFinished);
+}
+
+bool QtRichTextBox::MoreIsComing() const {
+  return (loading_ && !loading_->IsDone()) || IsInserting();
+}
+
+void QtRichTextBox::ReadInTurns(TextReader read) {
+  reading_.reset();
+  reading_ = std::make_unique<TextReading>(*view_, *limit_, std::move(read));
+}
+
+void QtRichTextBox::DropInsertions() {
+  const bool wasInserting = IsInserting();
+  writings_.clear();
+  if (wasInserting) RaiseIfFinished();
+}
+
+void QtRichTextBox::SetMostParagraphs(std::size_t paragraphs) {
+  limit_->SetMost(paragraphs);
 }
 
 std::size_t QtRichTextBox::TextLength() const {
@@ -98,6 +166,7 @@ void QtRichTextBox::ReplaceAll(FormattedText text) {
     QTextCursor cursor(widget_->document());
     Insert(cursor, std::move(text));
     widget_->document()->clearUndoRedoStacks();
+    limit_->StartBehind(cursor);
   }
   Select(0, 0);
   RaiseChange();
@@ -106,11 +175,14 @@ void QtRichTextBox::ReplaceAll(FormattedText text) {
 void QtRichTextBox::Clear(const QTextCharFormat& format) {
   if (loading_) loading_->Abandon();
   loading_.reset();
-  if (!std::exchange(writings_, {}).empty()) RaiseIfFinished();
+  DropInsertions();
+  if (TextLength() > kLongText) memoryReturn_.start(kPauseBetweenTurns);
   const ProgramChange change(*view_);
   widget_->document()->clear();
+  formats_.Clear();
   QTextCursor cursor(widget_->document());
   KeepFormatIfEmpty(cursor, format);
+  limit_->StartBehind(cursor);
 }
 
 QTextCursor QtRichTextBox::Cursor() const {
@@ -195,6 +267,7 @@ void QtRichTextBox::SetSelText(std::u16string_view text) {
   QTextCursor cursor = Cursor();
   InsertText(cursor, text, lines_);
   SetCursor(cursor);
+  limit_->Check();
   RaiseChange();
 }
 
@@ -203,11 +276,12 @@ void QtRichTextBox::SetSelDocument(richtext::Document document) {
   if (FitsIntoThisTurn(document)) {
     QTextCursor cursor = Cursor();
     if (Locked() && !cursor.hasSelection()) EndDirection(cursor);
-    InsertDocument(cursor, std::move(document), lines_);
+    InsertDocument(cursor, std::move(document), lines_, &formats_);
     SetCursor(cursor);
   } else {
     WriteInTurns(std::move(document));
   }
+  limit_->Check();
   RaiseChange();
 }
 
@@ -254,7 +328,8 @@ void QtRichTextBox::WriteInTurns(richtext::Document document) {
   });
   if (same != writings_.end()) return (*same)->Add(std::move(document));
   const bool wasInserting = IsInserting();
-  writings_.push_back(std::make_unique<TextWriting>(*view_, cursor, [this] { RaiseIfFinished(); }));
+  writings_.push_back(
+      std::make_unique<TextWriting>(*view_, cursor, formats_, [this] { RaiseIfFinished(); }));
   writings_.back()->Add(std::move(document));
   if (!wasInserting && onInsertionStarted) onInsertionStarted();
 }
@@ -265,7 +340,10 @@ bool QtRichTextBox::IsInserting() const {
 }
 
 void QtRichTextBox::RaiseIfFinished() {
-  if (!IsInserting() && onInsertionFinished) onInsertionFinished();
+  limit_->Check();
+  if (IsInserting()) return;
+  ++finished_;
+  if (onInsertionFinished) onInsertionFinished();
 }
 
 void QtRichTextBox::SetFontCharset(int charset) {
@@ -280,21 +358,35 @@ void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
   SetSelAuthor(Author::File);
   loading_ = std::make_unique<TextLoading>(*view_, QTextCursor(widget_->document()),
                                            std::move(text), [this](int percent) {
+                                             if (percent == 100) NoteLoaded();
                                              if (onLoadProgress) onLoadProgress(percent);
                                            });
+  whileLoading_ = std::make_unique<TextLimit::Hold>(*limit_);
+  if (loading_->IsDone()) NoteLoaded();
   // A text that the user can change must be complete.
-  if (!Locked()) FinishInsertions();
+  if (!Locked()) WaitForInsertions();
   Select(0, 0);
   RaiseChange();
 }
 
+void QtRichTextBox::NoteLoaded() {
+  limit_->StartBehind(loading_->cursor());
+  whileLoading_.reset();
+}
+
 void QtRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) const {
-  const bool isPlain = format == TextFileFormat::PlainText;
-  files_.ReplaceText(path, isPlain ? Text() : richtext::WriteRtfFile(Content()));
+  const auto write = [this, path, format, content = Content()] {
+    const bool isPlain = format == TextFileFormat::PlainText;
+    files_.ReplaceText(path, isPlain ? content.text : richtext::WriteRtfFile(content));
+  };
+  if (TextLength() <= kLongText) return write();
+  std::future<void> written = std::async(std::launch::async, write);
+  WaitUntil([&] { return written.wait_for(kPauseBetweenTurns) == std::future_status::ready; });
+  written.get();
 }
 
 void QtRichTextBox::SetLocked(bool locked) {
-  if (!locked) FinishInsertions();
+  if (!locked) WaitForInsertions();
   widget_->setReadOnly(locked);
   if (locked) {
     // The user can also select, copy and scroll with the keyboard.

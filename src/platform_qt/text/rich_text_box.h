@@ -15,12 +15,14 @@
 #include "platform_qt/controls/control.h"
 #include "platform_qt/text/rich_text.h"
 #include "platform_qt/text/text_insertion.h"
+#include "platform_qt/text/text_limit.h"
 
 namespace verlume::qt {
 
 class AuthorMargin;
 class RichTextWidget;
 class TextLoading;
+class TextReading;
 class TextUpdate;
 class TextWriting;
 
@@ -41,6 +43,7 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   std::u16string ToolTip() const override { return toolTip_; }
   std::u16string Text() const override;
   std::size_t TextLength() const override;
+  void ReadInTurns(TextReader read) override;
   void SetText(std::u16string_view text) override;
   std::u16string Rtf() const override;
   void SetRtf(std::u16string_view rtf) override;
@@ -54,6 +57,9 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   void SetSelAuthor(Author author) override;
   Author SelAuthor() const override;
   void SetAuthorWords(Author author, std::u16string_view words) override;
+  bool MoreIsComing() const override;
+  void DropInsertions() override;
+  void SetMostParagraphs(std::size_t paragraphs) override;
   void BeginUpdate() override;
   void EndUpdate() override;
   void SetFontCharset(int charset) override;
@@ -76,12 +82,13 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   void WriteInTurns(richtext::Document document);
   void RaiseIfFinished();
   richtext::Document Content() const;
+  // Handles timer and socket events until the condition holds.
+  void WaitUntil(const std::function<bool()>& condition) const;
   // Text that is inserted afterwards has this format, until another is set.
   void Clear(const QTextCharFormat& format);
   void ReplaceAll(FormattedText text);
-  // Selects the whole text, after the insertions under way have been finished.
-  QTextCursor WholeText() const;
-  void FinishInsertions() const;
+  void WaitForInsertions() const;
+  void NoteLoaded();
   // Convert between positions in the text and in the document: they differ behind a seam.
   std::size_t TextPosition(int position) const;
   int DocumentPosition(std::size_t position) const;
@@ -93,12 +100,18 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   Lines lines_;
   std::u16string tag_;
   std::u16string toolTip_;
-  AuthorMargin* margin_ = nullptr;                      // belongs to the widget
+  AuthorMargin* margin_ = nullptr;  // belongs to the widget
+  TextFormats formats_;             // of the documents that are written
+  std::unique_ptr<TextLimit> limit_;
+  std::unique_ptr<TextLimit::Hold> whileLoading_;
+  std::unique_ptr<TextReading> reading_;                // the last one, even when it is done
   std::unique_ptr<TextLoading> loading_;                // the last one, even when it is done
   std::vector<std::unique_ptr<TextWriting>> writings_;  // in no order; some may be done
   std::unique_ptr<TextUpdate> update_;                  // null between updates
   std::size_t inThisTurn_ = 0;  // written since events were last handled, as kLengthAtOnce counts
   QTimer turnEnd_;
+  int finished_ = 0;  // how often onInsertionFinished was due
+  QTimer memoryReturn_;
 };
 
 }  // namespace verlume::qt

@@ -30,17 +30,37 @@ Color ColorOf(const QTextCharFormat& format) {
 // computer.
 constexpr int kFontName = QTextFormat::UserProperty;
 
+// A family name without the foundry that Qt accepts in brackets behind it.
+QString PlainFamily(const QString& name) {
+  return name.left(name.indexOf(u'[')).simplified();
+}
+
+// The families of this computer, by their plain names in one case.
+const QHash<QString, QString>& InstalledFamilies() {
+  static const QHash<QString, QString> installed = [] {
+    QHash<QString, QString> families;
+    for (const QString& family : QFontDatabase::families()) {
+      const QString plain = PlainFamily(family);
+      families.insert(plain.toCaseFolded(), plain);
+    }
+    return families;
+  }();
+  return installed;
+}
+
 // Looking for a font that is not installed takes milliseconds for each of its sizes and styles, and
-// a peer may name any number of such fonts. So each name is looked up once, and beyond a certain
-// number of names missing fonts are shown in the default font.
+// a peer may name any number of such fonts. So each name is looked up once, however it is spelled,
+// and beyond a certain number of names missing fonts are shown in the default font.
 QString FamilyToShow(const QString& name) {
   constexpr qsizetype kMostNames = 64;
-  static QHash<QString, QString> known;
-  const auto found = known.constFind(name);
-  if (found != known.constEnd()) return *found;
-  const QString own = ToQt(kDefaultFontName);
-  if (known.size() >= kMostNames && !QFontDatabase::hasFamily(name)) return own;
-  return *known.insert(name, QFontInfo(QFont(name)).family());
+  static QHash<QString, QString> lookedUp;
+  const QString plain = PlainFamily(name).toCaseFolded();
+  const auto installed = InstalledFamilies().constFind(plain);
+  if (installed != InstalledFamilies().constEnd()) return *installed;
+  const auto known = lookedUp.constFind(plain);
+  if (known != lookedUp.constEnd()) return *known;
+  if (lookedUp.size() >= kMostNames) return ToQt(kDefaultFontName);
+  return *lookedUp.insert(plain, QFontInfo(QFont(plain)).family());
 }
 
 std::u16string FontNameOf(const QTextCharFormat& format) {

@@ -147,9 +147,10 @@ void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines) {
   KeepFormatIfEmpty(cursor, format);
 }
 
-void InsertDocument(QTextCursor& cursor, richtext::Document document, Lines lines) {
+void InsertDocument(QTextCursor& cursor, richtext::Document document, Lines lines,
+                    TextFormats* formats) {
   const QTextCharFormat before = FormatOfFirst(cursor);
-  Insert(cursor, FormattedText(std::move(document), lines));
+  Insert(cursor, FormattedText(std::move(document), lines, formats));
   KeepFormatIfEmpty(cursor, before);
 }
 

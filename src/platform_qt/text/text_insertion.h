@@ -48,6 +48,7 @@ class TextInsertion {
 // These replace the cursor's selection and leave the cursor behind the new text.
 void Insert(QTextCursor& cursor, FormattedText text);
 void InsertText(QTextCursor& cursor, std::u16string_view text, Lines lines);
-void InsertDocument(QTextCursor& cursor, richtext::Document document, Lines lines);
+void InsertDocument(QTextCursor& cursor, richtext::Document document, Lines lines,
+                    TextFormats* formats = nullptr);
 
 }  // namespace verlume::qt

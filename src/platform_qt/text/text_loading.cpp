@@ -27,11 +27,6 @@ TextLoading::TextLoading(RichTextWidget& widget, const QTextCursor& cursor, Form
   nextTurn_.start(kPauseBetweenTurns);
 }
 
-void TextLoading::Finish() {
-  if (!insertion_.IsDone()) InsertNext(insertion_.UnitsLeft());
-  Abandon();
-}
-
 void TextLoading::Abandon() {
   nextTurn_.stop();
   ReportProgress(kAll);

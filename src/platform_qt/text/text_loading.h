@@ -17,8 +17,9 @@ class TextLoading {
   TextLoading(RichTextWidget& widget, const QTextCursor& cursor, FormattedText text,
               std::function<void(int percent)> onProgress);
 
-  // Inserts all that is left.
-  void Finish();
+  bool IsDone() const { return insertion_.IsDone(); }
+  // Behind what has been inserted.
+  const QTextCursor& cursor() const { return insertion_.cursor(); }
   // Stops, and reports 100 although text is left.
   void Abandon();
 

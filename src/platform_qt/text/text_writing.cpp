@@ -18,9 +18,10 @@ constexpr std::chrono::milliseconds kStepTime{1};
 
 }  // namespace
 
-TextWriting::TextWriting(RichTextWidget& widget, const QTextCursor& cursor,
+TextWriting::TextWriting(RichTextWidget& widget, const QTextCursor& cursor, TextFormats& formats,
                          std::function<void()> onDone)
     : widget_(widget),
+      formats_(formats),
       insertion_(cursor, FormattedText()),
       before_(FormatOfFirst(cursor)),
       onDone_(std::move(onDone)) {
@@ -28,12 +29,8 @@ TextWriting::TextWriting(RichTextWidget& widget, const QTextCursor& cursor,
 }
 
 void TextWriting::Add(richtext::Document document) {
-  waiting_.emplace_back(std::move(document), widget_.lines());
+  waiting_.emplace_back(std::move(document), widget_.lines(), &formats_);
   nextTurn_.start(kPauseBetweenTurns);
-}
-
-void TextWriting::Finish() {
-  while (!IsDone()) InsertStep();
 }
 
 void TextWriting::RunTurn() {

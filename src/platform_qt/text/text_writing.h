@@ -14,17 +14,17 @@ namespace verlume::qt {
 
 class TextWriting {
  public:
-  // Writes at the cursor, whose selection is replaced. `onDone` is called from the event loop when
-  // everything has been inserted. When this object is destroyed, what is left is not inserted.
-  TextWriting(RichTextWidget& widget, const QTextCursor& cursor, std::function<void()> onDone);
+  // Writes at the cursor, whose selection is replaced, in these formats. `onDone` is called from
+  // the event loop when everything has been inserted. When this object is destroyed, what is left
+  // is not inserted.
+  TextWriting(RichTextWidget& widget, const QTextCursor& cursor, TextFormats& formats,
+              std::function<void()> onDone);
 
   // Adds a document behind what is left.
   void Add(richtext::Document document);
   // Whether text inserted at the position would stand directly behind all of this.
   bool EndsAt(int position) const { return insertion_.cursor().position() == position; }
   bool IsDone() const { return waiting_.empty() && insertion_.IsDone(); }
-  // Inserts all that is left.
-  void Finish();
 
  private:
   void RunTurn();
@@ -32,6 +32,7 @@ class TextWriting {
   void TakeNextPart();
 
   RichTextWidget& widget_;
+  TextFormats& formats_;
   TextInsertion insertion_;            // of the current part
   const QTextCharFormat before_;       // the format before; an empty text keeps it
   std::deque<DocumentParts> waiting_;  // the first one may be partly inserted

@@ -183,6 +183,7 @@ void Program::BindMenus() {
 
 void Program::BindPanes() {
   MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.rtbData.onNearlyFull, dialogue_, &Dialogue::rtbData_NearlyFull);
   On(frmMain.rtbData.onLoadProgress, dialogueFiles_, &DialogueFiles::rtbData_LoadProgress);
   On(frmMain.rtbCommands.onKeyPress, interpreter_, &CommandInterpreter::rtbCommands_KeyPress);
   frmMain.rtbCommands.onKeyDown = [this](int& keyCode, int shift) {
@@ -206,6 +207,7 @@ void Program::BindFindBar() {
   On(bar.cmdFindPrevious.onClick, find_, &FindInDialogue::cmdFindPrevious_Click);
   On(bar.cmdFindNext.onClick, find_, &FindInDialogue::cmdFindNext_Click);
   On(bar.cmdFindClose.onClick, find_, &FindInDialogue::cmdFindClose_Click);
+  On(platform_.frmMain.rtbData.onLinesRemoved, find_, &FindInDialogue::rtbData_LinesRemoved);
 }
 
 void Program::BindSocket() {

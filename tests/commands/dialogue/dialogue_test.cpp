@@ -374,5 +374,28 @@ TEST_F(DialogueTest, LineLeavesTheFocusWithWhoeverTypesIntoTheFindBar) {
   EXPECT_EQ(commands.timesFocused, 1);
 }
 
+TEST_F(DialogueTest, ANearlyFullPaneSaysHowToSaveItAndTheLogDoesNot) {
+  Write(u"hello");
+  const std::string logBefore = Log();
+  dialogue.rtbData_NearlyFull();
+  EXPECT_TRUE(pane.Text().starts_with(u"<Bob>hello\n***** The dialogue is very long"));
+  EXPECT_NE(pane.Text().find(u"/SAVEDIALOGUEAS"), std::u16string::npos);
+  state.IsGreek = true;
+  dialogue.rtbData_NearlyFull();
+  EXPECT_NE(pane.Text().find(u"/ΑΠΟΘΉΚΕΥΣΗΔΙΑΛΌΓΟΥΩΣ"), std::u16string::npos);
+  EXPECT_EQ(Log(), logBefore);
+  EXPECT_THAT(fake.dialogs.messages, IsEmpty());
+}
+
+TEST_F(DialogueTest, ALineKeepsWithinTheBudgetOfLooks) {
+  std::u16string rtf = u"{\\rtf1 ";
+  for (int i = 0; i < 50'000; ++i) rtf += u"\\b a\\b0 b";
+  dialogue.WriteDialogueLine(rtf + u"}", Sender::Local, CommandPane::Keep);
+  EXPECT_EQ(pane.Text().size(), 5u + 100'000u);
+  EXPECT_EQ(FormatAt(pane.TextLength() - 3, 2).bold, FormatAt(pane.TextLength() - 2, 2).bold);
+  EXPECT_EQ(FormatAt(5, 1).bold, true);
+  EXPECT_EQ(FormatAt(6, 1).bold, false);
+}
+
 }  // namespace
 }  // namespace verlume

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontDatabase>
 #include <QFontInfo>
 #include <string>
 
@@ -32,6 +33,16 @@ TEST(QtTextFormat, AMissingFontIsShownInAnother) {
 TEST(QtTextFormat, AFontWithoutANameIsTheDefaultFont) {
   EXPECT_EQ(FromQt(InFont(u"")).fontName, kDefaultFontName);
   EXPECT_EQ(FromQt(QTextCharFormat()).fontName, kDefaultFontName);
+}
+
+TEST(QtTextFormat, AnInstalledFontIsFoundHoweverItIsSpelled) {
+  const QString family = QFontDatabase::families().first();
+  const QString plain = family.left(family.indexOf(u'[')).trimmed();
+  for (const QString& name : {plain, plain.toUpper(), plain + " [no such foundry]"}) {
+    const QTextCharFormat format = InFont(FromQt(name));
+    EXPECT_EQ(FromQt(format).fontName, FromQt(name));
+    EXPECT_EQ(format.fontFamilies().toStringList().value(0), plain);
+  }
 }
 
 TEST(QtTextFormat, ThousandsOfMissingFontsKeepTheirNamesAndAreShownInFewFonts) {

@@ -71,15 +71,16 @@ TEST_F(QtTextLoadingTest, AShortFileIsInsertedAtOnceWithoutProgress) {
   EXPECT_THAT(told, IsEmpty());
 }
 
-TEST_F(QtTextLoadingTest, ReadingTheTextInsertsTheRestFirst) {
+TEST_F(QtTextLoadingTest, ReadingTheTextWaitsForTheRest) {
   Load(u"/long.txt");
   EXPECT_TRUE(box.Text() == longText);
-  EXPECT_THAT(told, testing::ElementsAre(100));
+  EXPECT_EQ(told.back(), 100);
+  const std::size_t before = told.size();
   QCoreApplication::processEvents();
-  EXPECT_EQ(told.size(), 1u);
+  EXPECT_EQ(told.size(), before);
 }
 
-TEST_F(QtTextLoadingTest, SavingTheTextInsertsTheRestFirst) {
+TEST_F(QtTextLoadingTest, SavingTheTextWaitsForTheRest) {
   Load(u"/long.txt");
   box.SaveFile(u"/copy.txt", TextFileFormat::PlainText);
   EXPECT_TRUE(files.ReadText(u"/copy.txt") == longText);

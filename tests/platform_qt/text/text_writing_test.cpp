@@ -6,6 +6,7 @@
 #include <QTest>
 #include <memory>
 
+#include "platform/run_time_failure.h"
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/text/rich_text_box.h"
 #include "richtext/rtf_reader.h"
@@ -106,7 +107,7 @@ TEST_F(QtTextWritingTest, ManyShortTextsAreInsertedBetweenEventsToo) {
   EXPECT_FALSE(box.IsInserting()) << "events have been handled since";
 }
 
-TEST_F(QtTextWritingTest, ReadingTheTextInsertsTheRestFirst) {
+TEST_F(QtTextWritingTest, ReadingTheTextWaitsForTheRest) {
   Write(longRtf);
   EXPECT_TRUE(box.Text() == longText);
   EXPECT_FALSE(box.IsInserting());
@@ -123,6 +124,50 @@ TEST_F(QtTextWritingTest, AnotherTextDropsTheRest) {
   EXPECT_EQ(finished, 1);
   QCoreApplication::processEvents();
   EXPECT_EQ(box.Text(), u"other");
+}
+
+TEST_F(QtTextWritingTest, TheRestCanBeDropped) {
+  Write(longRtf);
+  box.DropInsertions();
+  EXPECT_FALSE(box.MoreIsComing());
+  EXPECT_EQ(finished, 1);
+  const std::u16string shown = box.Text();
+  EXPECT_TRUE(longText.starts_with(shown));
+  Write(u"{\\rtf1 next}");
+  EXPECT_TRUE(box.Text() == shown + u"next");
+  const int before = finished;
+  box.DropInsertions();
+  EXPECT_EQ(finished, before) << "there was nothing to drop";
+}
+
+TEST_F(QtTextWritingTest, EventsAreHandledWhileItIsWaitedFor) {
+  int handled = 0;
+  QTimer other;
+  QObject::connect(&other, &QTimer::timeout, &other, [&] { ++handled; });
+  other.start(0);
+  Write(longRtf);
+  EXPECT_TRUE(box.Text() == longText);
+  EXPECT_GT(handled, 1);
+  handled = 0;
+  box.SaveFile(u"/copy.rtf", TextFileFormat::RichText);
+  EXPECT_GT(handled, 1);
+  EXPECT_TRUE(richtext::ReadRtf(files.ReadBytes(u"/copy.rtf")).text == longText);
+}
+
+// A peer may go on for ever.
+TEST_F(QtTextWritingTest, TextThatBeginsMeanwhileIsNotWaitedFor) {
+  box.onInsertionFinished = [this] {
+    ++finished;
+    Write(longRtf);
+  };
+  Write(longRtf);
+  EXPECT_TRUE(box.Text().starts_with(longText));
+  EXPECT_EQ(finished, 1);
+}
+
+TEST_F(QtTextWritingTest, AFailureToSaveALongTextIsThrown) {
+  box.SetText(longText);
+  EXPECT_THROW(box.SaveFile(u"/no such folder/copy.rtf", TextFileFormat::RichText), RunTimeFailure);
 }
 
 TEST_F(QtTextWritingTest, AnUnlockedBoxInsertsEverythingAtOnce) {
