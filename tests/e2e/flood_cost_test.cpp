@@ -98,6 +98,15 @@ TEST_F(FloodCost, ClosingDropsWhatIsStillToBeShown) {
   });
 }
 
+// More paragraphs than the pane keeps: the oldest leave while new ones come.
+TEST_F(FloodCost, MoreParagraphsThanThePaneKeeps) {
+  constexpr double kMostPerParagraph = 1024;
+  constexpr double kParagraphsKept = 200'000;
+  const std::string paragraphs = Document(Repeat(R"(x\par )", 6 * 49'000 / kShare));
+  for (int i = 0; i < 6; ++i) SendAndWatch(paragraphs);
+  EXPECT_LT(Growth(), kMostKept + kMostPerParagraph * kParagraphsKept);
+}
+
 // All that had come is shown and logged, and takes no longer.
 TEST_F(FloodCost, AClosingPeerIsShownToItsEnd) {
   Watch([&] {
