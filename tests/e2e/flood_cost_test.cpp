@@ -1,5 +1,7 @@
 // Content that is made to cost more than it should: time of the window, and memory.
 #include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
 #include <future>
 #include <iostream>
 
@@ -95,6 +97,35 @@ TEST_F(FloodCost, ClosingDropsWhatIsStillToBeShown) {
     EXPECT_LT(BusyTime() - busyBefore, 200 * kSlowness);
     peer.Close();
     sent.get();
+  });
+}
+
+// More paragraphs than the pane keeps: the oldest leave while new ones come.
+TEST_F(FloodCost, MoreParagraphsThanThePaneKeeps) {
+  constexpr double kMostPerParagraph = 1024;
+  constexpr double kParagraphsKept = 200'000;
+  const std::string paragraphs = Document(Repeat(R"(x\par )", 6 * 49'000 / kShare));
+  for (int i = 0; i < 6; ++i) SendAndWatch(paragraphs);
+  EXPECT_LT(Growth(), kMostKept + kMostPerParagraph * kParagraphsKept);
+}
+
+// Saving waits for the rest of the line, and the window answers meanwhile.
+TEST_F(FloodCost, SavingWhileALongLineComesIn) {
+  SendAndWatch(Document(Repeat(R"(\b some \b0 words \par )", kFlood)));
+  SendAndWatch(Repeat("some words ", 4 * kFlood));
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("saved.rtf");
+  copy.TypeLine("/SAVEDIALOGUEAS");
+  ASSERT_TRUE(copy.AnswerBox("Save dialogue as", "Return"));
+  ASSERT_TRUE(copy.TypeInto("Save dialogue as RTF", path));
+  Watch([&] {
+    auto sent = std::async(std::launch::async, [&] {
+      return peer.Send(Document(Repeat(R"(\b a\b0 b)", kFlood - 100)));
+    });
+    EXPECT_TRUE(WaitUntil([&] { return copy.Log("Eve").contains("abab"); }));
+    copy.PressKeys("Return");
+    EXPECT_TRUE(WaitUntil([&] { return QFile::exists(path); }));
+    EXPECT_TRUE(sent.get());
   });
 }
 
