@@ -4,8 +4,10 @@
 
 #include <QScrollBar>
 #include <QTest>
+#include <vector>
 
 #include "platform_fake/fake_file_system.h"
+#include "platform_qt/text/paragraph_author.h"
 #include "platform_qt/text/rich_text_box.h"
 #include "richtext/rtf_reader.h"
 
@@ -125,6 +127,24 @@ TEST_F(QtTextLimitTest, WhatTheUserLoadsStaysAndIsNotCounted) {
   EXPECT_TRUE(text.starts_with(loaded + u"\n<"));
   EXPECT_EQ(text.find(LineText(1) + u"\n"), text.npos);
   EXPECT_TRUE(text.ends_with(LineText(last)));
+}
+
+TEST_F(QtTextLimitTest, EveryLineThatStaysKeepsItsAuthor) {
+  const auto authorOf = [](int number) { return number % 7 < 3 ? Author::User : Author::Peer; };
+  for (int number = 1; number <= kMost + 1; ++number) {
+    WriteLines(1);
+    box.SetSelAuthor(authorOf(number));
+  }
+  ASSERT_TRUE(HasTrimmed());
+  HandleEvents();
+  int number = last - Lines() + 1;
+  std::vector<int> wrong;
+  for (QTextBlock block = box.widget()->document()->begin(); block.isValid();
+       block = block.next()) {
+    if (AuthorOf(block) != authorOf(number)) wrong.push_back(number);
+    ++number;
+  }
+  EXPECT_EQ(wrong, std::vector<int>{});
 }
 
 TEST_F(QtTextLimitTest, WhatTheUserLooksAtStaysInItsPlace) {
