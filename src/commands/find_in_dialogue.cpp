@@ -67,7 +67,7 @@ void FindInDialogue::Search(Step step) {
                     [this](const TextMatch& match) { NotePlace(match); });
   if (search.IsEmpty()) return ShowNothing(u"");
   const std::size_t from = step == Step::Next && hasMatch_ ? position_ + 1 : position_;
-  running_.emplace(std::move(search), step, from, Places());
+  running_.emplace(Running{std::move(search), step, from, Places()});
   platform_.frmMain.rtbData.ReadInTurns(
       [this](std::size_t position, std::u16string_view piece, bool isLast) {
         errors_.Guard(Procedure::FindInDialogue, [&] { TakePiece(position, piece, isLast); });
