@@ -6,7 +6,9 @@ FakeMainWindow::FakeMainWindow(FakeFileSystem& files)
     : rtbData(files),
       rtbCommands(files, FakeRichTextBox::Lines::Single),
       rtbRemote(files),
-      frmMain(MainWindowOf(*this)) {}
+      frmMain(MainWindowOf(*this)) {
+  fraPanel.visible = true;
+}
 
 FakeMainWindow::~FakeMainWindow() = default;
 

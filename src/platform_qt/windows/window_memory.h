@@ -1,27 +1,32 @@
-// The main window's last place, size and maximised state, kept in a file of its own. If the file
-// cannot be read or written, nothing happens.
+// The main window's last place, size and maximised state, and how it shows what is in it, kept in a
+// file of its own. If the file cannot be read or written, nothing happens.
 #pragma once
 
 #include <QObject>
 #include <QString>
 #include <QWidget>
 
+#include "platform/main_window.h"
+
 namespace verlume::qt {
 
 class QtWindowMemory : public QObject {
  public:
   // Puts the form where the file says, on a screen that exists; does nothing without such a file.
-  // Writes the file when the form is hidden.
-  QtWindowMemory(QWidget* form, const QString& file);
+  // Writes the file when the form is hidden. `view` is the form's, and outlives it.
+  QtWindowMemory(QWidget* form, const MainWindow& view, const QString& file);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void Restore();
+  void RestoreView(const QByteArray& view);
   void Keep();
+  QByteArray View() const;
 
   QWidget* form_;
+  const MainWindow& view_;
   QString file_;
 };
 

@@ -64,10 +64,10 @@ TEST_F(HelpBookTest, NothingFromOutsideComesIntoATopic) {
 
 TEST_F(HelpBookTest, AControlHasItsParagraphUnderEachOfItsNames) {
   const HelpBook book = SmallBook(false);
-  const HelpControl* control = book.Control("lblLocalIPCaption");
+  const HelpControl* control = book.Control("lblLocalNicknameCaption");
   ASSERT_NE(control, nullptr);
-  EXPECT_EQ(control, book.Control("lblLocalIP"));
-  EXPECT_EQ(control->names, QStringList({"lblLocalIP", "lblLocalIPCaption"}));
+  EXPECT_EQ(control, book.Control("lblLocalNickname"));
+  EXPECT_EQ(control->names, QStringList({"lblLocalNickname", "lblLocalNicknameCaption"}));
   EXPECT_EQ(control->topicId, "panel");
   EXPECT_TRUE(control->html.startsWith("<p><b>Local"));
   EXPECT_TRUE(control->html.endsWith("</b></p><p>The address of this computer.</p>"));

@@ -53,7 +53,7 @@ TEST_F(QtHelpContextTest, ControlsAreExplainedInTheLanguageInForce) {
   EXPECT_TRUE(Named("lblStatus")->whatsThis().contains("The status line"));
   SetLanguage(true);
   EXPECT_TRUE(Named("lblStatus")->whatsThis().contains("Η γραμμή κατάστασης"));
-  EXPECT_EQ(Named("lblLocalIP")->whatsThis(), Named("lblLocalIPCaption")->whatsThis());
+  EXPECT_EQ(Named("lblLocalNickname")->whatsThis(), Named("lblLocalNicknameCaption")->whatsThis());
 }
 
 TEST_F(QtHelpContextTest, MenusAndTheirEntriesAreExplained) {
@@ -67,7 +67,7 @@ TEST_F(QtHelpContextTest, MenusAndTheirEntriesAreExplained) {
 
 TEST_F(QtHelpContextTest, WhatTheBookDoesNotExplainHasNoText) {
   SetLanguage(false);
-  EXPECT_EQ(Named("fraLocal")->whatsThis(), "");
+  EXPECT_EQ(Named("fraPanel")->whatsThis(), "");
 }
 
 TEST_F(QtHelpContextTest, AWindowMadeLaterIsExplainedWhenItIsShown) {
