@@ -33,7 +33,7 @@ void FuzzedCopy::StartAgain(std::string_view settings) {
   if (isChanged) return Start(settings);
   platform.files.files[std::u16string(kSettingsPath)] = writtenByStart_;
   const_cast<AppState&>(program.State()) = *started_;
-  platform.window.rtbData.SetText(u"");
+  // In the style that the program has started with.
   platform.window.rtbCommands.SetText(u"");
 }
 
@@ -44,6 +44,10 @@ void FuzzedCopy::Clean() {
   platform.socket.Close();
   platform.socket.ResumeArrivals();
   network.RunUntilIdle();
+  for (RichTextBox* pane : {&platform.window.rtbData, &platform.window.rtbCommands}) {
+    pane->SetText(u"");
+    pane->SetSelFormat(newPane_);
+  }
   platform.socket.sent.clear();
   peer.sent.clear();
   platform.files.files.clear();
@@ -75,8 +79,11 @@ void FuzzedCopy::Start(std::string_view settings) {
   platform.files.files[std::u16string(kSettingsPath)] = settings;
   program.Start();
   if (!HasEnded()) platform.window.freeSizer1.onPostLayout();
+  const std::string& written = platform.files.files[std::u16string(kSettingsPath)];
+  const bool isAlike = !started_ || settings != settings_ || written == writtenByStart_;
+  Check(isAlike, "a start is like the one before, whatever was done in between");
   settings_ = settings;
-  writtenByStart_ = platform.files.files[std::u16string(kSettingsPath)];
+  writtenByStart_ = written;
   started_ = program.State();
 }
 
