@@ -62,7 +62,7 @@ Costs::~Costs() {
 
 void Costs::CheckHeap() const {
   if (bytes_ < kSmallest) return;
-  const double limit = kFactor * (kHeapOfAny + Limit(limits_.heapBytes));
+  const double limit = kFactor * (limits_.heapOfAny + Limit(limits_.heapBytes));
   const double used = HeapBytes() - heapBefore_;
   if (used > limit) std::fprintf(stderr, "%.0f bytes, limit %.0f bytes\n", used, limit);
   Check(used <= limit, "no input takes much memory");

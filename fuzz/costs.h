@@ -5,18 +5,18 @@
 
 namespace verlume::fuzz {
 
-// For each byte of the input. Every input may cost kTimeOfAny and kHeapOfAny besides. Under
+// For each byte of the input. Every input may cost kTimeOfAny and `heapOfAny` besides. Under
 // AddressSanitizer the limits are ten times as high.
 struct CostLimits {
   double nanoseconds;
   double heapBytes;
+  // A font that is used for the first time takes megabytes.
+  double heapOfAny = 16 << 20;
 };
 
 class Costs {
  public:
   static constexpr double kTimeOfAny = 1e9;  // nanoseconds
-  // A font that is used for the first time takes megabytes.
-  static constexpr double kHeapOfAny = 16 << 20;
 
   Costs(std::size_t bytes, CostLimits limits);
   // Fails the run when the input has taken too much time.

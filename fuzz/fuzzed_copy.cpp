@@ -14,6 +14,13 @@ namespace {
 constexpr std::int32_t kPort = 4000;
 constexpr std::u16string_view kSettingsPath = u"/verlume/Verlume.ini";
 
+// The settings without the style of what is typed: nearly every macro that is run changes it.
+std::string WithoutStyle(std::string file) {
+  const std::size_t start = std::min(file.find("\n[FontLocal]"), file.size());
+  const std::size_t next = file.find("\n[", start + 1);
+  return file.erase(start, next == file.npos ? file.npos : next - start);
+}
+
 }  // namespace
 
 FuzzedCopy::FuzzedCopy(std::string_view settings) {
@@ -28,13 +35,16 @@ FuzzedCopy::FuzzedCopy(std::string_view settings) {
 void FuzzedCopy::StartAgain(std::string_view settings) {
   const std::string& file = platform.files.files[std::u16string(kSettingsPath)];
   // Whatever changes for good is written into the settings file.
-  const bool isChanged = HasEnded() || file != writtenByStart_ || settings != settings_;
+  const bool isStyleChanged = file != writtenByStart_;
+  const bool isChanged = HasEnded() || settings != settings_ ||
+                         (isStyleChanged && WithoutStyle(file) != WithoutStyle(writtenByStart_));
   Clean();
   if (isChanged) return Start(settings);
   platform.files.files[std::u16string(kSettingsPath)] = writtenByStart_;
   const_cast<AppState&>(program.State()) = *started_;
-  platform.window.rtbData.SetText(u"");
+  // In the style that the program has started with.
   platform.window.rtbCommands.SetText(u"");
+  if (isStyleChanged) platform.window.freeSizer1.onPostLayout();
 }
 
 // What the program does not set when it starts.
@@ -44,6 +54,10 @@ void FuzzedCopy::Clean() {
   platform.socket.Close();
   platform.socket.ResumeArrivals();
   network.RunUntilIdle();
+  for (RichTextBox* pane : {&platform.window.rtbData, &platform.window.rtbCommands}) {
+    pane->SetText(u"");
+    pane->SetSelFormat(newPane_);
+  }
   platform.socket.sent.clear();
   peer.sent.clear();
   platform.files.files.clear();
@@ -75,8 +89,11 @@ void FuzzedCopy::Start(std::string_view settings) {
   platform.files.files[std::u16string(kSettingsPath)] = settings;
   program.Start();
   if (!HasEnded()) platform.window.freeSizer1.onPostLayout();
+  const std::string& written = platform.files.files[std::u16string(kSettingsPath)];
+  const bool isAlike = !started_ || settings != settings_ || written == writtenByStart_;
+  Check(isAlike, "a start is like the one before, whatever was done in between");
   settings_ = settings;
-  writtenByStart_ = platform.files.files[std::u16string(kSettingsPath)];
+  writtenByStart_ = written;
   started_ = program.State();
 }
 

@@ -63,6 +63,9 @@ class FuzzedCopy {
   void Clean();
   void Start(std::string_view settings);
 
+  // The format of a pane in a new program.
+  const SelectionFormat newPane_ = platform.window.rtbData.SelFormat();
+
   // Of the last start.
   std::string settings_;
   std::string writtenByStart_;

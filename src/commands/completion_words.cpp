@@ -1,11 +1,34 @@
 #include "commands/completion_words.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "commands/command_table.h"
-#include "commands/text_search.h"
 
 namespace verlume {
+namespace {
+
+std::u16string LettersOf(std::u16string_view text, const Locale& locale) {
+  std::u16string letters;
+  for (const char16_t c : text) {
+    if (const char16_t letter = locale.BaseLetter(c)) letters += letter;
+  }
+  return letters;
+}
+
+// Looks no further than the first letter that differs: at every key each word is compared.
+bool Begins(std::u16string_view word, std::u16string_view letters, const Locale& locale) {
+  for (const char16_t c : word) {
+    if (letters.empty()) break;
+    const char16_t letter = locale.BaseLetter(c);
+    if (letter == 0) continue;
+    if (letter != letters.front()) return false;
+    letters.remove_prefix(1);
+  }
+  return letters.empty();
+}
+
+}  // namespace
 
 bool IsCommandWord(std::u16string_view text) {
   return text.starts_with(u'/') && text.find(u' ') == text.npos;
@@ -15,26 +38,22 @@ std::vector<Completion> CompletionsOf(std::u16string_view typed, bool isGreek,
                                       std::span<const std::u16string> macros,
                                       const Locale& locale) {
   std::vector<Completion> found;
-  bool begins = false;
-  TextSearch search(typed, locale, [&](const TextMatch& match) { begins |= match.start == 0; });
-  const auto add = [&](std::u16string_view word, bool isMacro) {
-    begins = false;
-    search.Restart(0);
-    search.Feed(word);
-    search.Finish();
-    if (begins) found.push_back({std::u16string(word), isMacro});
-  };
+  const std::u16string letters = LettersOf(typed, locale);
   const auto addCommands = [&](bool inGreek) {
     for (const CommandRow& row : CommandTable()) {
       const std::u16string_view word = inGreek ? row.greek : row.english;
+      if (!Begins(word, letters, locale)) continue;
       // The interpreter looks for a macro first.
       const bool isMacrosToo = std::ranges::find(macros, word.substr(1)) != macros.end();
-      if (!isMacrosToo) add(word, false);
+      if (!isMacrosToo) found.push_back({std::u16string(word), false});
     }
   };
   addCommands(isGreek);
   if (typed.size() > 1) addCommands(!isGreek);
-  for (const std::u16string& name : macros) add(u"/" + name, true);
+  for (const std::u16string& name : macros) {
+    std::u16string word = u"/" + name;
+    if (Begins(word, letters, locale)) found.push_back({std::move(word), true});
+  }
   return found;
 }
 

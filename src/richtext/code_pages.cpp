@@ -121,8 +121,12 @@ std::string EncodeGreek(std::u16string_view text) {
   bytes.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char16_t unit = text[i];
-    const unsigned char byte = IsAscii(unit) ? static_cast<unsigned char>(unit) : GreekByte(unit);
-    bytes.push_back(byte != 0 || unit == 0 ? static_cast<char>(byte) : '?');
+    if (IsAscii(unit)) {
+      bytes.push_back(static_cast<char>(unit));
+      continue;
+    }
+    const unsigned char byte = GreekByte(unit);
+    bytes.push_back(byte != 0 ? static_cast<char>(byte) : '?');
     if (BeginsWithSurrogatePair(text.substr(i))) ++i;
   }
   return bytes;
@@ -140,6 +144,11 @@ std::u16string DecodeUtf8OrGreek(std::string_view bytes) {
   std::u16string text;
   text.reserve(bytes.size());
   while (!bytes.empty()) {
+    if (IsAscii(bytes[0])) {
+      text.push_back(static_cast<char16_t>(bytes[0]));
+      bytes.remove_prefix(1);
+      continue;
+    }
     const Utf8Character character = DecodeUtf8Character(bytes.substr(0, 4));
     if (character.length != 0) {
       AppendCodePoint(text, character.codePoint);

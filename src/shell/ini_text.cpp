@@ -8,8 +8,11 @@ namespace verlume::ini_text {
 namespace {
 
 constexpr std::u16string_view kBlanks = u" \t";
-constexpr std::u16string_view kLineBreaks = u"\r\n";
 constexpr char16_t kByteOrderMark = 0xFEFF;
+
+bool IsLineBreak(char16_t c) {
+  return c == u'\r' || c == u'\n';
+}
 
 std::u16string_view TrimBlanks(std::u16string_view text) {
   return Trim(text, kBlanks);
@@ -23,8 +26,7 @@ std::u16string_view Unquote(std::u16string_view value) {
 
 bool SameName(std::u16string_view a, std::u16string_view b) {
   const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [&](char16_t x, char16_t y) { return lower(x) == lower(y); });
+  return std::ranges::equal(a, b, {}, lower, lower);
 }
 
 // The offsets of a line in the text: its start, the end of its content, the start of the next line.
@@ -43,21 +45,24 @@ struct Line {
 
 // A line ends in "\r\n", "\n" or "\r".
 Line LineAt(std::u16string_view text, std::size_t start) {
-  const std::size_t end = std::min(text.find_first_of(kLineBreaks, start), text.size());
+  std::size_t end = start;
+  while (end < text.size() && !IsLineBreak(text[end])) ++end;
   const std::size_t breakLength = end == text.size() ? 0 : text.substr(end, 2) == u"\r\n" ? 2 : 1;
   return {start, end, end + breakLength};
 }
 
 std::optional<std::u16string_view> SectionNameOf(std::u16string_view content) {
+  if (!content.starts_with(u'[')) return std::nullopt;
   const std::size_t close = content.find(u']');
-  if (!content.starts_with(u'[') || close == content.npos) return std::nullopt;
+  if (close == content.npos) return std::nullopt;
   return TrimBlanks(content.substr(1, close - 1));
 }
 
+// Most lines are those of other keys, and their first letters tell.
 bool IsLineOfKey(std::u16string_view content, std::u16string_view key) {
-  const std::size_t equals = content.find(u'=');
-  return equals != content.npos && !content.starts_with(u';') &&
-         SameName(TrimBlanks(content.substr(0, equals)), key);
+  if (!SameName(content.substr(0, key.size()), key)) return false;
+  const std::size_t behind = content.find_first_not_of(kBlanks, key.size());
+  return behind != content.npos && content[behind] == u'=';
 }
 
 // Where a key is, or where it would be added.
@@ -99,7 +104,7 @@ std::u16string_view LineEndOf(std::u16string_view text) {
 
 std::u16string OnOneLine(std::u16string_view value) {
   std::u16string line(value);
-  const auto endsLine = [](char16_t c) { return c == u'\r' || c == u'\n' || c == 0; };
+  const auto endsLine = [](char16_t c) { return IsLineBreak(c) || c == 0; };
   std::replace_if(line.begin(), line.end(), endsLine, u' ');
   return line;
 }
@@ -123,8 +128,7 @@ std::u16string Write(std::u16string_view text, std::u16string_view section, std:
   }
   const std::u16string lineEnd(LineEndOf(text));
   const std::size_t at = place.sectionFound ? place.sectionEnd : text.size();
-  const bool lastLineIsOpen =
-      at == text.size() && at > 0 && kLineBreaks.find(text.back()) == kLineBreaks.npos;
+  const bool lastLineIsOpen = at == text.size() && at > 0 && !IsLineBreak(text.back());
   std::u16string added = lastLineIsOpen ? lineEnd : u"";
   if (!place.sectionFound) added += u"[" + std::u16string(section) + u"]" + lineEnd;
   added += std::u16string(key) + u"=" + OnOneLine(value) + lineEnd;

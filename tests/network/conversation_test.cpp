@@ -81,7 +81,9 @@ TEST_F(ConversationTest, EveryMessageArrivesOnItsOwnOverASlowAndLossyLink) {
 TEST_F(ConversationTest, EveryMessageArrivesOnItsOwnOverATelephoneLine) {
   LinkQuality line = kBadLink;
   line.bitsPerSecond = 56'000;
-  line.queueLimit = 32 << 10;
+  // A second's worth each way. With more, a retransmission is repeated only after 10 s, and one
+  // that is lost ends the connection, which waits 17 s for an acknowledgement.
+  line.queueLimit = 8 << 10;
   ASSERT_NO_FATAL_FAILURE(Connect(line, 1));
   ASSERT_NO_FATAL_FAILURE(Start({.steps = 16}));
   ExpectAllShown();

@@ -36,26 +36,27 @@ bool IsPair(std::u16string_view text) {
 // Whether there may be a file with this path.
 bool IsText(std::u16string_view path) {
   for (; !path.empty(); path.remove_prefix(1)) {
-    if (IsPair(path)) {
-      path.remove_prefix(1);
-    } else if (path[0] == u'\0' || IsSurrogate(path[0])) {
-      return false;
-    }
+    if (path[0] == u'\0') return false;
+    if (!IsSurrogate(path[0])) continue;
+    if (!IsPair(path)) return false;
+    path.remove_prefix(1);
   }
   return true;
 }
 
 std::string Utf8(std::u16string_view text) {
   std::string bytes;
+  bytes.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     char32_t c = text[i];
+    if (c < 0x80) {
+      bytes += static_cast<char>(c);
+      continue;
+    }
     if (IsPair(text.substr(i))) {
       c = 0x10000 + ((c - 0xD800) << 10) + (text[++i] - 0xDC00);
     } else if (IsSurrogate(text[i])) {
-      c = U'?';
-    }
-    if (c < 0x80) {
-      bytes += static_cast<char>(c);
+      bytes += '?';
       continue;
     }
     const int tail = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
@@ -119,10 +120,10 @@ std::string FakeFileSystem::ReadBytes(std::u16string_view path) const {
 
 const std::string& FakeFileSystem::Find(std::u16string_view path) const {
   if (readsFail) throw RunTimeFailure(*readsFail);
-  CheckPath(path);
   const auto file = files.find(Stored(path));
-  if (file == files.end()) throw RunTimeFailure(FailureNumber::FileNotFound);
-  return file->second;
+  if (file != files.end()) return file->second;
+  CheckPath(path);
+  throw RunTimeFailure(FailureNumber::FileNotFound);
 }
 
 std::string FakeFileSystem::ReadStart(std::u16string_view path, std::size_t limit) const {

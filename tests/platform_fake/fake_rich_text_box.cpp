@@ -11,6 +11,7 @@ namespace {
 
 // The unit that a real box would store for this one: it reserves some units for its own use.
 char16_t SafeUnit(char16_t unit, bool singleLine) {
+  if (unit >= u' ' && unit < 0x80) return unit;
   if (unit == u'\n' || unit == u'\r' || unit == u'\u2028' || unit == u'\u2029') {
     return singleLine ? u' ' : u'\n';
   }
@@ -59,6 +60,7 @@ void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells, Author author) {
 std::u16string FakeRichTextBox::Rtf() const {
   if (rtfFails) throw RunTimeFailure(*rtfFails);
   richtext::Document document;
+  document.text = Text();
   // In the order of their first use.
   std::vector<std::uint16_t> places(fontNames_.size(), kUnused);
   const auto placeOf = [&](std::uint32_t font) {
@@ -68,7 +70,13 @@ std::u16string FakeRichTextBox::Rtf() const {
     }
     return places[font];
   };
+  const Look* before = nullptr;
   for (const auto& [character, look] : cells_) {
+    if (before && *before == look) {
+      ++document.runs.back().length;
+      continue;
+    }
+    before = &look;
     richtext::CharFormat format;
     format.font = placeOf(look.font);
     format.halfPoints = static_cast<std::uint16_t>(look.fontSize * 2);
@@ -77,7 +85,6 @@ std::u16string FakeRichTextBox::Rtf() const {
     format.italic = look.italic;
     format.underline = look.underline;
     format.strikethrough = look.strikethrough;
-    document.text += character;
     if (document.runs.empty() || document.runs.back().format != format) {
       document.runs.push_back({0, format});
     }
@@ -230,8 +237,7 @@ std::uint32_t FakeRichTextBox::FontOf(std::u16string_view name) {
 }
 
 std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(const richtext::Document& document) {
-  std::vector<Cell> cells;
-  cells.reserve(document.text.size());
+  std::vector<Cell> cells(document.text.size());
   std::size_t at = 0;
   for (const richtext::Run& run : document.runs) {
     Look look;
@@ -244,7 +250,7 @@ std::vector<FakeRichTextBox::Cell> FakeRichTextBox::CellsOf(const richtext::Docu
     look.underline = run.format.underline;
     look.strikethrough = run.format.strikethrough;
     for (std::size_t end = at + run.length; at < end; ++at) {
-      cells.push_back({SafeUnit(document.text[at], lines_ == Lines::Single), look});
+      cells[at] = {SafeUnit(document.text[at], lines_ == Lines::Single), look};
     }
   }
   return cells;

@@ -1,6 +1,4 @@
 // What arrives is shown in a real pane and logged on a real disk as it is, whatever it looks like.
-#include "support/arriving_texts.h"
-
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
@@ -8,6 +6,7 @@
 #include "platform_qt/system/program_on_disk.h"
 #include "platform_qt/text/rich_text_box.h"
 #include "platform_qt/world.h"
+#include "support/expect_arriving_texts.h"
 
 namespace verlume::qt {
 namespace {
@@ -62,14 +61,7 @@ class ArrivingTextsOnScreenTest : public testing::Test {
 };
 
 TEST_F(ArrivingTextsOnScreenTest, AreNotInterpreted) {
-  ArrivingTexts texts;
-  for (int number = 1; number <= ArrivingTexts::kCount && !HasFailure(); ++number) {
-    const std::u16string text = texts.Next();
-    SCOPED_TRACE("seed " + std::to_string(ArrivingTexts::kSeed) + ", text " +
-                 std::to_string(number) + ": " + Printable(text));
-    ExpectShown(SentAsRtf(text), text);
-    if (CanBeSentPlain(text)) ExpectShown(text, OnTheWire(text));
-  }
+  ExpectOfArrivingTexts([this](auto message, auto text) { ExpectShown(message, text); });
 }
 
 }  // namespace

@@ -1,8 +1,7 @@
 // What arrives is shown and logged as it is, whatever it looks like.
-#include "support/arriving_texts.h"
-
 #include <gtest/gtest.h>
 
+#include "support/expect_arriving_texts.h"
 #include "support/program_copy.h"
 
 namespace verlume {
@@ -64,14 +63,7 @@ class ArrivingTextsTest : public testing::Test {
 };
 
 TEST_F(ArrivingTextsTest, AreNotInterpreted) {
-  ArrivingTexts texts;
-  for (int number = 1; number <= ArrivingTexts::kCount && !HasFailure(); ++number) {
-    const std::u16string text = texts.Next();
-    SCOPED_TRACE("seed " + std::to_string(ArrivingTexts::kSeed) + ", text " +
-                 std::to_string(number) + ": " + Printable(text));
-    ExpectShown(SentAsRtf(text), text);
-    if (CanBeSentPlain(text)) ExpectShown(text, OnTheWire(text));
-  }
+  ExpectOfArrivingTexts([this](auto message, auto text) { ExpectShown(message, text); });
   ExpectNothingElse();
 }
 
