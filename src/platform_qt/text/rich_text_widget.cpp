@@ -37,7 +37,10 @@ RichTextWidget::UserChange::~UserChange() {
 }
 
 RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
-    : QPlainTextEdit(parent), lines_(lines), seams_(*document(), lines) {
+    : QPlainTextEdit(parent),
+      lines_(lines),
+      seams_(*document(), lines),
+      missingScripts_(*document()) {
   setPalette(PanePalette(FromQt(QColor(Qt::white))));
   QFont font(ToQt(kDefaultFontName));
   font.setPointSizeF(kDefaultFontSize);

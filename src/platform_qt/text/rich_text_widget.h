@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include "platform/rich_text_box.h"
+#include "platform_qt/text/missing_scripts.h"
 #include "platform_qt/text/rich_text.h"
 
 namespace verlume::qt {
@@ -90,6 +91,7 @@ class RichTextWidget : public QPlainTextEdit {
   const RichTextBox* events_ = nullptr;
   const Lines lines_;
   const Seams seams_;
+  const MissingScripts missingScripts_;
   int charset_ = richtext::kGreekCharset;
   int programDepth_ = 0;
   int userDepth_ = 0;
