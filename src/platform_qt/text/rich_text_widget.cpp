@@ -38,7 +38,10 @@ RichTextWidget::UserChange::~UserChange() {
 }
 
 RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
-    : QPlainTextEdit(parent), lines_(lines), seams_(*document(), lines) {
+    : QPlainTextEdit(parent),
+      lines_(lines),
+      seams_(*document(), lines),
+      missingScripts_(*document()) {
   document()->documentLayout()->setPaintDevice(&zoom_);
   QFont font(ToQt(kDefaultFontName));
   font.setPointSizeF(kDefaultFontSize);

@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include "platform/rich_text_box.h"
+#include "platform_qt/text/missing_scripts.h"
 #include "platform_qt/text/rich_text.h"
 #include "platform_qt/text/zoom_device.h"
 
@@ -100,6 +101,7 @@ class RichTextWidget : public QPlainTextEdit {
   int wheel_ = 0;  // how far it was turned with Ctrl, in eighths of a degree
   const Lines lines_;
   const Seams seams_;
+  const MissingScripts missingScripts_;
   int charset_ = richtext::kGreekCharset;
   int programDepth_ = 0;
   int userDepth_ = 0;

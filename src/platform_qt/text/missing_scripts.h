@@ -1,0 +1,43 @@
+// Keeps Qt from looking for fonts of scripts that no font of this computer shows. It would open
+// every font for each family, size and style of such text, 20 ms and more each time, and a peer can
+// send any number of them. Only what is painted changes: the document keeps its formats.
+#pragma once
+
+#include <QObject>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextLayout>
+#include <QTimer>
+#include <functional>
+
+#include "platform_qt/text/installed_scripts.h"
+
+namespace verlume::qt {
+
+// The parts of a block's text that Qt would look for other fonts for, in vain. `shows` tells
+// whether any font shows a script.
+QList<QTextLayout::FormatRange> PartsInMissingScripts(
+    QStringView text, const std::function<bool(QChar::Script)>& shows);
+
+// Until all fonts have been looked at, which begins with the first text that makes it necessary and
+// takes no more than a turn at once, that text is shown as if no font had its letters.
+class MissingScripts : public QObject {
+ public:
+  // The document must not be destroyed before this object, nor `installed`.
+  explicit MissingScripts(QTextDocument& document,
+                          InstalledScripts& installed = InstalledScripts::Instance());
+
+ private:
+  void NoteChange(int position, int added);
+  void Mark(QTextBlock block);
+  void NoteUnsure(const QTextBlock& block);
+  void LookAtFonts();
+
+  QTextDocument& document_;
+  InstalledScripts& installed_;
+  QTextCursor unsure_;  // the first text that was marked before all fonts had been looked at
+  QTimer nextTurn_;
+};
+
+}  // namespace verlume::qt
