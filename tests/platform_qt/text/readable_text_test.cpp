@@ -226,7 +226,7 @@ TEST_F(ReadableTextTest, ADarkThemeLeavesThePaneReadable) {
   QPalette dark(QColor(0x30, 0x30, 0x30));
   QApplication::setPalette(dark);
   QCoreApplication::processEvents();
-  EXPECT_EQ(box.BackColor(), kWhite);
+  EXPECT_EQ(box.BackColor(), kWhite) << "a colour that was set stays";
   EXPECT_GE(Legibility(), kLegible);
   QApplication::setPalette(before);
 }

@@ -347,7 +347,7 @@ TEST_F(QtRichTextBoxTest, MouseButtonsAreReportedOnce) {
   EXPECT_EQ(seen, (std::vector<MouseButton>{MouseButton::Left, MouseButton::Left}));
 }
 
-TEST_F(QtRichTextBoxTest, TheLookIsBlackOnWhiteInADarkTheme) {
+TEST_F(QtRichTextBoxTest, WithoutAColourOfItsOwnItHasTheThemes) {
   const QPalette before = QApplication::palette();
   QPalette dark = before;
   dark.setColor(QPalette::Base, Qt::black);
@@ -355,8 +355,11 @@ TEST_F(QtRichTextBoxTest, TheLookIsBlackOnWhiteInADarkTheme) {
   QApplication::setPalette(dark);
   // Windows that exist already are told of the new theme later.
   QWidget darkWindow;
-  const QtRichTextBox box(&darkWindow, files, Lines::Many);
-  EXPECT_EQ(box.widget()->palette().color(QPalette::Base), QColor(Qt::white));
+  QtRichTextBox box(&darkWindow, files, Lines::Many);
+  EXPECT_EQ(box.BackColor(), 0);
+  EXPECT_EQ(box.widget()->palette().color(QPalette::Text), QColor(Qt::white));
+  box.SetBackColor(0xFFFFFF);
+  EXPECT_EQ(box.BackColor(), 0xFFFFFF);
   EXPECT_EQ(box.widget()->palette().color(QPalette::Text), QColor(Qt::black));
   QApplication::setPalette(before);
 }
