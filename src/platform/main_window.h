@@ -19,7 +19,9 @@ struct FindBar {
   Button& cmdFindClose;
 };
 
-// The list shown over the window, below the command pane. It never takes the keyboard focus.
+// The list shown over the window, beside the command pane. It never takes the keyboard focus. Its
+// items have three columns, with a tab between two: a word, which is never cut, and what goes with
+// it.
 struct CompletionList {
   Panel& fraCompletions;  // with the list in it
   ListBox& lstCompletions;
@@ -79,6 +81,8 @@ struct MainWindow {
   RichTextBox& rtbRemote;    // hidden, and without a task of its own
   FindBar findBar;
   CompletionList completionList;
+  // Floats beside the command pane while it has a caption, and is then the pane's description.
+  Label& lblHint;
 
   CheckBox& chkBold;
   CheckBox& chkItalics;
@@ -175,6 +179,7 @@ MainWindow MainWindowOf(Controls& controls) {
                   .cmdFindClose = controls.cmdFindClose},
       .completionList = {.fraCompletions = controls.fraCompletions,
                          .lstCompletions = controls.lstCompletions},
+      .lblHint = controls.lblHint,
       .chkBold = controls.chkBold,
       .chkItalics = controls.chkItalics,
       .chkUnderline = controls.chkUnderline,

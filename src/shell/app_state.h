@@ -59,7 +59,7 @@ struct AppState {
   bool DateStamp = true;
   bool TimeStamp = true;
 
-  // Whether a list below the command pane suggests completions of a word that begins with "/".
+  // Whether a list beside the command pane suggests completions of a word that begins with "/".
   bool SuggestCommands = true;
 
   // The command history: element 0 holds the number of lines as text, 1 is the oldest line.

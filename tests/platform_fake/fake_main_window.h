@@ -64,6 +64,7 @@ struct FakeMainWindow {
   FakeButton cmdFindClose;
   FakePanel fraCompletions;
   FakeListBox lstCompletions;
+  FakeLabel lblHint;
   FakeCheckBox chkBold;
   FakeCheckBox chkItalics;
   FakeCheckBox chkUnderline;

@@ -76,10 +76,10 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuHelp,
                mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
                cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions,
-               lstCompletions, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus,
-               lblWaiting, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP,
-               lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname,
-               lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
+               lstCompletions, lblHint, chkBold, chkItalics, chkUnderline, lblColor, lblStatus,
+               prgStatus, lblWaiting, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration,
+               lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
+               lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
                lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalIPCaption,
                lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption,
                lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
@@ -98,7 +98,7 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
           mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
           cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions, lstCompletions,
-          chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting,
+          lblHint, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting,
           lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
           lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
           lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
@@ -119,7 +119,7 @@ class LanguageTest : public ShellTest {
           &window.lblChatDuration, &window.lblLocalIP, &window.lblLocalPort,
           &window.lblLocalNickname, &window.lblRemoteIP, &window.lblRemotePort,
           &window.lblRemoteNickname, &window.lblBytesSent, &window.lblBytesReceived,
-          &window.lblColor, &window.lblFindResult}) {
+          &window.lblColor, &window.lblFindResult, &window.lblHint}) {
       label->caption = u"";
     }
   }

@@ -86,6 +86,7 @@ class QtMainWindow {
 
   QtPanel fraCompletions{form_.Find<QWidget>("fraCompletions")};
   QtListBox lstCompletions{form_.Find<ListWidget>("lstCompletions")};
+  QtPaneHint lblHint{form_.Find<PaneHint>("lblHint")};
 
   QtCheckBox chkBold{form_.Find<QCheckBox>("chkBold")};
   QtCheckBox chkItalics{form_.Find<QCheckBox>("chkItalics")};

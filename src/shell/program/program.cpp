@@ -38,7 +38,7 @@ Program::Program(Platform& platform)
                    .wire = wire_}),
       socketEvents_(state_, platform, errors_, wire_, log_),
       history_(state_, platform, errors_),
-      completion_(state_, platform, errors_, settings_, macroStore_),
+      completion_(state_, platform, errors_, settings_, macroStore_, history_),
       textFormat_(state_, platform, errors_, settings_, dialogue_),
       find_(state_, platform, errors_),
       interpreter_(state_, platform, errors_,
@@ -191,6 +191,7 @@ void Program::BindPanes() {
     if (keyCode != char_code::kSwallowed) history_.rtbCommands_KeyDown(keyCode, shift);
   };
   On(frmMain.rtbCommands.onChange, completion_, &CommandCompletion::rtbCommands_Change);
+  On(frmMain.rtbCommands.onGotFocus, completion_, &CommandCompletion::rtbCommands_GotFocus);
   On(frmMain.rtbCommands.onLostFocus, completion_, &CommandCompletion::rtbCommands_LostFocus);
   On(frmMain.completionList.lstCompletions.onClick, completion_,
      &CommandCompletion::lstCompletions_Click);
