@@ -48,6 +48,7 @@ void CommandCompletion::rtbCommands_Change() {
 }
 
 void CommandCompletion::rtbCommands_GotFocus() {
+  if (platform_.frmMain.completionList.fraCompletions.Visible()) return;
   errors_.Guard(Procedure::CommandCompletion, [this] { FollowPane(Opening::No); });
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/control.h"
 #include "platform/rich_text_box.h"
+#include "platform/spell_checker.h"
 #include "platform/window.h"
 
 namespace verlume {
@@ -71,6 +72,7 @@ struct MainWindow {
   MenuEntry& mnuToolsAlwaysOnTop;
   MenuEntry& mnuToolsLanguageEnglish;
   MenuEntry& mnuToolsLanguageGreek;
+  MenuEntry& mnuToolsCheckSpelling;
 
   Menu& mnuHelp;
   MenuEntry& mnuHelpDetailed;
@@ -83,6 +85,7 @@ struct MainWindow {
   CompletionList completionList;
   // Floats beside the command pane while it has a caption, and is then the pane's description.
   Label& lblHint;
+  SpellChecker& spelling;  // of the command pane
 
   CheckBox& chkBold;
   CheckBox& chkItalics;
@@ -165,6 +168,7 @@ MainWindow MainWindowOf(Controls& controls) {
       .mnuToolsAlwaysOnTop = controls.mnuToolsAlwaysOnTop,
       .mnuToolsLanguageEnglish = controls.mnuToolsLanguageEnglish,
       .mnuToolsLanguageGreek = controls.mnuToolsLanguageGreek,
+      .mnuToolsCheckSpelling = controls.mnuToolsCheckSpelling,
       .mnuHelp = controls.mnuHelp,
       .mnuHelpDetailed = controls.mnuHelpDetailed,
       .mnuHelpAbout = controls.mnuHelpAbout,
@@ -180,6 +184,7 @@ MainWindow MainWindowOf(Controls& controls) {
       .completionList = {.fraCompletions = controls.fraCompletions,
                          .lstCompletions = controls.lstCompletions},
       .lblHint = controls.lblHint,
+      .spelling = controls.spelling,
       .chkBold = controls.chkBold,
       .chkItalics = controls.chkItalics,
       .chkUnderline = controls.chkUnderline,

@@ -62,6 +62,9 @@ struct AppState {
   // Whether a list beside the command pane suggests completions of a word that begins with "/".
   bool SuggestCommands = true;
 
+  // Whether the spelling of what is typed is checked.
+  bool CheckSpelling = true;
+
   // The command history: element 0 holds the number of lines as text, 1 is the oldest line.
   std::array<std::u16string, kHistoryCapacity + 1> History;
   std::int16_t HistoryUp = 1;     // Page Up shows the line before this one

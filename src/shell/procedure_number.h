@@ -59,6 +59,8 @@ enum class Procedure : int {
   rtbMacroText_KeyPress = 254,
   CommandCompletion = 255,
   mnuToolsCompletions_Click = 256,
+  SpellCheck = 275,
+  mnuToolsCheckSpelling_Click = 276,
 };
 
 }  // namespace verlume

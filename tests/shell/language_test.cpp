@@ -58,6 +58,9 @@ void Collect(ShownTexts& texts, const fake::FakeProgressBar& bar) {
 void Collect(ShownTexts& texts, const fake::FakeListBox& list) {
   Collect<ListBox>(texts, list);
 }
+void Collect(ShownTexts& texts, const fake::FakeSpellChecker& spelling) {
+  for (const auto& [entry, caption] : spelling.captions) texts.push_back({"caption", caption});
+}
 void Collect(ShownTexts&, const fake::FakePanel&) {}
 void Collect(ShownTexts&, const fake::FakeLayoutControl&) {}
 void Collect(ShownTexts&, const fake::FakeTimer&) {}
@@ -73,15 +76,15 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro,
                mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue,
                mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate, mnuToolsTime,
-               mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuHelp,
-               mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
-               cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions,
-               lstCompletions, lblHint, chkBold, chkItalics, chkUnderline, lblColor, lblStatus,
-               prgStatus, lblWaiting, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration,
-               lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
-               lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
-               lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalIPCaption,
-               lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption,
+               mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
+               mnuToolsCheckSpelling, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands,
+               rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult,
+               cmdFindClose, fraCompletions, lstCompletions, lblHint, spelling, chkBold, chkItalics,
+               chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, lblCurrentDateTime,
+               lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname,
+               lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
+               lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
+               lblLocalIPCaption, lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption,
                lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
                lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright, frmMain] =
       mainWindow;
@@ -96,15 +99,16 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
           mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
           mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
-          mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
-          cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions, lstCompletions,
-          lblHint, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting,
-          lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
-          lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
-          lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
-          lblChatDurationCaption, lblLocalIPCaption, lblLocalPortCaption, lblLocalNicknameCaption,
-          lblRemoteIPCaption, lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
-          lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright);
+          mnuToolsCheckSpelling, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands,
+          rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose,
+          fraCompletions, lstCompletions, lblHint, spelling, chkBold, chkItalics, chkUnderline,
+          lblColor, lblStatus, prgStatus, lblWaiting, lblCurrentDateTime, lblChatStartDateTime,
+          lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
+          lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
+          lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalIPCaption,
+          lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption, lblRemotePortCaption,
+          lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
+          shpStatus, lblCopyright, picCopyright);
   return texts;
 }
 

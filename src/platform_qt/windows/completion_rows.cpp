@@ -15,6 +15,11 @@ int GapOf(const QFontMetrics& metrics) {
   return 2 * metrics.averageCharWidth();
 }
 
+// Rounded up: a text that is given a fraction of a pixel too little is cut.
+int WidthOf(const QFontMetrics& metrics, const QString& text) {
+  return text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + 1;
+}
+
 QStringList ColumnsOf(const QString& text) {
   return text.split(u'\t');
 }
@@ -29,9 +34,9 @@ void CompletionRows::Measure(int room) {
   word_ = arguments_ = 0;
   for (int row = 0; row < list_.count(); ++row) {
     const QStringList columns = ColumnsOf(list_.item(row)->text());
-    const int word = metrics.horizontalAdvance(columns.value(0));
-    const int arguments = metrics.horizontalAdvance(columns.value(1));
-    const int explanation = metrics.horizontalAdvance(columns.value(2));
+    const int word = WidthOf(metrics, columns.value(0));
+    const int arguments = WidthOf(metrics, columns.value(1));
+    const int explanation = WidthOf(metrics, columns.value(2));
     widest = std::max(widest, word);
     // One long word, the name of a macro perhaps, does not push the columns of all rows aside.
     if (word <= room / 2) word_ = std::max(word_, word);
@@ -72,7 +77,7 @@ void CompletionRows::PaintColumns(QPainter& painter, const QStyleOptionViewItem&
     painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
     room.setLeft(room.left() + width + GapOf(option.fontMetrics));
   };
-  const int word = option.fontMetrics.horizontalAdvance(columns.value(0));
+  const int word = WidthOf(option.fontMetrics, columns.value(0));
   write(columns.value(0), std::max(word, word_), Qt::ElideMiddle);
   if (!isSelected) painter.setOpacity(kQuiet);
   if (arguments_ > 0) write(columns.value(1), arguments_, Qt::ElideRight);

@@ -1,5 +1,6 @@
 #include "platform_qt/windows/main_window.h"
 
+#include "platform_qt/spelling/spelling_menu.h"
 #include "platform_qt/text/typing_relay.h"
 #include "platform_qt/windows/growing_pane.h"
 
@@ -19,6 +20,7 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   rtbData.SetLocked(true);
   new TypingRelay(*rtbData.widget(), *rtbCommands.widget());
   new GrowingPane(*rtbCommands.widget());
+  new SpellingMenu(*rtbCommands.widget(), spelling);
   QFont strong;
   strong.setWeight(QFont::DemiBold);
   lblStatus.widget()->setFont(strong);

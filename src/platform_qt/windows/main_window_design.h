@@ -116,6 +116,7 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuTools", "mnuToolsAlwaysOnTop", true},
     {"mnuTools", "mnuToolsLanguageEnglish", true, true},
     {"mnuTools", "mnuToolsLanguageGreek", true},
+    {"mnuTools", "mnuToolsCheckSpelling", true, true},
     {"mnuHelp", "mnuHelpDetailed", false, false, "F1"},
     {"mnuHelp", "mnuHelpAbout", false, true},
 });

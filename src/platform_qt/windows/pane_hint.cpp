@@ -1,18 +1,18 @@
 #include "platform_qt/windows/pane_hint.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <algorithm>
 
 namespace verlume::qt {
 namespace {
 
-constexpr int kSpace = 3;  // between frame and text, in pixels
+constexpr int kSpace = 4;  // around the text, in pixels
 
 }  // namespace
 
 PaneHint::PaneHint(QWidget* area) : ElidedLabel(area) {
   setObjectName(QStringLiteral("lblHint"));
-  setFrameShape(QFrame::StyledPanel);
   setContentsMargins(kSpace, kSpace, kSpace, kSpace);
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::ToolTipBase);
@@ -35,6 +35,13 @@ void PaneHint::Say(const QString& said) {
   Place();
 }
 
+void PaneHint::paintEvent(QPaintEvent* event) {
+  ElidedLabel::paintEvent(event);
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
 bool PaneHint::eventFilter(QObject* watched, QEvent* event) {
   const bool moved = event->type() == QEvent::Resize || event->type() == QEvent::Move;
   if (watched == pane_ && moved) Place();
@@ -44,8 +51,8 @@ bool PaneHint::eventFilter(QObject* watched, QEvent* event) {
 void PaneHint::Place() {
   if (!pane_ || isHidden()) return;
   const QRect pane = pane_->geometry();
-  const int width = fontMetrics().horizontalAdvance(text()) + 2 * (kSpace + frameWidth());
-  const int height = fontMetrics().height() + 2 * (kSpace + frameWidth());
+  const int width = fontMetrics().horizontalAdvance(text()) + 1 + 2 * kSpace;
+  const int height = fontMetrics().height() + 2 * kSpace;
   const int below = pane.bottom() + 1;
   const bool fits = below + height <= parentWidget()->height();
   setGeometry(pane.left(), fits ? below : pane.top() - height, std::min(width, pane.width()),

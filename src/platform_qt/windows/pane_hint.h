@@ -19,6 +19,7 @@ class PaneHint : public ElidedLabel {
   void Say(const QString& text);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -32,9 +32,9 @@ class QtCompletionListTest : public testing::Test {
   }
   bool LiesBesideThePane() {
     const QRect pane = Named("rtbCommands")->geometry();
-    const QRect list = frame->geometry();
-    return list.left() == pane.left() &&
-           (list.top() == pane.bottom() + 1 || list.bottom() + 1 == pane.top());
+    const QRect shown = frame->geometry();
+    return shown.left() == pane.left() &&
+           (shown.top() == pane.bottom() + 1 || shown.bottom() + 1 == pane.top());
   }
   int RowsInView() {
     const int height = List()->visualItemRect(List()->item(0)).height();

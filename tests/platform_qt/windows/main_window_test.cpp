@@ -119,10 +119,10 @@ TEST_F(QtMainWindowTest, TheTickedEntriesAreCheckable) {
     if (action->isCheckable()) checkable.append(action->objectName());
   }
   checkable.sort();
-  QStringList expected{"mnuFileLogRecord",       "mnuFormatFontBold",   "mnuFormatFontItalics",
-                       "mnuFormatFontUnderline", "mnuToolsCompletions", "mnuToolsDate",
-                       "mnuToolsTime",           "mnuToolsAlwaysOnTop", "mnuToolsLanguageEnglish",
-                       "mnuToolsLanguageGreek"};
+  QStringList expected{"mnuFileLogRecord",       "mnuFormatFontBold",    "mnuFormatFontItalics",
+                       "mnuFormatFontUnderline", "mnuToolsCompletions",  "mnuToolsDate",
+                       "mnuToolsTime",           "mnuToolsAlwaysOnTop",  "mnuToolsLanguageEnglish",
+                       "mnuToolsLanguageGreek",  "mnuToolsCheckSpelling"};
   expected.sort();
   EXPECT_EQ(checkable, expected);
 }

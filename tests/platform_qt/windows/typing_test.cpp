@@ -11,7 +11,7 @@
 namespace verlume::qt {
 namespace {
 
-class Typing : public testing::Test {
+class WindowTyping : public testing::Test {
  protected:
   WindowTyping() {
     view.window.Show();
