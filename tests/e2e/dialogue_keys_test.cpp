@@ -18,8 +18,8 @@ class DialogueKeys : public testing::Test {
 };
 
 TEST_F(DialogueKeys, ThatTypeGoToTheCommandPaneAlsoWithADeadKey) {
-  constexpr double kDialoguePane = 0.25;
-  copy.ClickAt(0.5, kDialoguePane);
+  constexpr double kWithinDialogue = 0.25;
+  copy.ClickAt(0.5, kWithinDialogue);
   UseLayout("gr");
   QProcess::execute("xdotool", {"key", "--delay", "100", "dead_acute", "Greek_alpha", "Greek_nu",
                                 "space", "Greek_nu", "Greek_alpha", "Greek_iota"});

@@ -12,6 +12,7 @@ namespace verlume::qt {
 namespace {
 
 constexpr int kMostLines = 4;
+constexpr int kBelowText = 2;
 
 struct FirstLines {
   qreal height = 0;
@@ -68,7 +69,9 @@ void GrowingPane::Grow() {
   if (!cell_.isValid()) return;
   const FirstLines text = FirstLinesOf(*pane_.document());
   const int around = pane_.height() - pane_.viewport()->height();
-  const int needed = int(std::ceil(text.height + 2 * pane_.document()->documentMargin())) + around;
+  // The pane scrolls unless a pixel remains below the text.
+  const int needed =
+      int(std::ceil(text.height + 2 * pane_.document()->documentMargin())) + kBelowText + around;
   // Where letters are very large, what is above the pane must stay in view.
   const int most = std::max(cell_.height(), pane_.parentWidget()->height() / 2);
   const int height = std::clamp(needed, cell_.height(), most);

@@ -8,6 +8,7 @@ namespace verlume::qt {
 namespace {
 
 constexpr int kSpace = 4;  // around the text, in pixels
+constexpr qreal kEdgeOpacity = 0.5;
 
 }  // namespace
 
@@ -38,7 +39,8 @@ void PaneHint::Say(const QString& said) {
 void PaneHint::paintEvent(QPaintEvent* event) {
   ElidedLabel::paintEvent(event);
   QPainter painter(this);
-  painter.setPen(palette().color(QPalette::Mid));
+  painter.setPen(palette().color(foregroundRole()));
+  painter.setOpacity(kEdgeOpacity);
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
