@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "commands/command_texts.h"
 #include "platform/char_code.h"
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
@@ -17,7 +18,10 @@ namespace {
 // every key.
 constexpr std::size_t kLongestWord = 256;
 
-constexpr TextPair kMacroRow = {u"%1   (macro)", u"%1   (μακροεντολή)"};
+constexpr TextPair kMacro = {u"macro", u"μακροεντολή"};
+
+constexpr TextPair kNoSuchCommand = {u"No such command: it will be sent as text",
+                                     u"Δεν υπάρχει τέτοια εντολή: θα σταλεί ως κείμενο"};
 
 // The command pane turns a line break into a blank, so a name with one could not be typed.
 bool FitsIntoOneLine(std::u16string_view name) {
@@ -25,31 +29,57 @@ bool FitsIntoOneLine(std::u16string_view name) {
       name, [](char16_t c) { return c < u' ' || c == u'\u2028' || c == u'\u2029'; });
 }
 
+// What a row of the list shows: the word, its arguments and what it does.
+std::u16string RowText(const Completion& row, bool isGreek) {
+  constexpr std::u16string_view kNextColumn = u"\t";
+  std::u16string text = row.word;
+  if (row.IsMacro()) return text.append(kNextColumn).append(kNextColumn).append(kMacro.In(isGreek));
+  const CommandText& about = TextOfCommand(row.command->english);
+  text.append(kNextColumn).append(about.arguments.In(isGreek));
+  return text.append(kNextColumn).append(about.explanation.In(isGreek));
+}
+
 }  // namespace
 
 void CommandCompletion::rtbCommands_Change() {
   if (updating_) return;
-  errors_.Guard(Procedure::CommandCompletion, [this] { FollowPane(); });
+  errors_.Guard(Procedure::CommandCompletion,
+                [this] { FollowPane(history_.IsShowingLine() ? Opening::No : Opening::Yes); });
 }
 
-void CommandCompletion::FollowPane() {
+void CommandCompletion::rtbCommands_GotFocus() {
+  if (platform_.frmMain.completionList.fraCompletions.Visible()) return;
+  errors_.Guard(Procedure::CommandCompletion, [this] { FollowPane(Opening::No); });
+}
+
+void CommandCompletion::FollowPane(Opening opening) {
   const RichTextBox& pane = platform_.frmMain.rtbCommands;
-  if (!state_.SuggestCommands || pane.TextLength() > kLongestWord) return Close();
-  const std::u16string text = pane.Text();
-  if (!IsCommandWord(text)) return Close();
-  typed_ = text;
+  if (pane.TextLength() > kLongestWord) return Close();
+  std::u16string text = pane.Text();
+  if (!text.starts_with(u'/')) return Close();
   if (!macros_) macros_ = RunnableMacros();
+  typed_ = std::move(text);
   rows_ = CompletionsOf(typed_, state_.IsGreek, *macros_, platform_.locale);
+  ShowHint(rows_.empty() && !RunsCommand(typed_));
   const bool isComplete = rows_.size() == 1 && IsComplete(typed_, rows_.front(), platform_.locale);
-  if (rows_.empty() || isComplete) return Hide();
+  const bool mayOpen = opening == Opening::Yes && state_.SuggestCommands && IsCommandWord(typed_);
+  if (!mayOpen || rows_.empty() || isComplete) return Hide();
   ShowRows();
+}
+
+bool CommandCompletion::RunsCommand(std::u16string_view line) const {
+  return FindCommand(platform_.locale.UpperCase(line.substr(0, line.find(u' ')))) != nullptr;
+}
+
+void CommandCompletion::ShowHint(bool isShown) {
+  platform_.frmMain.lblHint.SetCaption(isShown ? kNoSuchCommand.In(state_.IsGreek) : u"");
 }
 
 void CommandCompletion::ShowRows() {
   const CompletionList& list = platform_.frmMain.completionList;
   list.lstCompletions.Clear();
   for (const Completion& row : rows_) {
-    list.lstCompletions.Append(row.isMacro ? kMacroRow.Fill(state_.IsGreek, {row.word}) : row.word);
+    list.lstCompletions.Append(RowText(row, state_.IsGreek));
   }
   list.lstCompletions.ScrollToTop(0);
   list.fraCompletions.SetVisible(true);
@@ -61,18 +91,31 @@ void CommandCompletion::Hide() {
 
 void CommandCompletion::Close() {
   Hide();
+  ShowHint(false);
   macros_.reset();
 }
 
 void CommandCompletion::rtbCommands_KeyDown(int& keyCode, int shift) {
-  const bool isArrow = keyCode == key_code::kDown || keyCode == key_code::kUp;
-  if (!isArrow || shift != 0) return;
-  if (!platform_.frmMain.completionList.fraCompletions.Visible()) return;
-  errors_.Guard(Procedure::CommandCompletion, [this, &keyCode] {
-    const int step = keyCode == key_code::kDown ? 1 : -1;
-    keyCode = char_code::kSwallowed;
-    Walk(step);
+  if (shift != 0 || !platform_.frmMain.completionList.fraCompletions.Visible()) return;
+  const int key = keyCode;
+  const bool accepts = key == key_code::kRight && IsCaretAtEnd();
+  if (!accepts && key != key_code::kDown && key != key_code::kUp) return;
+  keyCode = char_code::kSwallowed;
+  errors_.Guard(Procedure::CommandCompletion, [this, key, accepts] {
+    if (accepts) return AcceptRow();
+    Walk(key == key_code::kDown ? 1 : -1);
   });
+}
+
+bool CommandCompletion::IsCaretAtEnd() const {
+  const RichTextBox& pane = platform_.frmMain.rtbCommands;
+  return pane.SelLength() == 0 && pane.SelStart() == pane.TextLength();
+}
+
+void CommandCompletion::AcceptRow() {
+  const int selected = platform_.frmMain.completionList.lstCompletions.SelectedIndex();
+  Hide();
+  PutIntoPane(rows_[static_cast<std::size_t>(std::max(selected, 0))].word);
 }
 
 void CommandCompletion::Walk(int step) {
@@ -112,7 +155,7 @@ void CommandCompletion::mnuToolsCompletions_Click() {
   errors_.Guard(Procedure::mnuToolsCompletions_Click, [this] {
     state_.SuggestCommands = !state_.SuggestCommands;
     platform_.frmMain.mnuToolsCompletions.SetChecked(state_.SuggestCommands);
-    FollowPane();
+    FollowPane(Opening::Yes);
     settings_.WriteSetting(setting_section::kGeneral, setting_key::kSuggestCommands,
                            BooleanText(state_.SuggestCommands));
   });

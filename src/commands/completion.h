@@ -1,5 +1,6 @@
-// The list below the command pane: while the pane contains a single word that begins with "/", the
-// list shows the commands and macros that begin with it. It takes only the keys Down and Up.
+// The list beside the command pane: while the pane contains a single word that begins with "/", the
+// list shows the commands and macros that begin with it, and what they do. It takes only the keys
+// Down, Up and Right. Where nothing begins with the word, a hint says that it will be sent as text.
 #pragma once
 
 #include <optional>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "commands/completion_words.h"
+#include "commands/history.h"
 #include "macros/store/macro_store.h"
 #include "platform/platform.h"
 #include "shell/app_state.h"
@@ -19,20 +21,24 @@ namespace verlume {
 class CommandCompletion {
  public:
   CommandCompletion(AppState& state, Platform& platform, ErrorReport& errors, Settings& settings,
-                    MacroStore& macroStore)
+                    MacroStore& macroStore, const CommandHistory& history)
       : state_(state),
         platform_(platform),
         errors_(errors),
         settings_(settings),
-        macroStore_(macroStore) {}
+        macroStore_(macroStore),
+        history_(history) {}
 
-  // Opens, updates or closes the list.
+  // Opens, updates or closes the list. A line that the history shows opens none.
   void rtbCommands_Change();
 
-  // While the list is open, Down and Up walk through its rows and the typed word, put each into the
-  // pane, and are swallowed. All other keys are left alone.
+  // While the list is open, Down and Up walk through its rows and the typed word, and put each into
+  // the pane. Right at the end of the word puts the selected row there, or the first one, and
+  // closes the list. These are swallowed; all other keys are left alone.
   void rtbCommands_KeyDown(int& keyCode, int shift);
 
+  // The hint is there again, in the language in force; the list is not.
+  void rtbCommands_GotFocus();
   void rtbCommands_LostFocus();
 
   // Puts the clicked row into the pane, closes the list, and gives the focus back to the pane.
@@ -42,11 +48,18 @@ class CommandCompletion {
   void mnuToolsCompletions_Click();
 
  private:
-  void FollowPane();
+  enum class Opening { No, Yes };  // of the list
+
+  void FollowPane(Opening opening);
   void ShowRows();
+  void ShowHint(bool isShown);
   void Hide();
   void Close();
   void Walk(int step);
+  void AcceptRow();
+  bool IsCaretAtEnd() const;
+  // Whether the interpreter takes the line's first word for a command.
+  bool RunsCommand(std::u16string_view line) const;
   void PutIntoPane(std::u16string_view word);
   std::vector<std::u16string> RunnableMacros() const;
 
@@ -55,6 +68,7 @@ class CommandCompletion {
   ErrorReport& errors_;
   Settings& settings_;
   MacroStore& macroStore_;
+  const CommandHistory& history_;
 
   std::u16string typed_;          // the word that the rows complete
   std::vector<Completion> rows_;  // of the list

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "commands/command_table.h"
-
 namespace verlume {
 namespace {
 
@@ -28,6 +26,21 @@ bool Begins(std::u16string_view word, std::u16string_view letters, const Locale&
   return letters.empty();
 }
 
+// The commands that are used most, by their English words.
+constexpr std::u16string_view kUsedMost[] = {u"/WAIT", u"/CALL", u"/NICK", u"/ME", u"/CLOSE"};
+
+// The rows of the command table.
+std::vector<const CommandRow*> Rows(bool usedMostFirst) {
+  std::vector<const CommandRow*> rows;
+  for (const CommandRow& row : CommandTable()) rows.push_back(&row);
+  if (!usedMostFirst) return rows;
+  const auto rank = [](const CommandRow* row) {
+    return std::ranges::find(kUsedMost, row->english) - std::begin(kUsedMost);
+  };
+  std::ranges::stable_sort(rows, {}, rank);
+  return rows;
+}
+
 }  // namespace
 
 bool IsCommandWord(std::u16string_view text) {
@@ -39,26 +52,28 @@ std::vector<Completion> CompletionsOf(std::u16string_view typed, bool isGreek,
                                       const Locale& locale) {
   std::vector<Completion> found;
   const std::u16string letters = LettersOf(typed, locale);
+  const bool isSlashAlone = typed == u"/";
   const auto addCommands = [&](bool inGreek) {
-    for (const CommandRow& row : CommandTable()) {
-      const std::u16string_view word = inGreek ? row.greek : row.english;
+    for (const CommandRow* row : Rows(isSlashAlone)) {
+      const std::u16string_view word = inGreek ? row->greek : row->english;
       if (!Begins(word, letters, locale)) continue;
       // The interpreter looks for a macro first.
       const bool isMacrosToo = std::ranges::find(macros, word.substr(1)) != macros.end();
-      if (!isMacrosToo) found.push_back({std::u16string(word), false});
+      if (!isMacrosToo) found.push_back({std::u16string(word), row});
     }
   };
   addCommands(isGreek);
-  if (typed.size() > 1) addCommands(!isGreek);
+  if (!isSlashAlone) addCommands(!isGreek);
   for (const std::u16string& name : macros) {
     std::u16string word = u"/" + name;
-    if (Begins(word, letters, locale)) found.push_back({std::move(word), true});
+    if (Begins(word, letters, locale)) found.push_back({std::move(word), nullptr});
   }
   return found;
 }
 
 bool IsComplete(std::u16string_view typed, const Completion& completion, const Locale& locale) {
-  return completion.word == (completion.isMacro ? std::u16string(typed) : locale.UpperCase(typed));
+  return completion.word ==
+         (completion.IsMacro() ? std::u16string(typed) : locale.UpperCase(typed));
 }
 
 }  // namespace verlume

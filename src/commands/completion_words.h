@@ -6,14 +6,16 @@
 #include <string_view>
 #include <vector>
 
+#include "commands/command_table.h"
 #include "platform/system.h"
 
 namespace verlume {
 
 struct Completion {
-  std::u16string word;  // as it is typed, with its "/"
-  bool isMacro = false;
+  std::u16string word;                  // as it is typed, with its "/"
+  const CommandRow* command = nullptr;  // null for a macro
 
+  bool IsMacro() const { return !command; }
   bool operator==(const Completion&) const = default;
 };
 
@@ -22,7 +24,8 @@ bool IsCommandWord(std::u16string_view text);
 
 // All words that begin with `typed`, ignoring case and accents: first the commands of the language,
 // then, if more than the "/" is typed, those of the other language, both in the table's order, then
-// the macros in the order given. A command with the same word as a macro is left out.
+// the macros in the order given. Where nothing but the "/" is typed, the commands that are used
+// most stand first. A command with the same word as a macro is left out.
 std::vector<Completion> CompletionsOf(std::u16string_view typed, bool isGreek,
                                       std::span<const std::u16string> macros, const Locale& locale);
 

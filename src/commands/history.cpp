@@ -5,6 +5,7 @@
 #include "platform/char_code.h"
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
+#include "shell/scoped_flag.h"
 #include "shell/text_pair.h"
 
 namespace verlume {
@@ -36,7 +37,7 @@ void CommandHistory::AddToHistory() {
 void CommandHistory::rtbCommands_KeyDown(int& keyCode, int shift) {
   if (shift != 0) return;
   errors_.Guard(Procedure::rtbCommands_KeyDown, [this, &keyCode] {
-    const int key = keyCode;
+    const int key = KeyInPane(keyCode);
     switch (key) {
       case key_code::kTab:
       case key_code::kEscape:
@@ -48,6 +49,14 @@ void CommandHistory::rtbCommands_KeyDown(int& keyCode, int shift) {
     if (key == key_code::kPageUp) ShowPreviousLine();
     if (key == key_code::kPageDown) ShowNextLine();
   });
+}
+
+// Up and Down are as good as Page Up and Page Down at the pane's first and last line.
+int CommandHistory::KeyInPane(int keyCode) const {
+  const RichTextBox& pane = platform_.frmMain.rtbCommands;
+  if (keyCode == key_code::kUp && pane.IsInFirstLine()) return key_code::kPageUp;
+  if (keyCode == key_code::kDown && pane.IsInLastLine()) return key_code::kPageDown;
+  return keyCode;
 }
 
 void CommandHistory::ShowPreviousLine() {
@@ -68,6 +77,7 @@ void CommandHistory::ShowLine(int index) {
   if (index < 1 || index > kHistoryCapacity) {
     throw RunTimeFailure(FailureNumber::InvalidProcedureCall);
   }
+  const ScopedFlag showing(showingLine_);
   RichTextBox& pane = platform_.frmMain.rtbCommands;
   pane.SetRtf(state_.History[static_cast<std::size_t>(index)]);
   pane.Select(pane.TextLength(), 0);

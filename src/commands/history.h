@@ -1,5 +1,5 @@
 // The command history: the last 50 lines entered, as rich text. Page Up and Page Down go through
-// them.
+// them, and so do Up and Down where they have no other line of the pane to go to.
 #pragma once
 
 #include "platform/platform.h"
@@ -16,13 +16,17 @@ class CommandHistory {
   // Adds the command pane's rich text as the newest line; the oldest is dropped if there are 50.
   void AddToHistory();
 
-  // The special keys of the command pane: Tab, Escape, Page Up, Page Down.
+  // The special keys of the command pane: Tab, Escape, Page Up, Page Down, Up, Down.
   void rtbCommands_KeyDown(int& keyCode, int shift);
+
+  // Whether the change of the pane that is being told is the recall of a line.
+  bool IsShowingLine() const { return showingLine_; }
 
   void mnuToolsClearCommands_Click();
   void mnuToolsClearHistory_Click();
 
  private:
+  int KeyInPane(int keyCode) const;
   void ShowPreviousLine();
   void ShowNextLine();
   void ShowLine(int index);
@@ -31,6 +35,7 @@ class CommandHistory {
   AppState& state_;
   Platform& platform_;
   ErrorReport& errors_;
+  bool showingLine_ = false;
 };
 
 }  // namespace verlume

@@ -3,6 +3,7 @@
 
 #include "platform/control.h"
 #include "platform/rich_text_box.h"
+#include "platform/spell_checker.h"
 #include "platform/window.h"
 
 namespace verlume {
@@ -19,7 +20,9 @@ struct FindBar {
   Button& cmdFindClose;
 };
 
-// The list shown over the window, below the command pane. It never takes the keyboard focus.
+// The list shown over the window, beside the command pane. It never takes the keyboard focus. Its
+// items have three columns, with a tab between two: a word, which is never cut, and what goes with
+// it.
 struct CompletionList {
   Panel& fraCompletions;  // with the list in it
   ListBox& lstCompletions;
@@ -69,6 +72,7 @@ struct MainWindow {
   MenuEntry& mnuToolsAlwaysOnTop;
   MenuEntry& mnuToolsLanguageEnglish;
   MenuEntry& mnuToolsLanguageGreek;
+  MenuEntry& mnuToolsCheckSpelling;
 
   Menu& mnuView;
   MenuEntry& mnuViewStatusPanel;
@@ -85,6 +89,9 @@ struct MainWindow {
   RichTextBox& rtbRemote;    // hidden, and without a task of its own
   FindBar findBar;
   CompletionList completionList;
+  // Floats beside the command pane while it has a caption, and is then the pane's description.
+  Label& lblHint;
+  SpellChecker& spelling;  // of the command pane
 
   Button& cmdSend;  // does what Enter does in the command pane
   CheckBox& chkBold;
@@ -168,6 +175,7 @@ MainWindow MainWindowOf(Controls& controls) {
       .mnuToolsAlwaysOnTop = controls.mnuToolsAlwaysOnTop,
       .mnuToolsLanguageEnglish = controls.mnuToolsLanguageEnglish,
       .mnuToolsLanguageGreek = controls.mnuToolsLanguageGreek,
+      .mnuToolsCheckSpelling = controls.mnuToolsCheckSpelling,
       .mnuView = controls.mnuView,
       .mnuViewStatusPanel = controls.mnuViewStatusPanel,
       .mnuViewZoomIn = controls.mnuViewZoomIn,
@@ -187,6 +195,8 @@ MainWindow MainWindowOf(Controls& controls) {
                   .cmdFindClose = controls.cmdFindClose},
       .completionList = {.fraCompletions = controls.fraCompletions,
                          .lstCompletions = controls.lstCompletions},
+      .lblHint = controls.lblHint,
+      .spelling = controls.spelling,
       .cmdSend = controls.cmdSend,
       .chkBold = controls.chkBold,
       .chkItalics = controls.chkItalics,

@@ -46,6 +46,7 @@ inline constexpr int kEscape = 27;
 inline constexpr int kPageUp = 33;
 inline constexpr int kPageDown = 34;
 inline constexpr int kUp = 38;
+inline constexpr int kRight = 39;
 inline constexpr int kDown = 40;
 }  // namespace key_code
 
@@ -75,6 +76,10 @@ class RichTextBox : public Control {
   // Positions beyond the end are limited to the end; a length of 0 is an insertion point. Scrolls
   // the selection into view.
   virtual void Select(std::size_t start, std::size_t length) = 0;
+  // Whether the insertion point, or the end of the selection that the user moves, is in the first
+  // or the last line as the box shows them: it shows a long paragraph in several lines.
+  virtual bool IsInFirstLine() const = 0;
+  virtual bool IsInLastLine() const = 0;
 
   virtual SelectionFormat SelFormat() const = 0;
   // With an insertion point, it sets the format of what is inserted or typed there next.

@@ -59,8 +59,11 @@ struct AppState {
   bool DateStamp = true;
   bool TimeStamp = true;
 
-  // Whether a list below the command pane suggests completions of a word that begins with "/".
+  // Whether a list beside the command pane suggests completions of a word that begins with "/".
   bool SuggestCommands = true;
+
+  // Whether the spelling of what is typed is checked.
+  bool CheckSpelling = true;
 
   // The command history: element 0 holds the number of lines as text, 1 is the oldest line.
   std::array<std::u16string, kHistoryCapacity + 1> History;

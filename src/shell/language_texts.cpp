@@ -81,6 +81,17 @@ std::vector<PanelValue> PanelValues(const MainWindow& frmMain) {
   };
 }
 
+std::vector<FixedText> SpellingTexts(SpellChecker& spelling) {
+  const auto entry = [&spelling](SpellingEntry which) {
+    return [&spelling, which](std::u16string_view text) { spelling.SetCaption(which, text); };
+  };
+  return {
+      {entry(SpellingEntry::Searching), {u"Looking for suggestions…", u"Αναζήτηση προτάσεων…"}},
+      {entry(SpellingEntry::NoSuggestion), {u"No suggestions", u"Καμία πρόταση"}},
+      {entry(SpellingEntry::AddWord), {u"Add to dictionary", u"Προσθήκη στο λεξικό"}},
+  };
+}
+
 }  // namespace
 
 std::vector<FixedText> MenuAndToolTipTexts(const MainWindow& frmMain) {
@@ -129,6 +140,7 @@ std::vector<FixedText> MenuAndToolTipTexts(const MainWindow& frmMain) {
       {Caption(frmMain.mnuToolsAlwaysOnTop), {u"Always on top", u"Πάντα σε πρώτο πλάνο"}},
       {Caption(frmMain.mnuToolsLanguageEnglish), {u"English", u"Αγγλική"}},
       {Caption(frmMain.mnuToolsLanguageGreek), {u"Greek", u"Ελληνική"}},
+      {Caption(frmMain.mnuToolsCheckSpelling), {u"Check spelling", u"Έλεγχος ορθογραφίας"}},
       {Caption(frmMain.mnuView), {u"View", u"Προβολή"}},
       {Caption(frmMain.mnuViewStatusPanel), {u"Status panel", u"Πίνακας κατάστασης"}},
       {Caption(frmMain.mnuViewZoomIn), {u"Larger text", u"Μεγαλύτερο κείμενο"}},
@@ -163,6 +175,7 @@ std::vector<FixedText> PanelTexts(const MainWindow& frmMain) {
       {AccessibleName(frmMain.picCopyright), {u"Copyright notice", u"Πνευματικά δικαιώματα"}},
       {Caption(frmMain.lblCopyright), kCopyrightNotice},
   };
+  for (FixedText& text : SpellingTexts(frmMain.spelling)) texts.push_back(std::move(text));
   const FindBar& bar = frmMain.findBar;
   texts.push_back({AccessibleName(bar.txtFind), {u"Find in dialogue", u"Εύρεση στον διάλογο"}});
   texts.push_back({ToolTip(bar.txtFind), {u"Words to be found", u"Λέξεις προς εύρεση"}});

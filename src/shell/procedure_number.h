@@ -60,6 +60,8 @@ enum class Procedure : int {
   CommandCompletion = 255,
   mnuToolsCompletions_Click = 256,
   View = 257,  // the View menu
+  SpellCheck = 275,
+  mnuToolsCheckSpelling_Click = 276,
 };
 
 }  // namespace verlume

@@ -154,6 +154,10 @@ constexpr Key kKeys[] = {
      [](Value value, Target to) {
        to.frmMain.rtbData.SetMostParagraphs(static_cast<std::size_t>(MostParagraphsOf(value)));
      }},
+    {setting_section::kGeneral, setting_key::kCheckSpelling, 20, kNull, CheckText,
+     [](Value value, Target to) {
+       SetSwitch(to.state.CheckSpelling, IsNotOff(value), to.frmMain.mnuToolsCheckSpelling);
+     }},
 };
 
 // The value of a key in the file.
@@ -188,6 +192,7 @@ void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
   SetSwitch(state.AlwaysOnTop, false, frmMain.mnuToolsAlwaysOnTop);
   SetSwitch(state.LogDialogue, false, frmMain.mnuFileLogRecord);
   SetSwitch(state.SuggestCommands, true, frmMain.mnuToolsCompletions);
+  SetSwitch(state.CheckSpelling, true, frmMain.mnuToolsCheckSpelling);
   frmMain.rtbData.SetMostParagraphs(kDefaultMostParagraphs);
 }
 

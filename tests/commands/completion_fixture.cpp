@@ -10,6 +10,7 @@ CompletionSide::CompletionSide() {
     if (code != 0) history.rtbCommands_KeyDown(code, shift);
   };
   pane.onChange = [this] { completion.rtbCommands_Change(); };
+  pane.onGotFocus = [this] { completion.rtbCommands_GotFocus(); };
   pane.onLostFocus = [this] { completion.rtbCommands_LostFocus(); };
   window.lstCompletions.onClick = [this] { completion.lstCompletions_Click(); };
   textFormat.ApplyCommandStyle();

@@ -14,7 +14,22 @@ class CompletionSide : public TypingSide {
   ~CompletionSide() override;
 
   bool IsOpen() const { return window.fraCompletions.visible; }
-  const std::vector<std::u16string>& Rows() const { return window.lstCompletions.items; }
+  // The words of the list, and what a row says of its word.
+  std::vector<std::u16string> Rows() const {
+    std::vector<std::u16string> words;
+    for (const std::u16string& row : window.lstCompletions.items) {
+      words.push_back(row.substr(0, row.find(u'\t')));
+    }
+    return words;
+  }
+  std::u16string RowWith(std::u16string_view word) const {
+    const std::u16string start = std::u16string(word) + u'\t';
+    for (const std::u16string& row : window.lstCompletions.items) {
+      if (row.starts_with(start)) return row.substr(start.size());
+    }
+    return {};
+  }
+  std::u16string Hint() const { return window.lblHint.caption; }
   int Selected() const { return window.lstCompletions.selected; }
   void MakeMacro(std::u16string_view name, std::string rtf = "{\\rtf1 waves}") {
     fake.files.files[u"/macros/" + std::u16string(name) + u".rtf"] = rtf;
@@ -27,7 +42,7 @@ class CompletionSide : public TypingSide {
 
   FakeRichTextBox& pane = window.rtbCommands;
   MacroStore macroStore{state, fake.platform, errors, settings};
-  CommandCompletion completion{state, fake.platform, errors, settings, macroStore};
+  CommandCompletion completion{state, fake.platform, errors, settings, macroStore, history};
 };
 
 }  // namespace verlume::fake

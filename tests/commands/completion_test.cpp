@@ -97,10 +97,25 @@ TEST_F(Completions, CloseWhenALineOfAnotherKindIsRecalled) {
   EXPECT_FALSE(IsOpen());
 }
 
-TEST_F(Completions, OpenForARecalledSlashWord) {
+TEST_F(Completions, StayAwayFromARecalledLine) {
   Enter(u"/ca");
-  EXPECT_EQ(Press(key_code::kPageUp), u"/ca");
+  for (const int key : {key_code::kPageUp, key_code::kPageDown, key_code::kUp, key_code::kDown}) {
+    EXPECT_EQ(Press(key), u"/ca");
+    EXPECT_FALSE(IsOpen());
+  }
+  pane.Type(u"l");
   EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(Completions, SayWhatACommandDoesInTheLanguageInForce) {
+  pane.Type(u"/wa");
+  EXPECT_EQ(RowWith(u"/WAIT"), u"[port]\twaits for a call");
+  pane.SetText(u"");
+  state.IsGreek = true;
+  pane.Type(u"/wa");
+  EXPECT_EQ(RowWith(u"/WAIT"), u"[θύρα]\tαναμένει κλήση");
+  pane.SetText(u"/αναμ");
+  EXPECT_EQ(RowWith(u"/ΑΝΑΜΟΝΉ"), u"[θύρα]\tαναμένει κλήση");
 }
 
 TEST_F(Completions, CloseWhenThePaneLosesTheFocus) {
@@ -114,24 +129,23 @@ TEST_F(Completions, CloseWhenThePaneLosesTheFocus) {
 TEST_F(Completions, MarkTheMacrosInTheLanguageInForce) {
   MakeMacro(u"wave");
   pane.Type(u"/wa");
-  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/wave   (macro)"));
+  EXPECT_EQ(RowWith(u"/wave"), u"\tmacro");
   pane.SetText(u"");
   state.IsGreek = true;
   pane.Type(u"/wa");
-  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/wave   (μακροεντολή)"));
+  EXPECT_EQ(RowWith(u"/wave"), u"\tμακροεντολή");
 }
 
 TEST_F(Completions, ListTheMacrosByName) {
   for (const auto name : {u"wide", u"West", u"will"}) MakeMacro(name);
   pane.Type(u"/w");
-  EXPECT_THAT(Rows(),
-              ElementsAre(u"/WAIT", u"/West   (macro)", u"/wide   (macro)", u"/will   (macro)"));
+  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/West", u"/wide", u"/will"));
 }
 
 TEST_F(Completions, OfferNoMacroThatTheInterpreterWouldNotLoad) {
   for (const auto name : {u"w\\x", u"", u"w\nx", u"w\u2028x", u"wx"}) MakeMacro(name);
   pane.Type(u"/w");
-  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/wx   (macro)"));
+  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/wx"));
   pane.SetText(u"/");
   EXPECT_EQ(Rows().size(), CommandTable().size() + 1);
 }
@@ -140,7 +154,7 @@ TEST_F(Completions, OfferAMacroOfTwoSpellingsOfItsExtensionOnce) {
   MakeMacro(u"wave");
   fake.files.files[u"/macros/wave.RTF"] = "{\\rtf1 x}";
   pane.Type(u"/wav");
-  EXPECT_THAT(Rows(), ElementsAre(u"/wave   (macro)"));
+  EXPECT_THAT(Rows(), ElementsAre(u"/wave"));
 }
 
 TEST_F(Completions, ReadTheFolderOnceAWord) {
@@ -148,10 +162,10 @@ TEST_F(Completions, ReadTheFolderOnceAWord) {
   pane.Type(u"/x");
   MakeMacro(u"walk");
   pane.SetText(u"/wa");
-  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/wave   (macro)"));
+  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/wave"));
   pane.SetText(u"");
   pane.Type(u"/wa");
-  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/walk   (macro)", u"/wave   (macro)"));
+  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/walk", u"/wave"));
 }
 
 TEST_F(Completions, OfAFolderThatIsGoneAreTheCommands) {

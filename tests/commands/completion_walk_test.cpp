@@ -46,7 +46,7 @@ TEST_F(CompletionWalk, GoesRoundAtBothEnds) {
 TEST_F(CompletionWalk, TheListGoesOnMatchingWhatWasTyped) {
   Down();
   EXPECT_TRUE(IsOpen());
-  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/walk   (macro)", u"/wave   (macro)"));
+  EXPECT_THAT(Rows(), ElementsAre(u"/WAIT", u"/walk", u"/wave"));
 }
 
 TEST_F(CompletionWalk, WhatIsTypedNextIsMatchedAgain) {
@@ -87,6 +87,30 @@ TEST_F(CompletionWalk, EnterWithoutAWalkRunsWhatWasTyped) {
   EXPECT_FALSE(state.IsWaiting);
 }
 
+TEST_F(CompletionWalk, RightTakesTheFirstRowAndRunsNothing) {
+  EXPECT_EQ(Press(key_code::kRight), u"/WAIT");
+  EXPECT_EQ(pane.SelStart(), 5u);
+  EXPECT_FALSE(IsOpen());
+  EXPECT_FALSE(state.IsWaiting);
+  EXPECT_TRUE(pane.PressKey(key_code::kRight));
+}
+
+TEST_F(CompletionWalk, RightTakesTheSelectedRow) {
+  Down();
+  Down();
+  EXPECT_EQ(Press(key_code::kRight), u"/walk");
+  EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(CompletionWalk, RightWithinTheWordIsThePanesOwn) {
+  pane.Select(1, 0);
+  EXPECT_TRUE(pane.PressKey(key_code::kRight));
+  pane.Select(0, 3);
+  EXPECT_TRUE(pane.PressKey(key_code::kRight));
+  EXPECT_EQ(pane.Text(), u"/wa");
+  EXPECT_TRUE(IsOpen());
+}
+
 TEST_F(CompletionWalk, TheWordTakesTheStyleInForce) {
   window.chkBold.SetValue(1);
   Down();
@@ -106,13 +130,19 @@ TEST_F(CompletionWalk, LeavesTheSettingsOfTheStyleAlone) {
 
 TEST_F(CompletionWalk, KeysAreThePanesOwnWhileTheListIsClosed) {
   pane.SetText(u"hello");
-  EXPECT_TRUE(pane.PressKey(key_code::kDown));
-  EXPECT_TRUE(pane.PressKey(key_code::kUp));
+  for (const int key : {key_code::kDown, key_code::kUp, key_code::kRight}) {
+    int code = key;
+    completion.rtbCommands_KeyDown(code, 0);
+    EXPECT_EQ(code, key);
+  }
   EXPECT_EQ(pane.Text(), u"hello");
 }
 
 TEST_F(CompletionWalk, KeysWithAModifierAreThePanesOwn) {
-  for (const int shift : {1, 2, 4}) EXPECT_TRUE(pane.PressKey(key_code::kDown, shift));
+  for (const int shift : {1, 2, 4}) {
+    EXPECT_TRUE(pane.PressKey(key_code::kDown, shift));
+    EXPECT_TRUE(pane.PressKey(key_code::kRight, shift));
+  }
   EXPECT_EQ(pane.Text(), u"/wa");
   EXPECT_EQ(Selected(), -1);
 }

@@ -25,6 +25,14 @@ class History : public testing::Test {
     pane.PressKey(key_code::kPageUp);
     return pane.Text();
   }
+  std::u16string Up() {
+    pane.PressKey(key_code::kUp);
+    return pane.Text();
+  }
+  std::u16string Down() {
+    pane.PressKey(key_code::kDown);
+    return pane.Text();
+  }
   std::u16string PageDown() {
     pane.PressKey(key_code::kPageDown);
     return pane.Text();
@@ -128,6 +136,48 @@ TEST_F(History, AnEmptyHistoryLeavesThePaneAndSwallowsTheKeys) {
   EXPECT_EQ(state.HistoryDown, -1);
 }
 
+TEST_F(History, UpAndDownWalkAsPageUpAndPageDownDo) {
+  for (const auto line : {u"A", u"B", u"C"}) Keep(line);
+  EXPECT_EQ(Up(), u"C");
+  EXPECT_EQ(Up(), u"B");
+  EXPECT_EQ(PageUp(), u"A");
+  EXPECT_EQ(Up(), u"C");
+  EXPECT_EQ(Down(), u"A");
+  EXPECT_EQ(PageDown(), u"B");
+}
+
+TEST_F(History, UpAndDownAreSwallowedByAnEmptyHistory) {
+  pane.SetText(u"typed");
+  EXPECT_FALSE(pane.PressKey(key_code::kUp));
+  EXPECT_FALSE(pane.PressKey(key_code::kDown));
+  EXPECT_EQ(pane.Text(), u"typed");
+}
+
+TEST_F(History, UpAndDownMoveTheCaretInALineThatIsShownAsSeveral) {
+  Keep(u"A");
+  pane.lineWidth = 10;
+  pane.SetText(u"a line as long as three");
+  for (const std::size_t caret : {0u, 15u, 23u}) {
+    pane.Select(caret, 0);
+    EXPECT_EQ(pane.PressKey(key_code::kUp), caret != 0) << caret;
+    EXPECT_EQ(pane.Text(), caret == 0 ? u"A" : u"a line as long as three");
+    pane.SetText(u"a line as long as three");
+    pane.Select(caret, 0);
+    EXPECT_EQ(pane.PressKey(key_code::kDown), caret != 23) << caret;
+    EXPECT_EQ(pane.Text(), caret == 23 ? u"A" : u"a line as long as three");
+    pane.SetText(u"a line as long as three");
+  }
+}
+
+TEST_F(History, TellsWhileItShowsALine) {
+  Keep(u"A");
+  std::vector<bool> told;
+  pane.onChange = [&] { told.push_back(history.IsShowingLine()); };
+  PageUp();
+  pane.SetText(u"typed");
+  EXPECT_EQ(told, (std::vector<bool>{true, false}));
+}
+
 TEST_F(History, TabDoesNothing) {
   pane.SetText(u"typed");
   EXPECT_FALSE(pane.PressKey(key_code::kTab));
@@ -144,8 +194,8 @@ TEST_F(History, KeysWithAModifierAreLeftToThePane) {
   Keep(u"A");
   pane.SetText(u"typed");
   for (const int shift : {1, 2, 4, 3, 7}) {
-    for (const int key :
-         {key_code::kTab, key_code::kEscape, key_code::kPageUp, key_code::kPageDown}) {
+    for (const int key : {key_code::kTab, key_code::kEscape, key_code::kPageUp, key_code::kPageDown,
+                          key_code::kUp, key_code::kDown}) {
       EXPECT_TRUE(pane.PressKey(key, shift)) << key << " with " << shift;
     }
   }

@@ -4,6 +4,7 @@
 #include "platform/main_window.h"
 #include "platform_fake/fake_controls.h"
 #include "platform_fake/fake_rich_text_box.h"
+#include "platform_fake/fake_spell_checker.h"
 
 namespace verlume::fake {
 
@@ -50,6 +51,7 @@ struct FakeMainWindow {
   FakeMenuEntry mnuToolsAlwaysOnTop;
   FakeMenuEntry mnuToolsLanguageEnglish;
   FakeMenuEntry mnuToolsLanguageGreek;
+  FakeMenuEntry mnuToolsCheckSpelling;
   FakeMenu mnuView;
   FakeMenuEntry mnuViewStatusPanel;
   FakeMenuEntry mnuViewZoomIn;
@@ -69,6 +71,8 @@ struct FakeMainWindow {
   FakeButton cmdFindClose;
   FakePanel fraCompletions;
   FakeListBox lstCompletions;
+  FakeLabel lblHint;
+  FakeSpellChecker spelling;
   FakeButton cmdSend;
   FakeCheckBox chkBold;
   FakeCheckBox chkItalics;

@@ -35,6 +35,10 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   std::size_t SelStart() const override { return selStart_; }
   std::size_t SelLength() const override { return selLength_; }
   void Select(std::size_t start, std::size_t length) override;
+  bool IsInFirstLine() const override { return selStart_ + selLength_ < lineWidth; }
+  bool IsInLastLine() const override {
+    return (selStart_ + selLength_) / lineWidth == cells_.size() / lineWidth;
+  }
   SelectionFormat SelFormat() const override;
   void SetSelFormat(const SelectionFormat& format) override;
   void SetSelText(std::u16string_view text) override;
@@ -75,6 +79,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   bool moreIsComing = false;
   int timesDropped = 0;
   std::size_t mostParagraphs = 0;
+  // How many characters it shows in one line; for texts of one paragraph.
+  std::size_t lineWidth = 1 << 20;
   bool locked = false;
   std::u16string tag;
   Color backColor = 0xFFFFFF;

@@ -58,6 +58,9 @@ void Collect(ShownTexts& texts, const fake::FakeProgressBar& bar) {
 void Collect(ShownTexts& texts, const fake::FakeListBox& list) {
   Collect<ListBox>(texts, list);
 }
+void Collect(ShownTexts& texts, const fake::FakeSpellChecker& spelling) {
+  for (const auto& [entry, caption] : spelling.captions) texts.push_back({"caption", caption});
+}
 void Collect(ShownTexts&, const fake::FakePanel&) {}
 void Collect(ShownTexts&, const fake::FakeLayoutControl&) {}
 void Collect(ShownTexts&, const fake::FakeTimer&) {}
@@ -73,18 +76,19 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro,
                mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue,
                mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate, mnuToolsTime,
-               mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuView,
-               mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut, mnuViewZoomReset, mnuHelp,
-               mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
-               cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions,
-               lstCompletions, cmdSend, chkBold, chkItalics, chkUnderline, lblColor, lblStatus,
-               prgStatus, lblWaiting, fraPanel, lblCurrentDateTime, lblChatStartDateTime,
-               lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP,
-               lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
-               lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
-               lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
-               lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
-               shpStatus, lblCopyright, picCopyright, frmMain] = mainWindow;
+               mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
+               mnuToolsCheckSpelling, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
+               mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands,
+               rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult,
+               cmdFindClose, fraCompletions, lstCompletions, lblHint, spelling, cmdSend, chkBold,
+               chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, fraPanel,
+               lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
+               lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
+               lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
+               lblChatDurationCaption, lblLocalPortCaption, lblLocalNicknameCaption,
+               lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
+               lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright, frmMain] =
+      mainWindow;
   (void)frmMain;
   ShownTexts texts;
   const auto collect = [&texts](const auto&... elements) { (Collect(texts, elements), ...); };
@@ -96,16 +100,17 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
           mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
           mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
-          mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut, mnuViewZoomReset, mnuHelp,
-          mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
-          cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions, lstCompletions,
-          cmdSend, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting,
-          fraPanel, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP,
-          lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname,
-          lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
-          lblChatDurationCaption, lblLocalPortCaption, lblLocalNicknameCaption,
-          lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
-          lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright);
+          mnuToolsCheckSpelling, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
+          mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote,
+          fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose,
+          fraCompletions, lstCompletions, lblHint, spelling, cmdSend, chkBold, chkItalics,
+          chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, fraPanel, lblCurrentDateTime,
+          lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname,
+          lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
+          lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
+          lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
+          lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
+          shpStatus, lblCopyright, picCopyright);
   return texts;
 }
 
@@ -120,7 +125,7 @@ class LanguageTest : public ShellTest {
           &window.lblChatDuration, &window.lblLocalIP, &window.lblLocalPort,
           &window.lblLocalNickname, &window.lblRemoteIP, &window.lblRemotePort,
           &window.lblRemoteNickname, &window.lblBytesSent, &window.lblBytesReceived,
-          &window.lblColor, &window.lblFindResult}) {
+          &window.lblColor, &window.lblFindResult, &window.lblHint}) {
       label->caption = u"";
     }
   }

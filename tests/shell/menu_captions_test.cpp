@@ -54,6 +54,7 @@ class MenuCaptionsTest : public ShellTest {
       {window.mnuToolsAlwaysOnTop.caption, {u"Always on top", u"Πάντα σε πρώτο πλάνο"}},
       {window.mnuToolsLanguageEnglish.caption, {u"English", u"Αγγλική"}},
       {window.mnuToolsLanguageGreek.caption, {u"Greek", u"Ελληνική"}},
+      {window.mnuToolsCheckSpelling.caption, {u"Check spelling", u"Έλεγχος ορθογραφίας"}},
       {window.mnuHelp.caption, {u"Help", u"Βοήθεια"}},
       {window.mnuHelpDetailed.caption, {u"Detailed", u"Λεπτομερής"}},
       {window.mnuHelpAbout.caption, {u"About", u"Σχετικά"}},

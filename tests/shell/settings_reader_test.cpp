@@ -77,7 +77,7 @@ TEST_F(SettingsReaderTest, WithoutAFileTheLocalFontIsTheDialoguePanes) {
 TEST_F(SettingsReaderTest, ReadsEveryKey) {
   Read(
       "[General]\nLanguage=1\nNickname=Bob\nDateStamp=False\nTimeStamp=0\nAlwaysOnTop=true\n"
-      "Macrosfolder=/macros/\nSuggestcommands=False\n"
+      "Macrosfolder=/macros/\nSuggestcommands=False\nCheckSpelling=False\n"
       "[FontLocal]\nName=Times\nBold=True\nItalic=-1\nStrikethrough=TRUE\nUnderline=1\n"
       "Forecolor=255\nSize=10.5\n"
       "[BackColor]\nCommands=65535\nDialogue=65280\n"
@@ -107,6 +107,17 @@ TEST_F(SettingsReaderTest, ReadsEveryKey) {
   EXPECT_TRUE(window.mnuFileLogRecord.checked);
   EXPECT_FALSE(state.SuggestCommands);
   EXPECT_FALSE(window.mnuToolsCompletions.checked);
+  EXPECT_FALSE(state.CheckSpelling);
+  EXPECT_FALSE(window.mnuToolsCheckSpelling.checked);
+}
+
+TEST_F(SettingsReaderTest, SpellingIsCheckedUnlessTheFileClearlySaysNo) {
+  for (const char* value : {"True", "maybe", ""}) {
+    state.CheckSpelling = false;
+    Read(std::string("[General]\nCheckSpelling=") + value + "\n");
+    EXPECT_TRUE(state.CheckSpelling) << value;
+    EXPECT_TRUE(window.mnuToolsCheckSpelling.checked) << value;
+  }
 }
 
 TEST_F(SettingsReaderTest, CommandsAreSuggestedUnlessTheFileClearlySaysNo) {
@@ -204,12 +215,12 @@ TEST_F(SettingsReaderTest, AnEmptyFontNameLeavesThePanes) {
 
 TEST_F(SettingsReaderTest, InvalidValuesAreFoundBeforehand) {
   const std::pair<const char*, const char*> keys[] = {
-      {"General", "Nickname"},     {"General", "DateStamp"},      {"General", "TimeStamp"},
-      {"General", "AlwaysOnTop"},  {"FontLocal", "Name"},         {"FontLocal", "Bold"},
-      {"FontLocal", "Italic"},     {"FontLocal", "Underline"},    {"FontLocal", "Strikethrough"},
-      {"FontLocal", "Forecolor"},  {"FontLocal", "Size"},         {"BackColor", "Commands"},
-      {"BackColor", "Dialogue"},   {"Logging", "Logfolder"},      {"Logging", "Logdialogue"},
-      {"General", "Macrosfolder"}, {"General", "Suggestcommands"}};
+      {"General", "Nickname"},     {"General", "DateStamp"},       {"General", "TimeStamp"},
+      {"General", "AlwaysOnTop"},  {"FontLocal", "Name"},          {"FontLocal", "Bold"},
+      {"FontLocal", "Italic"},     {"FontLocal", "Underline"},     {"FontLocal", "Strikethrough"},
+      {"FontLocal", "Forecolor"},  {"FontLocal", "Size"},          {"BackColor", "Commands"},
+      {"BackColor", "Dialogue"},   {"Logging", "Logfolder"},       {"Logging", "Logdialogue"},
+      {"General", "Macrosfolder"}, {"General", "Suggestcommands"}, {"General", "CheckSpelling"}};
   for (const auto& [section, key] : keys) {
     for (const char* value : {"", "maybe", "True", "1", "-1", "9.5", "99999999999", "NULL"}) {
       const std::string text = std::string("[") + section + "]\n" + key + "=" + value + "\n";

@@ -32,6 +32,8 @@ int KeyCodeOf(const QKeyEvent& event) {
       return key_code::kPageDown;
     case Qt::Key_Up:
       return key_code::kUp;
+    case Qt::Key_Right:
+      return key_code::kRight;
     case Qt::Key_Down:
       return key_code::kDown;
     default:

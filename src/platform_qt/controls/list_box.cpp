@@ -111,7 +111,11 @@ void QtListBox::Clear() {
 
 void QtListBox::Append(std::u16string_view text) {
   const Counted change(programDepth_);
-  widget_->addItem(ToQt(text));
+  auto* item = new QListWidgetItem(ToQt(text));
+  // The columns of a row are read out one after the other.
+  const QStringList columns = item->text().split(u'\t', Qt::SkipEmptyParts);
+  if (columns.size() > 1) item->setData(Qt::AccessibleTextRole, columns.join(u", "));
+  widget_->addItem(item);
 }
 
 void QtListBox::Remove(int index) {

@@ -1,9 +1,11 @@
 #include "platform_qt/text/rich_text_box.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QTextBlock>
+#include <QTextLayout>
 #include <algorithm>
 #include <future>
 #include <utility>
@@ -37,6 +39,14 @@ constexpr std::size_t kLengthOfRun = 8;
 // A text so long, in characters, is saved between events; and when it has been removed, its memory
 // goes back to the system.
 constexpr std::size_t kLongText = 64 * 1024;
+
+// The line of a paragraph in which the cursor is, as it is shown.
+QTextLine LineOf(const QTextCursor& cursor) {
+  const QTextBlock block = cursor.block();
+  // Lays the block out, if it is not yet.
+  block.document()->documentLayout()->blockBoundingRect(block);
+  return block.layout()->lineForTextPosition(cursor.positionInBlock());
+}
 
 }  // namespace
 
@@ -248,6 +258,18 @@ void QtRichTextBox::Select(std::size_t start, std::size_t length) {
   cursor.setPosition(DocumentPosition(to), QTextCursor::KeepAnchor);
   SetCursor(cursor);
   RaiseSelChange();
+}
+
+bool QtRichTextBox::IsInFirstLine() const {
+  const QTextCursor cursor = Cursor();
+  return cursor.block() == widget_->document()->firstBlock() && LineOf(cursor).lineNumber() <= 0;
+}
+
+bool QtRichTextBox::IsInLastLine() const {
+  const QTextCursor cursor = Cursor();
+  const QTextLine line = LineOf(cursor);
+  return cursor.block() == widget_->document()->lastBlock() &&
+         line.lineNumber() == cursor.block().layout()->lineCount() - 1;
 }
 
 SelectionFormat QtRichTextBox::SelFormat() const {

@@ -49,6 +49,8 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   std::size_t SelStart() const override;
   std::size_t SelLength() const override;
   void Select(std::size_t start, std::size_t length) override;
+  bool IsInFirstLine() const override;
+  bool IsInLastLine() const override;
   SelectionFormat SelFormat() const override;
   void SetSelFormat(const SelectionFormat& format) override;
   void SetSelText(std::u16string_view text) override;

@@ -2,7 +2,6 @@
 
 #include <QEvent>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -11,28 +10,18 @@ namespace {
 
 constexpr int kMostRows = 8;  // visible at a time
 
-// Rows with a little space around the text.
-class RoomyRows : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    return QStyledItemDelegate::sizeHint(option, index) + QSize(8, 6);
-  }
-};
-
 }  // namespace
 
-CompletionFrame::CompletionFrame(QWidget* area) : QFrame(area), list_(new ListWidget(this)) {
+CompletionFrame::CompletionFrame(QWidget* area)
+    : QFrame(area), list_(new ListWidget(this)), rows_(new CompletionRows(list_)) {
   setObjectName(QStringLiteral("fraCompletions"));
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);
   list_->setObjectName(QStringLiteral("lstCompletions"));
   list_->setFrameShape(QFrame::NoFrame);
   list_->setFocusPolicy(Qt::NoFocus);
-  list_->setItemDelegate(new RoomyRows(list_));
+  list_->setItemDelegate(rows_);
   list_->setUniformItemSizes(true);
-  // Cut in the middle, because the end of a long row matters too.
-  list_->setTextElideMode(Qt::ElideMiddle);
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   auto* inside = new QVBoxLayout(this);
   inside->setContentsMargins(0, 0, 0, 0);
@@ -50,7 +39,7 @@ CompletionFrame::~CompletionFrame() {
   disconnect(list_->model(), nullptr, this, nullptr);
 }
 
-void CompletionFrame::PlaceBelow(QWidget* pane) {
+void CompletionFrame::PlaceBeside(QWidget* pane) {
   pane_ = pane;
   pane->installEventFilter(this);
 }
@@ -76,14 +65,19 @@ bool CompletionFrame::eventFilter(QObject* watched, QEvent* event) {
 void CompletionFrame::Place() {
   if (!pane_ || isHidden()) return;
   list_->ensurePolished();
-  const QRect above = pane_->geometry();
+  const QRect pane = pane_->geometry();
+  rows_->Measure(pane.width());
   const int edges = 2 * frameWidth();
-  const int row = std::max(1, list_->sizeHintForRow(0));
-  const int room = parentWidget()->height() - (above.bottom() + 1) - edges;
-  const int rows = std::clamp(room / row, 1, std::clamp(list_->count(), 1, kMostRows));
-  int width = list_->sizeHintForColumn(0) + edges;
+  const QSize row = rows_->sizeHint({}, {});
+  const int above = pane.top();
+  const int below = parentWidget()->height() - (pane.bottom() + 1);
+  const int room = std::max(above, below) - edges;
+  const int rows = std::clamp(room / row.height(), 1, std::clamp(list_->count(), 1, kMostRows));
+  int width = row.width() + edges;
   if (rows < list_->count()) width += list_->verticalScrollBar()->sizeHint().width();
-  setGeometry(above.left(), above.bottom() + 1, std::min(width, above.width()), rows * row + edges);
+  const int height = rows * row.height() + edges;
+  setGeometry(pane.left(), above > below ? above - height : pane.bottom() + 1,
+              std::min(width, pane.width()), height);
 }
 
 }  // namespace verlume::qt

@@ -1,4 +1,4 @@
-// The list below the command pane, implemented with Qt: it is shown over other controls, as large
+// The list beside the command pane, implemented with Qt: it is shown over other controls, as large
 // as its rows need, and never takes the keyboard focus.
 #pragma once
 
@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include "platform_qt/controls/list_box.h"
+#include "platform_qt/windows/completion_rows.h"
 
 namespace verlume::qt {
 
@@ -15,8 +16,9 @@ class CompletionFrame : public QFrame {
   explicit CompletionFrame(QWidget* area);
   ~CompletionFrame() override;
 
-  // When shown, it is directly below the pane, which must have the same parent.
-  void PlaceBelow(QWidget* pane);
+  // When shown, it is directly above or below the pane, where there is more room. The pane must
+  // have the same parent.
+  void PlaceBeside(QWidget* pane);
 
  protected:
   bool event(QEvent* event) override;
@@ -27,6 +29,7 @@ class CompletionFrame : public QFrame {
   void Place();
 
   ListWidget* list_;
+  CompletionRows* rows_;
   QPointer<QWidget> pane_;
 };
 

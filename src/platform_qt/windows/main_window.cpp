@@ -1,5 +1,9 @@
 #include "platform_qt/windows/main_window.h"
 
+#include "platform_qt/spelling/spelling_menu.h"
+#include "platform_qt/text/typing_relay.h"
+#include "platform_qt/windows/growing_pane.h"
+
 namespace verlume::qt {
 
 QtMainWindow::QtMainWindow(FileSystem& files)
@@ -14,6 +18,9 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
   rtbRemote.widget()->hide();
   rtbData.SetLocked(true);
+  new TypingRelay(*rtbData.widget(), *rtbCommands.widget());
+  new GrowingPane(*rtbCommands.widget());
+  new SpellingMenu(*rtbCommands.widget(), spelling);
   QFont strong;
   strong.setWeight(QFont::DemiBold);
   lblStatus.widget()->setFont(strong);

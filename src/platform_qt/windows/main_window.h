@@ -4,6 +4,7 @@
 #include "platform/main_window.h"
 #include "platform_qt/controls/controls.h"
 #include "platform_qt/controls/list_box.h"
+#include "platform_qt/spelling/spell_checker.h"
 #include "platform_qt/text/rich_text_box.h"
 #include "platform_qt/windows/find_bar.h"
 #include "platform_qt/windows/main_window_form.h"
@@ -68,6 +69,7 @@ class QtMainWindow {
   QtMenuEntry mnuToolsAlwaysOnTop{form_.Find<QAction>("mnuToolsAlwaysOnTop")};
   QtMenuEntry mnuToolsLanguageEnglish{form_.Find<QAction>("mnuToolsLanguageEnglish")};
   QtMenuEntry mnuToolsLanguageGreek{form_.Find<QAction>("mnuToolsLanguageGreek")};
+  QtMenuEntry mnuToolsCheckSpelling{form_.Find<QAction>("mnuToolsCheckSpelling")};
 
   QtMenu mnuView{form_.Find<QMenu>("mnuView")};
   QtMenuEntry mnuViewStatusPanel{form_.Find<QAction>("mnuViewStatusPanel")};
@@ -92,6 +94,8 @@ class QtMainWindow {
 
   QtPanel fraCompletions{form_.Find<QWidget>("fraCompletions")};
   QtListBox lstCompletions{form_.Find<ListWidget>("lstCompletions")};
+  QtPaneHint lblHint{form_.Find<PaneHint>("lblHint")};
+  QtSpellChecker spelling{rtbCommands.widget()};
 
   QtButton cmdSend{form_.Find<QPushButton>("cmdSend")};
   QtCheckBox chkBold{form_.Find<QCheckBox>("chkBold")};

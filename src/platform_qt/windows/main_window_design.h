@@ -116,6 +116,7 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuTools", "mnuToolsAlwaysOnTop", true},
     {"mnuTools", "mnuToolsLanguageEnglish", true, true},
     {"mnuTools", "mnuToolsLanguageGreek", true},
+    {"mnuTools", "mnuToolsCheckSpelling", true, true},
     {"mnuView", "mnuViewStatusPanel", true, false, "F9"},
     {"mnuView", "mnuViewZoomIn", false, true, "Ctrl++; Ctrl+="},
     {"mnuView", "mnuViewZoomOut", false, false, "Ctrl+-"},

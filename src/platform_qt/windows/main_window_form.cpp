@@ -88,7 +88,8 @@ MainForm::MainForm()
     : area_(new QWidget(this)),
       layout_(new ProportionalLayout(area_, kDesignSize)),
       findBar_(NewFindBar(area_)),
-      completions_(new CompletionFrame(area_)) {
+      completions_(new CompletionFrame(area_)),
+      hint_(new PaneHint(area_)) {
   InitResources();
   setObjectName(QStringLiteral("frmMain"));
   setWindowIcon(ProgramIcon());

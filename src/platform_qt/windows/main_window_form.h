@@ -9,6 +9,7 @@
 #include "platform_qt/controls/proportional_layout.h"
 #include "platform_qt/windows/completion_list.h"
 #include "platform_qt/windows/main_window_design.h"
+#include "platform_qt/windows/pane_hint.h"
 
 namespace verlume::qt {
 
@@ -29,8 +30,11 @@ class MainForm : public QMainWindow {
   void ShowStatusPanel(bool shown);
   // Puts the find bar at the bottom of a pane's place.
   void PlaceFindBar(QWidget* pane) { layout_->PlaceFoot(pane, findBar_); }
-  // Puts the list of completions below a pane, over the other controls.
-  void PlaceCompletionList(QWidget* pane) { completions_->PlaceBelow(pane); }
+  // Puts the list of completions and the hint beside a pane, over the other controls.
+  void PlaceCompletionList(QWidget* pane) {
+    completions_->PlaceBeside(pane);
+    hint_->FloatBeside(pane);
+  }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -48,6 +52,7 @@ class MainForm : public QMainWindow {
   ProportionalLayout* layout_;
   QWidget* findBar_;
   CompletionFrame* completions_;
+  PaneHint* hint_;
   bool showsStatusPanel_ = true;
 };
 

@@ -39,7 +39,8 @@ Program::Program(Platform& platform)
                    .wire = wire_}),
       socketEvents_(state_, platform, errors_, wire_, log_),
       history_(state_, platform, errors_),
-      completion_(state_, platform, errors_, settings_, macroStore_),
+      completion_(state_, platform, errors_, settings_, macroStore_, history_),
+      spelling_(state_, platform, errors_, settings_),
       textFormat_(state_, platform, errors_, settings_, dialogue_),
       find_(state_, platform, errors_),
       interpreter_(state_, platform, errors_,
@@ -72,7 +73,9 @@ Program::~Program() = default;
 
 void Program::Start() {
   startUp_.Form_Load();
-  if (!platform_.application.HasEnded()) platform_.frmMain.window.Show();
+  if (platform_.application.HasEnded()) return;
+  spelling_.Start();
+  platform_.frmMain.window.Show();
 }
 
 // Any error ends the chat: its log is closed, and the status line no longer shows it.
@@ -178,6 +181,7 @@ void Program::BindMenus() {
      &WindowBehaviour::mnuToolsAlwaysOnTop_Click);
   On(frmMain.mnuToolsLanguageEnglish.onClick, language_, &Language::mnuToolsLanguageEnglish_Click);
   On(frmMain.mnuToolsLanguageGreek.onClick, language_, &Language::mnuToolsLanguageGreek_Click);
+  On(frmMain.mnuToolsCheckSpelling.onClick, spelling_, &SpellCheck::mnuToolsCheckSpelling_Click);
 
   On(frmMain.mnuViewStatusPanel.onClick, view_, &View::mnuViewStatusPanel_Click);
   On(frmMain.mnuViewZoomIn.onClick, view_, &View::mnuViewZoomIn_Click);
@@ -200,7 +204,9 @@ void Program::BindPanes() {
     completion_.rtbCommands_KeyDown(keyCode, shift);
     if (keyCode != char_code::kSwallowed) history_.rtbCommands_KeyDown(keyCode, shift);
   };
+  On(frmMain.spelling.onAddWord, spelling_, &SpellCheck::AddWord);
   On(frmMain.rtbCommands.onChange, completion_, &CommandCompletion::rtbCommands_Change);
+  On(frmMain.rtbCommands.onGotFocus, completion_, &CommandCompletion::rtbCommands_GotFocus);
   On(frmMain.rtbCommands.onLostFocus, completion_, &CommandCompletion::rtbCommands_LostFocus);
   On(frmMain.completionList.lstCompletions.onClick, completion_,
      &CommandCompletion::lstCompletions_Click);

@@ -7,6 +7,7 @@
 #include "commands/find_in_dialogue.h"
 #include "commands/history.h"
 #include "commands/interpreter.h"
+#include "commands/spell_check.h"
 #include "commands/text_format.h"
 #include "connection/connection_actions.h"
 #include "connection/connection_state.h"
@@ -76,6 +77,7 @@ class Program {
   SocketEvents socketEvents_;
   CommandHistory history_;
   CommandCompletion completion_;
+  SpellCheck spelling_;
   TextFormat textFormat_;
   FindInDialogue find_;
   CommandInterpreter interpreter_;

@@ -81,7 +81,7 @@ void StartUp::ClearWindow() {
                        &frmMain.lblChatStartDateTime, &frmMain.lblLocalIP, &frmMain.lblLocalPort,
                        &frmMain.lblRemoteIP, &frmMain.lblRemotePort, &frmMain.lblChatDuration,
                        &frmMain.lblBytesSent, &frmMain.lblBytesReceived, &frmMain.lblColor,
-                       &frmMain.lblLocalNickname, &frmMain.lblRemoteNickname}) {
+                       &frmMain.lblLocalNickname, &frmMain.lblRemoteNickname, &frmMain.lblHint}) {
     label->SetCaption(u"");
   }
   platform_.sckControl.SetRemotePort(0);

@@ -221,6 +221,7 @@ TEST_F(ReadableTextTest, AMendedTextRaisesNoEvents) {
 }
 
 TEST_F(ReadableTextTest, ADarkThemeLeavesThePaneReadable) {
+  box.SetBackColor(kWhite);
   Write(kWhite, u"white");
   const QPalette before = QApplication::palette();
   QPalette dark(QColor(0x30, 0x30, 0x30));

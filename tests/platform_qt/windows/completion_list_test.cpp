@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QScrollBar>
 #include <QTest>
 
@@ -29,6 +30,12 @@ class QtCompletionListTest : public testing::Test {
     list.fraCompletions.SetVisible(true);
     QApplication::processEvents();
   }
+  bool LiesBesideThePane() {
+    const QRect pane = Named("rtbCommands")->geometry();
+    const QRect shown = frame->geometry();
+    return shown.left() == pane.left() &&
+           (shown.top() == pane.bottom() + 1 || shown.bottom() + 1 == pane.top());
+  }
   int RowsInView() {
     const int height = List()->visualItemRect(List()->item(0)).height();
     return List()->viewport()->height() / height;
@@ -49,21 +56,60 @@ TEST_F(QtCompletionListTest, IsHiddenUntilAskedFor) {
   EXPECT_TRUE(List()->isVisible());
 }
 
-TEST_F(QtCompletionListTest, LiesDirectlyBelowTheCommandPaneAndTakesNoRoom) {
+TEST_F(QtCompletionListTest, LiesBesideTheCommandPaneAndTakesNoRoom) {
   const QRect pane = Named("rtbCommands")->geometry();
-  const QRect status = Named("lblStatus")->geometry();
+  const QRect dialogue = Named("rtbData")->geometry();
   Open(3);
-  EXPECT_EQ(frame->geometry().topLeft(), pane.bottomLeft() + QPoint(0, 1));
+  EXPECT_TRUE(LiesBesideThePane());
   EXPECT_EQ(Named("rtbCommands")->geometry(), pane);
-  EXPECT_EQ(Named("lblStatus")->geometry(), status);
+  EXPECT_EQ(Named("rtbData")->geometry(), dialogue);
 }
 
-TEST_F(QtCompletionListTest, LiesOverTheStatusPanel) {
+TEST_F(QtCompletionListTest, LiesOverTheOtherControls) {
   Open(8);
   QWidget* area = form.centralWidget();
-  const QPoint shared = Named("lblStatus")->geometry().intersected(frame->geometry()).center();
-  ASSERT_TRUE(Named("lblStatus")->geometry().contains(shared));
+  const QPoint shared = Named("rtbData")->geometry().intersected(frame->geometry()).center();
+  ASSERT_TRUE(Named("rtbData")->geometry().contains(shared));
   EXPECT_EQ(area->childAt(shared), List()->viewport());
+}
+
+TEST_F(QtCompletionListTest, LiesWhereThereIsMoreRoom) {
+  QWidget area;
+  area.resize(400, 400);
+  auto* pane = new QWidget(&area);
+  auto* beside = new CompletionFrame(&area);
+  beside->PlaceBeside(pane);
+  beside->findChild<QListWidget*>()->addItems({"/WAIT", "/CALL"});
+  area.show();
+  for (const int top : {20, 300}) {
+    pane->setGeometry(10, top, 200, 40);
+    beside->show();
+    const int expected = top == 20 ? 60 : 300 - beside->height();
+    EXPECT_EQ(beside->y(), expected);
+    EXPECT_EQ(beside->x(), 10);
+  }
+}
+
+TEST_F(QtCompletionListTest, CutsWhatGoesWithAWordButNeverTheWord) {
+  Open(1, u"/WORD\t[an argument]\t" + std::u16string(300, u'w'));
+  EXPECT_EQ(frame->width(), Named("rtbCommands")->width());
+  const QImage cut = List()->grab().toImage();
+  Open(1, u"/WORD");
+  const int word = List()->fontMetrics().horizontalAdvance("/WORD");
+  ASSERT_GE(List()->viewport()->width(), word);
+  const QImage alone = List()->grab().toImage();
+  const qreal scale = alone.devicePixelRatio();
+  const QRect place(0, 0, int((word + 4) * scale), int(List()->viewport()->height() * scale));
+  EXPECT_EQ(cut.copy(place), alone.copy(place));
+}
+
+TEST_F(QtCompletionListTest, ReadsOutAllColumnsOfARow) {
+  Open(1, u"/WAIT\t[port]\twaits for a call");
+  const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(List());
+  ASSERT_EQ(read->childCount(), 1);
+  EXPECT_EQ(read->child(0)->text(QAccessible::Name), "/WAIT, [port], waits for a call");
+  list.lstCompletions.Append(u"/wave\t\tmacro");
+  EXPECT_EQ(read->child(1)->text(QAccessible::Name), "/wave, macro");
 }
 
 TEST_F(QtCompletionListTest, ShowsEightRowsAtMostAndScrollsTheRest) {
@@ -100,8 +146,7 @@ TEST_F(QtCompletionListTest, FollowsTheWindowWhileItIsOpen) {
   for (const QSize& size : {QSize(1100, 800), form.minimumSizeHint()}) {
     form.resize(size);
     QApplication::processEvents();
-    EXPECT_EQ(frame->geometry().topLeft(),
-              Named("rtbCommands")->geometry().bottomLeft() + QPoint(0, 1));
+    EXPECT_TRUE(LiesBesideThePane());
     EXPECT_TRUE(form.centralWidget()->rect().contains(frame->geometry()));
   }
 }

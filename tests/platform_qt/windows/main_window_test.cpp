@@ -120,10 +120,10 @@ TEST_F(QtMainWindowTest, TheTickedEntriesAreCheckable) {
     if (action->isCheckable()) checkable.append(action->objectName());
   }
   checkable.sort();
-  QStringList expected{"mnuFileLogRecord",       "mnuFormatFontBold",   "mnuFormatFontItalics",
-                       "mnuFormatFontUnderline", "mnuToolsCompletions", "mnuToolsDate",
-                       "mnuToolsTime",           "mnuToolsAlwaysOnTop", "mnuToolsLanguageEnglish",
-                       "mnuToolsLanguageGreek",  "mnuViewStatusPanel"};
+  QStringList expected{"mnuFileLogRecord",       "mnuFormatFontBold",     "mnuFormatFontItalics",
+                       "mnuFormatFontUnderline", "mnuToolsCompletions",   "mnuToolsDate",
+                       "mnuToolsTime",           "mnuToolsAlwaysOnTop",   "mnuToolsLanguageEnglish",
+                       "mnuToolsLanguageGreek",  "mnuToolsCheckSpelling", "mnuViewStatusPanel"};
   expected.sort();
   EXPECT_EQ(checkable, expected);
 }

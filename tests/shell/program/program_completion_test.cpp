@@ -20,7 +20,8 @@ TEST_F(ProgramCompletion, EventsOfThePaneAndTheListAreBound) {
   ann.platform.files.files[u"/macros/wave.rtf"] = "{\\rtf1 waves}";
   window.rtbCommands.Type(u"/wa");
   EXPECT_TRUE(window.fraCompletions.visible);
-  EXPECT_THAT(window.lstCompletions.items, ElementsAre(u"/WAIT", u"/wave   (macro)"));
+  EXPECT_THAT(window.lstCompletions.items,
+              ElementsAre(u"/WAIT\t[port]\twaits for a call", u"/wave\t\tmacro"));
 
   window.rtbCommands.PressKey(key_code::kDown);
   window.rtbCommands.PressKey(key_code::kDown);
