@@ -19,7 +19,8 @@ class DictionaryTest : public testing::Test {
   // Whether the word is known, once the dictionary is ready.
   static bool Knows(Dictionary& dictionary, const QString& word) {
     std::optional<bool> knows;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return (knows = dictionary.Knows(word)).has_value(); }));
+    const auto isReady = [&] { return (knows = dictionary.Knows(word)).has_value(); };
+    EXPECT_TRUE(QTest::qWaitFor(isReady, 30000));
     return knows.value_or(false);
   }
 
@@ -71,6 +72,16 @@ TEST_F(DictionaryTest, WhatItCannotWriteIsKnown) {
   EXPECT_TRUE(Knows(*Open(Script::Greek), "ναὶ"));
   small.Add("en_US", "KOI8-R", {"yes"});
   EXPECT_TRUE(Knows(*Open(Script::Latin), "yess"));
+}
+
+// Those that ./test installs.
+TEST_F(DictionaryTest, TheSystemsDictionariesKnowTheirLanguages) {
+  Dictionary greek(*FindDictionary(kDictionaryFolder, Script::Greek, "el_GR"));
+  EXPECT_TRUE(Knows(greek, "Καλημέρα"));
+  EXPECT_FALSE(Knows(greek, "καλημερα"));
+  Dictionary english(*FindDictionary(kDictionaryFolder, Script::Latin, "el_GR"));
+  EXPECT_TRUE(Knows(english, "don't"));
+  EXPECT_FALSE(Knows(english, "helo"));
 }
 
 TEST_F(DictionaryTest, SuggestsWhatIsLikeAWord) {
