@@ -38,6 +38,12 @@ void CommandInterpreter::rtbCommands_KeyPress(int& charCode) {
   });
 }
 
+void CommandInterpreter::cmdSend_Click() {
+  int enter = char_code::kEnter;
+  rtbCommands_KeyPress(enter);
+  platform_.frmMain.rtbCommands.SetFocus();
+}
+
 void CommandInterpreter::RunTypedLine() {
   RichTextBox& pane = platform_.frmMain.rtbCommands;
   with_.history.AddToHistory();

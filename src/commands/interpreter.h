@@ -32,6 +32,8 @@ class CommandInterpreter {
 
   // A character key in the command pane; Enter (13) runs the line.
   void rtbCommands_KeyPress(int& charCode);
+  // Runs the line.
+  void cmdSend_Click();
 
  private:
   void RunTypedLine();

@@ -152,10 +152,13 @@ class MenuEntry {
   virtual std::u16string ToolTip() const = 0;
   virtual void SetChecked(bool checked) = 0;
   virtual bool Checked() const = 0;
+  // A disabled entry is grey, and cannot be chosen.
+  virtual void SetEnabled(bool enabled) = 0;
+  virtual bool Enabled() const = 0;
 
-  // Does the same as a choice by the user.
+  // Does the same as a choice by the user: nothing while the entry is disabled.
   void Click() {
-    if (onClick) onClick();
+    if (Enabled() && onClick) onClick();
   }
 
   std::function<void()> onClick;

@@ -70,6 +70,12 @@ struct MainWindow {
   MenuEntry& mnuToolsLanguageEnglish;
   MenuEntry& mnuToolsLanguageGreek;
 
+  Menu& mnuView;
+  MenuEntry& mnuViewStatusPanel;
+  MenuEntry& mnuViewZoomIn;
+  MenuEntry& mnuViewZoomOut;
+  MenuEntry& mnuViewZoomReset;
+
   Menu& mnuHelp;
   MenuEntry& mnuHelpDetailed;
   MenuEntry& mnuHelpAbout;
@@ -80,15 +86,18 @@ struct MainWindow {
   FindBar findBar;
   CompletionList completionList;
 
+  Button& cmdSend;  // does what Enter does in the command pane
   CheckBox& chkBold;
   CheckBox& chkItalics;
   CheckBox& chkUnderline;
   Label& lblColor;
 
-  // The values of the status panel, each with its caption.
   Label& lblStatus;
   ProgressBar& prgStatus;  // at the bottom of lblStatus
   Label& lblWaiting;       // how many lines have not arrived yet
+
+  // The values of the status panel, which can be hidden, and their captions.
+  Panel& fraPanel;
   Label& lblCurrentDateTime;
   Label& lblChatStartDateTime;
   Label& lblChatDuration;
@@ -103,10 +112,8 @@ struct MainWindow {
   Label& lblCurrentDateTimeCaption;
   Label& lblChatStartDateTimeCaption;
   Label& lblChatDurationCaption;
-  Label& lblLocalIPCaption;
   Label& lblLocalPortCaption;
   Label& lblLocalNicknameCaption;
-  Label& lblRemoteIPCaption;
   Label& lblRemotePortCaption;
   Label& lblRemoteNicknameCaption;
   Label& lblBytesSentCaption;
@@ -161,6 +168,11 @@ MainWindow MainWindowOf(Controls& controls) {
       .mnuToolsAlwaysOnTop = controls.mnuToolsAlwaysOnTop,
       .mnuToolsLanguageEnglish = controls.mnuToolsLanguageEnglish,
       .mnuToolsLanguageGreek = controls.mnuToolsLanguageGreek,
+      .mnuView = controls.mnuView,
+      .mnuViewStatusPanel = controls.mnuViewStatusPanel,
+      .mnuViewZoomIn = controls.mnuViewZoomIn,
+      .mnuViewZoomOut = controls.mnuViewZoomOut,
+      .mnuViewZoomReset = controls.mnuViewZoomReset,
       .mnuHelp = controls.mnuHelp,
       .mnuHelpDetailed = controls.mnuHelpDetailed,
       .mnuHelpAbout = controls.mnuHelpAbout,
@@ -175,6 +187,7 @@ MainWindow MainWindowOf(Controls& controls) {
                   .cmdFindClose = controls.cmdFindClose},
       .completionList = {.fraCompletions = controls.fraCompletions,
                          .lstCompletions = controls.lstCompletions},
+      .cmdSend = controls.cmdSend,
       .chkBold = controls.chkBold,
       .chkItalics = controls.chkItalics,
       .chkUnderline = controls.chkUnderline,
@@ -182,6 +195,7 @@ MainWindow MainWindowOf(Controls& controls) {
       .lblStatus = controls.lblStatus,
       .prgStatus = controls.prgStatus,
       .lblWaiting = controls.lblWaiting,
+      .fraPanel = controls.fraPanel,
       .lblCurrentDateTime = controls.lblCurrentDateTime,
       .lblChatStartDateTime = controls.lblChatStartDateTime,
       .lblChatDuration = controls.lblChatDuration,
@@ -196,10 +210,8 @@ MainWindow MainWindowOf(Controls& controls) {
       .lblCurrentDateTimeCaption = controls.lblCurrentDateTimeCaption,
       .lblChatStartDateTimeCaption = controls.lblChatStartDateTimeCaption,
       .lblChatDurationCaption = controls.lblChatDurationCaption,
-      .lblLocalIPCaption = controls.lblLocalIPCaption,
       .lblLocalPortCaption = controls.lblLocalPortCaption,
       .lblLocalNicknameCaption = controls.lblLocalNicknameCaption,
-      .lblRemoteIPCaption = controls.lblRemoteIPCaption,
       .lblRemotePortCaption = controls.lblRemotePortCaption,
       .lblRemoteNicknameCaption = controls.lblRemoteNicknameCaption,
       .lblBytesSentCaption = controls.lblBytesSentCaption,

@@ -31,6 +31,11 @@ struct SelectionFormat {
 // Who a paragraph is from. The three of the peer look the same and differ in their words.
 enum class Author { None, User, Peer, PeerReadingAlike, PeerWithBrackets, File };
 
+// How large text is painted, in per cent.
+inline constexpr int kLeastZoom = 50;
+inline constexpr int kUsualZoom = 100;
+inline constexpr int kGreatestZoom = 300;
+
 enum class TextFileFormat { RichText, PlainText };
 
 // Key codes of onKeyDown. All other keys have kOther.
@@ -130,8 +135,15 @@ class RichTextBox : public Control {
   virtual bool Locked() const = 0;
   virtual void SetTag(std::u16string_view text) = 0;
   virtual std::u16string Tag() const = 0;
+  // Until a colour is set, the box has the colours of the desktop's theme.
   virtual void SetBackColor(Color color) = 0;
   virtual Color BackColor() const = 0;
+  // Shown, paler than text, while the box is empty. It is no part of the text.
+  virtual void SetPlaceholder(std::u16string_view text) = 0;
+  // How large the text is painted, in per cent, between the limits. The sizes in the text stay what
+  // they are.
+  virtual void SetZoom(int percent) = 0;
+  virtual int Zoom() const = 0;
 
   // A key that types a character, before the box handles it: Enter is 13, Ctrl+Enter 10, Ctrl+A to
   // Ctrl+Z 1 to 26, Tab 9. Shift+Tab types none. The handler sets the code to 0 to swallow it.
@@ -161,6 +173,8 @@ class RichTextBox : public Control {
   // `position` have left.
   std::function<void()> onNearlyFull;
   std::function<void(std::size_t position, std::size_t length)> onLinesRemoved;
+  // The user wants the text larger by so many steps, or smaller if there are less than 0.
+  std::function<void(int steps)> onZoom;
   // The keyboard focus has gone elsewhere, perhaps to another window or to a menu.
   std::function<void()> onLostFocus;
 };

@@ -45,7 +45,7 @@ class QtPlatform {
   QtAboutWindow about_{&window_.form()};
   QtMacroWindow macros_{&window_.form(), files_};
   QtWindowMemory windowMemory_{
-      &window_.form(), QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};
+      window_, QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};
   QtSocket socket_;
   QtDialogs dialogs_{&window_.form()};
   QtCommonDialog commonDialog_{&window_.form()};

@@ -24,42 +24,60 @@ Setter AccessibleName(Control& control) {
   return [&control](std::u16string_view text) { control.SetAccessibleName(text); };
 }
 
-// A value of the status panel and the caption beside it, if it has one.
+Setter Placeholder(RichTextBox& box) {
+  return [&box](std::u16string_view text) { box.SetPlaceholder(text); };
+}
+
+// A value of the status panel, what it is in full, and the short caption beside it, if it has one.
 struct PanelValue {
   Label& value;
-  Label* caption;
-  TextPair text;
+  TextPair name;
+  Label* caption = nullptr;
+  TextPair shortName = {};
 };
 
 std::vector<PanelValue> PanelValues(const MainWindow& frmMain) {
   return {
-      {frmMain.lblStatus, nullptr, kStatusToolTip},
-      {frmMain.lblWaiting,
-       nullptr,
-       {u"Lines that have not arrived yet", u"Γραμμές που δεν έφτασαν ακόμη"}},
-      {frmMain.lblCurrentDateTime, &frmMain.lblCurrentDateTimeCaption, {u"Now", u"Τώρα"}},
+      {frmMain.lblStatus, kStatusToolTip},
+      {frmMain.lblWaiting, {u"Lines that have not arrived yet", u"Γραμμές που δεν έφτασαν ακόμη"}},
+      {frmMain.lblCurrentDateTime,
+       {u"Now", u"Τώρα"},
+       &frmMain.lblCurrentDateTimeCaption,
+       {u"Now", u"Τώρα"}},
       {frmMain.lblChatStartDateTime,
+       {u"Chat began", u"Έναρξη διαλόγου"},
        &frmMain.lblChatStartDateTimeCaption,
-       {u"Chat began", u"Έναρξη διαλόγου"}},
-      {frmMain.lblChatDuration, &frmMain.lblChatDurationCaption, {u"Duration", u"Διάρκεια"}},
-      {frmMain.lblLocalIP, &frmMain.lblLocalIPCaption, {u"Local address", u"Τοπική διεύθυνση"}},
-      {frmMain.lblLocalPort, &frmMain.lblLocalPortCaption, {u"Local port", u"Τοπική θύρα"}},
+       {u"Began", u"Έναρξη"}},
+      {frmMain.lblChatDuration,
+       {u"Duration", u"Διάρκεια"},
+       &frmMain.lblChatDurationCaption,
+       {u"Duration", u"Διάρκεια"}},
+      {frmMain.lblLocalIP, {u"Local address", u"Τοπική διεύθυνση"}},
+      {frmMain.lblLocalPort,
+       {u"Local port", u"Τοπική θύρα"},
+       &frmMain.lblLocalPortCaption,
+       {u":", u":"}},
       {frmMain.lblLocalNickname,
+       {u"Your nickname", u"Ψευδώνυμό σας"},
        &frmMain.lblLocalNicknameCaption,
-       {u"Your nickname", u"Ψευδώνυμό σας"}},
-      {frmMain.lblRemoteIP,
-       &frmMain.lblRemoteIPCaption,
-       {u"Remote address", u"Απομακρυσμένη διεύθυνση"}},
+       {u"You", u"Εσείς"}},
+      {frmMain.lblRemoteIP, {u"Remote address", u"Απομακρυσμένη διεύθυνση"}},
       {frmMain.lblRemotePort,
+       {u"Remote port", u"Απομακρυσμένη θύρα"},
        &frmMain.lblRemotePortCaption,
-       {u"Remote port", u"Απομακρυσμένη θύρα"}},
-      {frmMain.lblRemoteNickname, &frmMain.lblRemoteNicknameCaption, kRemoteNicknameToolTip},
+       {u":", u":"}},
+      {frmMain.lblRemoteNickname,
+       kRemoteNicknameToolTip,
+       &frmMain.lblRemoteNicknameCaption,
+       {u"Other", u"Άλλος"}},
       {frmMain.lblBytesSent,
+       {u"Characters sent", u"Σταλμένοι χαρακτήρες"},
        &frmMain.lblBytesSentCaption,
-       {u"Characters sent", u"Σταλμένοι χαρακτήρες"}},
+       {u"Sent", u"Στάλθηκαν"}},
       {frmMain.lblBytesReceived,
+       {u"Characters received", u"Ληφθέντες χαρακτήρες"},
        &frmMain.lblBytesReceivedCaption,
-       {u"Characters received", u"Ληφθέντες χαρακτήρες"}},
+       {u"Received", u"Λήφθηκαν"}},
   };
 }
 
@@ -111,6 +129,11 @@ std::vector<FixedText> MenuAndToolTipTexts(const MainWindow& frmMain) {
       {Caption(frmMain.mnuToolsAlwaysOnTop), {u"Always on top", u"Πάντα σε πρώτο πλάνο"}},
       {Caption(frmMain.mnuToolsLanguageEnglish), {u"English", u"Αγγλική"}},
       {Caption(frmMain.mnuToolsLanguageGreek), {u"Greek", u"Ελληνική"}},
+      {Caption(frmMain.mnuView), {u"View", u"Προβολή"}},
+      {Caption(frmMain.mnuViewStatusPanel), {u"Status panel", u"Πίνακας κατάστασης"}},
+      {Caption(frmMain.mnuViewZoomIn), {u"Larger text", u"Μεγαλύτερο κείμενο"}},
+      {Caption(frmMain.mnuViewZoomOut), {u"Smaller text", u"Μικρότερο κείμενο"}},
+      {Caption(frmMain.mnuViewZoomReset), {u"Usual size", u"Κανονικό μέγεθος"}},
       {Caption(frmMain.mnuHelp), {u"Help", u"Βοήθεια"}},
       {Caption(frmMain.mnuHelpDetailed), {u"Detailed", u"Λεπτομερής"}},
       {Caption(frmMain.mnuHelpAbout), {u"About", u"Σχετικά"}},
@@ -121,6 +144,10 @@ std::vector<FixedText> MenuAndToolTipTexts(const MainWindow& frmMain) {
 
 std::vector<FixedText> PanelTexts(const MainWindow& frmMain) {
   std::vector<FixedText> texts = {
+      {Caption(frmMain.cmdSend), {u"Send", u"Αποστολή"}},
+      {ToolTip(frmMain.cmdSend), {u"Send the line (Enter)", u"Αποστολή της γραμμής (Enter)"}},
+      {Placeholder(frmMain.rtbCommands),
+       {u"Type a message, or / for commands", u"Γράψτε ένα μήνυμα, ή / για εντολές"}},
       {Caption(frmMain.chkBold), {u"Bold", u"Έντονα"}},
       {ToolTip(frmMain.chkBold), {u"Bold", u"Έντονη γραφή"}},
       {Caption(frmMain.chkItalics), {u"Italics", u"Πλάγια"}},
@@ -150,9 +177,9 @@ std::vector<FixedText> PanelTexts(const MainWindow& frmMain) {
   texts.push_back(
       {AccessibleName(frmMain.completionList.lstCompletions),
        {u"Commands and macros that match", u"Εντολές και μακροεντολές που ταιριάζουν"}});
-  for (const auto& [value, caption, text] : PanelValues(frmMain)) {
-    if (caption) texts.push_back({Caption(*caption), text});
-    texts.push_back({AccessibleName(value), text});
+  for (const auto& [value, name, caption, shortName] : PanelValues(frmMain)) {
+    if (caption) texts.push_back({Caption(*caption), shortName});
+    texts.push_back({AccessibleName(value), name});
   }
   return texts;
 }

@@ -196,10 +196,13 @@ class FakeMenuEntry : public MenuEntry {
   std::u16string ToolTip() const override { return toolTip; }
   void SetChecked(bool value) override { checked = value; }
   bool Checked() const override { return checked; }
+  void SetEnabled(bool value) override { enabled = value; }
+  bool Enabled() const override { return enabled; }
 
   std::u16string caption;
   std::u16string toolTip;
   bool checked = false;
+  bool enabled = true;
 };
 
 class FakeMenu : public Menu {

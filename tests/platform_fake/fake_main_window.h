@@ -50,6 +50,11 @@ struct FakeMainWindow {
   FakeMenuEntry mnuToolsAlwaysOnTop;
   FakeMenuEntry mnuToolsLanguageEnglish;
   FakeMenuEntry mnuToolsLanguageGreek;
+  FakeMenu mnuView;
+  FakeMenuEntry mnuViewStatusPanel;
+  FakeMenuEntry mnuViewZoomIn;
+  FakeMenuEntry mnuViewZoomOut;
+  FakeMenuEntry mnuViewZoomReset;
   FakeMenu mnuHelp;
   FakeMenuEntry mnuHelpDetailed;
   FakeMenuEntry mnuHelpAbout;
@@ -64,6 +69,7 @@ struct FakeMainWindow {
   FakeButton cmdFindClose;
   FakePanel fraCompletions;
   FakeListBox lstCompletions;
+  FakeButton cmdSend;
   FakeCheckBox chkBold;
   FakeCheckBox chkItalics;
   FakeCheckBox chkUnderline;
@@ -71,6 +77,7 @@ struct FakeMainWindow {
   FakeLabel lblStatus;
   FakeProgressBar prgStatus;
   FakeLabel lblWaiting;
+  FakePanel fraPanel;
   FakeLabel lblCurrentDateTime;
   FakeLabel lblChatStartDateTime;
   FakeLabel lblChatDuration;
@@ -85,10 +92,8 @@ struct FakeMainWindow {
   FakeLabel lblCurrentDateTimeCaption;
   FakeLabel lblChatStartDateTimeCaption;
   FakeLabel lblChatDurationCaption;
-  FakeLabel lblLocalIPCaption;
   FakeLabel lblLocalPortCaption;
   FakeLabel lblLocalNicknameCaption;
-  FakeLabel lblRemoteIPCaption;
   FakeLabel lblRemotePortCaption;
   FakeLabel lblRemoteNicknameCaption;
   FakeLabel lblBytesSentCaption;

@@ -58,6 +58,9 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   std::u16string Tag() const override { return tag; }
   void SetBackColor(Color color) override { backColor = color; }
   Color BackColor() const override { return backColor; }
+  void SetPlaceholder(std::u16string_view text) override { placeholder = text; }
+  void SetZoom(int percent) override { zoom = percent; }
+  int Zoom() const override { return zoom; }
 
   // Types like the user: each character goes through onKeyDown and onKeyPress and then, unless
   // swallowed, into the box. Type(u"\r") is Enter.
@@ -75,6 +78,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   bool locked = false;
   std::u16string tag;
   Color backColor = 0xFFFFFF;
+  std::u16string placeholder;
+  int zoom = kUsualZoom;
   bool formatIsMixed = false;                    // SelFormat reads as undetermined
   std::optional<FailureNumber> formatFails;      // SetSelFormat fails with this
   std::optional<FailureNumber> formatReadFails;  // SelFormat does

@@ -73,18 +73,18 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro,
                mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue,
                mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate, mnuToolsTime,
-               mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuHelp,
+               mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuView,
+               mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut, mnuViewZoomReset, mnuHelp,
                mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
                cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions,
-               lstCompletions, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus,
-               lblWaiting, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP,
-               lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname,
-               lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
-               lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalIPCaption,
-               lblLocalPortCaption, lblLocalNicknameCaption, lblRemoteIPCaption,
-               lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
-               lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright, frmMain] =
-      mainWindow;
+               lstCompletions, cmdSend, chkBold, chkItalics, chkUnderline, lblColor, lblStatus,
+               prgStatus, lblWaiting, fraPanel, lblCurrentDateTime, lblChatStartDateTime,
+               lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP,
+               lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
+               lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
+               lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
+               lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
+               shpStatus, lblCopyright, picCopyright, frmMain] = mainWindow;
   (void)frmMain;
   ShownTexts texts;
   const auto collect = [&texts](const auto&... elements) { (Collect(texts, elements), ...); };
@@ -96,14 +96,15 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
           mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
           mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
-          mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
+          mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut, mnuViewZoomReset, mnuHelp,
+          mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
           cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions, lstCompletions,
-          chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting,
-          lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
-          lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
-          lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
-          lblChatDurationCaption, lblLocalIPCaption, lblLocalPortCaption, lblLocalNicknameCaption,
-          lblRemoteIPCaption, lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
+          cmdSend, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting,
+          fraPanel, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP,
+          lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname,
+          lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
+          lblChatDurationCaption, lblLocalPortCaption, lblLocalNicknameCaption,
+          lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
           lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright);
   return texts;
 }
@@ -142,7 +143,8 @@ TEST_F(LanguageTest, SetsTheEnglishTexts) {
   EXPECT_EQ(window.picCopyright.toolTip, u"Copyright notice");
   EXPECT_EQ(window.rtbCommands.toolTip, u"Commands textbox");
   EXPECT_EQ(window.rtbData.toolTip, u"Dialogue textbox");
-  EXPECT_EQ(window.lblLocalIPCaption.caption, u"Local address");
+  EXPECT_EQ(window.lblLocalNicknameCaption.caption, u"You");
+  EXPECT_EQ(window.lblLocalIP.accessibleName, u"Local address");
   EXPECT_EQ(window.lblCopyright.caption, u"© 2026 The Verlume team");
 }
 
@@ -156,7 +158,8 @@ TEST_F(LanguageTest, SetsTheGreekTexts) {
   EXPECT_EQ(window.picShape.toolTip, u"Κόκκινο=Αδράνεια / Κίτρινο=Αναμονή / Πράσινο=Σύνδεση");
   EXPECT_EQ(window.lblCopyright.toolTip, u"Πνευματικά δικαιώματα");
   EXPECT_EQ(window.rtbCommands.toolTip, u"Πλαίσιο κειμένου εντολών");
-  EXPECT_EQ(window.lblLocalIPCaption.caption, u"Τοπική διεύθυνση");
+  EXPECT_EQ(window.lblLocalNicknameCaption.caption, u"Εσείς");
+  EXPECT_EQ(window.lblLocalIP.accessibleName, u"Τοπική διεύθυνση");
   EXPECT_EQ(window.lblCopyright.caption, u"© 2026 Η ομάδα Verlume");
 }
 

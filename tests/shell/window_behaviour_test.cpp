@@ -59,13 +59,13 @@ TEST_F(WindowBehaviourTest, AReleaseOfAnyOtherButtonThanTheLeftShowsContextHelp)
         window.lblLocalIP, window.lblLocalPort, window.lblLocalNickname, window.lblRemoteIP,
         window.lblRemotePort, window.lblRemoteNickname, window.lblBytesSent,
         window.lblBytesReceived, window.lblCurrentDateTimeCaption,
-        window.lblChatStartDateTimeCaption, window.lblChatDurationCaption, window.lblLocalIPCaption,
-        window.lblLocalPortCaption, window.lblLocalNicknameCaption, window.lblRemoteIPCaption,
-        window.lblRemotePortCaption, window.lblRemoteNicknameCaption, window.lblBytesSentCaption,
-        window.lblBytesReceivedCaption, window.lblStatus, window.lblWaiting, window.picShape,
-        window.chkBold, window.chkItalics, window.chkUnderline, window.lblColor,
-        window.lblCopyright, window.picCopyright, window.cmdFindPrevious, window.cmdFindNext,
-        window.lblFindResult, window.cmdFindClose, window.lstCompletions);
+        window.lblChatStartDateTimeCaption, window.lblChatDurationCaption,
+        window.lblLocalPortCaption, window.lblLocalNicknameCaption, window.lblRemotePortCaption,
+        window.lblRemoteNicknameCaption, window.lblBytesSentCaption, window.lblBytesReceivedCaption,
+        window.lblStatus, window.lblWaiting, window.picShape, window.chkBold, window.chkItalics,
+        window.chkUnderline, window.lblColor, window.lblCopyright, window.picCopyright,
+        window.cmdFindPrevious, window.cmdFindNext, window.lblFindResult, window.cmdFindClose,
+        window.lstCompletions);
 }
 
 }  // namespace

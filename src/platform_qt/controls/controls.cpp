@@ -12,7 +12,6 @@ void QtLabel::SetBackColor(Color color) {
   QPalette palette = widget_->palette();
   palette.setColor(widget_->backgroundRole(), ToQt(color));
   widget_->setPalette(palette);
-  widget_->setAutoFillBackground(true);
 }
 
 void QtLabel::SetHeight(int height) {

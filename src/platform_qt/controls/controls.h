@@ -123,6 +123,8 @@ class QtMenuEntry : public MenuEntry {
   std::u16string ToolTip() const override { return toolTip_; }
   void SetChecked(bool checked) override;
   bool Checked() const override { return checked_; }
+  void SetEnabled(bool enabled) override { action_->setEnabled(enabled); }
+  bool Enabled() const override { return action_->isEnabled(); }
 
  private:
   QAction* action_;

@@ -400,11 +400,23 @@ bool QtRichTextBox::Locked() const {
 }
 
 void QtRichTextBox::SetBackColor(Color color) {
-  widget_->setPalette(PanePalette(color));
+  view_->SetBackColor(color);
 }
 
 Color QtRichTextBox::BackColor() const {
   return FromQt(widget_->palette().color(QPalette::Base));
+}
+
+void QtRichTextBox::SetPlaceholder(std::u16string_view text) {
+  widget_->setPlaceholderText(ToQt(text));
+}
+
+void QtRichTextBox::SetZoom(int percent) {
+  view_->SetZoom(percent);
+}
+
+int QtRichTextBox::Zoom() const {
+  return view_->Zoom();
 }
 
 }  // namespace verlume::qt

@@ -26,8 +26,7 @@ class TextReading;
 class TextUpdate;
 class TextWriting;
 
-// The user can undo only in a single-line box that is not locked. Text is black on white whatever
-// the desktop's theme.
+// The user can undo only in a single-line box that is not locked.
 class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
  public:
   using Lines = qt::Lines;
@@ -71,6 +70,9 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   std::u16string Tag() const override { return tag_; }
   void SetBackColor(Color color) override;
   Color BackColor() const override;
+  void SetPlaceholder(std::u16string_view text) override;
+  void SetZoom(int percent) override;
+  int Zoom() const override;
 
  private:
   QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines lines);

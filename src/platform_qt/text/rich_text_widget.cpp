@@ -1,5 +1,6 @@
 #include "platform_qt/text/rich_text_widget.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QAction>
 #include <QInputMethodEvent>
 #include <QPaintEvent>
@@ -38,7 +39,7 @@ RichTextWidget::UserChange::~UserChange() {
 
 RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
     : QPlainTextEdit(parent), lines_(lines), seams_(*document(), lines) {
-  setPalette(PanePalette(FromQt(QColor(Qt::white))));
+  document()->documentLayout()->setPaintDevice(&zoom_);
   QFont font(ToQt(kDefaultFontName));
   font.setPointSizeF(kDefaultFontSize);
   setFont(font);
@@ -145,6 +146,28 @@ void RichTextWidget::paintEvent(QPaintEvent* event) {
   MakeReadable(firstVisibleBlock(), event->rect().bottom() + 1 - contentOffset().y(),
                FromQt(palette().color(QPalette::Base)));
   QPlainTextEdit::paintEvent(event);
+}
+
+void RichTextWidget::wheelEvent(QWheelEvent* event) {
+  if (!(event->modifiers() & Qt::ControlModifier)) return QPlainTextEdit::wheelEvent(event);
+  event->accept();
+  wheel_ += event->angleDelta().y();
+  const int steps = wheel_ / QWheelEvent::DefaultDeltasPerStep;
+  wheel_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+  if (steps != 0 && events_ && events_->onZoom) events_->onZoom(steps);
+}
+
+void RichTextWidget::SetBackColor(Color color) {
+  setPalette(PanePalette(color));
+}
+
+void RichTextWidget::SetZoom(int percent) {
+  if (percent == zoom_.Zoom()) return;
+  const bool showsEnd = ShowsEnd();
+  zoom_.SetZoom(percent);
+  // The document lays itself out for its default font anew, and with it for the device.
+  document()->setDefaultFont(document()->defaultFont());
+  if (showsEnd) ShowEnd();
 }
 
 void RichTextWidget::MoveCursorTo(const QTextCursor& cursor) {

@@ -7,6 +7,7 @@
 
 #include "platform/rich_text_box.h"
 #include "platform_qt/text/rich_text.h"
+#include "platform_qt/text/zoom_device.h"
 
 namespace verlume::qt {
 
@@ -36,6 +37,12 @@ class RichTextWidget : public QPlainTextEdit {
   bool ShowsEnd() const { return ShowsEndWithin(viewport()->size()); }
   void ShowEnd();
 
+  // Until a colour is set, the pane has the colours of the desktop's theme.
+  void SetBackColor(Color color);
+  // In per cent. If the end of the text was in view, it still is.
+  void SetZoom(int percent);
+  int Zoom() const { return zoom_.Zoom(); }
+
   // While an object of this class exists the program changes the box, which then raises neither
   // onSelChange nor onChange by itself.
   class ProgramChange {
@@ -57,6 +64,7 @@ class RichTextWidget : public QPlainTextEdit {
   void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   QMimeData* createMimeDataFromSelection() const override;
@@ -88,6 +96,8 @@ class RichTextWidget : public QPlainTextEdit {
   void KeepInsertionFormat();
 
   const RichTextBox* events_ = nullptr;
+  ZoomDevice zoom_{*this};
+  int wheel_ = 0;  // how far it was turned with Ctrl, in eighths of a degree
   const Lines lines_;
   const Seams seams_;
   int charset_ = richtext::kGreekCharset;

@@ -4,6 +4,9 @@
 #include <QScreen>
 #include <QWindow>
 
+#include "platform_qt/controls/swatch_label.h"
+#include "platform_qt/controls/toggle_box.h"
+
 #include "platform_qt/controls/key_codes.h"
 
 namespace verlume::qt {
@@ -39,7 +42,7 @@ MacroForm::MacroForm(QWidget* mainWindow)
 }
 
 QCheckBox* MacroForm::NewBox(const char* name) {
-  auto* box = new QCheckBox(this);
+  auto* box = new ToggleBox(this);
   box->setObjectName(QLatin1String(name));
   return box;
 }
@@ -52,9 +55,8 @@ QPushButton* MacroForm::NewButton(const char* name) {
 }
 
 ElidedLabel* MacroForm::NewColour() {
-  auto* colour = new ElidedLabel(this);
+  auto* colour = new SwatchLabel(this);
   colour->setObjectName(QStringLiteral("lblColour"));
-  colour->setFrameShape(QFrame::Box);
   colour->setFixedSize(kColour);
   return colour;
 }

@@ -18,7 +18,8 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   strong.setWeight(QFont::DemiBold);
   lblStatus.widget()->setFont(strong);
   // Tab follows the reading order, and starts at the command pane.
-  QWidget::setTabOrder(rtbCommands.widget(), chkBold.widget());
+  QWidget::setTabOrder(rtbCommands.widget(), cmdSend.widget());
+  QWidget::setTabOrder(cmdSend.widget(), chkBold.widget());
   QWidget::setTabOrder(chkBold.widget(), chkItalics.widget());
   QWidget::setTabOrder(chkItalics.widget(), chkUnderline.widget());
   QWidget::setTabOrder(chkUnderline.widget(), rtbData.widget());

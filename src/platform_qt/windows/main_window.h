@@ -69,6 +69,12 @@ class QtMainWindow {
   QtMenuEntry mnuToolsLanguageEnglish{form_.Find<QAction>("mnuToolsLanguageEnglish")};
   QtMenuEntry mnuToolsLanguageGreek{form_.Find<QAction>("mnuToolsLanguageGreek")};
 
+  QtMenu mnuView{form_.Find<QMenu>("mnuView")};
+  QtMenuEntry mnuViewStatusPanel{form_.Find<QAction>("mnuViewStatusPanel")};
+  QtMenuEntry mnuViewZoomIn{form_.Find<QAction>("mnuViewZoomIn")};
+  QtMenuEntry mnuViewZoomOut{form_.Find<QAction>("mnuViewZoomOut")};
+  QtMenuEntry mnuViewZoomReset{form_.Find<QAction>("mnuViewZoomReset")};
+
   QtMenu mnuHelp{form_.Find<QMenu>("mnuHelp")};
   QtMenuEntry mnuHelpDetailed{form_.Find<QAction>("mnuHelpDetailed")};
   QtMenuEntry mnuHelpAbout{form_.Find<QAction>("mnuHelpAbout")};
@@ -87,6 +93,7 @@ class QtMainWindow {
   QtPanel fraCompletions{form_.Find<QWidget>("fraCompletions")};
   QtListBox lstCompletions{form_.Find<ListWidget>("lstCompletions")};
 
+  QtButton cmdSend{form_.Find<QPushButton>("cmdSend")};
   QtCheckBox chkBold{form_.Find<QCheckBox>("chkBold")};
   QtCheckBox chkItalics{form_.Find<QCheckBox>("chkItalics")};
   QtCheckBox chkUnderline{form_.Find<QCheckBox>("chkUnderline")};
@@ -94,6 +101,7 @@ class QtMainWindow {
   QtLabel lblStatus{form_.Find<ElidedLabel>("lblStatus")};
   QtProgressBar prgStatus{form_.Find<QProgressBar>("prgStatus")};
   QtLabel lblWaiting{form_.Find<ElidedLabel>("lblWaiting")};
+  QtStatusPanel fraPanel{form_};
   QtLabel lblCurrentDateTime{form_.Find<ElidedLabel>("lblCurrentDateTime")};
   QtLabel lblChatStartDateTime{form_.Find<ElidedLabel>("lblChatStartDateTime")};
   QtLabel lblChatDuration{form_.Find<ElidedLabel>("lblChatDuration")};
@@ -108,10 +116,8 @@ class QtMainWindow {
   QtLabel lblCurrentDateTimeCaption{form_.Find<ElidedLabel>("lblCurrentDateTimeCaption")};
   QtLabel lblChatStartDateTimeCaption{form_.Find<ElidedLabel>("lblChatStartDateTimeCaption")};
   QtLabel lblChatDurationCaption{form_.Find<ElidedLabel>("lblChatDurationCaption")};
-  QtLabel lblLocalIPCaption{form_.Find<ElidedLabel>("lblLocalIPCaption")};
   QtLabel lblLocalPortCaption{form_.Find<ElidedLabel>("lblLocalPortCaption")};
   QtLabel lblLocalNicknameCaption{form_.Find<ElidedLabel>("lblLocalNicknameCaption")};
-  QtLabel lblRemoteIPCaption{form_.Find<ElidedLabel>("lblRemoteIPCaption")};
   QtLabel lblRemotePortCaption{form_.Find<ElidedLabel>("lblRemotePortCaption")};
   QtLabel lblRemoteNicknameCaption{form_.Find<ElidedLabel>("lblRemoteNicknameCaption")};
   QtLabel lblBytesSentCaption{form_.Find<ElidedLabel>("lblBytesSentCaption")};

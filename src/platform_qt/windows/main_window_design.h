@@ -8,12 +8,15 @@
 namespace verlume::qt {
 
 enum class ControlKind {
-  Frame,
-  Caption,
+  Hairline,
+  Caption,  // ends where its value begins, at every size of the window
   Value,
-  Wrapped,
+  Address,  // a value that ends where the colon before the port is
+  Status,
+  Note,  // at the right end of the status line
   Swatch,
   CheckBox,
+  Button,
   Pane,
   LampFrame,
   Picture
@@ -23,56 +26,53 @@ struct ControlDesign {
   ControlKind kind;
   const char* name;
   QRect place;
+  QRect placeAlone = place;  // while the status panel is hidden; empty for what is part of it
 };
 
 // The smallest size of the window without its menu bar, at 100 %.
-inline constexpr QSize kDesignSize(640, 455);
+inline constexpr QSize kDesignSize(640, 436);
 
-// The place of each control.
+inline constexpr QRect kHidden;
+
+// The place of each control, with the status panel and without it.
 inline constexpr auto kMainWindowDesign = std::to_array<ControlDesign>({
-    {ControlKind::Pane, "rtbData", {8, 8, 624, 192}},
-    {ControlKind::CheckBox, "chkBold", {10, 204, 132, 25}},
-    {ControlKind::CheckBox, "chkItalics", {146, 204, 132, 25}},
-    {ControlKind::CheckBox, "chkUnderline", {282, 204, 172, 25}},
-    {ControlKind::Swatch, "lblColor", {460, 208, 44, 17}},
-    {ControlKind::Pane, "rtbCommands", {8, 233, 624, 38}},
+    {ControlKind::Pane, "rtbData", {6, 6, 628, 277}, {6, 6, 628, 337}},
+    {ControlKind::CheckBox, "chkBold", {6, 287, 74, 24}, {6, 347, 74, 24}},
+    {ControlKind::CheckBox, "chkItalics", {82, 287, 74, 24}, {82, 347, 74, 24}},
+    {ControlKind::CheckBox, "chkUnderline", {158, 287, 108, 24}, {158, 347, 108, 24}},
+    {ControlKind::Swatch, "lblColor", {268, 287, 30, 24}, {268, 347, 30, 24}},
+    {ControlKind::Pane, "rtbCommands", {6, 313, 536, 32}, {6, 373, 536, 30}},
+    {ControlKind::Button, "cmdSend", {546, 313, 88, 32}, {546, 373, 88, 30}},
 
-    {ControlKind::LampFrame, "picShape", {8, 276, 36, 34}},
-    {ControlKind::Wrapped, "lblStatus", {52, 276, 484, 34}},
-    {ControlKind::Value, "lblWaiting", {540, 276, 92, 34}},
+    {ControlKind::LampFrame, "picShape", {8, 349, 22, 30}, {8, 405, 22, 30}},
+    {ControlKind::Status, "lblStatus", {34, 349, 498, 30}, {34, 405, 498, 30}},
+    {ControlKind::Note, "lblWaiting", {536, 349, 96, 30}, {536, 405, 96, 30}},
 
-    {ControlKind::Frame, "fraLocal", {8, 315, 290, 60}},
-    {ControlKind::Caption, "lblLocalIPCaption", {16, 318, 128, 18}},
-    {ControlKind::Value, "lblLocalIP", {146, 318, 148, 18}},
-    {ControlKind::Caption, "lblLocalPortCaption", {16, 336, 128, 18}},
-    {ControlKind::Value, "lblLocalPort", {146, 336, 148, 18}},
-    {ControlKind::Caption, "lblLocalNicknameCaption", {16, 354, 128, 18}},
-    {ControlKind::Value, "lblLocalNickname", {146, 354, 148, 18}},
+    {ControlKind::Hairline, "fraPanel", {8, 380, 624, 2}, kHidden},
+    {ControlKind::Caption, "lblLocalNicknameCaption", {8, 383, 54, 17}, kHidden},
+    {ControlKind::Value, "lblLocalNickname", {66, 383, 96, 17}, kHidden},
+    {ControlKind::Address, "lblLocalIP", {166, 383, 104, 17}, kHidden},
+    {ControlKind::Caption, "lblLocalPortCaption", {270, 383, 5, 17}, kHidden},
+    {ControlKind::Value, "lblLocalPort", {277, 383, 47, 17}, kHidden},
+    {ControlKind::Caption, "lblCurrentDateTimeCaption", {328, 383, 48, 17}, kHidden},
+    {ControlKind::Value, "lblCurrentDateTime", {380, 383, 252, 17}, kHidden},
 
-    {ControlKind::Frame, "fraRemote", {304, 315, 328, 60}},
-    {ControlKind::Caption, "lblRemoteIPCaption", {312, 318, 176, 18}},
-    {ControlKind::Value, "lblRemoteIP", {490, 318, 138, 18}},
-    {ControlKind::Caption, "lblRemotePortCaption", {312, 336, 176, 18}},
-    {ControlKind::Value, "lblRemotePort", {490, 336, 138, 18}},
-    {ControlKind::Caption, "lblRemoteNicknameCaption", {312, 354, 176, 18}},
-    {ControlKind::Value, "lblRemoteNickname", {490, 354, 138, 18}},
+    {ControlKind::Caption, "lblRemoteNicknameCaption", {8, 400, 54, 17}, kHidden},
+    {ControlKind::Value, "lblRemoteNickname", {66, 400, 96, 17}, kHidden},
+    {ControlKind::Address, "lblRemoteIP", {166, 400, 104, 17}, kHidden},
+    {ControlKind::Caption, "lblRemotePortCaption", {270, 400, 5, 17}, kHidden},
+    {ControlKind::Value, "lblRemotePort", {277, 400, 47, 17}, kHidden},
+    {ControlKind::Caption, "lblChatStartDateTimeCaption", {328, 400, 48, 17}, kHidden},
+    {ControlKind::Value, "lblChatStartDateTime", {380, 400, 252, 17}, kHidden},
 
-    {ControlKind::Frame, "fraClock", {8, 378, 446, 42}},
-    {ControlKind::Caption, "lblCurrentDateTimeCaption", {16, 381, 114, 18}},
-    {ControlKind::Value, "lblCurrentDateTime", {131, 381, 319, 18}},
-    {ControlKind::Caption, "lblChatStartDateTimeCaption", {16, 399, 114, 18}},
-    {ControlKind::Value, "lblChatStartDateTime", {131, 399, 319, 18}},
-
-    {ControlKind::Picture, "picCopyright", {464, 382, 34, 34}},
-    {ControlKind::Wrapped, "lblCopyright", {504, 382, 128, 34}},
-
-    {ControlKind::Frame, "fraChat", {8, 423, 624, 24}},
-    {ControlKind::Caption, "lblChatDurationCaption", {16, 426, 60, 18}},
-    {ControlKind::Value, "lblChatDuration", {78, 426, 64, 18}},
-    {ControlKind::Caption, "lblBytesSentCaption", {146, 426, 148, 18}},
-    {ControlKind::Value, "lblBytesSent", {296, 426, 86, 18}},
-    {ControlKind::Caption, "lblBytesReceivedCaption", {388, 426, 148, 18}},
-    {ControlKind::Value, "lblBytesReceived", {538, 426, 90, 18}},
+    {ControlKind::Caption, "lblChatDurationCaption", {8, 417, 54, 17}, kHidden},
+    {ControlKind::Value, "lblChatDuration", {66, 417, 96, 17}, kHidden},
+    {ControlKind::Caption, "lblBytesSentCaption", {162, 417, 70, 17}, kHidden},
+    {ControlKind::Value, "lblBytesSent", {236, 417, 72, 17}, kHidden},
+    {ControlKind::Caption, "lblBytesReceivedCaption", {310, 417, 66, 17}, kHidden},
+    {ControlKind::Value, "lblBytesReceived", {380, 417, 82, 17}, kHidden},
+    {ControlKind::Picture, "picCopyright", {466, 417, 17, 17}, kHidden},
+    {ControlKind::Value, "lblCopyright", {487, 417, 145, 17}, kHidden},
 });
 
 struct MenuEntryDesign {
@@ -80,7 +80,7 @@ struct MenuEntryDesign {
   const char* entry;
   bool tick = false;  // can have a tick
   bool separatorBefore = false;
-  const char* keys = "";  // the shortcut, in QKeySequence's notation
+  const char* keys = "";  // the shortcuts, in QKeySequence's notation, between semicolons
 };
 
 inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
@@ -116,6 +116,10 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuTools", "mnuToolsAlwaysOnTop", true},
     {"mnuTools", "mnuToolsLanguageEnglish", true, true},
     {"mnuTools", "mnuToolsLanguageGreek", true},
+    {"mnuView", "mnuViewStatusPanel", true, false, "F9"},
+    {"mnuView", "mnuViewZoomIn", false, true, "Ctrl++; Ctrl+="},
+    {"mnuView", "mnuViewZoomOut", false, false, "Ctrl+-"},
+    {"mnuView", "mnuViewZoomReset", false, false, "Ctrl+0"},
     {"mnuHelp", "mnuHelpDetailed", false, false, "F1"},
     {"mnuHelp", "mnuHelpAbout", false, true},
 });

@@ -1,13 +1,16 @@
 #include "platform_qt/windows/main_window_form.h"
 
-#include <QCheckBox>
+#include <QApplication>
 #include <QFrame>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "platform_qt/controls/key_codes.h"
+#include "platform_qt/controls/swatch_label.h"
+#include "platform_qt/controls/toggle_box.h"
 #include "platform_qt/windows/find_bar.h"
 
 // Must be outside any namespace. Without this call, Qt does not find the resources of a static
@@ -30,10 +33,53 @@ QIcon ProgramIcon() {
   return icon;
 }
 
-QFrame* NewFrame(QWidget* parent) {
+QFrame* NewHairline(QWidget* parent) {
+  auto* line = new QFrame(parent);
+  line->setFrameShape(QFrame::HLine);
+  line->setFrameShadow(QFrame::Sunken);
+  return line;
+}
+
+QFrame* NewLampFrame(QWidget* parent) {
   auto* frame = new QFrame(parent);
-  frame->setFrameShape(QFrame::StyledPanel);
+  auto* lamp = new LampWidget(frame);
+  lamp->setObjectName(QStringLiteral("shpStatus"));
+  auto* inside = new QVBoxLayout(frame);
+  inside->setContentsMargins(0, 0, 0, 0);
+  inside->addWidget(lamp);
   return frame;
+}
+
+ToggleBox* NewToggleBox(QWidget* parent, const char* name) {
+  auto* box = new ToggleBox(parent);
+  QFont font = box->font();
+  font.setBold(qstrcmp(name, "chkBold") == 0);
+  font.setItalic(qstrcmp(name, "chkItalics") == 0);
+  font.setUnderline(qstrcmp(name, "chkUnderline") == 0);
+  box->setFont(font);
+  return box;
+}
+
+QPushButton* NewButton(QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  // A click leaves the focus where the user types.
+  button->setFocusPolicy(Qt::TabFocus);
+  return button;
+}
+
+// A guess at the room that the window's title and edges will take: they come later, and from the
+// desktop.
+QSize FrameSize() {
+  const QStyle* style = QApplication::style();
+  const int edge = style->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+  return {2 * edge, style->pixelMetric(QStyle::PM_TitleBarHeight) + edge};
+}
+
+// The rows of the status panel are quiet beside the dialogue.
+QFont QuietFont(QFont font) {
+  constexpr qreal kPart = 0.9;
+  font.setPointSizeF(kPart * font.pointSizeF());
+  return font;
 }
 
 }  // namespace
@@ -51,7 +97,8 @@ MainForm::MainForm()
   BuildControls();
   PlaceProgressBar();
   RelateCaptions();
-  resize(kUsualSize.boundedTo(screen()->availableSize()));
+  OpenMenusWithF10();
+  resize(kUsualSize.boundedTo(screen()->availableSize() - FrameSize()));
 }
 
 void MainForm::BuildMenus() {
@@ -66,7 +113,7 @@ void MainForm::BuildMenus() {
     QAction* entry = menu->addAction(QString());
     entry->setObjectName(QLatin1String(design.entry));
     entry->setCheckable(design.tick);
-    entry->setShortcut(QKeySequence(QLatin1String(design.keys)));
+    entry->setShortcuts(QKeySequence::listFromString(QLatin1String(design.keys)));
     // Some desktops move entries with certain captions into a menu of their own; keep them here.
     entry->setMenuRole(QAction::NoRole);
   }
@@ -84,23 +131,16 @@ void MainForm::BuildControls() {
 
 QWidget* MainForm::Build(const ControlDesign& design) {
   switch (design.kind) {
-    case ControlKind::Frame:
-      return NewFrame(area_);
-    case ControlKind::LampFrame: {
-      QFrame* frame = NewFrame(area_);
-      auto* lamp = new LampWidget(frame);
-      lamp->setObjectName(QStringLiteral("shpStatus"));
-      auto* inside = new QVBoxLayout(frame);
-      inside->setContentsMargins(0, 0, 0, 0);
-      inside->addWidget(lamp);
-      return frame;
-    }
-    case ControlKind::CheckBox: {
-      auto* box = new QCheckBox(area_);
-      // A click, perhaps for context help, leaves the focus where the user types.
-      box->setFocusPolicy(Qt::TabFocus);
-      return box;
-    }
+    case ControlKind::Hairline:
+      return NewHairline(area_);
+    case ControlKind::LampFrame:
+      return NewLampFrame(area_);
+    case ControlKind::CheckBox:
+      return NewToggleBox(area_, design.name);
+    case ControlKind::Button:
+      return NewButton(area_);
+    case ControlKind::Swatch:
+      return new SwatchLabel(area_);
     case ControlKind::Picture: {
       auto* picture = new PictureWidget(area_);
       picture->SetIcon(windowIcon());
@@ -114,9 +154,30 @@ QWidget* MainForm::Build(const ControlDesign& design) {
 QWidget* MainForm::BuildLabel(const ControlDesign& design) {
   auto* label = new ElidedLabel(area_);
   label->SetMuted(design.kind == ControlKind::Caption);
-  label->setWordWrap(design.kind == ControlKind::Wrapped);
-  if (design.kind == ControlKind::Swatch) label->setFrameShape(QFrame::Box);
+  label->setWordWrap(design.kind == ControlKind::Status);
+  if (design.placeAlone.isEmpty()) label->setFont(QuietFont(label->font()));
+  const bool endsAtTheRight = design.kind == ControlKind::Caption ||
+                              design.kind == ControlKind::Address ||
+                              design.kind == ControlKind::Note;
+  if (endsAtTheRight) label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   return label;
+}
+
+bool MainForm::ShowsStatusPanel() const {
+  return showsStatusPanel_;
+}
+
+void MainForm::ShowStatusPanel(bool shown) {
+  if (shown == showsStatusPanel_) return;
+  showsStatusPanel_ = shown;
+  for (const ControlDesign& design : kMainWindowDesign) {
+    auto* widget = Find<QWidget>(design.name);
+    if (design.placeAlone.isEmpty()) {
+      widget->setVisible(shown);
+    } else {
+      layout_->Place(widget, shown ? design.place : design.placeAlone);
+    }
+  }
 }
 
 void MainForm::PlaceProgressBar() {
@@ -136,6 +197,14 @@ void MainForm::RelateCaptions() {
   }
 }
 
+void MainForm::OpenMenusWithF10() {
+  auto* open = new QShortcut(Qt::Key_F10, this);
+  connect(open, &QShortcut::activated, this, [this] {
+    menuBar()->setFocus(Qt::MenuBarFocusReason);
+    menuBar()->setActiveAction(menuBar()->actions().constFirst());
+  });
+}
+
 // If the keyboard has a Latin layout beside the Greek one, Qt finds the Latin letter of a key
 // itself. If not, no shortcut takes the key, and it arrives here. A second shortcut for the Greek
 // letter is no solution: with both layouts, Qt considers the two ambiguous.
@@ -143,7 +212,7 @@ void MainForm::keyPressEvent(QKeyEvent* event) {
   if (const Qt::Key key = LatinKeyOf(*event); key != event->key()) {
     const QKeyCombination latin(event->modifiers(), key);
     for (QAction* entry : findChildren<QAction*>()) {
-      if (entry->shortcut() == QKeySequence(latin)) return entry->trigger();
+      if (entry->shortcuts().contains(QKeySequence(latin))) return entry->trigger();
     }
   }
   QMainWindow::keyPressEvent(event);

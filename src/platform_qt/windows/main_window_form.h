@@ -24,6 +24,9 @@ class MainForm : public QMainWindow {
 
   // Puts a pane at its place in the design and in the Tab order.
   void PlacePane(QWidget* pane, const char* name);
+  // The rows below the status line. Without them the controls have other places.
+  bool ShowsStatusPanel() const;
+  void ShowStatusPanel(bool shown);
   // Puts the find bar at the bottom of a pane's place.
   void PlaceFindBar(QWidget* pane) { layout_->PlaceFoot(pane, findBar_); }
   // Puts the list of completions below a pane, over the other controls.
@@ -39,11 +42,25 @@ class MainForm : public QMainWindow {
   QWidget* BuildLabel(const ControlDesign& design);
   void PlaceProgressBar();
   void RelateCaptions();
+  void OpenMenusWithF10();
 
   QWidget* area_;
   ProportionalLayout* layout_;
   QWidget* findBar_;
   CompletionFrame* completions_;
+  bool showsStatusPanel_ = true;
+};
+
+// The status panel, which is hidden and shown as a whole.
+class QtStatusPanel : public Panel {
+ public:
+  explicit QtStatusPanel(MainForm& form) : form_(form) {}
+  void SetVisible(bool visible) override { form_.ShowStatusPanel(visible); }
+  bool Visible() const override { return form_.ShowsStatusPanel(); }
+  bool HasFocus() const override { return false; }
+
+ private:
+  MainForm& form_;
 };
 
 }  // namespace verlume::qt

@@ -22,6 +22,7 @@ Program::Program(Platform& platform)
       statusPanel_(platform, errors_),
       language_(state_, platform, errors_, settings_),
       help_(platform, errors_),
+      view_(platform, errors_),
       windowBehaviour_(state_, platform, errors_, settings_),
       aboutBox_(state_, platform, errors_),
       log_(state_, platform, errors_, settings_),
@@ -178,6 +179,14 @@ void Program::BindMenus() {
   On(frmMain.mnuToolsLanguageEnglish.onClick, language_, &Language::mnuToolsLanguageEnglish_Click);
   On(frmMain.mnuToolsLanguageGreek.onClick, language_, &Language::mnuToolsLanguageGreek_Click);
 
+  On(frmMain.mnuViewStatusPanel.onClick, view_, &View::mnuViewStatusPanel_Click);
+  On(frmMain.mnuViewZoomIn.onClick, view_, &View::mnuViewZoomIn_Click);
+  On(frmMain.mnuViewZoomOut.onClick, view_, &View::mnuViewZoomOut_Click);
+  On(frmMain.mnuViewZoomReset.onClick, view_, &View::mnuViewZoomReset_Click);
+  On(frmMain.rtbData.onZoom, view_, &View::ZoomBy);
+  On(frmMain.rtbCommands.onZoom, view_, &View::ZoomBy);
+  view_.ShowState();
+
   On(frmMain.mnuHelpDetailed.onClick, help_, &Help::mnuHelpDetailed_Click);
 }
 
@@ -186,6 +195,7 @@ void Program::BindPanes() {
   On(frmMain.rtbData.onNearlyFull, dialogue_, &Dialogue::rtbData_NearlyFull);
   On(frmMain.rtbData.onLoadProgress, dialogueFiles_, &DialogueFiles::rtbData_LoadProgress);
   On(frmMain.rtbCommands.onKeyPress, interpreter_, &CommandInterpreter::rtbCommands_KeyPress);
+  On(frmMain.cmdSend.onClick, interpreter_, &CommandInterpreter::cmdSend_Click);
   frmMain.rtbCommands.onKeyDown = [this](int& keyCode, int shift) {
     completion_.rtbCommands_KeyDown(keyCode, shift);
     if (keyCode != char_code::kSwallowed) history_.rtbCommands_KeyDown(keyCode, shift);

@@ -28,6 +28,7 @@
 #include "shell/program/start_up.h"
 #include "shell/settings.h"
 #include "shell/status_panel.h"
+#include "shell/view.h"
 #include "shell/window_behaviour.h"
 
 namespace verlume {
@@ -63,6 +64,7 @@ class Program {
   StatusPanel statusPanel_;
   Language language_;
   Help help_;
+  View view_;
   WindowBehaviour windowBehaviour_;
   AboutBox aboutBox_;
   DialogueLog log_;

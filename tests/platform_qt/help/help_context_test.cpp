@@ -53,7 +53,7 @@ TEST_F(QtHelpContextTest, ControlsAreExplainedInTheLanguageInForce) {
   EXPECT_TRUE(Named("lblStatus")->whatsThis().contains("The status line"));
   SetLanguage(true);
   EXPECT_TRUE(Named("lblStatus")->whatsThis().contains("Η γραμμή κατάστασης"));
-  EXPECT_EQ(Named("lblLocalIP")->whatsThis(), Named("lblLocalIPCaption")->whatsThis());
+  EXPECT_EQ(Named("lblLocalPort")->whatsThis(), Named("lblLocalPortCaption")->whatsThis());
 }
 
 TEST_F(QtHelpContextTest, MenusAndTheirEntriesAreExplained) {

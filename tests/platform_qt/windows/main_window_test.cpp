@@ -97,7 +97,8 @@ TEST_F(QtMainWindowTest, ProgressStandsAtTheFootOfTheStatusLineWhileItIsShown) {
 TEST_F(QtMainWindowTest, MenusStandInTheirOrder) {
   QStringList names;
   for (QAction* action : form.menuBar()->actions()) names.append(action->menu()->objectName());
-  EXPECT_EQ(names, (QStringList{"mnuFile", "mnuComm", "mnuFormat", "mnuTools", "mnuHelp"}));
+  EXPECT_EQ(names,
+            (QStringList{"mnuFile", "mnuComm", "mnuFormat", "mnuTools", "mnuView", "mnuHelp"}));
 }
 
 TEST_F(QtMainWindowTest, MenusShowToolTips) {
@@ -122,7 +123,7 @@ TEST_F(QtMainWindowTest, TheTickedEntriesAreCheckable) {
   QStringList expected{"mnuFileLogRecord",       "mnuFormatFontBold",   "mnuFormatFontItalics",
                        "mnuFormatFontUnderline", "mnuToolsCompletions", "mnuToolsDate",
                        "mnuToolsTime",           "mnuToolsAlwaysOnTop", "mnuToolsLanguageEnglish",
-                       "mnuToolsLanguageGreek"};
+                       "mnuToolsLanguageGreek",  "mnuViewStatusPanel"};
   expected.sort();
   EXPECT_EQ(checkable, expected);
 }
@@ -173,6 +174,81 @@ TEST_F(QtMainWindowTest, FitsInto640By480) {
   EXPECT_EQ(form.size(), QSize(640, 480));
 }
 
+TEST_F(QtMainWindowTest, DialoguePaneHasSixTenthsOfTheHeight) {
+  Show();
+  for (const QSize& size : {QSize(640, 480), QSize(900, 640), QSize(1600, 1000)}) {
+    form.resize(size);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.size() == size; }, 10000));
+    form.centralWidget()->layout()->activate();
+    EXPECT_GE(Named("rtbData")->height(), 0.6 * size.height()) << size.height();
+  }
+}
+
+TEST_F(QtMainWindowTest, ValuesBeginWhereTheirCaptionsEnd) {
+  Show();
+  for (const QSize& size : {QSize(640, 480), QSize(1600, 1000)}) {
+    form.resize(size);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.size() == size; }, 10000));
+    form.centralWidget()->layout()->activate();
+    for (const ControlDesign& design : kMainWindowDesign) {
+      if (design.kind != ControlKind::Caption) continue;
+      const auto* caption = form.Find<QLabel>(design.name);
+      EXPECT_TRUE(caption->alignment() & Qt::AlignRight) << design.name;
+      const int gap = caption->buddy()->geometry().left() - caption->geometry().right();
+      EXPECT_GT(gap, 0) << design.name;
+      EXPECT_LE(gap, form.width() / 100) << design.name;
+    }
+  }
+}
+
+TEST_F(QtMainWindowTest, WithoutTheStatusPanelTheDialogueHasItsRoom) {
+  Show();
+  const int before = Named("rtbData")->height();
+  view.fraPanel.SetVisible(false);
+  form.centralWidget()->layout()->activate();
+  EXPECT_GT(Named("rtbData")->height(), before + 3 * form.fontMetrics().height());
+  EXPECT_FALSE(view.fraPanel.Visible());
+  for (const char* name : {"lblLocalIP", "lblChatDuration", "picCopyright", "fraPanel"}) {
+    EXPECT_FALSE(Named(name)->isVisible()) << name;
+  }
+  for (const char* name : {"lblStatus", "picShape", "lblWaiting", "cmdSend"}) {
+    EXPECT_TRUE(Named(name)->isVisible()) << name;
+  }
+  const QRectF place = RelativePlace(Named("rtbCommands"));
+  form.resize(1320, 900);
+  form.centralWidget()->layout()->activate();
+  EXPECT_NEAR(RelativePlace(Named("rtbCommands")).y(), place.y(), 0.003);
+  view.fraPanel.SetVisible(true);
+  form.resize(form.minimumSizeHint());
+  EXPECT_TRUE(Named("lblLocalIP")->isVisible());
+}
+
+TEST_F(QtMainWindowTest, F10OpensTheMenus) {
+  Show();
+  form.activateWindow();
+  ASSERT_TRUE(WaitForFocus(form));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10);
+  ASSERT_NE(form.menuBar()->activeAction(), nullptr);
+  EXPECT_EQ(form.menuBar()->activeAction()->menu()->objectName(), "mnuFile");
+}
+
+TEST_F(QtMainWindowTest, ToggleShowsWhetherItIsChecked) {
+  Show();
+  QWidget* box = Named("chkBold");
+  const QImage off = box->grab().toImage();
+  view.chkBold.SetValue(1);
+  EXPECT_NE(box->grab().toImage(), off);
+  QTest::mouseClick(box, Qt::LeftButton, {}, {2, box->height() - 2});
+  EXPECT_EQ(view.chkBold.Value(), 0) << "all of it can be clicked";
+}
+
+TEST_F(QtMainWindowTest, SwatchIsFilledWithTheColour) {
+  Show();
+  view.lblColor.SetBackColor(0x0000C0);
+  const QImage picture = Named("lblColor")->grab().toImage();
+  EXPECT_EQ(picture.pixelColor(5, picture.height() / 2), QColor(0xC0, 0, 0));
+}
+
 TEST_F(QtMainWindowTest, ControlsNeitherOverlapNorLeaveTheWindow) {
   Show();
   for (const QSize& size : {QSize(640, 480), QSize(900, 640), QSize(1400, 1000)}) {
@@ -181,7 +257,6 @@ TEST_F(QtMainWindowTest, ControlsNeitherOverlapNorLeaveTheWindow) {
     form.centralWidget()->layout()->activate();
     std::vector<const QWidget*> placed;
     for (const ControlDesign& design : kMainWindowDesign) {
-      if (design.kind == ControlKind::Frame) continue;
       const QWidget* widget = Named(design.name);
       EXPECT_TRUE(form.centralWidget()->rect().contains(widget->geometry())) << design.name;
       for (const QWidget* other : placed) {
