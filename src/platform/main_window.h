@@ -1,7 +1,9 @@
 // The main window, frmMain, as the logic sees it: references to its controls, by name.
 #pragma once
 
+#include "platform/choice_menu.h"
 #include "platform/control.h"
+#include "platform/floating.h"
 #include "platform/rich_text_box.h"
 #include "platform/window.h"
 
@@ -44,6 +46,7 @@ struct MainWindow {
   MenuEntry& mnuCommCancel;
   MenuEntry& mnuCommClose;
   MenuEntry& mnuCommRefresh;
+  ChoiceMenu& mnuCommCallAgain;
 
   Menu& mnuFormat;
   MenuEntry& mnuFormatFontBold;
@@ -85,6 +88,8 @@ struct MainWindow {
   RichTextBox& rtbRemote;    // hidden, and without a task of its own
   FindBar findBar;
   CompletionList completionList;
+  WelcomeCard welcomeCard;
+  AgainBar againBar;
 
   Button& cmdSend;  // does what Enter does in the command pane
   CheckBox& chkBold;
@@ -145,6 +150,7 @@ MainWindow MainWindowOf(Controls& controls) {
       .mnuCommCancel = controls.mnuCommCancel,
       .mnuCommClose = controls.mnuCommClose,
       .mnuCommRefresh = controls.mnuCommRefresh,
+      .mnuCommCallAgain = controls.mnuCommCallAgain,
       .mnuFormat = controls.mnuFormat,
       .mnuFormatFontBold = controls.mnuFormatFontBold,
       .mnuFormatFontItalics = controls.mnuFormatFontItalics,
@@ -187,6 +193,8 @@ MainWindow MainWindowOf(Controls& controls) {
                   .cmdFindClose = controls.cmdFindClose},
       .completionList = {.fraCompletions = controls.fraCompletions,
                          .lstCompletions = controls.lstCompletions},
+      .welcomeCard = controls.welcomeCard.View(),
+      .againBar = controls.againBar.View(),
       .cmdSend = controls.cmdSend,
       .chkBold = controls.chkBold,
       .chkItalics = controls.chkItalics,

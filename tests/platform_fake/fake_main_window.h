@@ -2,7 +2,9 @@
 #pragma once
 
 #include "platform/main_window.h"
+#include "platform_fake/fake_choice_menu.h"
 #include "platform_fake/fake_controls.h"
+#include "platform_fake/fake_floating.h"
 #include "platform_fake/fake_rich_text_box.h"
 
 namespace verlume::fake {
@@ -27,6 +29,7 @@ struct FakeMainWindow {
   FakeMenuEntry mnuCommCancel;
   FakeMenuEntry mnuCommClose;
   FakeMenuEntry mnuCommRefresh;
+  FakeChoiceMenu mnuCommCallAgain;
   FakeMenu mnuFormat;
   FakeMenuEntry mnuFormatFontBold;
   FakeMenuEntry mnuFormatFontItalics;
@@ -69,6 +72,8 @@ struct FakeMainWindow {
   FakeButton cmdFindClose;
   FakePanel fraCompletions;
   FakeListBox lstCompletions;
+  FakeWelcomeCard welcomeCard;
+  FakeAgainBar againBar;
   FakeButton cmdSend;
   FakeCheckBox chkBold;
   FakeCheckBox chkItalics;

@@ -55,6 +55,7 @@ class Program {
   void BindMenus();
   void BindPanes();
   void BindFindBar();
+  void BindFloating();
   void BindSocket();
 
   Platform& platform_;
