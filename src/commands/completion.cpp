@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "commands/completion_calls.h"
 #include "platform/char_code.h"
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
@@ -25,6 +26,11 @@ bool FitsIntoOneLine(std::u16string_view name) {
       name, [](char16_t c) { return c < u' ' || c == u'\u2028' || c == u'\u2029'; });
 }
 
+std::u16string RowText(const Completion& row, bool isGreek) {
+  if (row.isMacro) return kMacroRow.Fill(isGreek, {row.word});
+  return row.nickname.empty() ? row.word : row.word + u"   (" + row.nickname + u")";
+}
+
 }  // namespace
 
 void CommandCompletion::rtbCommands_Change() {
@@ -36,6 +42,7 @@ void CommandCompletion::FollowPane() {
   const RichTextBox& pane = platform_.frmMain.rtbCommands;
   if (!state_.SuggestCommands || pane.TextLength() > kLongestWord) return Close();
   const std::u16string text = pane.Text();
+  if (IsCallLine(text, platform_.locale)) return FollowCallLine(text);
   if (!IsCommandWord(text)) return Close();
   typed_ = text;
   if (!macros_) macros_ = RunnableMacros();
@@ -45,11 +52,18 @@ void CommandCompletion::FollowPane() {
   ShowRows();
 }
 
+void CommandCompletion::FollowCallLine(const std::u16string& text) {
+  typed_ = text;
+  rows_ = CallsOf(typed_, state_.CalledHosts, platform_.locale);
+  if (rows_.empty()) return Hide();
+  ShowRows();
+}
+
 void CommandCompletion::ShowRows() {
   const CompletionList& list = platform_.frmMain.completionList;
   list.lstCompletions.Clear();
   for (const Completion& row : rows_) {
-    list.lstCompletions.Append(row.isMacro ? kMacroRow.Fill(state_.IsGreek, {row.word}) : row.word);
+    list.lstCompletions.Append(RowText(row, state_.IsGreek));
   }
   list.lstCompletions.ScrollToTop(0);
   list.fraCompletions.SetVisible(true);

@@ -1,5 +1,6 @@
 // The list below the command pane: while the pane contains a single word that begins with "/", the
-// list shows the commands and macros that begin with it. It takes only the keys Down and Up.
+// list shows the commands and macros that begin with it, and behind "/CALL " the computers that
+// were called last. It takes only the keys Down and Up.
 #pragma once
 
 #include <optional>
@@ -43,6 +44,7 @@ class CommandCompletion {
 
  private:
   void FollowPane();
+  void FollowCallLine(const std::u16string& text);
   void ShowRows();
   void Hide();
   void Close();

@@ -13,6 +13,7 @@ namespace verlume {
 struct Completion {
   std::u16string word;  // as it is typed, with its "/"
   bool isMacro = false;
+  std::u16string nickname = {};  // of who answered, if it calls a computer again
 
   bool operator==(const Completion&) const = default;
 };
