@@ -1,6 +1,5 @@
 #include "connection/connection_note.h"
 
-#include "connection/note_texts.h"
 #include "shell/again_bar.h"
 #include "shell/delivery.h"
 #include "shell/welcome_card.h"
@@ -8,7 +7,7 @@
 namespace verlume {
 namespace {
 
-const TextPair& TextOf(CallFailure failure) {
+const NoteText& TextOf(CallFailure failure) {
   switch (failure) {
     case CallFailure::None:
       return note_texts::kEndedByCallee;
@@ -28,9 +27,12 @@ const TextPair& TextOf(CallFailure failure) {
 
 }  // namespace
 
-void ShowConnectionNote(AppState& state, const Platform& platform, const TextPair& text,
+void ShowConnectionNote(AppState& state, const Platform& platform, const NoteText& text,
                         std::initializer_list<std::u16string_view> values) {
-  state.ConnectionNote = text.FillBoth(values);
+  const FilledPair reason = text.reason.FillBoth(values);
+  const FilledPair advice = text.advice.FillBoth(values);
+  state.ConnectionNote = {reason.english + u". " + advice.english,
+                          reason.greek + u". " + advice.greek};
   ShowDelivery(state, platform.frmMain);
   ShowWelcomeCard(state, platform);
 }

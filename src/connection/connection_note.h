@@ -4,17 +4,16 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "connection/note_texts.h"
 #include "platform/platform.h"
 #include "platform/run_time_failure.h"
 #include "shell/app_state.h"
-#include "shell/text_pair.h"
 
 namespace verlume {
 
 // Shows the note in the tool tip of lblStatus, and on the welcome card, until the next attempt. The
-// values are filled in for
-// "%1", "%2"...
-void ShowConnectionNote(AppState& state, const Platform& platform, const TextPair& text,
+// values are filled in for "%1", "%2"...
+void ShowConnectionNote(AppState& state, const Platform& platform, const NoteText& text,
                         std::initializer_list<std::u16string_view> values = {});
 // The next attempt begins: the last one is no longer explained, nor offered again.
 void BeginAttempt(AppState& state, const Platform& platform);

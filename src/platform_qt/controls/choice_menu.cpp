@@ -16,6 +16,7 @@ QAction* AddChoice(QMenu* menu, std::u16string_view text) {
 
 QtChoiceMenu::QtChoiceMenu(QMenu* parent, const char* name) : menu_(new QMenu(parent)) {
   menu_->setObjectName(QLatin1String(name));
+  menu_->setToolTipsVisible(true);
   parent->addSeparator();
   parent->addMenu(menu_)->setEnabled(false);
 }

@@ -1,6 +1,6 @@
 #include "platform_qt/windows/again_bar.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QShortcut>
 
@@ -10,9 +10,15 @@ namespace {
 constexpr int kEdge = 1;  // pixels, between the controls and the edge of the bar
 constexpr int kGap = 8;   // between the controls
 
+QAccessibleInterface* AlertOf(const QString&, QObject* object) {
+  auto* bar = dynamic_cast<AgainFrame*>(object);
+  return bar ? new QAccessibleWidget(bar, QAccessible::AlertMessage) : nullptr;
+}
+
 }  // namespace
 
 AgainFrame::AgainFrame(QWidget* area) : FloatingFrame(area, "fraAgain") {
+  QAccessible::installFactory(&AlertOf);  // which the second time does nothing
   auto* text = new ElidedLabel(this);
   text->setObjectName(QStringLiteral("lblAgain"));
   QPushButton* close = NewFloatingButton(this, "cmdAgainClose");
@@ -31,12 +37,6 @@ QRect AgainFrame::PlaceAt(const QRect& pane) const {
   const int height = sizeHint().height();
   if (minimumSizeHint().width() > pane.width() || height > pane.top()) return {};
   return {pane.left(), pane.top() - height, pane.width(), height};
-}
-
-void AgainFrame::showEvent(QShowEvent* event) {
-  FloatingFrame::showEvent(event);
-  QAccessibleEvent alert(this, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
 }
 
 QWidget* QtAgainBar::FollowInTabOrder(QWidget* before) {

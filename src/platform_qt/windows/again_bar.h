@@ -5,15 +5,15 @@
 
 namespace verlume::qt {
 
-// Its controls have the names of AgainBar's members. Escape in it presses cmdAgainClose.
+// Its controls have the names of AgainBar's members. Escape in it presses cmdAgainClose. For
+// assistive tools it is an alert: they read its name out when it appears, although it takes no
+// focus.
 class AgainFrame : public FloatingFrame {
  public:
   explicit AgainFrame(QWidget* area);
 
  protected:
   QRect PlaceAt(const QRect& pane) const override;
-  // Assistive tools read its name out, although it takes no focus.
-  void showEvent(QShowEvent* event) override;
 };
 
 struct QtAgainBar {
