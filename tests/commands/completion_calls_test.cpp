@@ -8,7 +8,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class CompletionCallsTest : public testing::Test, protected fake::CompletionSide {
+class CompletionCallsTest : public fake::CompletionSide {
  protected:
   CompletionCallsTest() {
     state.CalledHosts = {{u"bob.example.org", 4000, u"Bob"}, {u"192.0.2.7", 80, {}}};
