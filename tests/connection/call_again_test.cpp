@@ -51,14 +51,16 @@ TEST_F(CallAgainTest, WhoAnsweredIsKept) {
   EXPECT_THAT(Choices(), ElementsAre(u"bob 4000   (Bob)"));
 }
 
-TEST_F(CallAgainTest, TheConversationOfAWaitNamesNobody) {
-  CallAndGiveUp(u"bob 4000");
+// A caller can choose the port it calls from.
+TEST_F(CallAgainTest, WhoCallsFromAPortThatWasCalledIsNotTakenForItsOwner) {
   alice.Wait(u"4001");
   alice.fake.dialogs.answers = {Answer::Yes};
   bob.Call(u"alice 4001");
+  alice.state.RemoteHost = u"carol";
+  alice.state.CalledHosts = {{u"carol", bob.fake.socket.LocalPort(), {}}};
   network.RunUntilIdle();
   ASSERT_EQ(alice.State(), ConnectionState::Connected);
-  EXPECT_THAT(Choices(), ElementsAre(u"bob 4000"));
+  EXPECT_EQ(alice.state.CalledHosts.front().nickname, u"");
 }
 
 TEST_F(CallAgainTest, AtMostTwentyAreKept) {
