@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "commands/command_texts.h"
+#include "commands/completion_calls.h"
 #include "platform/char_code.h"
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
@@ -33,6 +34,7 @@ bool FitsIntoOneLine(std::u16string_view name) {
 std::u16string RowText(const Completion& row, bool isGreek) {
   constexpr std::u16string_view kNextColumn = u"\t";
   std::u16string text = row.word;
+  if (row.isCall) return text.append(kNextColumn).append(row.nickname).append(kNextColumn);
   if (row.IsMacro()) return text.append(kNextColumn).append(kNextColumn).append(kMacro.In(isGreek));
   const CommandText& about = TextOfCommand(row.command->english);
   text.append(kNextColumn).append(about.arguments.In(isGreek));
@@ -57,6 +59,7 @@ void CommandCompletion::FollowPane(Opening opening) {
   if (pane.TextLength() > kLongestWord) return Close();
   std::u16string text = pane.Text();
   if (!text.starts_with(u'/')) return Close();
+  if (IsCallLine(text, platform_.locale)) return FollowCallLine(text, opening);
   if (!macros_) macros_ = RunnableMacros();
   typed_ = std::move(text);
   rows_ = CompletionsOf(typed_, state_.IsGreek, *macros_, platform_.locale);
@@ -73,6 +76,14 @@ bool CommandCompletion::RunsCommand(std::u16string_view line) const {
 
 void CommandCompletion::ShowHint(bool isShown) {
   platform_.frmMain.lblHint.SetCaption(isShown ? kNoSuchCommand.In(state_.IsGreek) : u"");
+}
+
+void CommandCompletion::FollowCallLine(const std::u16string& text, Opening opening) {
+  typed_ = text;
+  rows_ = CallsOf(typed_, state_.CalledHosts, platform_.locale);
+  ShowHint(false);
+  if (rows_.empty() || opening == Opening::No || !state_.SuggestCommands) return Hide();
+  ShowRows();
 }
 
 void CommandCompletion::ShowRows() {

@@ -1,6 +1,7 @@
 // The list beside the command pane: while the pane contains a single word that begins with "/", the
-// list shows the commands and macros that begin with it, and what they do. It takes only the keys
-// Down, Up and Right. Where nothing begins with the word, a hint says that it will be sent as text.
+// list shows the commands and macros that begin with it, and what they do; behind "/CALL " it shows
+// the computers that were called last. It takes only the keys Down, Up and Right. Where nothing
+// begins with the word, a hint says that it will be sent as text.
 #pragma once
 
 #include <optional>
@@ -51,6 +52,7 @@ class CommandCompletion {
   enum class Opening { No, Yes };  // of the list
 
   void FollowPane(Opening opening);
+  void FollowCallLine(const std::u16string& text, Opening opening);
   void ShowRows();
   void ShowHint(bool isShown);
   void Hide();

@@ -13,9 +13,11 @@ namespace verlume {
 
 struct Completion {
   std::u16string word;                  // as it is typed, with its "/"
-  const CommandRow* command = nullptr;  // null for a macro
+  const CommandRow* command = nullptr;  // null for a macro, and for a computer to call
+  bool isCall = false;                  // calls a computer again
+  std::u16string nickname = {};         // of who answered there, if anybody did
 
-  bool IsMacro() const { return !command; }
+  bool IsMacro() const { return !command && !isCall; }
   bool operator==(const Completion&) const = default;
 };
 

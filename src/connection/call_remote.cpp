@@ -1,9 +1,12 @@
 // "/CALL host port".
 #include "connection/command_parts.h"
 #include "connection/connection_actions.h"
+#include "connection/connection_note.h"
 #include "connection/connection_texts.h"
 #include "connection/port_number.h"
 #include "connection/status_texts.h"
+#include "shell/called_hosts.h"
+#include "shell/welcome_card.h"
 
 namespace verlume {
 
@@ -32,8 +35,10 @@ void ConnectionActions::CallRemote(std::u16string_view commandLine) {
     if (!port || !MayStillLeaveState(leave, *agreed)) return;
 
     ResetConnection(state_, platform_);
+    BeginAttempt(state_, platform_);
     state_.RemoteHost = host;
     state_.RemotePort = *port;
+    RememberCall(state_, platform_, with_.settings);
     platform_.sckControl.SetRemoteHost(host);
     platform_.sckControl.SetRemotePort(*port);
     platform_.sckControl.Connect();
@@ -44,6 +49,7 @@ void ConnectionActions::CallRemote(std::u16string_view commandLine) {
     platform_.frmMain.lblRemotePort.SetCaption(portText);
     EnterState(state_, ConnectionState::Calling);
     ShowLamp(state_, platform_.frmMain);
+    ShowWelcomeCard(state_, platform_);
     // Last: if this line cannot be written, the error report ends the call.
     WriteOutgoingText();
   });

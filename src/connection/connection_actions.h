@@ -56,6 +56,11 @@ class ConnectionActions {
   void mnuCommClose_Click();
   void mnuCommRefresh_Click();
   void mnuToolsNick_Click();
+  void mnuCommCallAgain_Choose(std::size_t index);
+  void mnuCommCallAgain_Last();
+  // Calls the peer of the last conversation again, or waits again on the port of it.
+  void cmdAgain_Click();
+  void cmdAgainClose_Click();
 
  private:
   // The boxes that an action shows before it ends the current state.
@@ -76,6 +81,10 @@ class ConnectionActions {
   void RunKeepingDraft(Procedure procedure, std::u16string_view commandWord,
                        const std::function<void()>& action);
 
+  // Run an action as if the user had typed the whole line.
+  void CallFromMenu(const CalledHost& called);
+  void WaitFromMenu(std::int32_t port);
+
   // Refuses while Connected, asks while Waiting or Calling. Returns the current state if it may be
   // left, else none.
   std::optional<ConnectionState> AskToLeaveState(const LeaveTexts& texts);
@@ -90,6 +99,8 @@ class ConnectionActions {
   std::optional<std::int32_t> AskRemotePort();
   // Asks until the text is a port. False when the user gave up.
   bool CorrectLocalPort(std::u16string& portText);
+  // On failure it notes the reason before it throws.
+  void Listen(std::int32_t port);
   std::u16string AskNickname(std::u16string candidate);
   // Asks whether to choose another nickname if the wire cannot carry this one; else false.
   bool WantsAnother(const std::u16string& nickname);

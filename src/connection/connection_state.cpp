@@ -3,6 +3,7 @@
 #include "records/log_file.h"
 #include "shell/delivery.h"
 #include "shell/status_panel.h"
+#include "shell/welcome_card.h"
 
 namespace verlume {
 
@@ -38,6 +39,7 @@ void ResetConnection(AppState& state, Platform& platform) {
   frmMain.rtbData.DropInsertions();
   state.LinesWaiting = 0;
   ShowDelivery(state, frmMain);
+  ShowWelcomeCard(state, platform);
 }
 
 }  // namespace verlume

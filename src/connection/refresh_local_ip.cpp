@@ -1,6 +1,7 @@
 // "/REFRESH".
 #include "connection/connection_actions.h"
 #include "connection/connection_texts.h"
+#include "shell/welcome_card.h"
 
 namespace verlume {
 
@@ -22,6 +23,7 @@ void ConnectionActions::RefreshLocalIP() {
     // Read again: the address may have changed while the question was open.
     state_.LocalAddress = platform_.sckControl.LocalIP();
     platform_.frmMain.lblLocalIP.SetCaption(state_.LocalAddress);
+    ShowWelcomeCard(state_, platform_);
     with_.statusPanel.ClearValues();
     WriteOutgoingText();
   });

@@ -3,10 +3,13 @@
 #include <string>
 #include <utility>
 
+#include "connection/connection_note.h"
 #include "connection/connection_state.h"
 #include "connection/connection_texts.h"
 #include "connection/status_texts.h"
+#include "shell/again_bar.h"
 #include "shell/delivery.h"
+#include "shell/welcome_card.h"
 
 namespace verlume {
 
@@ -38,6 +41,7 @@ void SocketEvents::AcceptCaller(std::int64_t requestId) {
   platform_.sckControl.Close();
   ForgetRemoteNickname();
   platform_.sckControl.Accept(requestId);
+  ShowWelcomeCard(state_, platform_);
   isSilent_ = true;
   silence_ = 0;
   wire_.SendStart();
@@ -91,8 +95,11 @@ void SocketEvents::sckControl_Close() {
     platform_.frmMain.window.FlagForAttention();
     if (left == ConnectionState::Calling || left == ConnectionState::Waiting) {
       SetStatus(status_texts::kNotEstablished, state_.RemoteHost, state_.RemotePort);
+      const bool wasCall = left == ConnectionState::Calling;
+      (wasCall ? ExplainFailedCall : ExplainFailedWait)(state_, platform_);
       return;
     }
+    if (left == ConnectionState::Connected) OfferAgain(state_, platform_);
     SetStatus(status_texts::kClosedByPeer, state_.RemoteAddress, state_.RemotePort);
     log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());
     state_.LogOpen = false;

@@ -1,9 +1,11 @@
 // "/WAIT port".
 #include "connection/command_parts.h"
 #include "connection/connection_actions.h"
+#include "connection/connection_note.h"
 #include "connection/connection_texts.h"
 #include "connection/port_number.h"
 #include "connection/status_texts.h"
+#include "shell/welcome_card.h"
 
 namespace verlume {
 
@@ -27,8 +29,8 @@ void ConnectionActions::WaitForCall(std::u16string_view commandLine) {
     if (!MayStillLeaveState(leave, *agreed)) return;
 
     ResetConnection(state_, platform_);
-    platform_.sckControl.SetLocalPort(port);
-    platform_.sckControl.Listen();
+    BeginAttempt(state_, platform_);
+    Listen(port);
     state_.LocalPort = platform_.sckControl.LocalPort();
 
     const std::u16string portInUse = DecimalText(state_.LocalPort);
@@ -36,9 +38,20 @@ void ConnectionActions::WaitForCall(std::u16string_view commandLine) {
     platform_.frmMain.lblLocalPort.SetCaption(portInUse);
     EnterState(state_, ConnectionState::Waiting);
     ShowLamp(state_, platform_.frmMain);
+    ShowWelcomeCard(state_, platform_);
     // Last: if this line cannot be written, the error report ends the wait.
     WriteOutgoingText();
   });
+}
+
+void ConnectionActions::Listen(std::int32_t port) {
+  try {
+    platform_.sckControl.SetLocalPort(port);
+    platform_.sckControl.Listen();
+  } catch (const RunTimeFailure& failure) {
+    ExplainRefusedPort(state_, platform_, port, failure.number);
+    throw;
+  }
 }
 
 bool ConnectionActions::CorrectLocalPort(std::u16string& portText) {

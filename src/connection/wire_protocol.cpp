@@ -11,6 +11,7 @@
 #include "shell/language_texts.h"
 #include "shell/maker_texts.h"
 #include "shell/nickname.h"
+#include "shell/welcome_card.h"
 #include "shell/who_is_who.h"
 
 namespace verlume {
@@ -124,11 +125,13 @@ void WireProtocol::OnStart(std::u16string_view data) {
 
 void WireProtocol::OnConfirm(std::u16string_view data) {
   const bool isNewConversation = StateOf(state_) != ConnectionState::Connected;
+  if (isNewConversation) state_.HasCalled = StateOf(state_) == ConnectionState::Calling;
   const std::u16string status = EnterConversation();
   TakeNickname(data);
   // A later handshake goes on in the same log: a peer that changes its nickname each time would
   // make as many files as it likes.
   if (isNewConversation) NameLog();
+  if (isNewConversation && with_.onConversation) with_.onConversation();
   state_.LogOpen = true;
   with_.log.AppendConnectionLine(status);
   SayWhoIsWho({});
@@ -153,6 +156,7 @@ std::u16string WireProtocol::EnterConversation() {
       state_.IsGreek, {state_.RemoteAddress, DecimalText(state_.RemotePort)});
   platform_.frmMain.lblStatus.SetCaption(status);
   ShowLamp(state_, platform_.frmMain);
+  ShowWelcomeCard(state_, platform_);
   state_.LinesUndelivered = 0;
   ShowDelivery(state_, platform_.frmMain);
   with_.statusPanel.StartChat();

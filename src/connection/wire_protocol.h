@@ -1,6 +1,7 @@
 // The messages between two copies of the program: how they are sent, and what an arriving one does.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,8 @@ class WireProtocol {
     Dialogue& dialogue;
     DialogueLog& log;
     StatusPanel& statusPanel;
+    // A conversation has begun, and the peer's nickname is known.
+    std::function<void()> onConversation = {};
   };
 
   WireProtocol(AppState& state, Platform& platform, ErrorReport& errors,

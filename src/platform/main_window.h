@@ -1,7 +1,9 @@
 // The main window, frmMain, as the logic sees it: references to its controls, by name.
 #pragma once
 
+#include "platform/choice_menu.h"
 #include "platform/control.h"
+#include "platform/floating.h"
 #include "platform/rich_text_box.h"
 #include "platform/spell_checker.h"
 #include "platform/window.h"
@@ -47,6 +49,7 @@ struct MainWindow {
   MenuEntry& mnuCommCancel;
   MenuEntry& mnuCommClose;
   MenuEntry& mnuCommRefresh;
+  ChoiceMenu& mnuCommCallAgain;
 
   Menu& mnuFormat;
   MenuEntry& mnuFormatFontBold;
@@ -89,6 +92,8 @@ struct MainWindow {
   RichTextBox& rtbRemote;    // hidden, and without a task of its own
   FindBar findBar;
   CompletionList completionList;
+  WelcomeCard welcomeCard;
+  AgainBar againBar;
   // Floats beside the command pane while it has a caption, and is then the pane's description.
   Label& lblHint;
   SpellChecker& spelling;  // of the command pane
@@ -152,6 +157,7 @@ MainWindow MainWindowOf(Controls& controls) {
       .mnuCommCancel = controls.mnuCommCancel,
       .mnuCommClose = controls.mnuCommClose,
       .mnuCommRefresh = controls.mnuCommRefresh,
+      .mnuCommCallAgain = controls.mnuCommCallAgain,
       .mnuFormat = controls.mnuFormat,
       .mnuFormatFontBold = controls.mnuFormatFontBold,
       .mnuFormatFontItalics = controls.mnuFormatFontItalics,
@@ -195,6 +201,8 @@ MainWindow MainWindowOf(Controls& controls) {
                   .cmdFindClose = controls.cmdFindClose},
       .completionList = {.fraCompletions = controls.fraCompletions,
                          .lstCompletions = controls.lstCompletions},
+      .welcomeCard = controls.welcomeCard.View(),
+      .againBar = controls.againBar.View(),
       .lblHint = controls.lblHint,
       .spelling = controls.spelling,
       .cmdSend = controls.cmdSend,

@@ -18,6 +18,10 @@ enum class SocketState { Closed = 0, Listening = 2, Connecting = 6, Connected = 
 // What a text is for: a line is shown to people, a signal is read by the peer's program.
 enum class TextKind { Line, Signal };
 
+// Why a call could not be made: nobody listens on the port, the other machine does not answer in
+// time, no way leads to it.
+enum class CallFailure { None, UnknownHost, Refused, Silent, Unreachable, Other };
+
 // The greatest port that callers can name: they keep it in 16 bits with a sign.
 inline constexpr std::int32_t kGreatestNameablePort = 32767;
 
@@ -48,6 +52,8 @@ class Socket {
   virtual void Listen() = 0;
   // Calls the remote host. Raises onConnect, or onClose within 15 s when no connection can be made.
   virtual void Connect() = 0;
+  // Why the last call could not be made; None while it is being made, and when it was.
+  virtual CallFailure LastCallFailure() const = 0;
   // Accepts the call `requestId`, right after Close has ended the listening. Raises onClose if the
   // caller has left meanwhile, or the id is unknown.
   virtual void Accept(std::int64_t requestId) = 0;

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "shell/called_hosts.h"
+#include "shell/text_pair.h"
 #include "shell/text_style.h"
 
 namespace verlume {
@@ -45,6 +47,10 @@ struct AppState {
   std::size_t LinesWaiting = 0;   // sent, but not yet acknowledged by the peer's machine
   std::size_t LinesUndelivered = 0;  // lines of an ended conversation that were never acknowledged
   bool UndeliveredBefore = false;  // LinesUndelivered is about the conversation before the last one
+  bool HasCalled = false;    // this side made the call of the last conversation, or of the current
+  bool OffersAgain = false;  // to call or wait again (shell/again_bar.h)
+  std::vector<CalledHost> CalledHosts;  // newest first
+  FilledPair ConnectionNote;            // why the last call or wait has failed, and what to do next
   std::vector<std::u16string> TurnedAway;  // addresses whose calls are rejected without asking
 
   // The line being executed.

@@ -1,5 +1,7 @@
 #include "shell/delivery.h"
 
+#include <utility>
+
 #include "shell/language_texts.h"
 #include "shell/text_pair.h"
 
@@ -46,16 +48,17 @@ void ShowDelivery(const AppState& state, const MainWindow& frmMain) {
           ? std::u16string()
           : kWaiting.Fill(isGreek, {DecimalText(static_cast<long long>(state.LinesWaiting))}));
   std::u16string toolTip(kStatusToolTip.In(isGreek));
+  bool isFirst = true;
+  const auto add = [&](const std::u16string& sentence) {
+    toolTip += (std::exchange(isFirst, false) ? u": " : u" ") + sentence;
+  };
+  if (const std::u16string& note = state.ConnectionNote.In(isGreek); !note.empty()) add(note);
   if (state.LinesUndelivered > 0) {
     const std::size_t lines = state.LinesUndelivered;
-    toolTip += u": " + (state.UndeliveredBefore
-                            ? Fill(kOneUndeliveredBefore, kUndeliveredBefore, lines, isGreek)
-                            : UndeliveredText(lines, isGreek));
+    add(state.UndeliveredBefore ? Fill(kOneUndeliveredBefore, kUndeliveredBefore, lines, isGreek)
+                                : UndeliveredText(lines, isGreek));
   }
-  if (!state.TurnedAway.empty()) {
-    toolTip +=
-        (state.LinesUndelivered > 0 ? u" " : u": ") + TurnedAwayText(state.TurnedAway, isGreek);
-  }
+  if (!state.TurnedAway.empty()) add(TurnedAwayText(state.TurnedAway, isGreek));
   frmMain.lblStatus.SetToolTip(toolTip);
 }
 

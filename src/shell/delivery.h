@@ -13,8 +13,8 @@ namespace verlume {
 std::u16string UndeliveredText(std::size_t lines, bool isGreek);
 
 // Shows in lblWaiting how many lines wait ("2 waiting", or nothing), and in the tool tip of
-// lblStatus how many lines of the last conversation, or of the one before it, were never delivered,
-// and whose calls are turned away.
+// lblStatus why the last call or wait has failed, how many lines of the last conversation, or of
+// the one before it, were never delivered, and whose calls are turned away.
 void ShowDelivery(const AppState& state, const MainWindow& frmMain);
 
 }  // namespace verlume

@@ -1,10 +1,13 @@
 #include "shell/language.h"
 
+#include "shell/again_bar.h"
+#include "shell/called_hosts.h"
 #include "shell/delivery.h"
 #include "shell/language_texts.h"
 #include "shell/setting_names.h"
 #include "shell/settings_reader.h"
 #include "shell/status_panel.h"
+#include "shell/welcome_card.h"
 #include "shell/who_is_who.h"
 
 namespace verlume {
@@ -16,8 +19,13 @@ void Language::ApplyLanguage() {
     state_.Title = kMainWindowTitle.In(isGreek);
     for (const auto& [set, text] : MenuAndToolTipTexts(frmMain)) set(text.In(isGreek));
     for (const auto& [set, text] : PanelTexts(frmMain)) set(text.In(isGreek));
+    for (const auto& [set, text] : WelcomeCardTexts(frmMain.welcomeCard)) set(text.In(isGreek));
+    for (const auto& [set, text] : AgainBarTexts(frmMain.againBar)) set(text.In(isGreek));
     ShowLamp(state_, frmMain);
     ShowDelivery(state_, frmMain);
+    ShowWelcomeCard(state_, platform_);
+    ShowAgainBar(state_, platform_);
+    ShowCalledHosts(state_, platform_);
     ExplainRemoteNickname(state_, frmMain);
     SetAuthorWords(frmMain.rtbData, isGreek);
     frmMain.mnuToolsAlwaysOnTop.SetToolTip(

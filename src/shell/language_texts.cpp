@@ -115,6 +115,7 @@ std::vector<FixedText> MenuAndToolTipTexts(const MainWindow& frmMain) {
       {Caption(frmMain.mnuCommCancel), {u"Cancel", u"Ακύρωση"}},
       {Caption(frmMain.mnuCommClose), {u"Close", u"Κλείσιμο"}},
       {Caption(frmMain.mnuCommRefresh), {u"Refresh IP", u"Ανανέωση IP"}},
+      {Caption(frmMain.mnuCommCallAgain), {u"Call again", u"Επανάληψη κλήσης"}},
       {Caption(frmMain.mnuFormat), {u"Format", u"Μορφή"}},
       {Caption(frmMain.mnuFormatFontBold), {u"Bold", u"Έντονη γραφή"}},
       {Caption(frmMain.mnuFormatFontItalics), {u"Italics", u"Πλάγια γραφή"}},

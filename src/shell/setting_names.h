@@ -22,6 +22,7 @@ inline constexpr std::u16string_view kAlwaysOnTop = u"AlwaysOnTop";
 inline constexpr std::u16string_view kMacrosFolder = u"Macrosfolder";
 inline constexpr std::u16string_view kSuggestCommands = u"Suggestcommands";
 inline constexpr std::u16string_view kMostParagraphs = u"Mostparagraphs";
+inline constexpr std::u16string_view kCalled = u"Called";  // and a number: "Called1"
 inline constexpr std::u16string_view kCheckSpelling = u"CheckSpelling";
 // Of FontLocal.
 inline constexpr std::u16string_view kFontName = u"Name";

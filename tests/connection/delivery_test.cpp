@@ -208,7 +208,9 @@ TEST_F(DeliveryTest, LinesOfAConnectionThatBreaksBeforeTheHandshakeAreInNoLog) {
   SendBeforeTheHandshake();
   bob.actions.CancelWaitOrCall();
   network.RunUntilIdle();
-  EXPECT_EQ(ToolTip(), u"Status: 1 line was not delivered.");
+  EXPECT_EQ(ToolTip(),
+            u"Status: The caller left before the conversation began. Wait again for the next call. "
+            u"1 line was not delivered.");
   EXPECT_FALSE(LogSays(u"1 line was not delivered."));
 }
 

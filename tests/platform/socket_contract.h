@@ -346,6 +346,31 @@ TYPED_TEST_P(SocketContract, ACallThatNobodyTakesCloses) {
   EXPECT_TRUE(this->WaitForClose(this->caller));
   EXPECT_EQ(this->caller.socket.State(), SocketState::Closed);
   EXPECT_EQ(this->caller.connects, 0u);
+  EXPECT_EQ(this->caller.socket.LastCallFailure(), CallFailure::Refused);
+}
+
+TYPED_TEST_P(SocketContract, ACallToAnUnknownNameClosesAndSaysSo) {
+  this->caller.socket.SetRemoteHost(u"nowhere.invalid");
+  this->caller.socket.SetRemotePort(4000);
+  this->caller.socket.Connect();
+  EXPECT_TRUE(this->WaitForClose(this->caller));
+  EXPECT_EQ(this->caller.socket.LastCallFailure(), CallFailure::UnknownHost);
+}
+
+TYPED_TEST_P(SocketContract, TheReasonOfAFailedCallStaysUntilTheNextCall) {
+  this->caller.socket.SetRemoteHost(u"nowhere.invalid");
+  this->caller.socket.SetRemotePort(4000);
+  this->caller.socket.Connect();
+  ASSERT_TRUE(this->WaitForClose(this->caller));
+  this->caller.socket.Close();
+  EXPECT_EQ(this->caller.socket.LastCallFailure(), CallFailure::UnknownHost);
+  this->Listen();
+  this->Call(this->caller);
+  EXPECT_EQ(this->caller.socket.LastCallFailure(), CallFailure::None);
+  ASSERT_TRUE(this->world.Wait([&] { return this->caller.connects == 1; }));
+  this->callee.socket.Close();
+  ASSERT_TRUE(this->world.Wait([&] { return this->caller.closes == 2; }));
+  EXPECT_EQ(this->caller.socket.LastCallFailure(), CallFailure::None) << "the call was made";
 }
 
 TYPED_TEST_P(SocketContract, ACancelledCallRaisesNothing) {
@@ -473,6 +498,7 @@ REGISTER_TYPED_TEST_SUITE_P(
     OnlyTheCallerThatIsAskedAboutCanBeRejected, AnsweringACallerWhoHasLeftCloses,
     AnsweringAnUnknownCallCloses, ArrivalsComeBeforeTheCloseWhichComesOnce,
     WordsSentOnAnsweringStillArriveWhenTheCalleeClosesAtOnce, ACallThatNobodyTakesCloses,
+    ACallToAnUnknownNameClosesAndSaysSo, TheReasonOfAFailedCallStaysUntilTheNextCall,
     ACancelledCallRaisesNothing, ClosingInsideAnEventEndsTheEvents,
     ClosingTwiceIsHarmlessAndTheSocketServesAgain, PausedArrivalsAndTheCloseBehindThemWaitInOrder,
     PausingInsideAnArrivalHoldsTheNextOneBack, APausedSocketStillSends,

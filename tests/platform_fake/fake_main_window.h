@@ -2,7 +2,9 @@
 #pragma once
 
 #include "platform/main_window.h"
+#include "platform_fake/fake_choice_menu.h"
 #include "platform_fake/fake_controls.h"
+#include "platform_fake/fake_floating.h"
 #include "platform_fake/fake_rich_text_box.h"
 #include "platform_fake/fake_spell_checker.h"
 
@@ -28,6 +30,7 @@ struct FakeMainWindow {
   FakeMenuEntry mnuCommCancel;
   FakeMenuEntry mnuCommClose;
   FakeMenuEntry mnuCommRefresh;
+  FakeChoiceMenu mnuCommCallAgain;
   FakeMenu mnuFormat;
   FakeMenuEntry mnuFormatFontBold;
   FakeMenuEntry mnuFormatFontItalics;
@@ -71,6 +74,8 @@ struct FakeMainWindow {
   FakeButton cmdFindClose;
   FakePanel fraCompletions;
   FakeListBox lstCompletions;
+  FakeWelcomeCard welcomeCard;
+  FakeAgainBar againBar;
   FakeLabel lblHint;
   FakeSpellChecker spelling;
   FakeButton cmdSend;

@@ -37,6 +37,9 @@ void FakeSocket::Post(std::function<void()> event) {
 
 void FakeSocket::Listen() {
   if (localPort_ == 0) localPort_ = network_.nextPort_++;
+  if (network_.forbiddenPorts.contains(localPort_)) {
+    throw RunTimeFailure(FailureNumber::PermissionDenied);
+  }
   if (network_.listeners_.contains(localPort_)) throw RunTimeFailure(FailureNumber::AddressInUse);
   network_.listeners_[localPort_] = this;
   state_ = SocketState::Listening;
@@ -44,11 +47,14 @@ void FakeSocket::Listen() {
 
 void FakeSocket::Connect() {
   state_ = SocketState::Connecting;
+  callFailure_ = CallFailure::None;
   early_.clear();
   localPort_ = network_.nextPort_++;
   Post([this] {
+    if (network_.fails) return FailCall(*network_.fails);
+    if (remoteHost.ends_with(u".invalid")) return FailCall(CallFailure::UnknownHost);
     const auto listener = network_.listeners_.find(remotePort_);
-    if (listener == network_.listeners_.end()) return LosePeer();
+    if (listener == network_.listeners_.end()) return FailCall(CallFailure::Refused);
     state_ = SocketState::Connected;
     peer_ = listener->second;
     remoteHostIP_ = peer_->localIP;
@@ -56,6 +62,11 @@ void FakeSocket::Connect() {
     peer_->AskNextCaller();
     if (onConnect) onConnect();
   });
+}
+
+void FakeSocket::FailCall(CallFailure failure) {
+  callFailure_ = failure;
+  LosePeer();
 }
 
 void FakeSocket::AskNextCaller() {

@@ -1,10 +1,12 @@
-// Sockets in memory. The sockets of a network reach each other by port, whatever the host name;
-// their events wait in the network's queue until a test raises them.
+// Sockets in memory. The sockets of a network reach each other by port, whatever the host name,
+// unless that ends in the reserved ".invalid"; their events wait in the network's queue until a
+// test raises them.
 #pragma once
 
 #include <deque>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <vector>
 
@@ -25,6 +27,11 @@ class FakeNetwork {
   // Until Mend, nothing that is sent arrives or is acknowledged.
   void Cut() { isCut_ = true; }
   void Mend();
+
+  // How every call fails, if it does.
+  std::optional<CallFailure> fails;
+  // Ports on which nobody may listen.
+  std::set<std::int32_t> forbiddenPorts;
 
  private:
   friend class FakeSocket;
@@ -52,6 +59,7 @@ class FakeSocket : public Socket {
   std::u16string LocalHostName() const override { return u"fakehost"; }
   void Listen() override;
   void Connect() override;
+  CallFailure LastCallFailure() const override { return callFailure_; }
   void Accept(std::int64_t requestId) override;
   void Reject(std::int64_t requestId) override;
   void Close() override;
@@ -85,6 +93,7 @@ class FakeSocket : public Socket {
   void Arrive(std::u16string text);
   void DeliverArrival();
   void LosePeer();
+  void FailCall(CallFailure failure);
   void AskNextCaller();
   void DropCaller();
 
@@ -92,6 +101,7 @@ class FakeSocket : public Socket {
   SocketState state_ = SocketState::Closed;
   std::int32_t localPort_ = 0;
   std::int32_t remotePort_ = 0;
+  CallFailure callFailure_ = CallFailure::None;
   std::u16string remoteHostIP_;
   FakeSocket* peer_ = nullptr;
   std::deque<FakeSocket*> callers_;    // of a listener: those that wait to be accepted

@@ -61,6 +61,26 @@ void Collect(ShownTexts& texts, const fake::FakeListBox& list) {
 void Collect(ShownTexts& texts, const fake::FakeSpellChecker& spelling) {
   for (const auto& [entry, caption] : spelling.captions) texts.push_back({"caption", caption});
 }
+void Collect(ShownTexts& texts, const fake::FakeWelcomeCard& card) {
+  texts.push_back({"accessible name", card.fraCard.accessibleName});
+  for (const fake::FakeLabel* label : {&card.lblCard, &card.lblCardAddress}) {
+    Collect(texts, *label);
+  }
+  for (const fake::FakeButton* button : {&card.cmdCardWait, &card.cmdCardCall, &card.cmdCardHelp}) {
+    Collect(texts, *button);
+  }
+  texts.push_back({"caption", card.cmdCardCopy.caption});
+  Collect<CopyButton>(texts, card.cmdCardCopy);
+}
+void Collect(ShownTexts& texts, const fake::FakeAgainBar& bar) {
+  texts.push_back({"accessible name", bar.fraAgain.accessibleName});
+  texts.push_back({"caption", bar.lblAgain.caption});
+  Collect(texts, bar.cmdAgain);
+  Collect(texts, bar.cmdAgainClose);
+}
+void Collect(ShownTexts& texts, const fake::FakeChoiceMenu& menu) {
+  texts.push_back({"menu", menu.caption});
+}
 void Collect(ShownTexts&, const fake::FakePanel&) {}
 void Collect(ShownTexts&, const fake::FakeLayoutControl&) {}
 void Collect(ShownTexts&, const fake::FakeTimer&) {}
@@ -70,41 +90,42 @@ void Collect(ShownTexts&, const fake::FakeLamp&) {}
 ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
   const auto& [window, freeSizer1, tmrTimer, mnuFile, mnuFileMacrosFolder, mnuFileLogFolder,
                mnuFileLogRecord, mnuFileLogOpen, mnuFileLogSaveAs, mnuFileExit, mnuComm,
-               mnuCommWait, mnuCommCall, mnuCommCancel, mnuCommClose, mnuCommRefresh, mnuFormat,
-               mnuFormatFontBold, mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize,
-               mnuFormatFontColor, mnuFormatFontSettings, mnuFormatBackcolorCommands,
-               mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro,
-               mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue,
-               mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate, mnuToolsTime,
-               mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
+               mnuCommWait, mnuCommCall, mnuCommCancel, mnuCommClose, mnuCommRefresh,
+               mnuCommCallAgain, mnuFormat, mnuFormatFontBold, mnuFormatFontItalics,
+               mnuFormatFontUnderline, mnuFormatFontSize, mnuFormatFontColor, mnuFormatFontSettings,
+               mnuFormatBackcolorCommands, mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick,
+               mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
+               mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
+               mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
                mnuToolsCheckSpelling, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
                mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands,
                rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult,
-               cmdFindClose, fraCompletions, lstCompletions, lblHint, spelling, cmdSend, chkBold,
-               chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, fraPanel,
-               lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
-               lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
-               lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
-               lblChatDurationCaption, lblLocalPortCaption, lblLocalNicknameCaption,
-               lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
-               lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright, frmMain] =
-      mainWindow;
+               cmdFindClose, fraCompletions, lstCompletions, welcomeCard, againBar, lblHint,
+               spelling, cmdSend, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus,
+               lblWaiting, fraPanel, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration,
+               lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
+               lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
+               lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalPortCaption,
+               lblLocalNicknameCaption, lblRemotePortCaption, lblRemoteNicknameCaption,
+               lblBytesSentCaption, lblBytesReceivedCaption, picShape, shpStatus, lblCopyright,
+               picCopyright, frmMain] = mainWindow;
   (void)frmMain;
   ShownTexts texts;
   const auto collect = [&texts](const auto&... elements) { (Collect(texts, elements), ...); };
   collect(window, freeSizer1, tmrTimer, mnuFile, mnuFileMacrosFolder, mnuFileLogFolder,
           mnuFileLogRecord, mnuFileLogOpen, mnuFileLogSaveAs, mnuFileExit, mnuComm, mnuCommWait,
-          mnuCommCall, mnuCommCancel, mnuCommClose, mnuCommRefresh, mnuFormat, mnuFormatFontBold,
-          mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize, mnuFormatFontColor,
-          mnuFormatFontSettings, mnuFormatBackcolorCommands, mnuFormatBackcolorDialogue, mnuTools,
-          mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
-          mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
-          mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
-          mnuToolsCheckSpelling, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
-          mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote,
-          fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose,
-          fraCompletions, lstCompletions, lblHint, spelling, cmdSend, chkBold, chkItalics,
-          chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, fraPanel, lblCurrentDateTime,
+          mnuCommCall, mnuCommCancel, mnuCommClose, mnuCommRefresh, mnuCommCallAgain, mnuFormat,
+          mnuFormatFontBold, mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize,
+          mnuFormatFontColor, mnuFormatFontSettings, mnuFormatBackcolorCommands,
+          mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros,
+          mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue, mnuToolsClearCommands,
+          mnuToolsClearHistory, mnuToolsDate, mnuToolsTime, mnuToolsAlwaysOnTop,
+          mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuToolsCheckSpelling, mnuView,
+          mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut, mnuViewZoomReset, mnuHelp,
+          mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
+          cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions, lstCompletions,
+          welcomeCard, againBar, lblHint, spelling, cmdSend, chkBold, chkItalics, chkUnderline,
+          lblColor, lblStatus, prgStatus, lblWaiting, fraPanel, lblCurrentDateTime,
           lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname,
           lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
           lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
@@ -125,7 +146,7 @@ class LanguageTest : public ShellTest {
           &window.lblChatDuration, &window.lblLocalIP, &window.lblLocalPort,
           &window.lblLocalNickname, &window.lblRemoteIP, &window.lblRemotePort,
           &window.lblRemoteNickname, &window.lblBytesSent, &window.lblBytesReceived,
-          &window.lblColor, &window.lblFindResult, &window.lblHint}) {
+          &window.lblColor, &window.lblFindResult, &window.lblHint, &window.againBar.lblAgain}) {
       label->caption = u"";
     }
   }

@@ -55,7 +55,12 @@ struct Side {
   Dialogue dialogue{state, fake.platform, errors, settings, log};
   StatusPanel statusPanel{fake.platform, errors};
   WireProtocol wire{
-      state, fake.platform, errors, {.dialogue = dialogue, .log = log, .statusPanel = statusPanel}};
+      state,
+      fake.platform,
+      errors,
+      {.dialogue = dialogue, .log = log, .statusPanel = statusPanel, .onConversation = [this] {
+         RememberAnswer(state, fake.platform, settings);
+       }}};
   ConnectionActions actions{state,
                             fake.platform,
                             errors,

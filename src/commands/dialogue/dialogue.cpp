@@ -5,6 +5,7 @@
 
 #include "richtext/look_budget.h"
 #include "richtext/rtf_documents.h"
+#include "shell/again_bar.h"
 #include "shell/conversions.h"
 #include "shell/date_time_text.h"
 #include "shell/nickname.h"
@@ -57,6 +58,7 @@ void Dialogue::WriteDialogueLine(std::u16string_view rtf, Sender sender, Command
       GoToEnd(platform_.frmMain.rtbData);
     } else {
       WriteLine(rtf, sender);
+      WithdrawAgain(state_, platform_);
     }
     if (commandPane == CommandPane::Clear) platform_.frmMain.rtbCommands.SetText(u"");
   });

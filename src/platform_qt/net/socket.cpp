@@ -40,6 +40,21 @@ bool ListenOnFreePort(QTcpServer& server) {
   return false;
 }
 
+CallFailure FailureOf(QAbstractSocket::SocketError error) {
+  switch (error) {
+    case QAbstractSocket::ConnectionRefusedError:
+      return CallFailure::Refused;
+    case QAbstractSocket::HostNotFoundError:
+      return CallFailure::UnknownHost;
+    case QAbstractSocket::SocketTimeoutError:
+      return CallFailure::Silent;
+    case QAbstractSocket::NetworkError:
+      return CallFailure::Unreachable;
+    default:
+      return CallFailure::Other;
+  }
+}
+
 }  // namespace
 
 QtSocket::QtSocket(std::chrono::milliseconds timeout) : timeout_(timeout) {
@@ -56,7 +71,7 @@ QtSocket::QtSocket(std::chrono::milliseconds timeout) : timeout_(timeout) {
   connect(&acceptPause_, &QTimer::timeout, &server_, &QTcpServer::resumeAccepting);
   connectLimit_.setSingleShot(true);
   connectLimit_.setTimerType(Qt::PreciseTimer);
-  connect(&connectLimit_, &QTimer::timeout, this, [this] { EndConnection(); });
+  connect(&connectLimit_, &QTimer::timeout, this, &QtSocket::GiveUpCall);
 }
 
 QtSocket::~QtSocket() {
@@ -160,10 +175,11 @@ void QtSocket::Reject(std::int64_t requestId) {
 
 void QtSocket::Connect() {
   Close();
+  callFailure_ = CallFailure::None;
   state_ = SocketState::Connecting;
   const QString host = HostToCall(remoteHost_);
   if (host.isEmpty() || remotePort_ <= 0 || remotePort_ > kLastPort) {
-    return Post(&QtSocket::EndConnection);
+    return FailCall(CallFailure::Other);
   }
   auto* socket = new QTcpSocket(this);
   socket->setProxy(QNetworkProxy::NoProxy);
@@ -173,7 +189,7 @@ void QtSocket::Connect() {
     localPort_ = calling_->localPort();
     Post(&QtSocket::RaiseConnect);
   });
-  connect(socket, &QTcpSocket::errorOccurred, this, [this] { Post(&QtSocket::FailCall); });
+  connect(socket, &QTcpSocket::errorOccurred, this, [this] { Post(&QtSocket::EndCall); });
   calling_ = socket;
   connectLimit_.start(kConnectLimit);
   if (QHostAddress(host).isNull()) {
@@ -197,7 +213,7 @@ void QtSocket::LookUp(const QString& host) {
 void QtSocket::TakeLookUp(const QHostInfo& found, std::uint64_t generation) {
   --lookUps_;
   if (generation != generation_) return;
-  if (found.error() != QHostInfo::NoError) return Post(&QtSocket::EndConnection);
+  if (found.error() != QHostInfo::NoError) return FailCall(CallFailure::UnknownHost);
   calling_->connectToHost(found.hostName(), static_cast<quint16>(remotePort_));
 }
 
@@ -245,9 +261,23 @@ void QtSocket::ResumeArrivals() {
   if (connection_) Post(&QtSocket::DeliverArrival);
 }
 
+void QtSocket::FailCall(CallFailure failure) {
+  callFailure_ = failure;
+  Post(&QtSocket::EndConnection);
+}
+
 // A call that has been answered meanwhile ends like any connection, after its arrivals.
-void QtSocket::FailCall() {
-  if (calling_) EndConnection();
+void QtSocket::EndCall() {
+  if (!calling_) return;
+  callFailure_ = FailureOf(calling_->error());
+  EndConnection();
+}
+
+// Before the name has been found, nobody has been called.
+void QtSocket::GiveUpCall() {
+  const bool isLookingUp = calling_->state() == QAbstractSocket::UnconnectedState;
+  callFailure_ = isLookingUp ? CallFailure::UnknownHost : CallFailure::Silent;
+  EndConnection();
 }
 
 void QtSocket::EndConnection() {

@@ -39,6 +39,7 @@ class QtSocket : public QObject, public Socket {
   std::u16string LocalHostName() const override;
   void Listen() override;
   void Connect() override;
+  CallFailure LastCallFailure() const override { return callFailure_; }
   void Accept(std::int64_t requestId) override;
   void Reject(std::int64_t requestId) override;
   void Close() override;
@@ -87,7 +88,10 @@ class QtSocket : public QObject, public Socket {
   void RaiseAcknowledged();
   void RaiseUndelivered(std::size_t lines);
   void DeliverArrival();
-  void FailCall();
+  // Ends a call that cannot be tried at all.
+  void FailCall(CallFailure failure);
+  void EndCall();
+  void GiveUpCall();
   void EndConnection();
   void RemoveClosed();
   void RaiseArrival(std::u16string arrival);
@@ -108,6 +112,7 @@ class QtSocket : public QObject, public Socket {
   std::int32_t localPort_ = 0;
   QString remoteHost_;
   std::int32_t remotePort_ = 0;
+  CallFailure callFailure_ = CallFailure::None;
 
   const std::chrono::milliseconds timeout_;
   std::u16string arrival_;

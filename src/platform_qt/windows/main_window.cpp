@@ -13,7 +13,9 @@ QtMainWindow::QtMainWindow(FileSystem& files)
       view_(MainWindowOf(*this)) {
   form_.PlacePane(rtbData.widget(), "rtbData");
   form_.PlaceFindBar(rtbData.widget());
+  welcomeCard.frame->Follow(rtbData.widget());
   form_.PlacePane(rtbCommands.widget(), "rtbCommands");
+  againBar.frame->Follow(rtbCommands.widget());
   form_.PlaceCompletionList(rtbCommands.widget());
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
   rtbRemote.widget()->hide();
@@ -30,7 +32,9 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   QWidget::setTabOrder(chkBold.widget(), chkItalics.widget());
   QWidget::setTabOrder(chkItalics.widget(), chkUnderline.widget());
   QWidget::setTabOrder(chkUnderline.widget(), rtbData.widget());
-  QWidget::setTabOrder(rtbData.widget(), txtFind.widget());
+  QWidget* const floating =
+      againBar.FollowInTabOrder(welcomeCard.FollowInTabOrder(rtbData.widget()));
+  QWidget::setTabOrder(floating, txtFind.widget());
   QWidget::setTabOrder(txtFind.widget(), cmdFindPrevious.widget());
   QWidget::setTabOrder(cmdFindPrevious.widget(), cmdFindNext.widget());
   QWidget::setTabOrder(cmdFindNext.widget(), cmdFindClose.widget());

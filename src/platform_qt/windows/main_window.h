@@ -2,12 +2,15 @@
 #pragma once
 
 #include "platform/main_window.h"
+#include "platform_qt/controls/choice_menu.h"
 #include "platform_qt/controls/controls.h"
 #include "platform_qt/controls/list_box.h"
 #include "platform_qt/spelling/spell_checker.h"
 #include "platform_qt/text/rich_text_box.h"
+#include "platform_qt/windows/again_bar.h"
 #include "platform_qt/windows/find_bar.h"
 #include "platform_qt/windows/main_window_form.h"
+#include "platform_qt/windows/welcome_card.h"
 #include "platform_qt/windows/window.h"
 
 namespace verlume::qt {
@@ -44,6 +47,7 @@ class QtMainWindow {
   QtMenuEntry mnuCommCancel{form_.Find<QAction>("mnuCommCancel")};
   QtMenuEntry mnuCommClose{form_.Find<QAction>("mnuCommClose")};
   QtMenuEntry mnuCommRefresh{form_.Find<QAction>("mnuCommRefresh")};
+  QtChoiceMenu mnuCommCallAgain{form_.Find<QMenu>("mnuComm"), "mnuCommCallAgain"};
 
   QtMenu mnuFormat{form_.Find<QMenu>("mnuFormat")};
   QtMenuEntry mnuFormatFontBold{form_.Find<QAction>("mnuFormatFontBold")};
@@ -96,6 +100,9 @@ class QtMainWindow {
   QtListBox lstCompletions{form_.Find<ListWidget>("lstCompletions")};
   QtPaneHint lblHint{form_.Find<PaneHint>("lblHint")};
   QtSpellChecker spelling{rtbCommands.widget()};
+
+  QtWelcomeCard welcomeCard{form_.centralWidget()};
+  QtAgainBar againBar{form_.centralWidget()};
 
   QtButton cmdSend{form_.Find<QPushButton>("cmdSend")};
   QtCheckBox chkBold{form_.Find<QCheckBox>("chkBold")};

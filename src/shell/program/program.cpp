@@ -1,6 +1,8 @@
 #include "shell/program/program.h"
 
 #include "platform/char_code.h"
+#include "shell/called_hosts.h"
+#include "shell/welcome_card.h"
 
 namespace verlume {
 namespace {
@@ -30,7 +32,10 @@ Program::Program(Platform& platform)
       macroStore_(state_, platform, errors_, settings_),
       dialogue_(state_, platform, errors_, settings_, log_),
       wire_(state_, platform, errors_,
-            {.dialogue = dialogue_, .log = log_, .statusPanel = statusPanel_}),
+            {.dialogue = dialogue_,
+             .log = log_,
+             .statusPanel = statusPanel_,
+             .onConversation = [this] { RememberAnswer(state_, platform_, settings_); }}),
       connection_(state_, platform, errors_,
                   {.settings = settings_,
                    .dialogue = dialogue_,
@@ -65,6 +70,7 @@ Program::Program(Platform& platform)
   BindMenus();
   BindPanes();
   BindFindBar();
+  BindFloating();
   BindSocket();
   BindContextHelp(platform.frmMain);
 }
@@ -73,6 +79,8 @@ Program::~Program() = default;
 
 void Program::Start() {
   startUp_.Form_Load();
+  ReadCalledHosts(state_, platform_, settings_);
+  ShowWelcomeCard(state_, platform_);
   if (platform_.application.HasEnded()) return;
   spelling_.Start();
   platform_.frmMain.window.Show();
@@ -155,6 +163,8 @@ void Program::BindMenus() {
   On(frmMain.mnuCommCancel.onClick, connection_, &ConnectionActions::mnuCommCancel_Click);
   On(frmMain.mnuCommClose.onClick, connection_, &ConnectionActions::mnuCommClose_Click);
   On(frmMain.mnuCommRefresh.onClick, connection_, &ConnectionActions::mnuCommRefresh_Click);
+  On(frmMain.mnuCommCallAgain.onChoose, connection_, &ConnectionActions::mnuCommCallAgain_Choose);
+  On(frmMain.mnuCommCallAgain.onLast, connection_, &ConnectionActions::mnuCommCallAgain_Last);
 
   On(frmMain.mnuFormatFontBold.onClick, textFormat_, &TextFormat::mnuFormatFontBold_Click);
   On(frmMain.mnuFormatFontItalics.onClick, textFormat_, &TextFormat::mnuFormatFontItalics_Click);
@@ -197,6 +207,7 @@ void Program::BindMenus() {
 void Program::BindPanes() {
   MainWindow& frmMain = platform_.frmMain;
   On(frmMain.rtbData.onNearlyFull, dialogue_, &Dialogue::rtbData_NearlyFull);
+  frmMain.rtbData.onChange = [this] { ShowWelcomeCard(state_, platform_); };
   On(frmMain.rtbData.onLoadProgress, dialogueFiles_, &DialogueFiles::rtbData_LoadProgress);
   On(frmMain.rtbCommands.onKeyPress, interpreter_, &CommandInterpreter::rtbCommands_KeyPress);
   On(frmMain.cmdSend.onClick, interpreter_, &CommandInterpreter::cmdSend_Click);
@@ -224,6 +235,17 @@ void Program::BindFindBar() {
   On(bar.cmdFindNext.onClick, find_, &FindInDialogue::cmdFindNext_Click);
   On(bar.cmdFindClose.onClick, find_, &FindInDialogue::cmdFindClose_Click);
   On(platform_.frmMain.rtbData.onLinesRemoved, find_, &FindInDialogue::rtbData_LinesRemoved);
+}
+
+void Program::BindFloating() {
+  const MainWindow& frmMain = platform_.frmMain;
+  const WelcomeCard& card = frmMain.welcomeCard;
+  const auto click = [](MenuEntry& entry) { return [&entry] { entry.Click(); }; };
+  card.cmdCardWait.onClick = click(frmMain.mnuCommWait);
+  card.cmdCardCall.onClick = click(frmMain.mnuCommCall);
+  card.cmdCardHelp.onClick = click(frmMain.mnuHelpDetailed);
+  On(frmMain.againBar.cmdAgain.onClick, connection_, &ConnectionActions::cmdAgain_Click);
+  On(frmMain.againBar.cmdAgainClose.onClick, connection_, &ConnectionActions::cmdAgainClose_Click);
 }
 
 void Program::BindSocket() {

@@ -56,6 +56,7 @@ class Program {
   void BindMenus();
   void BindPanes();
   void BindFindBar();
+  void BindFloating();
   void BindSocket();
 
   Platform& platform_;

@@ -354,6 +354,7 @@ TEST_F(QtSocketCallTest, PortsBeyondTheLastOneClose) {
 
 TEST_F(QtSocketCallTest, AnEmptyHostCloses) {
   ExpectClose(u"", 1000);
+  EXPECT_EQ(socket.LastCallFailure(), CallFailure::Other);
 }
 
 TEST_F(QtSocketCallTest, EmptyBracketsClose) {

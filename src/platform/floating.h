@@ -1,0 +1,43 @@
+// The groups of controls that float over the main window, and are shown only when they help.
+#pragma once
+
+#include "platform/control.h"
+
+namespace verlume {
+
+// A group that lies over the controls of its window, moves none of them, and never takes the
+// keyboard focus. SetVisible(true) shows it wherever it has room; Visible says what was set.
+class FloatingPanel : public Panel {
+ public:
+  // The name that assistive tools read when they come to the group.
+  virtual void SetAccessibleName(std::u16string_view name) = 0;
+};
+
+// A press puts a text on the clipboard, before it raises onClick.
+class CopyButton : public Button {
+ public:
+  virtual void SetTextToCopy(std::u16string_view text) = 0;
+  virtual std::u16string TextToCopy() const = 0;
+};
+
+// The card in the middle of the empty dialogue pane.
+struct WelcomeCard {
+  FloatingPanel& fraCard;
+  Label& lblCard;
+  Button& cmdCardWait;
+  Button& cmdCardCall;
+  Button& cmdCardHelp;
+  Label& lblCardAddress;
+  CopyButton& cmdCardCopy;
+};
+
+// The bar above the command pane after a conversation that the user has not ended. Escape in it
+// presses cmdAgainClose.
+struct AgainBar {
+  FloatingPanel& fraAgain;
+  Label& lblAgain;
+  Button& cmdAgain;
+  Button& cmdAgainClose;
+};
+
+}  // namespace verlume

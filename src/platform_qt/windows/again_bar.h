@@ -1,0 +1,37 @@
+// The bar above the command pane after a conversation that the user has not ended.
+#pragma once
+
+#include "platform_qt/windows/floating_frame.h"
+
+namespace verlume::qt {
+
+// Its controls have the names of AgainBar's members. Escape in it presses cmdAgainClose. For
+// assistive tools it is an alert: they read its name out when it appears, although it takes no
+// focus.
+class AgainFrame : public FloatingFrame {
+ public:
+  explicit AgainFrame(QWidget* area);
+
+ protected:
+  QRect PlaceAt(const QRect& pane) const override;
+};
+
+struct QtAgainBar {
+  explicit QtAgainBar(QWidget* area) : frame(new AgainFrame(area)) {}
+  AgainBar View() { return {fraAgain, lblAgain, cmdAgain, cmdAgainClose}; }
+  // Puts its buttons into the Tab order behind a widget, and returns the last of them.
+  QWidget* FollowInTabOrder(QWidget* before);
+
+  template <class Widget>
+  Widget* Find(const char* name) {
+    return frame->findChild<Widget*>(QLatin1String(name));
+  }
+
+  AgainFrame* frame;
+  QtFloatingPanel fraAgain{frame};
+  QtLabel lblAgain{Find<QLabel>("lblAgain")};
+  QtButton cmdAgain{Find<QPushButton>("cmdAgain")};
+  QtButton cmdAgainClose{Find<QPushButton>("cmdAgainClose")};
+};
+
+}  // namespace verlume::qt
