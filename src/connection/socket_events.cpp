@@ -5,8 +5,10 @@
 
 #include "connection/connection_state.h"
 #include "connection/connection_texts.h"
+#include "connection/rule_texts.h"
 #include "connection/status_texts.h"
 #include "shell/delivery.h"
+#include "shell/dialogue_rule.h"
 
 namespace verlume {
 
@@ -94,6 +96,8 @@ void SocketEvents::sckControl_Close() {
       return;
     }
     SetStatus(status_texts::kClosedByPeer, state_.RemoteAddress, state_.RemotePort);
+    if (left == ConnectionState::Connected)
+      AddDialogueRule(state_, platform_, rule_texts::kConnectionLost);
     log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());
     state_.LogOpen = false;
   });

@@ -3,11 +3,13 @@
 #include <algorithm>
 
 #include "connection/connection_state.h"
+#include "connection/rule_texts.h"
 #include "connection/status_texts.h"
 #include "platform/protocol_marker.h"
 #include "platform/run_time_failure.h"
 #include "records/log_file.h"
 #include "shell/delivery.h"
+#include "shell/dialogue_rule.h"
 #include "shell/language_texts.h"
 #include "shell/maker_texts.h"
 #include "shell/nickname.h"
@@ -128,7 +130,10 @@ void WireProtocol::OnConfirm(std::u16string_view data) {
   TakeNickname(data);
   // A later handshake goes on in the same log: a peer that changes its nickname each time would
   // make as many files as it likes.
-  if (isNewConversation) NameLog();
+  if (isNewConversation) {
+    NameLog();
+    AddDialogueRule(state_, platform_, rule_texts::kConnected);
+  }
   state_.LogOpen = true;
   with_.log.AppendConnectionLine(status);
   SayWhoIsWho({});

@@ -91,6 +91,17 @@ class RichTextBox : public Control {
   // which marks each line with its author, and each line begins at the left.
   virtual void SetAuthorWords(Author author, std::u16string_view words) = 0;
 
+  // Puts a quiet rule with a few words below the last paragraph that is there, or above the first
+  // one if the box is empty. It has room of its own, but is no text: it is neither copied nor
+  // saved, nor found, and no position counts it. It leaves with the paragraphs beside it, and
+  // whenever all text is replaced. `words` is called whenever the rule is shown or read out, so
+  // that they can follow the language; they are plain text. What was in view stays in view, the end
+  // of the text too.
+  using RuleWords = std::function<std::u16string()>;
+  virtual void AddRule(RuleWords words) = 0;
+  // What all rules say has changed.
+  virtual void RefreshRules() = 0;
+
   // Whether text is still being inserted, of long documents (SetSelDocument) or of a long file
   // (LoadFile).
   virtual bool MoreIsComing() const = 0;

@@ -20,6 +20,7 @@ void Language::ApplyLanguage() {
     ShowDelivery(state_, frmMain);
     ExplainRemoteNickname(state_, frmMain);
     SetAuthorWords(frmMain.rtbData, isGreek);
+    frmMain.rtbData.RefreshRules();
     frmMain.mnuToolsAlwaysOnTop.SetToolTip(
         frmMain.window.CanBeTopMost() ? u"" : kNeverTopMost.In(isGreek));
     frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);

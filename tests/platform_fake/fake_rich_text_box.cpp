@@ -45,6 +45,7 @@ void FakeRichTextBox::SetRtf(std::u16string_view rtf) {
 void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells, Author author) {
   cells_ = std::move(cells);
   authors.assign(LineBreaks(cells_, 0, cells_.size()) + 1, author);
+  rules.clear();
   selStart_ = selLength_ = 0;
   if (cells_.empty()) {
     const std::u16string font = std::exchange(fontNames_, {u"Arial"})[insertionLook_.font];

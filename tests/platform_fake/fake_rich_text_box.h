@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/rich_text_box.h"
@@ -44,6 +45,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   void SetAuthorWords(Author author, std::u16string_view words) override {
     authorWords[author] = words;
   }
+  void AddRule(RuleWords words) override { rules.push_back(std::move(words)); }
+  void RefreshRules() override { ++timesRulesRefreshed; }
   bool MoreIsComing() const override { return moreIsComing; }
   void DropInsertions() override { ++timesDropped; }
   void SetMostParagraphs(std::size_t paragraphs) override { mostParagraphs = paragraphs; }
@@ -67,6 +70,8 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
 
   std::vector<Author> authors{Author::None};  // of each paragraph
   std::map<Author, std::u16string> authorWords;
+  std::vector<RuleWords> rules;
+  int timesRulesRefreshed = 0;
   bool readsLater = false;
   TextReader reader;
   bool moreIsComing = false;

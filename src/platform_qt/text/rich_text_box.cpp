@@ -303,6 +303,16 @@ void QtRichTextBox::SetAuthorWords(Author author, std::u16string_view words) {
   margin_->SetWords(author, ToQt(words));
 }
 
+void QtRichTextBox::AddRule(RuleWords words) {
+  view_->AddRule(std::move(words));
+  RefreshRules();
+}
+
+void QtRichTextBox::RefreshRules() {
+  view_->viewport()->update();
+  if (margin_) margin_->DescribeCaret();
+}
+
 void QtRichTextBox::SetToolTip(std::u16string_view text) {
   toolTip_ = text;
   QtControl::SetToolTip(text);

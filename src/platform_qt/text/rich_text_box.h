@@ -57,6 +57,8 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   void SetSelAuthor(Author author) override;
   Author SelAuthor() const override;
   void SetAuthorWords(Author author, std::u16string_view words) override;
+  void AddRule(RuleWords words) override;
+  void RefreshRules() override;
   bool MoreIsComing() const override;
   void DropInsertions() override;
   void SetMostParagraphs(std::size_t paragraphs) override;

@@ -11,6 +11,8 @@
 #include "platform_qt/convert/text.h"
 #include "platform_qt/text/readable_text.h"
 #include "platform_qt/text/rich_text_mime.h"
+#include "platform_qt/text/rule_layout.h"
+#include "platform_qt/text/rules.h"
 #include "platform_qt/text/text_format.h"
 #include "platform_qt/text/text_insertion.h"
 
@@ -26,6 +28,16 @@ bool IsMenuKey(const QWidget& widget, const QKeyEvent& event) {
   });
 }
 
+// The widget's document, of a layout that has room for rules.
+QTextDocument& WithRuleLayout(QPlainTextEdit& widget) {
+  auto* document = new QTextDocument(&widget);
+  auto* layout = new RuleLayout(document);
+  layout->setPaintDevice(widget.viewport());
+  document->setDocumentLayout(layout);
+  widget.setDocument(document);
+  return *document;
+}
+
 }  // namespace
 
 RichTextWidget::ProgramChange::~ProgramChange() {
@@ -37,7 +49,7 @@ RichTextWidget::UserChange::~UserChange() {
 }
 
 RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
-    : QPlainTextEdit(parent), lines_(lines), seams_(*document(), lines) {
+    : QPlainTextEdit(parent), lines_(lines), seams_(WithRuleLayout(*this), lines) {
   setPalette(PanePalette(FromQt(QColor(Qt::white))));
   QFont font(ToQt(kDefaultFontName));
   font.setPointSizeF(kDefaultFontSize);
@@ -145,6 +157,31 @@ void RichTextWidget::paintEvent(QPaintEvent* event) {
   MakeReadable(firstVisibleBlock(), event->rect().bottom() + 1 - contentOffset().y(),
                FromQt(palette().color(QPalette::Base)));
   QPlainTextEdit::paintEvent(event);
+  QPainter painter(viewport());
+  const QRectF clip = event->rect();
+  VisitBlocks(clip.top(), clip.bottom(), [&](const QTextBlock& block, const QRectF& place) {
+    DrawRules(painter, block, place, palette());
+  });
+}
+
+void RichTextWidget::VisitBlocks(
+    qreal from, qreal to,
+    const std::function<void(const QTextBlock&, const QRectF& place)>& visit) const {
+  QTextBlock block = firstVisibleBlock();
+  qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
+  while (block.isValid() && top < to) {
+    const qreal height = blockBoundingRect(block).height();
+    if (top + height > from) visit(block, QRectF(0, top, viewport()->width(), height));
+    top += height;
+    block = block.next();
+  }
+}
+
+void RichTextWidget::AddRule(RichTextBox::RuleWords words) {
+  const bool showsEnd = ShowsEnd();
+  AddRuleTo(*document(), std::move(words));
+  static_cast<RuleLayout*>(document()->documentLayout())->NoteRules();
+  if (showsEnd) ShowEnd();
 }
 
 void RichTextWidget::MoveCursorTo(const QTextCursor& cursor) {

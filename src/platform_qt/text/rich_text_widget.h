@@ -4,6 +4,8 @@
 
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QTextBlock>
+#include <functional>
 
 #include "platform/rich_text_box.h"
 #include "platform_qt/text/rich_text.h"
@@ -15,11 +17,14 @@ class RichTextWidget : public QPlainTextEdit {
   RichTextWidget(QWidget* parent, Lines lines);
 
   // For the margin beside the text.
-  using QPlainTextEdit::blockBoundingGeometry;
-  using QPlainTextEdit::blockBoundingRect;
-  using QPlainTextEdit::contentOffset;
-  using QPlainTextEdit::firstVisibleBlock;
   using QPlainTextEdit::setViewportMargins;
+  // Calls visit(block, place) for each block that is in view between two heights of the viewport;
+  // `place` is the block's rectangle there, as wide as the viewport.
+  void VisitBlocks(qreal from, qreal to,
+                   const std::function<void(const QTextBlock&, const QRectF& place)>& visit) const;
+
+  // Below the last paragraph. What was in view stays in view, the end too.
+  void AddRule(RichTextBox::RuleWords words);
 
   // The box whose events are raised; with null none are.
   void SetEvents(const RichTextBox* events) { events_ = events; }

@@ -1,6 +1,8 @@
 #include "shell/program/program.h"
 
+#include "connection/rule_texts.h"
 #include "platform/char_code.h"
+#include "shell/dialogue_rule.h"
 
 namespace verlume {
 namespace {
@@ -76,10 +78,12 @@ void Program::Start() {
 
 // Any error ends the chat: its log is closed, and the status line no longer shows it.
 void Program::EndChatAfterError() {
-  const bool wasIdle = StateOf(state_) == ConnectionState::Idle;
+  const ConnectionState left = StateOf(state_);
   ResetConnection(state_, platform_);
+  if (left == ConnectionState::Connected)
+    AddDialogueRule(state_, platform_, rule_texts::kConnectionLost);
   state_.LogOpen = false;
-  if (!wasIdle) platform_.frmMain.lblStatus.SetCaption(u"");
+  if (left != ConnectionState::Idle) platform_.frmMain.lblStatus.SetCaption(u"");
 }
 
 void Program::BindWindow() {
