@@ -108,6 +108,9 @@ void WireProtocol::OnUndelivered(std::size_t lines) {
   state_.LinesUndelivered = lines;
   state_.UndeliveredBefore = !isBroken && on == ConnectionState::Connected;
   ShowDelivery(state_, platform_.frmMain);
+  // What has been said over the next connection since is not meant.
+  platform_.frmMain.rtbData.ChangeAuthor(Author::User, Author::UserNotDelivered,
+                                         isBroken ? 0 : state_.LinesSaid, lines);
   const std::u16string text = UndeliveredText(lines, state_.IsGreek);
   if (isBroken) {
     with_.log.AppendConnectionLine(text);

@@ -25,6 +25,12 @@ struct CompletionList {
   ListBox& lstCompletions;
 };
 
+// The button over the lower edge of the dialogue pane: lines have come below.
+struct NewLinesButton {
+  Panel& fraNewLines;  // with the button in it
+  Button& cmdNewLines;
+};
+
 struct MainWindow {
   Window& window;
   LayoutControl& freeSizer1;
@@ -79,6 +85,7 @@ struct MainWindow {
   RichTextBox& rtbRemote;    // hidden, and without a task of its own
   FindBar findBar;
   CompletionList completionList;
+  NewLinesButton newLines;
 
   CheckBox& chkBold;
   CheckBox& chkItalics;
@@ -175,6 +182,7 @@ MainWindow MainWindowOf(Controls& controls) {
                   .cmdFindClose = controls.cmdFindClose},
       .completionList = {.fraCompletions = controls.fraCompletions,
                          .lstCompletions = controls.lstCompletions},
+      .newLines = {.fraNewLines = controls.fraNewLines, .cmdNewLines = controls.cmdNewLines},
       .chkBold = controls.chkBold,
       .chkItalics = controls.chkItalics,
       .chkUnderline = controls.chkUnderline,

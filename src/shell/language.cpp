@@ -2,6 +2,7 @@
 
 #include "shell/delivery.h"
 #include "shell/language_texts.h"
+#include "shell/lines_below.h"
 #include "shell/setting_names.h"
 #include "shell/settings_reader.h"
 #include "shell/status_panel.h"
@@ -18,9 +19,11 @@ void Language::ApplyLanguage() {
     for (const auto& [set, text] : PanelTexts(frmMain)) set(text.In(isGreek));
     ShowLamp(state_, frmMain);
     ShowDelivery(state_, frmMain);
+    ShowLinesBelow(state_, frmMain);
     ExplainRemoteNickname(state_, frmMain);
     SetAuthorWords(frmMain.rtbData, isGreek);
-    frmMain.rtbData.RefreshRules();
+    frmMain.rtbData.RefreshSigns();
+    frmMain.rtbData.SetLinkHint(kLinkHint.In(isGreek));
     frmMain.mnuToolsAlwaysOnTop.SetToolTip(
         frmMain.window.CanBeTopMost() ? u"" : kNeverTopMost.In(isGreek));
     frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);

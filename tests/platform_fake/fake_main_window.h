@@ -64,6 +64,8 @@ struct FakeMainWindow {
   FakeButton cmdFindClose;
   FakePanel fraCompletions;
   FakeListBox lstCompletions;
+  FakePanel fraNewLines;
+  FakeButton cmdNewLines;
   FakeCheckBox chkBold;
   FakeCheckBox chkItalics;
   FakeCheckBox chkUnderline;

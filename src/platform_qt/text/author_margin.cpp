@@ -5,8 +5,10 @@
 #include <QPainter>
 #include <QTextLayout>
 #include <QToolTip>
+#include <utility>
 
 #include "platform_qt/controls/tool_tip.h"
+#include "platform_qt/convert/text.h"
 #include "platform_qt/text/author_marks.h"
 #include "platform_qt/text/paragraph_author.h"
 #include "platform_qt/text/rules.h"
@@ -39,6 +41,12 @@ void AuthorMargin::SetDescription(const QString& description) {
   DescribeCaret();
 }
 
+void AuthorMargin::SetUnreadWords(RichTextBox::SignWords words) {
+  if (!words && !unreadWords_) return;
+  unreadWords_ = std::move(words);
+  DescribeCaret();
+}
+
 void AuthorMargin::PlaceBeside(const QRect& text) {
   setGeometry(text.left() - kWidth, text.top(), kWidth, text.height());
 }
@@ -67,7 +75,9 @@ QString AuthorMargin::WordsOf(Author author) const {
 
 // What is said of a line, and of the rules beside it.
 QString AuthorMargin::WordsOf(const QTextBlock& block) const {
-  return (WordsOf(AuthorOf(block)) + u' ' + WordsOfRules(block)).trimmed();
+  const bool isUnread = unreadWords_ && pane_.IsUnreadFrom(block);
+  const QString unread = isUnread ? ToQt(unreadWords_()) + u' ' : QString();
+  return (unread + WordsOf(AuthorOf(block)) + u' ' + WordsOfRules(block)).trimmed();
 }
 
 void AuthorMargin::DescribeCaret() {
@@ -116,6 +126,11 @@ void AuthorMargin::DrawMarks(QPainter& painter, const QTextBlock& block, qreal t
   if (author == Author::None) return;
   painter.setBrush(MarkColor(author, MarginGround(pane_.palette().color(QPalette::Base))));
   const QTextLayout& layout = *block.layout();
+  if (IsHollow(author)) {
+    const qreal first = layout.lineCount() > 0 ? layout.lineAt(0).y() : 0;
+    const QRectF place(kSpace, top + first, kMarkWidth, layout.boundingRect().height());
+    return DrawHollowMark(painter, place);
+  }
   for (int i = 0; i < layout.lineCount(); ++i) {
     const QRectF line = layout.lineAt(i).rect();
     const QRectF place(kSpace, top + line.top(), kMarkWidth, line.height());

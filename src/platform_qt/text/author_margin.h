@@ -22,6 +22,8 @@ class AuthorMargin : public QWidget {
   void SetWords(Author author, const QString& words);
   // The pane's description while the caret is in a line from nobody.
   void SetDescription(const QString& description);
+  // What is said besides of the line that is marked as unread.
+  void SetUnreadWords(RichTextBox::SignWords words);
   // The words of the line in which the caret is have changed.
   void DescribeCaret();
 
@@ -41,6 +43,7 @@ class AuthorMargin : public QWidget {
   RichTextWidget& pane_;
   std::map<Author, QString> words_;
   QString description_;
+  RichTextBox::SignWords unreadWords_;
 };
 
 }  // namespace verlume::qt

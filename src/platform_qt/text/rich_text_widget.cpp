@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform_qt/controls/key_codes.h"
+#include "platform_qt/controls/popup.h"
 #include "platform_qt/convert/text.h"
 #include "platform_qt/text/readable_text.h"
 #include "platform_qt/text/rich_text_mime.h"
@@ -61,6 +62,12 @@ RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, note);
   connect(this, &QPlainTextEdit::selectionChanged, this, note);
   connect(document(), &QTextDocument::contentsChanged, this, [this] { NoteChange(); });
+  links_.SetOpener([this](const std::u16string& address) {
+    if (events_ && events_->onLink) events_->onLink(address);
+  });
+  const auto noteScrolled = [this] { NoteScrolled(); };
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, noteScrolled);
+  connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, noteScrolled);
 }
 
 bool RichTextWidget::Swallowed(int keyCode, int shift, int charCode) {
@@ -144,6 +151,7 @@ void RichTextWidget::focusInEvent(QFocusEvent* event) {
 
 void RichTextWidget::focusOutEvent(QFocusEvent* event) {
   QPlainTextEdit::focusOutEvent(event);
+  if (event->reason() == Qt::ActiveWindowFocusReason) isPressed_ = false;
   if (events_ && events_->onLostFocus) events_->onLostFocus();
 }
 
@@ -161,6 +169,8 @@ void RichTextWidget::paintEvent(QPaintEvent* event) {
   const QRectF clip = event->rect();
   VisitBlocks(clip.top(), clip.bottom(), [&](const QTextBlock& block, const QRectF& place) {
     DrawRules(painter, block, place, palette());
+    if (IsUnreadFrom(block)) DrawUnreadLine(painter, place);
+    links_.Draw(painter, block, {contentOffset().x(), place.top()});
   });
 }
 
@@ -177,7 +187,31 @@ void RichTextWidget::VisitBlocks(
   }
 }
 
-void RichTextWidget::AddRule(RichTextBox::RuleWords words) {
+void RichTextWidget::DrawUnreadLine(QPainter& painter, const QRectF& place) const {
+  constexpr qreal kThickness = 2;
+  painter.fillRect(QRectF(place.left(), place.top(), place.width(), kThickness),
+                   palette().color(QPalette::Highlight));
+}
+
+void RichTextWidget::MarkUnread(const QTextBlock& block) {
+  if (!block.isValid() && unread_.isNull()) return;
+  unread_ = block.isValid() ? QTextCursor(block) : QTextCursor();
+  unread_.setKeepPositionOnInsert(true);
+  viewport()->update();
+}
+
+bool RichTextWidget::IsUnreadFrom(const QTextBlock& block) const {
+  return !unread_.isNull() && block.contains(unread_.position());
+}
+
+// Cheap where it does not matter: each line that is written scrolls.
+void RichTextWidget::NoteScrolled() {
+  if (!events_ || !events_->onEndShown || programDepth_ > 0) return;
+  const QScrollBar& bar = *verticalScrollBar();
+  if (bar.value() == bar.maximum() && ShowsEnd()) events_->onEndShown();
+}
+
+void RichTextWidget::AddRule(RichTextBox::SignWords words) {
   const bool showsEnd = ShowsEnd();
   AddRuleTo(*document(), std::move(words));
   static_cast<RuleLayout*>(document()->documentLayout())->NoteRules();
@@ -209,7 +243,26 @@ void RichTextWidget::ShowEnd() {
 
 bool RichTextWidget::viewportEvent(QEvent* event) {
   const UserChange change(*this);
+  NotePress(*event);
+  if (events_ && events_->onLink && links_.Handle(*event)) return true;
   return QPlainTextEdit::viewportEvent(event);
+}
+
+// A release that goes to a box which has opened meanwhile does not arrive: then the window is no
+// longer active, or the pointer comes back.
+void RichTextWidget::NotePress(const QEvent& event) {
+  const bool isPress = event.type() == QEvent::MouseButtonPress;
+  if (!isPress && event.type() != QEvent::MouseButtonRelease && event.type() != QEvent::Enter)
+    return;
+  isPressed_ = isPress && static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
+}
+
+void RichTextWidget::contextMenuEvent(QContextMenuEvent* event) {
+  if (!events_ || !events_->onContextMenu) return QPlainTextEdit::contextMenuEvent(event);
+  const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+  const QTextCursor place = isByKey ? textCursor() : cursorForPosition(event->pos());
+  OpenPopup(*this, event->globalPos(),
+            events_->onContextMenu(seams_.TextPosition(place.position())));
 }
 
 bool RichTextWidget::canInsertFromMimeData(const QMimeData* source) const {

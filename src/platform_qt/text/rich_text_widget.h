@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "platform/rich_text_box.h"
+#include "platform_qt/text/link_pointer.h"
 #include "platform_qt/text/rich_text.h"
 
 namespace verlume::qt {
@@ -23,8 +24,20 @@ class RichTextWidget : public QPlainTextEdit {
   void VisitBlocks(qreal from, qreal to,
                    const std::function<void(const QTextBlock&, const QRectF& place)>& visit) const;
 
+  // Whether the left mouse button is held down on the text.
+  bool IsPressed() const { return isPressed_; }
+
+  // A thin line above this block; none above one that is not valid.
+  void MarkUnread(const QTextBlock& block);
+  bool IsUnreadFrom(const QTextBlock& block) const;
+
+  // Raises onEndShown if the end is in view.
+  void NoteScrolled();
+
+  LinkPointer& links() { return links_; }
+
   // Below the last paragraph. What was in view stays in view, the end too.
-  void AddRule(RichTextBox::RuleWords words);
+  void AddRule(RichTextBox::SignWords words);
 
   // The box whose events are raised; with null none are.
   void SetEvents(const RichTextBox* events) { events_ = events; }
@@ -63,6 +76,7 @@ class RichTextWidget : public QPlainTextEdit {
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   bool viewportEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   QMimeData* createMimeDataFromSelection() const override;
   void insertFromMimeData(const QMimeData* source) override;
@@ -82,6 +96,8 @@ class RichTextWidget : public QPlainTextEdit {
   };
 
   bool ShowsEndWithin(const QSize& size) const;
+  void NotePress(const QEvent& event);
+  void DrawUnreadLine(QPainter& painter, const QRectF& place) const;
   // Offers a key to the handlers; true when one of them swallowed it or deleted the widget.
   bool Swallowed(int keyCode, int shift, int charCode);
   void PerformKey(QKeyEvent* event);
@@ -100,6 +116,9 @@ class RichTextWidget : public QPlainTextEdit {
   int userDepth_ = 0;
   bool selChanged_ = false;
   bool changed_ = false;
+  bool isPressed_ = false;
+  LinkPointer links_{*this};
+  QTextCursor unread_;          // null without a mark
   QTextCharFormat lastFormat_;  // of the insertion point, after the last change
 };
 

@@ -16,7 +16,7 @@ constexpr double kRuleFontSize = 8;  // points
 constexpr qreal kAroundWords = 8;    // pixels, between the words and the lines on either side
 constexpr qreal kShortestLine = 12;
 
-using RuleList = std::vector<RichTextBox::RuleWords>;
+using RuleList = std::vector<RichTextBox::SignWords>;
 
 // In pixels of the layout's device, so that it is as large as text of that size beside it.
 QFont RuleFont(const QTextDocument& document) {
@@ -42,7 +42,7 @@ void DrawRule(QPainter& painter, const QRectF& place, const QString& words) {
 
 QString Joined(const RuleList& rules) {
   QString text;
-  for (const RichTextBox::RuleWords& words : rules) {
+  for (const RichTextBox::SignWords& words : rules) {
     if (!text.isEmpty()) text += u' ';
     text += ToQt(words()) + u'.';
   }
@@ -55,7 +55,7 @@ const BlockRules* RulesOf(const QTextBlock& block) {
   return static_cast<const BlockRules*>(block.userData());
 }
 
-void AddRuleTo(QTextDocument& document, RichTextBox::RuleWords words) {
+void AddRuleTo(QTextDocument& document, RichTextBox::SignWords words) {
   QTextBlock block = document.lastBlock();
   auto* rules = static_cast<BlockRules*>(block.userData());
   if (!rules) block.setUserData(rules = new BlockRules);
@@ -95,7 +95,7 @@ void DrawRules(QPainter& painter, const QTextBlock& block, const QRectF& place,
   painter.setFont(RuleFont(document));
   painter.setPen(ToQt(ReadableShade(quiet, FromQt(palette.color(QPalette::Base)))));
   const auto draw = [&](const RuleList& list, qreal top) {
-    for (const RichTextBox::RuleWords& words : list) {
+    for (const RichTextBox::SignWords& words : list) {
       const QRectF line(place.left(), top, place.width(), height);
       DrawRule(painter, line.adjusted(margin, 0, -margin, 0), ToQt(words()));
       top += height;

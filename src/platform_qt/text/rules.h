@@ -15,15 +15,15 @@
 namespace verlume::qt {
 
 struct BlockRules : QTextBlockUserData {
-  std::vector<RichTextBox::RuleWords> above;  // from top to bottom, as is `below`
-  std::vector<RichTextBox::RuleWords> below;
+  std::vector<RichTextBox::SignWords> above;  // from top to bottom, as is `below`
+  std::vector<RichTextBox::SignWords> below;
 };
 
 // Null if there are none.
 const BlockRules* RulesOf(const QTextBlock& block);
 
 // Below the last block, or above the first one if the document is empty.
-void AddRuleTo(QTextDocument& document, RichTextBox::RuleWords words);
+void AddRuleTo(QTextDocument& document, RichTextBox::SignWords words);
 
 // The words of all rules of a block, for assistive tools; "" without any.
 QString WordsOfRules(const QTextBlock& block);

@@ -9,6 +9,7 @@ QtMainWindow::QtMainWindow(FileSystem& files)
       view_(MainWindowOf(*this)) {
   form_.PlacePane(rtbData.widget(), "rtbData");
   form_.PlaceFindBar(rtbData.widget());
+  form_.PlaceNewLinesButton(rtbData.widget());
   form_.PlacePane(rtbCommands.widget(), "rtbCommands");
   form_.PlaceCompletionList(rtbCommands.widget());
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
@@ -22,7 +23,8 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   QWidget::setTabOrder(chkBold.widget(), chkItalics.widget());
   QWidget::setTabOrder(chkItalics.widget(), chkUnderline.widget());
   QWidget::setTabOrder(chkUnderline.widget(), rtbData.widget());
-  QWidget::setTabOrder(rtbData.widget(), txtFind.widget());
+  QWidget::setTabOrder(rtbData.widget(), cmdNewLines.widget());
+  QWidget::setTabOrder(cmdNewLines.widget(), txtFind.widget());
   QWidget::setTabOrder(txtFind.widget(), cmdFindPrevious.widget());
   QWidget::setTabOrder(cmdFindPrevious.widget(), cmdFindNext.widget());
   QWidget::setTabOrder(cmdFindNext.widget(), cmdFindClose.widget());

@@ -87,6 +87,9 @@ class QtMainWindow {
   QtPanel fraCompletions{form_.Find<QWidget>("fraCompletions")};
   QtListBox lstCompletions{form_.Find<ListWidget>("lstCompletions")};
 
+  QtPanel fraNewLines{form_.Find<QWidget>("fraNewLines")};
+  QtButton cmdNewLines{form_.Find<QPushButton>("cmdNewLines")};
+
   QtCheckBox chkBold{form_.Find<QCheckBox>("chkBold")};
   QtCheckBox chkItalics{form_.Find<QCheckBox>("chkItalics")};
   QtCheckBox chkUnderline{form_.Find<QCheckBox>("chkUnderline")};

@@ -42,7 +42,8 @@ MainForm::MainForm()
     : area_(new QWidget(this)),
       layout_(new ProportionalLayout(area_, kDesignSize)),
       findBar_(NewFindBar(area_)),
-      completions_(new CompletionFrame(area_)) {
+      completions_(new CompletionFrame(area_)),
+      newLines_(new NewLinesFrame(area_)) {
   InitResources();
   setObjectName(QStringLiteral("frmMain"));
   setWindowIcon(ProgramIcon());

@@ -9,6 +9,7 @@
 #include "platform_qt/controls/proportional_layout.h"
 #include "platform_qt/windows/completion_list.h"
 #include "platform_qt/windows/main_window_design.h"
+#include "platform_qt/windows/new_lines_button.h"
 
 namespace verlume::qt {
 
@@ -26,6 +27,8 @@ class MainForm : public QMainWindow {
   void PlacePane(QWidget* pane, const char* name);
   // Puts the find bar at the bottom of a pane's place.
   void PlaceFindBar(QWidget* pane) { layout_->PlaceFoot(pane, findBar_); }
+  // Puts the button that tells of new lines over the lower edge of a pane.
+  void PlaceNewLinesButton(QPlainTextEdit* pane) { newLines_->PlaceOver(pane); }
   // Puts the list of completions below a pane, over the other controls.
   void PlaceCompletionList(QWidget* pane) { completions_->PlaceBelow(pane); }
 
@@ -44,6 +47,7 @@ class MainForm : public QMainWindow {
   ProportionalLayout* layout_;
   QWidget* findBar_;
   CompletionFrame* completions_;
+  NewLinesFrame* newLines_;
 };
 
 }  // namespace verlume::qt

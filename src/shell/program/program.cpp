@@ -43,6 +43,8 @@ Program::Program(Platform& platform)
       completion_(state_, platform, errors_, settings_, macroStore_),
       textFormat_(state_, platform, errors_, settings_, dialogue_),
       find_(state_, platform, errors_),
+      links_(state_, platform, errors_),
+      dialogueMenu_(state_, platform, find_, links_),
       interpreter_(state_, platform, errors_,
                    {.dialogue = dialogue_,
                     .history = history_,
@@ -187,10 +189,22 @@ void Program::BindMenus() {
 
 void Program::BindPanes() {
   MainWindow& frmMain = platform_.frmMain;
+  NewLines& newLines = dialogue_.WhatIsNew();
+  On(frmMain.rtbData.onEndShown, newLines, &NewLines::rtbData_EndShown);
+  On(frmMain.newLines.cmdNewLines.onClick, newLines, &NewLines::cmdNewLines_Click);
+  On(frmMain.window.onActivated, newLines, &NewLines::window_Activated);
   On(frmMain.rtbData.onNearlyFull, dialogue_, &Dialogue::rtbData_NearlyFull);
   On(frmMain.rtbData.onLoadProgress, dialogueFiles_, &DialogueFiles::rtbData_LoadProgress);
-  On(frmMain.rtbCommands.onKeyPress, interpreter_, &CommandInterpreter::rtbCommands_KeyPress);
+  On(frmMain.rtbData.onLink, links_, &DialogueLinks::rtbData_Link);
+  frmMain.rtbData.onContextMenu = [this](std::size_t position) {
+    return dialogueMenu_.rtbData_ContextMenu(position);
+  };
+  frmMain.rtbCommands.onKeyPress = [this](int& charCode) {
+    dialogueMenu_.rtbCommands_KeyPress(charCode);
+    interpreter_.rtbCommands_KeyPress(charCode);
+  };
   frmMain.rtbCommands.onKeyDown = [this](int& keyCode, int shift) {
+    dialogue_.WhatIsNew().rtbCommands_KeyDown(keyCode, shift);
     completion_.rtbCommands_KeyDown(keyCode, shift);
     if (keyCode != char_code::kSwallowed) history_.rtbCommands_KeyDown(keyCode, shift);
   };

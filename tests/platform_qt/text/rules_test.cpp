@@ -172,7 +172,7 @@ TEST_F(RulesTest, FollowTheirWords) {
   box.AddRule([&words] { return words; });
   ASSERT_EQ(Description(), "Connected.");
   words = u"Συνδεθήκατε";
-  box.RefreshRules();
+  box.RefreshSigns();
   EXPECT_EQ(Description(), ToQt(u"Συνδεθήκατε."));
 }
 
