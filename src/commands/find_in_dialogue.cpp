@@ -36,6 +36,19 @@ void FindInDialogue::mnuToolsFind_Click() {
   });
 }
 
+void FindInDialogue::Find(std::u16string_view words) {
+  errors_.Guard(Procedure::FindInDialogue, [&] {
+    const MainWindow& frmMain = platform_.frmMain;
+    const FindBar& bar = frmMain.findBar;
+    position_ = frmMain.rtbData.SelStart();
+    bar.txtFind.SetText(words);
+    bar.fraFind.SetVisible(true);
+    Search(Step::Here);
+    bar.txtFind.SelectAll();
+    bar.txtFind.SetFocus();
+  });
+}
+
 void FindInDialogue::txtFind_Change() {
   errors_.Guard(Procedure::FindInDialogue, [this] { Search(Step::Here); });
 }

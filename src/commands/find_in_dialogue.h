@@ -20,6 +20,9 @@ class FindInDialogue {
   // Opens the find bar, or returns to it. The last search text is still in it.
   void mnuToolsFind_Click();
 
+  // Opens the bar with these words in it, and goes to the match where the selection begins.
+  void Find(std::u16string_view words);
+
   // Searches while the user types, from the current match on.
   void txtFind_Change();
 

@@ -1,7 +1,9 @@
 // What all actions share, and the menu entries that run them.
 #include "connection/connection_actions.h"
 
+#include "connection/rule_texts.h"
 #include "connection/status_texts.h"
+#include "shell/dialogue_rule.h"
 #include "shell/draft.h"
 
 namespace verlume {
@@ -75,6 +77,7 @@ void ConnectionActions::RecordClosedByUser() {
   const std::u16string status = status_texts::kClosedByUser.Fill(
       state_.IsGreek, {state_.RemoteAddress, DecimalText(state_.RemotePort)});
   SetStatus(status);
+  AddDialogueRule(state_, platform_, rule_texts::kDisconnected);
   with_.log.AppendConnectionLine(status);
   state_.LogOpen = false;
 }

@@ -2,6 +2,7 @@
 
 #include "shell/again_bar.h"
 #include "shell/delivery.h"
+#include "shell/dialogue_rule.h"
 #include "shell/welcome_card.h"
 
 namespace verlume {
@@ -33,6 +34,7 @@ void ShowConnectionNote(AppState& state, const Platform& platform, const NoteTex
   const FilledPair advice = text.advice.FillBoth(values);
   state.ConnectionNote = {reason.english + u". " + advice.english,
                           reason.greek + u". " + advice.greek};
+  AddDialogueRule(state, platform, text.reason, values);
   ShowDelivery(state, platform.frmMain);
   ShowWelcomeCard(state, platform);
 }

@@ -11,8 +11,8 @@
 
 namespace verlume {
 
-// Shows the note in the tool tip of lblStatus, and on the welcome card, until the next attempt. The
-// values are filled in for "%1", "%2"...
+// Shows the note in the tool tip of lblStatus, and on the welcome card, until the next attempt; its
+// reason as a rule in the dialogue pane, too. The values are filled in for "%1", "%2"...
 void ShowConnectionNote(AppState& state, const Platform& platform, const NoteText& text,
                         std::initializer_list<std::u16string_view> values = {});
 // The next attempt begins: the last one is no longer explained, nor offered again.

@@ -38,6 +38,7 @@ void ResetConnection(AppState& state, Platform& platform) {
   // When the peer closes, the socket raises that only when all that came before has been inserted.
   frmMain.rtbData.DropInsertions();
   state.LinesWaiting = 0;
+  state.LinesSaid = 0;
   ShowDelivery(state, frmMain);
   ShowWelcomeCard(state, platform);
 }

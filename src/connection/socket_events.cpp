@@ -6,9 +6,11 @@
 #include "connection/connection_note.h"
 #include "connection/connection_state.h"
 #include "connection/connection_texts.h"
+#include "connection/rule_texts.h"
 #include "connection/status_texts.h"
 #include "shell/again_bar.h"
 #include "shell/delivery.h"
+#include "shell/dialogue_rule.h"
 #include "shell/welcome_card.h"
 
 namespace verlume {
@@ -101,6 +103,8 @@ void SocketEvents::sckControl_Close() {
     }
     if (left == ConnectionState::Connected) OfferAgain(state_, platform_);
     SetStatus(status_texts::kClosedByPeer, state_.RemoteAddress, state_.RemotePort);
+    if (left == ConnectionState::Connected)
+      AddDialogueRule(state_, platform_, rule_texts::kConnectionLost);
     log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());
     state_.LogOpen = false;
   });

@@ -3,11 +3,13 @@
 #include <algorithm>
 
 #include "connection/connection_state.h"
+#include "connection/rule_texts.h"
 #include "connection/status_texts.h"
 #include "platform/protocol_marker.h"
 #include "platform/run_time_failure.h"
 #include "records/log_file.h"
 #include "shell/delivery.h"
+#include "shell/dialogue_rule.h"
 #include "shell/language_texts.h"
 #include "shell/maker_texts.h"
 #include "shell/nickname.h"
@@ -107,6 +109,9 @@ void WireProtocol::OnUndelivered(std::size_t lines) {
   state_.LinesUndelivered = lines;
   state_.UndeliveredBefore = !isBroken && on == ConnectionState::Connected;
   ShowDelivery(state_, platform_.frmMain);
+  // What has been said over the next connection since is not meant.
+  platform_.frmMain.rtbData.ChangeAuthor(Author::User, Author::UserNotDelivered,
+                                         isBroken ? 0 : state_.LinesSaid, lines);
   const std::u16string text = UndeliveredText(lines, state_.IsGreek);
   if (isBroken) {
     with_.log.AppendConnectionLine(text);
@@ -130,8 +135,11 @@ void WireProtocol::OnConfirm(std::u16string_view data) {
   TakeNickname(data);
   // A later handshake goes on in the same log: a peer that changes its nickname each time would
   // make as many files as it likes.
-  if (isNewConversation) NameLog();
-  if (isNewConversation && with_.onConversation) with_.onConversation();
+  if (isNewConversation) {
+    NameLog();
+    AddDialogueRule(state_, platform_, rule_texts::kConnected);
+    if (with_.onConversation) with_.onConversation();
+  }
   state_.LogOpen = true;
   with_.log.AppendConnectionLine(status);
   SayWhoIsWho({});

@@ -10,6 +10,7 @@ inline constexpr int kSwallowed = 0;
 // Ctrl+A to Ctrl+Z are 1 to 26.
 inline constexpr int kCtrlA = 1;
 inline constexpr int kCtrlB = 2;
+inline constexpr int kCtrlC = 3;
 inline constexpr int kCtrlF = 6;
 inline constexpr int kCtrlI = 9;  // and Tab
 inline constexpr int kCtrlEnter = 10;

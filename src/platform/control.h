@@ -164,6 +164,14 @@ class MenuEntry {
   std::function<void()> onClick;
 };
 
+// An entry of a menu that opens on the spot.
+struct PopupEntry {
+  std::u16string caption;
+  bool enabled = true;
+  bool separatorBefore = false;
+  std::function<void()> perform;  // when the user chooses it
+};
+
 // A menu of the menu bar.
 class Menu {
  public:

@@ -30,6 +30,12 @@ struct CompletionList {
   ListBox& lstCompletions;
 };
 
+// The button over the lower edge of the dialogue pane: lines have come below.
+struct NewLinesButton {
+  Panel& fraNewLines;  // with the button in it
+  Button& cmdNewLines;
+};
+
 struct MainWindow {
   Window& window;
   LayoutControl& freeSizer1;
@@ -92,6 +98,7 @@ struct MainWindow {
   RichTextBox& rtbRemote;    // hidden, and without a task of its own
   FindBar findBar;
   CompletionList completionList;
+  NewLinesButton newLines;
   WelcomeCard welcomeCard;
   AgainBar againBar;
   // Floats beside the command pane while it has a caption, and is then the pane's description.
@@ -201,6 +208,7 @@ MainWindow MainWindowOf(Controls& controls) {
                   .cmdFindClose = controls.cmdFindClose},
       .completionList = {.fraCompletions = controls.fraCompletions,
                          .lstCompletions = controls.lstCompletions},
+      .newLines = {.fraNewLines = controls.fraNewLines, .cmdNewLines = controls.cmdNewLines},
       .welcomeCard = controls.welcomeCard.View(),
       .againBar = controls.againBar.View(),
       .lblHint = controls.lblHint,

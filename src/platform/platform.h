@@ -4,6 +4,7 @@
 #include "platform/about_window.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/links.h"
 #include "platform/macro_window.h"
 #include "platform/main_window.h"
 #include "platform/socket.h"
@@ -24,6 +25,7 @@ struct Platform {
   Application& application;
   HelpViewer& help;
   SystemTools& tools;
+  LinkOpener& links;
 };
 
 }  // namespace verlume

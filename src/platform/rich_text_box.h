@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/control.h"
 #include "richtext/document.h"
@@ -29,7 +30,22 @@ struct SelectionFormat {
 };
 
 // Who a paragraph is from. The three of the peer look the same and differ in their words.
-enum class Author { None, User, Peer, PeerReadingAlike, PeerWithBrackets, File };
+// The user's own are told apart by whether they went out.
+enum class Author {
+  None,
+  User,
+  UserNotSent,
+  UserNotDelivered,
+  Peer,
+  PeerReadingAlike,
+  PeerWithBrackets,
+  File
+};
+
+// What an update does to what the user sees. Follows: the selection is the one that the update made
+// last, and is in view. Stays: selection and view are what they were; the update inserts nothing
+// before the end of the selection.
+enum class Reader { Follows, Stays };
 
 // How large text is painted, in per cent.
 inline constexpr int kLeastZoom = 50;
@@ -45,6 +61,7 @@ inline constexpr int kTab = 9;
 inline constexpr int kEscape = 27;
 inline constexpr int kPageUp = 33;
 inline constexpr int kPageDown = 34;
+inline constexpr int kEnd = 35;
 inline constexpr int kUp = 38;
 inline constexpr int kRight = 39;
 inline constexpr int kDown = 40;
@@ -81,6 +98,18 @@ class RichTextBox : public Control {
   virtual bool IsInFirstLine() const = 0;
   virtual bool IsInLastLine() const = 0;
 
+  virtual std::u16string SelText() const = 0;
+  // Scrolls nothing.
+  virtual void SelectAll() = 0;
+  // Puts what is selected on the clipboard: with its formats and as plain text, or as that alone.
+  virtual void Copy(TextFileFormat format) = 0;
+
+  // The address in which a position is, as it can be opened (richtext/links.h); "" if there is
+  // none.
+  virtual std::u16string LinkAt(std::size_t position) const = 0;
+  // What the tool tip says over an address.
+  virtual void SetLinkHint(std::u16string_view hint) = 0;
+
   virtual SelectionFormat SelFormat() const = 0;
   // With an insertion point, it sets the format of what is inserted or typed there next.
   virtual void SetSelFormat(const SelectionFormat& format) = 0;
@@ -96,10 +125,37 @@ class RichTextBox : public Control {
   // not part of the text: it is neither copied nor saved, and no text can hold it.
   virtual void SetSelAuthor(Author author) = 0;
   virtual Author SelAuthor() const = 0;
+  // Of the paragraphs from `author`, the last `skipped` are left alone, and up to `count` before
+  // them are from `other` from now on. Selection and view stay.
+  virtual void ChangeAuthor(Author author, Author other, std::size_t skipped,
+                            std::size_t count) = 0;
   // What is said of the paragraphs of an author other than None: in a tool tip, and to assistive
   // tools while the caret is in one. From the first call on the box shows a margin beside the text,
   // which marks each line with its author, and each line begins at the left.
   virtual void SetAuthorWords(Author author, std::u16string_view words) = 0;
+
+  // What a sign in the text says. Called whenever that is shown or read out, so that it can follow
+  // the language; plain text.
+  using SignWords = std::function<std::u16string()>;
+
+  // Whether the end of the text is in view.
+  virtual bool ShowsEnd() const = 0;
+  // Whether the user holds the mouse button down on the text, perhaps to select.
+  virtual bool IsPressed() const = 0;
+  // A thin line above the paragraph at this position, as a sign that nobody has seen what follows;
+  // there is one at most, and none without a position. It is no text. The words are for assistive
+  // tools, while the caret is in that paragraph. Replacing all text removes it.
+  virtual void MarkUnread(std::optional<std::size_t> position, SignWords words) = 0;
+
+  // Puts a quiet rule with a few words below the last paragraph that is there, or above the first
+  // one if the box is empty. It has room of its own, but is no text: it is neither copied nor
+  // saved, nor found, and no position counts it. It leaves with the paragraphs beside it, and
+  // whenever all text is replaced. `words` is called whenever the rule is shown or read out, so
+  // that they can follow the language; they are plain text. What was in view stays in view, the end
+  // of the text too.
+  virtual void AddRule(SignWords words) = 0;
+  // What the signs say has changed.
+  virtual void RefreshSigns() = 0;
 
   // Whether text is still being inserted, of long documents (SetSelDocument) or of a long file
   // (LoadFile).
@@ -113,10 +169,11 @@ class RichTextBox : public Control {
   virtual void SetMostParagraphs(std::size_t paragraphs) = 0;
 
   // Everything between the two is one change: at its end it is laid out and scrolled into view, and
-  // onSelChange and onChange are raised, once each at most. Updates may be nested. Do not handle
-  // events, and do not call SetText, SetRtf, LoadFile or SetLocked, within an update. Use
-  // RichTextUpdate, which always ends it.
-  virtual void BeginUpdate() = 0;
+  // onSelChange and onChange are raised, once each at most. If the reader stays, onSelChange is
+  // not. Updates may be nested; the outermost says what the reader does. Do not handle events, and
+  // do not call SetText, SetRtf, LoadFile or SetLocked, within an update. Use RichTextUpdate, which
+  // always ends it.
+  virtual void BeginUpdate(Reader reader) = 0;
   virtual void EndUpdate() = 0;
 
   // The character set that the box's fonts are written with, 161 for Greek.
@@ -178,6 +235,16 @@ class RichTextBox : public Control {
   // `position` have left.
   std::function<void()> onNearlyFull;
   std::function<void(std::size_t position, std::size_t length)> onLinesRemoved;
+  // The user wants a menu on the spot: with the mouse for the place under the pointer, by key for
+  // the caret's. The box shows the entries. Without a handler it has the usual menu of a text
+  // field.
+  std::function<std::vector<PopupEntry>(std::size_t position)> onContextMenu;
+  // The user has clicked an address while holding Ctrl. An address under the pointer is underlined
+  // if there is a handler.
+  std::function<void(std::u16string_view address)> onLink;
+  // The end of the text has come into view by scrolling, or all text has been replaced. May be
+  // raised more often than that.
+  std::function<void()> onEndShown;
   // The user wants the text larger by so many steps, or smaller if there are less than 0.
   std::function<void(int steps)> onZoom;
   // The keyboard focus has gone elsewhere, perhaps to another window or to a menu.
@@ -187,7 +254,9 @@ class RichTextBox : public Control {
 // Everything that is done to a box while this object exists is one change of it.
 class RichTextUpdate {
  public:
-  explicit RichTextUpdate(RichTextBox& box) : box_(box) { box_.BeginUpdate(); }
+  explicit RichTextUpdate(RichTextBox& box, Reader reader = Reader::Follows) : box_(box) {
+    box_.BeginUpdate(reader);
+  }
   ~RichTextUpdate() { box_.EndUpdate(); }
   RichTextUpdate(const RichTextUpdate&) = delete;
   RichTextUpdate& operator=(const RichTextUpdate&) = delete;

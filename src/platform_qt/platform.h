@@ -9,6 +9,7 @@
 #include "platform_qt/help/help_viewer.h"
 #include "platform_qt/net/socket.h"
 #include "platform_qt/system/file_system.h"
+#include "platform_qt/system/link_opener.h"
 #include "platform_qt/system/system.h"
 #include "platform_qt/windows/about_window.h"
 #include "platform_qt/windows/macro_window.h"
@@ -40,6 +41,7 @@ class QtPlatform {
   QtLocale locale_;
   QtApplication application_;
   QtSystemTools tools_;
+  QtLinkOpener links_;
   QtMainWindow window_{files_};
   QtHelpViewer help_{&window_.form()};
   QtAboutWindow about_{&window_.form()};

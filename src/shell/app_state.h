@@ -47,6 +47,7 @@ struct AppState {
   std::size_t LinesWaiting = 0;   // sent, but not yet acknowledged by the peer's machine
   std::size_t LinesUndelivered = 0;  // lines of an ended conversation that were never acknowledged
   bool UndeliveredBefore = false;  // LinesUndelivered is about the conversation before the last one
+  std::size_t LinesSaid = 0;       // lines of the user, sent over this connection
   bool HasCalled = false;    // this side made the call of the last conversation, or of the current
   bool OffersAgain = false;  // to call or wait again (shell/again_bar.h)
   std::vector<CalledHost> CalledHosts;  // newest first
@@ -60,6 +61,9 @@ struct AppState {
   // A record of the line that is being written into the dialogue pane; nothing is decided by it.
   bool ForeignText = false;    // it is the peer's
   bool RemoteMessage = false;  // it names its sender itself: no nickname tag
+
+  // How many lines have come below what is in view of the dialogue.
+  std::size_t LinesBelow = 0;
 
   // Stamps of dialogue lines.
   bool DateStamp = true;

@@ -4,6 +4,7 @@
 #include "shell/called_hosts.h"
 #include "shell/delivery.h"
 #include "shell/language_texts.h"
+#include "shell/lines_below.h"
 #include "shell/setting_names.h"
 #include "shell/settings_reader.h"
 #include "shell/status_panel.h"
@@ -26,8 +27,11 @@ void Language::ApplyLanguage() {
     ShowWelcomeCard(state_, platform_);
     ShowAgainBar(state_, platform_);
     ShowCalledHosts(state_, platform_);
+    ShowLinesBelow(state_, frmMain);
     ExplainRemoteNickname(state_, frmMain);
     SetAuthorWords(frmMain.rtbData, isGreek);
+    frmMain.rtbData.RefreshSigns();
+    frmMain.rtbData.SetLinkHint(kLinkHint.In(isGreek));
     frmMain.mnuToolsAlwaysOnTop.SetToolTip(
         frmMain.window.CanBeTopMost() ? u"" : kNeverTopMost.In(isGreek));
     frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);

@@ -23,6 +23,10 @@ inline constexpr TextPair kStatusToolTip = {u"Status", u"Κατάσταση"};
 // The tool tip of lblRemoteNickname; shell/who_is_who.h may add to it.
 inline constexpr TextPair kRemoteNicknameToolTip = {u"Remote nickname", u"Απομακρυσμένο ψευδώνυμο"};
 
+// The tool tip of an address in the dialogue.
+inline constexpr TextPair kLinkHint = {u"Ctrl+click opens this address",
+                                       u"Ctrl+κλικ ανοίγει αυτή τη διεύθυνση"};
+
 // The tool tip of the entry "Always on top" when the desktop does not allow that.
 inline constexpr TextPair kNeverTopMost = {
     u"This desktop does not let programs place themselves above others.",

@@ -126,4 +126,14 @@ bool ReadAlike(std::u16string_view one, std::u16string_view other) {
   return lookAlike(Case::AsWritten) || lookAlike(Case::Small) || lookAlike(Case::Capital);
 }
 
+bool MayReadAsLatin(std::u16string_view text) {
+  const std::u16string plain = PlainLetters(text);
+  const auto isLatin = [&](Case compared) {
+    const std::u16string shapes = Shapes(plain, compared);
+    return std::all_of(shapes.begin(), shapes.end(),
+                       [](char16_t c) { return richtext::IsAscii(c); });
+  };
+  return isLatin(Case::AsWritten) || isLatin(Case::Small) || isLatin(Case::Capital);
+}
+
 }  // namespace verlume

@@ -11,4 +11,7 @@ namespace verlume {
 // leaves a character.
 bool ReadAlike(std::u16string_view one, std::u16string_view other);
 
+// Whether a Latin word may look the same as this text: none of its letters has a shape of its own.
+bool MayReadAsLatin(std::u16string_view text);
+
 }  // namespace verlume

@@ -59,6 +59,7 @@ enum class Procedure : int {
   rtbMacroText_KeyPress = 254,
   CommandCompletion = 255,
   mnuToolsCompletions_Click = 256,
+  OpenLink = 260,
   View = 257,  // the View menu
   SpellCheck = 275,
   mnuToolsCheckSpelling_Click = 276,

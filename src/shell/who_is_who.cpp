@@ -16,6 +16,11 @@ struct AuthorText {
 
 constexpr AuthorText kAuthorTexts[] = {
     {Author::User, {u"You wrote this.", u"Το γράψατε εσείς."}},
+    {Author::UserNotSent,
+     {u"You wrote this. It was not sent: there was no connection.",
+      u"Το γράψατε εσείς. Δεν στάλθηκε: δεν υπήρχε σύνδεση."}},
+    {Author::UserNotDelivered,
+     {u"You wrote this. It was not delivered.", u"Το γράψατε εσείς. Δεν παραδόθηκε."}},
     {Author::Peer, {u"The other side wrote this.", u"Το έγραψε η άλλη πλευρά."}},
     {Author::PeerReadingAlike,
      {u"The other side wrote this. Its nickname reads like yours.",

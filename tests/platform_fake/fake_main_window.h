@@ -74,6 +74,8 @@ struct FakeMainWindow {
   FakeButton cmdFindClose;
   FakePanel fraCompletions;
   FakeListBox lstCompletions;
+  FakePanel fraNewLines;
+  FakeButton cmdNewLines;
   FakeWelcomeCard welcomeCard;
   FakeAgainBar againBar;
   FakeLabel lblHint;

@@ -19,6 +19,7 @@ FakePlatform::FakePlatform(FakeNetwork& network)
           .application = application,
           .help = help,
           .tools = tools,
+          .links = links,
       } {
   files.MakeFolder(u"/verlume");
 }

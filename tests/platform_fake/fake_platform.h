@@ -29,6 +29,7 @@ struct FakePlatform {
   FakeApplication application;
   FakeHelpViewer help;
   FakeSystemTools tools;
+  FakeLinkOpener links;
 
   Platform platform;
 };

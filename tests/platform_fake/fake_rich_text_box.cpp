@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "richtext/links.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 
@@ -34,6 +35,12 @@ void FakeRichTextBox::ReadInTurns(TextReader read) {
   if (!readsLater) reader(0, Text(), true);
 }
 
+std::u16string FakeRichTextBox::LinkAt(std::size_t position) const {
+  const std::u16string text = Text();
+  const auto link = richtext::LinkAt(text, position);
+  return link ? richtext::AddressOf(text.substr(link->start, link->length)) : std::u16string();
+}
+
 void FakeRichTextBox::SetText(std::u16string_view text) {
   ReplaceAll(CellsOf(text));
 }
@@ -46,6 +53,9 @@ void FakeRichTextBox::SetRtf(std::u16string_view rtf) {
 void FakeRichTextBox::ReplaceAll(std::vector<Cell> cells, Author author) {
   cells_ = std::move(cells);
   authors.assign(LineBreaks(cells_, 0, cells_.size()) + 1, author);
+  rules.clear();
+  unreadFrom.reset();
+  if (onEndShown) onEndShown();
   selStart_ = selLength_ = 0;
   if (cells_.empty()) {
     const std::u16string font = std::exchange(fontNames_, {u"Arial"})[insertionLook_.font];
@@ -180,8 +190,35 @@ void FakeRichTextBox::SetSelAuthor(Author author) {
   for (std::size_t i = first; i <= last; ++i) authors[i] = author;
 }
 
+void FakeRichTextBox::ChangeAuthor(Author author, Author other, std::size_t skipped,
+                                   std::size_t count) {
+  for (auto at = authors.rbegin(); at != authors.rend() && count > 0; ++at) {
+    if (*at != author) continue;
+    if (skipped > 0) {
+      --skipped;
+    } else {
+      *at = other;
+      --count;
+    }
+  }
+}
+
+void FakeRichTextBox::BeginUpdate(Reader reader) {
+  if (updateDepth_++ > 0) return;
+  reader_ = reader;
+  keptStart_ = selStart_;
+  keptLength_ = selLength_;
+}
+
 void FakeRichTextBox::EndUpdate() {
   if (--updateDepth_ > 0) return;
+  if (reader_ == Reader::Stays) {
+    selStart_ = keptStart_;
+    selLength_ = keptLength_;
+    selChanged_ = false;
+  } else if (selChanged_) {
+    showsEnd = selStart_ + selLength_ == cells_.size();
+  }
   if (std::exchange(selChanged_, false)) RaiseSelChange();
   if (std::exchange(changed_, false)) RaiseChange();
 }

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/rich_text_box.h"
@@ -35,6 +36,14 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   std::size_t SelStart() const override { return selStart_; }
   std::size_t SelLength() const override { return selLength_; }
   void Select(std::size_t start, std::size_t length) override;
+  std::u16string SelText() const override { return Text().substr(selStart_, selLength_); }
+  void SelectAll() override { Select(0, cells_.size()); }
+  void Copy(TextFileFormat format) override {
+    copied = SelText();
+    copiedAs = format;
+  }
+  std::u16string LinkAt(std::size_t position) const override;
+  void SetLinkHint(std::u16string_view hint) override { linkHint = hint; }
   bool IsInFirstLine() const override { return selStart_ + selLength_ < lineWidth; }
   bool IsInLastLine() const override {
     return (selStart_ + selLength_) / lineWidth == cells_.size() / lineWidth;
@@ -48,10 +57,20 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   void SetAuthorWords(Author author, std::u16string_view words) override {
     authorWords[author] = words;
   }
+  void AddRule(SignWords words) override { rules.push_back(std::move(words)); }
+  void RefreshSigns() override { ++timesSignsRefreshed; }
   bool MoreIsComing() const override { return moreIsComing; }
   void DropInsertions() override { ++timesDropped; }
   void SetMostParagraphs(std::size_t paragraphs) override { mostParagraphs = paragraphs; }
-  void BeginUpdate() override { ++updateDepth_; }
+  void ChangeAuthor(Author author, Author other, std::size_t skipped, std::size_t count) override;
+  // As the test says.
+  bool ShowsEnd() const override { return showsEnd; }
+  bool IsPressed() const override { return isPressed; }
+  void MarkUnread(std::optional<std::size_t> position, SignWords words) override {
+    unreadFrom = position;
+    unreadWords = std::move(words);
+  }
+  void BeginUpdate(Reader reader) override;
   void EndUpdate() override;
   void SetFontCharset(int charset) override { charset_ = charset; }
   void LoadFile(std::u16string_view path, TextFileFormat format) override;
@@ -74,6 +93,15 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
 
   std::vector<Author> authors{Author::None};  // of each paragraph
   std::map<Author, std::u16string> authorWords;
+  std::u16string copied;
+  TextFileFormat copiedAs = TextFileFormat::PlainText;
+  std::u16string linkHint;
+  bool showsEnd = true;  // the user's scrolling; an update that the reader follows makes it true
+  bool isPressed = false;
+  std::optional<std::size_t> unreadFrom;
+  SignWords unreadWords;
+  std::vector<SignWords> rules;
+  int timesSignsRefreshed = 0;
   bool readsLater = false;
   TextReader reader;
   bool moreIsComing = false;
@@ -129,6 +157,9 @@ class FakeRichTextBox : public FakeControl<RichTextBox> {
   std::size_t selLength_ = 0;
   Look insertionLook_;
   int charset_ = richtext::kGreekCharset;
+  Reader reader_ = Reader::Follows;
+  std::size_t keptStart_ = 0;  // while the reader stays
+  std::size_t keptLength_ = 0;
   int updateDepth_ = 0;
   // The events that EndUpdate will raise.
   bool selChanged_ = false;

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/links.h"
 #include "platform/run_time_failure.h"
 #include "platform/system.h"
 #include "shell/text_pair.h"
@@ -90,6 +91,20 @@ class FakeSystemTools : public SystemTools {
   std::map<std::pair<std::u16string, std::u16string>, std::u16string> registry;
   bool startsPrograms = true;
   std::vector<std::u16string> started;
+};
+
+// Hosts as tests name them, and addresses that are never really opened.
+class FakeLinkOpener : public LinkOpener {
+ public:
+  LinkHost HostOf(std::u16string_view) const override { return host; }
+  bool Open(std::u16string_view address) override {
+    opened.emplace_back(address);
+    return opens;
+  }
+
+  LinkHost host;
+  bool opens = true;
+  std::vector<std::u16string> opened;
 };
 
 }  // namespace verlume::fake

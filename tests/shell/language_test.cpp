@@ -100,15 +100,15 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuToolsCheckSpelling, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
                mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands,
                rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult,
-               cmdFindClose, fraCompletions, lstCompletions, welcomeCard, againBar, lblHint,
-               spelling, cmdSend, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus,
-               lblWaiting, fraPanel, lblCurrentDateTime, lblChatStartDateTime, lblChatDuration,
-               lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
-               lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
-               lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalPortCaption,
-               lblLocalNicknameCaption, lblRemotePortCaption, lblRemoteNicknameCaption,
-               lblBytesSentCaption, lblBytesReceivedCaption, picShape, shpStatus, lblCopyright,
-               picCopyright, frmMain] = mainWindow;
+               cmdFindClose, fraCompletions, lstCompletions, fraNewLines, cmdNewLines, welcomeCard,
+               againBar, lblHint, spelling, cmdSend, chkBold, chkItalics, chkUnderline, lblColor,
+               lblStatus, prgStatus, lblWaiting, fraPanel, lblCurrentDateTime, lblChatStartDateTime,
+               lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP,
+               lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
+               lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
+               lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
+               lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
+               shpStatus, lblCopyright, picCopyright, frmMain] = mainWindow;
   (void)frmMain;
   ShownTexts texts;
   const auto collect = [&texts](const auto&... elements) { (Collect(texts, elements), ...); };
@@ -124,14 +124,14 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut, mnuViewZoomReset, mnuHelp,
           mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
           cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions, lstCompletions,
-          welcomeCard, againBar, lblHint, spelling, cmdSend, chkBold, chkItalics, chkUnderline,
-          lblColor, lblStatus, prgStatus, lblWaiting, fraPanel, lblCurrentDateTime,
-          lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname,
-          lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
-          lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
-          lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
-          lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
-          shpStatus, lblCopyright, picCopyright);
+          fraNewLines, cmdNewLines, welcomeCard, againBar, lblHint, spelling, cmdSend, chkBold,
+          chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, fraPanel,
+          lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
+          lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
+          lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
+          lblChatDurationCaption, lblLocalPortCaption, lblLocalNicknameCaption,
+          lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
+          lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright);
   return texts;
 }
 

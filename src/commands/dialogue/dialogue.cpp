@@ -40,6 +40,10 @@ bool IsAction(Sender sender) {
   return sender == Sender::LocalAction || sender == Sender::RemoteAction;
 }
 
+bool IsRemote(Sender sender) {
+  return sender == Sender::Remote || sender == Sender::RemoteAction;
+}
+
 void GoToEnd(RichTextBox& pane) {
   pane.Select(pane.TextLength(), 0);
 }
@@ -55,7 +59,7 @@ void Dialogue::WriteDialogueLine(std::u16string_view rtf, Sender sender, Command
   ClearFlagOf(sender);
   errors_.Guard(Procedure::WriteDialogueLine, [&] {
     if (rtf.empty()) {
-      GoToEnd(platform_.frmMain.rtbData);
+      FollowUnlessReading();
     } else {
       WriteLine(rtf, sender);
       WithdrawAgain(state_, platform_);
@@ -64,6 +68,10 @@ void Dialogue::WriteDialogueLine(std::u16string_view rtf, Sender sender, Command
   });
   // Words typed into the find bar must not end up in the next line that is sent.
   if (!platform_.frmMain.findBar.fraFind.HasFocus()) platform_.frmMain.rtbCommands.SetFocus();
+}
+
+void Dialogue::FollowUnlessReading() {
+  if (newLines_.ReaderNow() == Reader::Follows) GoToEnd(platform_.frmMain.rtbData);
 }
 
 void Dialogue::ClearFlagOf(Sender sender) {
@@ -84,7 +92,13 @@ void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
   std::u16string logLine;
   if (log_.IsRecording()) logLine = u"[" + both + u"]" + tag + document.text;
   richtext::KeepWithinBudget(document);
-  AddToPane(stamp, tag, sender, std::move(document));
+  const Reader reader = IsRemote(sender) ? newLines_.ReaderNow() : Reader::Follows;
+  const std::size_t start = AddToPane(stamp, tag, sender, std::move(document), reader);
+  if (IsRemote(sender)) {
+    newLines_.NoteArrived(start, reader);
+  } else {
+    newLines_.NoteSaid();
+  }
   log_.AppendToLog(std::move(logLine));
 }
 
@@ -95,17 +109,21 @@ std::u16string Dialogue::TagOf(Sender sender) const {
 }
 
 Author Dialogue::AuthorOf(Sender sender) const {
-  const bool isRemote = sender == Sender::Remote || sender == Sender::RemoteAction;
-  return isRemote ? PeerAsAuthor(state_) : Author::User;
+  if (IsRemote(sender)) return PeerAsAuthor(state_);
+  const bool isSent = platform_.sckControl.State() == SocketState::Connected;
+  return isSent ? Author::User : Author::UserNotSent;
 }
 
-void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,
-                         richtext::Document document) {
+std::size_t Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,
+                                richtext::Document document, Reader reader) {
   RichTextBox& pane = platform_.frmMain.rtbData;
-  const RichTextUpdate update(pane);
+  const RichTextUpdate update(pane, reader);
   GoToEnd(pane);
   if (pane.TextLength() > 0) pane.SetSelText(u"\r\n");
-  pane.SetSelAuthor(AuthorOf(sender));
+  const std::size_t start = pane.SelStart();
+  const Author author = AuthorOf(sender);
+  if (author == Author::User) ++state_.LinesSaid;
+  pane.SetSelAuthor(author);
   if (!stamp.empty()) AddInFormat(pane, u"[" + std::u16string(stamp) + u"]", kStampSize);
   if (IsAction(sender)) {
     pane.SetSelText(tag);
@@ -113,6 +131,7 @@ void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sen
     AddInFormat(pane, tag, kTagSize);
   }
   pane.SetSelDocument(std::move(document));
+  return start;
 }
 
 void Dialogue::mnuToolsDate_Click() {
@@ -145,7 +164,7 @@ void Dialogue::mnuToolsClearDialogue_Click() {
 void Dialogue::rtbData_NearlyFull() {
   errors_.Guard(Procedure::WriteDialogueLine, [this] {
     RichTextBox& pane = platform_.frmMain.rtbData;
-    const RichTextUpdate update(pane);
+    const RichTextUpdate update(pane, newLines_.ReaderNow());
     GoToEnd(pane);
     pane.SetSelText(u"\r\n");
     pane.SetSelAuthor(Author::None);

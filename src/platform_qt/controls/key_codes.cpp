@@ -30,6 +30,8 @@ int KeyCodeOf(const QKeyEvent& event) {
       return key_code::kPageUp;
     case Qt::Key_PageDown:
       return key_code::kPageDown;
+    case Qt::Key_End:
+      return key_code::kEnd;
     case Qt::Key_Up:
       return key_code::kUp;
     case Qt::Key_Right:

@@ -5,10 +5,13 @@
 #include <QPainter>
 #include <QTextLayout>
 #include <QToolTip>
+#include <utility>
 
 #include "platform_qt/controls/tool_tip.h"
+#include "platform_qt/convert/text.h"
 #include "platform_qt/text/author_marks.h"
 #include "platform_qt/text/paragraph_author.h"
+#include "platform_qt/text/rules.h"
 
 namespace verlume::qt {
 namespace {
@@ -38,6 +41,12 @@ void AuthorMargin::SetDescription(const QString& description) {
   DescribeCaret();
 }
 
+void AuthorMargin::SetUnreadWords(RichTextBox::SignWords words) {
+  if (!words && !unreadWords_) return;
+  unreadWords_ = std::move(words);
+  DescribeCaret();
+}
+
 void AuthorMargin::PlaceBeside(const QRect& text) {
   setGeometry(text.left() - kWidth, text.top(), kWidth, text.height());
 }
@@ -64,29 +73,27 @@ QString AuthorMargin::WordsOf(Author author) const {
   return found == words_.end() ? QString() : found->second;
 }
 
+// What is said of a line, and of the rules beside it.
+QString AuthorMargin::WordsOf(const QTextBlock& block) const {
+  const bool isUnread = unreadWords_ && pane_.IsUnreadFrom(block);
+  const QString unread = isUnread ? ToQt(unreadWords_()) + u' ' : QString();
+  return (unread + WordsOf(AuthorOf(block)) + u' ' + WordsOfRules(block)).trimmed();
+}
+
 void AuthorMargin::DescribeCaret() {
-  const QString words = WordsOf(AuthorOf(pane_.textCursor().block()));
+  const QString words = WordsOf(pane_.textCursor().block());
   const QString& description = words.isEmpty() ? description_ : words;
   if (pane_.accessibleDescription() == description) return;
   pane_.setAccessibleDescription(description);
   setAccessibleName(words);
 }
 
-void AuthorMargin::VisitBlocks(
-    qreal from, qreal to, const std::function<void(const QTextBlock&, qreal top)>& visit) const {
-  QTextBlock block = pane_.firstVisibleBlock();
-  qreal top = pane_.blockBoundingGeometry(block).translated(pane_.contentOffset()).top();
-  while (block.isValid() && top < to) {
-    const qreal bottom = top + pane_.blockBoundingRect(block).height();
-    if (bottom > from) visit(block, top);
-    top = bottom;
-    block = block.next();
-  }
-}
-
 QString AuthorMargin::WordsAt(int y) const {
   QString words;
-  VisitBlocks(y, y + 1, [&](const QTextBlock& block, qreal) { words = WordsOf(AuthorOf(block)); });
+  pane_.VisitBlocks(y, y + 1, [&](const QTextBlock& block, const QRectF& place) {
+    const QString rule = WordsOfRuleAt(block, y - place.top(), place.height());
+    words = rule.isEmpty() ? WordsOf(AuthorOf(block)) : rule;
+  });
   return words;
 }
 
@@ -108,8 +115,9 @@ void AuthorMargin::paintEvent(QPaintEvent* event) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   const QRectF clip = event->rect();
-  VisitBlocks(clip.top(), clip.bottom(),
-              [&](const QTextBlock& block, qreal top) { DrawMarks(painter, block, top, clip); });
+  pane_.VisitBlocks(clip.top(), clip.bottom(), [&](const QTextBlock& block, const QRectF& place) {
+    DrawMarks(painter, block, place.top(), clip);
+  });
 }
 
 void AuthorMargin::DrawMarks(QPainter& painter, const QTextBlock& block, qreal top,
@@ -118,6 +126,11 @@ void AuthorMargin::DrawMarks(QPainter& painter, const QTextBlock& block, qreal t
   if (author == Author::None) return;
   painter.setBrush(MarkColor(author, MarginGround(pane_.palette().color(QPalette::Base))));
   const QTextLayout& layout = *block.layout();
+  if (IsHollow(author)) {
+    const qreal first = layout.lineCount() > 0 ? layout.lineAt(0).y() : 0;
+    const QRectF place(kSpace, top + first, kMarkWidth, layout.boundingRect().height());
+    return DrawHollowMark(painter, place);
+  }
   for (int i = 0; i < layout.lineCount(); ++i) {
     const QRectF line = layout.lineAt(i).rect();
     const QRectF place(kSpace, top + line.top(), kMarkWidth, line.height());

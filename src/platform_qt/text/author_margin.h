@@ -5,7 +5,6 @@
 #include <QString>
 #include <QTextBlock>
 #include <QWidget>
-#include <functional>
 #include <map>
 
 #include "platform/rich_text_box.h"
@@ -23,6 +22,10 @@ class AuthorMargin : public QWidget {
   void SetWords(Author author, const QString& words);
   // The pane's description while the caret is in a line from nobody.
   void SetDescription(const QString& description);
+  // What is said besides of the line that is marked as unread.
+  void SetUnreadWords(RichTextBox::SignWords words);
+  // The words of the line in which the caret is have changed.
+  void DescribeCaret();
 
  protected:
   bool event(QEvent* event) override;
@@ -30,19 +33,17 @@ class AuthorMargin : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  // Calls visit(block, top) for each block that is in view between two heights.
-  void VisitBlocks(qreal from, qreal to,
-                   const std::function<void(const QTextBlock&, qreal top)>& visit) const;
   void DrawMarks(QPainter& painter, const QTextBlock& block, qreal top, const QRectF& clip) const;
   QString WordsOf(Author author) const;
+  QString WordsOf(const QTextBlock& block) const;
   QString WordsAt(int y) const;
   void PlaceBeside(const QRect& text);
   void Follow(const QRect& area, int dy);
-  void DescribeCaret();
 
   RichTextWidget& pane_;
   std::map<Author, QString> words_;
   QString description_;
+  RichTextBox::SignWords unreadWords_;
 };
 
 }  // namespace verlume::qt

@@ -1,5 +1,6 @@
 #include "platform_qt/text/author_marks.h"
 
+#include <QPainterPath>
 #include <QPolygonF>
 #include <algorithm>
 #include <array>
@@ -17,6 +18,8 @@ using Tones = std::array<QColor, 3>;
 Tones TonesOf(Author author) {
   switch (author) {
     case Author::User:  // blue
+    case Author::UserNotSent:
+    case Author::UserNotDelivered:
       return {QColor(0x1F, 0x5F, 0xD0), QColor(0x00, 0x2F, 0x87), QColor(0xD2, 0xE8, 0xFF)};
     case Author::File:  // grey
       return {QColor(0x6A, 0x6A, 0x6A), QColor(0x33, 0x33, 0x33), QColor(0xE6, 0xE6, 0xE6)};
@@ -72,12 +75,29 @@ QColor MarkColor(Author author, const QColor& ground) {
   });
 }
 
+bool IsHollow(Author author) {
+  return author == Author::UserNotSent || author == Author::UserNotDelivered;
+}
+
+void DrawHollowMark(QPainter& painter, const QRectF& place) {
+  constexpr qreal kLine = 1.5;
+  constexpr qreal kWidth = 6;
+  const QRectF bar(place.center().x() - kWidth / 2, place.top() + 1, kWidth, place.height() - 2);
+  QPainterPath outline;
+  outline.addRect(bar);
+  outline.addRect(bar.adjusted(kLine, kLine, -kLine, -kLine));
+  painter.drawPath(outline);  // filled between the two
+}
+
 void DrawMark(QPainter& painter, Author author, const QRectF& place) {
   switch (author) {
     case Author::None:
       return;
     case Author::User:
       return DrawBar(painter, place);
+    case Author::UserNotSent:
+    case Author::UserNotDelivered:
+      return DrawHollowMark(painter, place);
     case Author::File:
       return DrawDots(painter, place);
     default:

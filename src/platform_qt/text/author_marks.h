@@ -23,4 +23,8 @@ QColor MarkColor(Author author, const QColor& ground);
 // points to the text, and those of a file two dots.
 void DrawMark(QPainter& painter, Author author, const QRectF& place);
 
+// The mark of what did not go out is hollow: one outline around all lines of a paragraph.
+bool IsHollow(Author author);
+void DrawHollowMark(QPainter& painter, const QRectF& place);
+
 }  // namespace verlume::qt

@@ -37,4 +37,18 @@ void SetAuthor(const QTextCursor& selection, Author author, Lines lines) {
   blocks.mergeBlockFormat(format);
 }
 
+void ChangeLastAuthors(const QTextDocument& document, AuthorChange change, Lines lines) {
+  QTextBlock block = document.lastBlock();
+  for (; block.isValid() && change.count > 0; block = block.previous()) {
+    block = FirstOfParagraph(block, lines);
+    if (AuthorOf(block) != change.author) continue;
+    if (change.skipped > 0) {
+      --change.skipped;
+    } else {
+      SetAuthor(QTextCursor(block), change.other, lines);
+      --change.count;
+    }
+  }
+}
+
 }  // namespace verlume::qt

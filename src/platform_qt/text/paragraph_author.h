@@ -15,4 +15,14 @@ Author AuthorOf(const QTextBlock& block);
 // Sets the author of the paragraphs that the selection touches, with all their blocks.
 void SetAuthor(const QTextCursor& selection, Author author, Lines lines);
 
+// Of the paragraphs from `author`, counted from the end, leaves `skipped` alone and gives the next
+// `count` to `other`.
+struct AuthorChange {
+  Author author;
+  Author other;
+  std::size_t skipped;
+  std::size_t count;
+};
+void ChangeLastAuthors(const QTextDocument& document, AuthorChange change, Lines lines);
+
 }  // namespace verlume::qt

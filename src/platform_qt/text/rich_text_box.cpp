@@ -1,6 +1,7 @@
 #include "platform_qt/text/rich_text_box.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -13,6 +14,7 @@
 #include "platform_qt/convert/text.h"
 #include "platform_qt/system/free_memory.h"
 #include "platform_qt/text/author_margin.h"
+#include "platform_qt/text/link_pointer.h"
 #include "platform_qt/text/open_direction.h"
 #include "platform_qt/text/paragraph_author.h"
 #include "platform_qt/text/readable_text.h"
@@ -180,6 +182,7 @@ void QtRichTextBox::ReplaceAll(FormattedText text) {
   }
   Select(0, 0);
   RaiseChange();
+  if (onEndShown) onEndShown();
 }
 
 void QtRichTextBox::Clear(const QTextCharFormat& format) {
@@ -188,6 +191,7 @@ void QtRichTextBox::Clear(const QTextCharFormat& format) {
   DropInsertions();
   if (TextLength() > kLongText) memoryReturn_.start(kPauseBetweenTurns);
   const ProgramChange change(*view_);
+  view_->MarkUnread({});
   widget_->document()->clear();
   formats_.Clear();
   QTextCursor cursor(widget_->document());
@@ -207,21 +211,22 @@ void QtRichTextBox::SetCursor(const QTextCursor& cursor) {
   }
 }
 
-void QtRichTextBox::BeginUpdate() {
+void QtRichTextBox::BeginUpdate(Reader reader) {
   if (update_) {
     ++update_->depth;
   } else {
-    update_ = std::make_unique<TextUpdate>(*view_);
+    update_ = std::make_unique<TextUpdate>(*view_, reader);
   }
 }
 
 void QtRichTextBox::EndUpdate() {
   if (--update_->depth > 0) return;
-  const bool selChanged = update_->selChanged;
+  const bool selChanged = update_->selChanged && !update_->Stays();
   const bool changed = update_->changed;
   update_.reset();
   if (selChanged) RaiseSelChange();
   if (changed) RaiseChange();
+  if (selChanged && !changed) view_->NoteScrolled();
 }
 
 void QtRichTextBox::RaiseSelChange() {
@@ -272,6 +277,30 @@ bool QtRichTextBox::IsInLastLine() const {
          line.lineNumber() == cursor.block().layout()->lineCount() - 1;
 }
 
+std::u16string QtRichTextBox::SelText() const {
+  return SelectedText(Cursor(), lines_);
+}
+
+void QtRichTextBox::SelectAll() {
+  widget_->selectAll();
+}
+
+void QtRichTextBox::Copy(TextFileFormat format) {
+  if (format == TextFileFormat::RichText) {
+    widget_->copy();
+  } else if (widget_->textCursor().hasSelection()) {
+    QGuiApplication::clipboard()->setText(ToQt(SelText()));
+  }
+}
+
+std::u16string QtRichTextBox::LinkAt(std::size_t position) const {
+  return AddressIn(LinkAround(*widget_->document(), DocumentPosition(position)));
+}
+
+void QtRichTextBox::SetLinkHint(std::u16string_view hint) {
+  view_->links().SetHint(ToQt(hint));
+}
+
 SelectionFormat QtRichTextBox::SelFormat() const {
   return SelectedFormat(Cursor(), lines_);
 }
@@ -316,6 +345,12 @@ Author QtRichTextBox::SelAuthor() const {
   return AuthorOf(widget_->document()->findBlock(Cursor().selectionStart()));
 }
 
+void QtRichTextBox::ChangeAuthor(Author author, Author other, std::size_t skipped,
+                                 std::size_t count) {
+  const ProgramChange change(*view_);
+  ChangeLastAuthors(*widget_->document(), {author, other, skipped, count}, lines_);
+}
+
 void QtRichTextBox::SetAuthorWords(Author author, std::u16string_view words) {
   if (!margin_) {
     BeginLinesAtTheLeft(*widget_->document());
@@ -323,6 +358,30 @@ void QtRichTextBox::SetAuthorWords(Author author, std::u16string_view words) {
     margin_->SetDescription(ToQt(toolTip_));
   }
   margin_->SetWords(author, ToQt(words));
+}
+
+bool QtRichTextBox::ShowsEnd() const {
+  return view_->ShowsEnd();
+}
+
+bool QtRichTextBox::IsPressed() const {
+  return view_->IsPressed();
+}
+
+void QtRichTextBox::MarkUnread(std::optional<std::size_t> position, SignWords words) {
+  const QTextDocument& document = *widget_->document();
+  view_->MarkUnread(position ? document.findBlock(DocumentPosition(*position)) : QTextBlock());
+  if (margin_) margin_->SetUnreadWords(std::move(words));
+}
+
+void QtRichTextBox::AddRule(SignWords words) {
+  view_->AddRule(std::move(words));
+  RefreshSigns();
+}
+
+void QtRichTextBox::RefreshSigns() {
+  view_->viewport()->update();
+  if (margin_) margin_->DescribeCaret();
 }
 
 void QtRichTextBox::SetToolTip(std::u16string_view text) {
@@ -389,6 +448,7 @@ void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
   if (!Locked()) WaitForInsertions();
   Select(0, 0);
   RaiseChange();
+  if (onEndShown) onEndShown();
 }
 
 void QtRichTextBox::NoteLoaded() {
@@ -414,6 +474,8 @@ void QtRichTextBox::SetLocked(bool locked) {
     // The user can also select, copy and scroll with the keyboard.
     widget_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   }
+  // Addresses under the pointer are underlined where the user reads.
+  widget_->viewport()->setMouseTracking(locked);
   widget_->setUndoRedoEnabled(!locked && lines_ == Lines::Single);
 }
 

@@ -9,9 +9,12 @@
 #include <utility>
 
 #include "platform_qt/controls/key_codes.h"
+#include "platform_qt/controls/popup.h"
 #include "platform_qt/convert/text.h"
 #include "platform_qt/text/readable_text.h"
 #include "platform_qt/text/rich_text_mime.h"
+#include "platform_qt/text/rule_layout.h"
+#include "platform_qt/text/rules.h"
 #include "platform_qt/text/text_format.h"
 #include "platform_qt/text/text_insertion.h"
 
@@ -27,6 +30,16 @@ bool IsMenuKey(const QWidget& widget, const QKeyEvent& event) {
   });
 }
 
+// The widget's document, of a layout that has room for rules.
+QTextDocument& WithRuleLayout(QPlainTextEdit& widget) {
+  auto* document = new QTextDocument(&widget);
+  auto* layout = new RuleLayout(document);
+  layout->setPaintDevice(widget.viewport());
+  document->setDocumentLayout(layout);
+  widget.setDocument(document);
+  return *document;
+}
+
 }  // namespace
 
 RichTextWidget::ProgramChange::~ProgramChange() {
@@ -40,7 +53,7 @@ RichTextWidget::UserChange::~UserChange() {
 RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
     : QPlainTextEdit(parent),
       lines_(lines),
-      seams_(*document(), lines),
+      seams_(WithRuleLayout(*this), lines),
       missingScripts_(*document()) {
   document()->documentLayout()->setPaintDevice(&zoom_);
   QFont font(ToQt(kDefaultFontName));
@@ -53,6 +66,12 @@ RichTextWidget::RichTextWidget(QWidget* parent, Lines lines)
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, note);
   connect(this, &QPlainTextEdit::selectionChanged, this, note);
   connect(document(), &QTextDocument::contentsChanged, this, [this] { NoteChange(); });
+  links_.SetOpener([this](const std::u16string& address) {
+    if (events_ && events_->onLink) events_->onLink(address);
+  });
+  const auto noteScrolled = [this] { NoteScrolled(); };
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, noteScrolled);
+  connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, noteScrolled);
 }
 
 bool RichTextWidget::Swallowed(int keyCode, int shift, int charCode) {
@@ -136,6 +155,7 @@ void RichTextWidget::focusInEvent(QFocusEvent* event) {
 
 void RichTextWidget::focusOutEvent(QFocusEvent* event) {
   QPlainTextEdit::focusOutEvent(event);
+  if (event->reason() == Qt::ActiveWindowFocusReason) isPressed_ = false;
   if (events_ && events_->onLostFocus) events_->onLostFocus();
 }
 
@@ -149,6 +169,57 @@ void RichTextWidget::paintEvent(QPaintEvent* event) {
   MakeReadable(firstVisibleBlock(), event->rect().bottom() + 1 - contentOffset().y(),
                FromQt(palette().color(QPalette::Base)));
   QPlainTextEdit::paintEvent(event);
+  QPainter painter(viewport());
+  const QRectF clip = event->rect();
+  VisitBlocks(clip.top(), clip.bottom(), [&](const QTextBlock& block, const QRectF& place) {
+    DrawRules(painter, block, place, palette());
+    if (IsUnreadFrom(block)) DrawUnreadLine(painter, place);
+    links_.Draw(painter, block, {contentOffset().x(), place.top()});
+  });
+}
+
+void RichTextWidget::VisitBlocks(
+    qreal from, qreal to,
+    const std::function<void(const QTextBlock&, const QRectF& place)>& visit) const {
+  QTextBlock block = firstVisibleBlock();
+  qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
+  while (block.isValid() && top < to) {
+    const qreal height = blockBoundingRect(block).height();
+    if (top + height > from) visit(block, QRectF(0, top, viewport()->width(), height));
+    top += height;
+    block = block.next();
+  }
+}
+
+void RichTextWidget::DrawUnreadLine(QPainter& painter, const QRectF& place) const {
+  constexpr qreal kThickness = 2;
+  painter.fillRect(QRectF(place.left(), place.top(), place.width(), kThickness),
+                   palette().color(QPalette::Highlight));
+}
+
+void RichTextWidget::MarkUnread(const QTextBlock& block) {
+  if (!block.isValid() && unread_.isNull()) return;
+  unread_ = block.isValid() ? QTextCursor(block) : QTextCursor();
+  unread_.setKeepPositionOnInsert(true);
+  viewport()->update();
+}
+
+bool RichTextWidget::IsUnreadFrom(const QTextBlock& block) const {
+  return !unread_.isNull() && block.contains(unread_.position());
+}
+
+// Cheap where it does not matter: each line that is written scrolls.
+void RichTextWidget::NoteScrolled() {
+  if (!events_ || !events_->onEndShown || programDepth_ > 0) return;
+  const QScrollBar& bar = *verticalScrollBar();
+  if (bar.value() == bar.maximum() && ShowsEnd()) events_->onEndShown();
+}
+
+void RichTextWidget::AddRule(RichTextBox::SignWords words) {
+  const bool showsEnd = ShowsEnd();
+  AddRuleTo(*document(), std::move(words));
+  static_cast<RuleLayout*>(document()->documentLayout())->NoteRules();
+  if (showsEnd) ShowEnd();
 }
 
 void RichTextWidget::wheelEvent(QWheelEvent* event) {
@@ -198,7 +269,26 @@ void RichTextWidget::ShowEnd() {
 
 bool RichTextWidget::viewportEvent(QEvent* event) {
   const UserChange change(*this);
+  NotePress(*event);
+  if (events_ && events_->onLink && links_.Handle(*event)) return true;
   return QPlainTextEdit::viewportEvent(event);
+}
+
+// A release that goes to a box which has opened meanwhile does not arrive: then the window is no
+// longer active, or the pointer comes back.
+void RichTextWidget::NotePress(const QEvent& event) {
+  const bool isPress = event.type() == QEvent::MouseButtonPress;
+  if (!isPress && event.type() != QEvent::MouseButtonRelease && event.type() != QEvent::Enter)
+    return;
+  isPressed_ = isPress && static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
+}
+
+void RichTextWidget::contextMenuEvent(QContextMenuEvent* event) {
+  if (!events_ || !events_->onContextMenu) return QPlainTextEdit::contextMenuEvent(event);
+  const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+  const QTextCursor place = isByKey ? textCursor() : cursorForPosition(event->pos());
+  OpenPopup(*this, event->globalPos(),
+            events_->onContextMenu(seams_.TextPosition(place.position())));
 }
 
 bool RichTextWidget::canInsertFromMimeData(const QMimeData* source) const {

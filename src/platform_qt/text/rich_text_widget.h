@@ -4,8 +4,11 @@
 
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QTextBlock>
+#include <functional>
 
 #include "platform/rich_text_box.h"
+#include "platform_qt/text/link_pointer.h"
 #include "platform_qt/text/missing_scripts.h"
 #include "platform_qt/text/rich_text.h"
 #include "platform_qt/text/zoom_device.h"
@@ -17,11 +20,26 @@ class RichTextWidget : public QPlainTextEdit {
   RichTextWidget(QWidget* parent, Lines lines);
 
   // For the margin beside the text.
-  using QPlainTextEdit::blockBoundingGeometry;
-  using QPlainTextEdit::blockBoundingRect;
-  using QPlainTextEdit::contentOffset;
-  using QPlainTextEdit::firstVisibleBlock;
   using QPlainTextEdit::setViewportMargins;
+  // Calls visit(block, place) for each block that is in view between two heights of the viewport;
+  // `place` is the block's rectangle there, as wide as the viewport.
+  void VisitBlocks(qreal from, qreal to,
+                   const std::function<void(const QTextBlock&, const QRectF& place)>& visit) const;
+
+  // Whether the left mouse button is held down on the text.
+  bool IsPressed() const { return isPressed_; }
+
+  // A thin line above this block; none above one that is not valid.
+  void MarkUnread(const QTextBlock& block);
+  bool IsUnreadFrom(const QTextBlock& block) const;
+
+  // Raises onEndShown if the end is in view.
+  void NoteScrolled();
+
+  LinkPointer& links() { return links_; }
+
+  // Below the last paragraph. What was in view stays in view, the end too.
+  void AddRule(RichTextBox::SignWords words);
 
   // The box whose events are raised; with null none are.
   void SetEvents(const RichTextBox* events) { events_ = events; }
@@ -67,6 +85,7 @@ class RichTextWidget : public QPlainTextEdit {
   void paintEvent(QPaintEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   bool viewportEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   QMimeData* createMimeDataFromSelection() const override;
   void insertFromMimeData(const QMimeData* source) override;
@@ -86,6 +105,8 @@ class RichTextWidget : public QPlainTextEdit {
   };
 
   bool ShowsEndWithin(const QSize& size) const;
+  void NotePress(const QEvent& event);
+  void DrawUnreadLine(QPainter& painter, const QRectF& place) const;
   // Offers a key to the handlers; true when one of them swallowed it or deleted the widget.
   bool Swallowed(int keyCode, int shift, int charCode);
   void PerformKey(QKeyEvent* event);
@@ -107,6 +128,9 @@ class RichTextWidget : public QPlainTextEdit {
   int userDepth_ = 0;
   bool selChanged_ = false;
   bool changed_ = false;
+  bool isPressed_ = false;
+  LinkPointer links_{*this};
+  QTextCursor unread_;          // null without a mark
   QTextCharFormat lastFormat_;  // of the insertion point, after the last change
 };
 

@@ -11,19 +11,27 @@ namespace verlume::qt {
 // would cause that at once, so `cursor` takes its place until the end.
 class TextUpdate {
  public:
-  explicit TextUpdate(RichTextWidget& widget);
+  TextUpdate(RichTextWidget& widget, Reader reader);
   ~TextUpdate();
   TextUpdate(const TextUpdate&) = delete;
   TextUpdate& operator=(const TextUpdate&) = delete;
 
   QTextCursor cursor;
+  bool Stays() const { return reader_ == Reader::Stays; }
   int depth = 1;  // how many updates are nested
   bool selChanged = false;
   bool changed = false;
 
  private:
+  void RestoreView();
+
   const RichTextWidget::ProgramChange change_;
   RichTextWidget& widget_;
+  const Reader reader_;
+  const bool keepsSelection_;
+  const int anchor_;
+  const int position_;
+  const int topLine_;
   QTextCursor edit_;
 };
 

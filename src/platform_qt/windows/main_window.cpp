@@ -13,6 +13,7 @@ QtMainWindow::QtMainWindow(FileSystem& files)
       view_(MainWindowOf(*this)) {
   form_.PlacePane(rtbData.widget(), "rtbData");
   form_.PlaceFindBar(rtbData.widget());
+  form_.PlaceNewLinesButton(rtbData.widget());
   welcomeCard.frame->Follow(rtbData.widget());
   form_.PlacePane(rtbCommands.widget(), "rtbCommands");
   againBar.frame->Follow(rtbCommands.widget());
@@ -32,8 +33,9 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   QWidget::setTabOrder(chkBold.widget(), chkItalics.widget());
   QWidget::setTabOrder(chkItalics.widget(), chkUnderline.widget());
   QWidget::setTabOrder(chkUnderline.widget(), rtbData.widget());
+  QWidget::setTabOrder(rtbData.widget(), cmdNewLines.widget());
   QWidget* const floating =
-      againBar.FollowInTabOrder(welcomeCard.FollowInTabOrder(rtbData.widget()));
+      againBar.FollowInTabOrder(welcomeCard.FollowInTabOrder(cmdNewLines.widget()));
   QWidget::setTabOrder(floating, txtFind.widget());
   QWidget::setTabOrder(txtFind.widget(), cmdFindPrevious.widget());
   QWidget::setTabOrder(cmdFindPrevious.widget(), cmdFindNext.widget());

@@ -101,6 +101,9 @@ class QtMainWindow {
   QtPaneHint lblHint{form_.Find<PaneHint>("lblHint")};
   QtSpellChecker spelling{rtbCommands.widget()};
 
+  QtPanel fraNewLines{form_.Find<QWidget>("fraNewLines")};
+  QtButton cmdNewLines{form_.Find<QPushButton>("cmdNewLines")};
+
   QtWelcomeCard welcomeCard{form_.centralWidget()};
   QtAgainBar againBar{form_.centralWidget()};
 

@@ -89,7 +89,8 @@ MainForm::MainForm()
       layout_(new ProportionalLayout(area_, kDesignSize)),
       findBar_(NewFindBar(area_)),
       completions_(new CompletionFrame(area_)),
-      hint_(new PaneHint(area_)) {
+      hint_(new PaneHint(area_)),
+      newLines_(new NewLinesFrame(area_)) {
   InitResources();
   setObjectName(QStringLiteral("frmMain"));
   setWindowIcon(ProgramIcon());

@@ -9,6 +9,7 @@
 #include "platform_qt/controls/proportional_layout.h"
 #include "platform_qt/windows/completion_list.h"
 #include "platform_qt/windows/main_window_design.h"
+#include "platform_qt/windows/new_lines_button.h"
 #include "platform_qt/windows/pane_hint.h"
 
 namespace verlume::qt {
@@ -30,6 +31,8 @@ class MainForm : public QMainWindow {
   void ShowStatusPanel(bool shown);
   // Puts the find bar at the bottom of a pane's place.
   void PlaceFindBar(QWidget* pane) { layout_->PlaceFoot(pane, findBar_); }
+  // Puts the button that tells of new lines over the lower edge of a pane.
+  void PlaceNewLinesButton(QPlainTextEdit* pane) { newLines_->PlaceOver(pane); }
   // Puts the list of completions and the hint beside a pane, over the other controls.
   void PlaceCompletionList(QWidget* pane) {
     completions_->PlaceBeside(pane);
@@ -52,6 +55,7 @@ class MainForm : public QMainWindow {
   ProportionalLayout* layout_;
   QWidget* findBar_;
   CompletionFrame* completions_;
+  NewLinesFrame* newLines_;
   PaneHint* hint_;
   bool showsStatusPanel_ = true;
 };

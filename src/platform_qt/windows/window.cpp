@@ -63,6 +63,7 @@ bool QtWindow::Close(UnloadMode mode) {
 
 bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched != form_) return false;
+  if (event->type() == QEvent::WindowActivate && onActivated) onActivated();
   if (event->type() == QEvent::Hide && !event->spontaneous() && whileModal_) whileModal_->quit();
   if (event->type() != QEvent::Close) return false;
   // A second request while the first one is being answered is the same wish.
@@ -74,6 +75,10 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
   }
   event->setAccepted(closed);
   return true;
+}
+
+bool QtWindow::IsActive() const {
+  return QApplication::activeWindow() != nullptr;
 }
 
 void QtWindow::FlagForAttention() {

@@ -1,7 +1,9 @@
 #include "shell/program/program.h"
 
+#include "connection/rule_texts.h"
 #include "platform/char_code.h"
 #include "shell/called_hosts.h"
+#include "shell/dialogue_rule.h"
 #include "shell/welcome_card.h"
 
 namespace verlume {
@@ -48,6 +50,8 @@ Program::Program(Platform& platform)
       spelling_(state_, platform, errors_, settings_),
       textFormat_(state_, platform, errors_, settings_, dialogue_),
       find_(state_, platform, errors_),
+      links_(state_, platform, errors_),
+      dialogueMenu_(state_, platform, find_, links_),
       interpreter_(state_, platform, errors_,
                    {.dialogue = dialogue_,
                     .history = history_,
@@ -88,10 +92,12 @@ void Program::Start() {
 
 // Any error ends the chat: its log is closed, and the status line no longer shows it.
 void Program::EndChatAfterError() {
-  const bool wasIdle = StateOf(state_) == ConnectionState::Idle;
+  const ConnectionState left = StateOf(state_);
   ResetConnection(state_, platform_);
+  if (left == ConnectionState::Connected)
+    AddDialogueRule(state_, platform_, rule_texts::kConnectionLost);
   state_.LogOpen = false;
-  if (!wasIdle) platform_.frmMain.lblStatus.SetCaption(u"");
+  if (left != ConnectionState::Idle) platform_.frmMain.lblStatus.SetCaption(u"");
 }
 
 void Program::BindWindow() {
@@ -206,12 +212,24 @@ void Program::BindMenus() {
 
 void Program::BindPanes() {
   MainWindow& frmMain = platform_.frmMain;
+  NewLines& newLines = dialogue_.WhatIsNew();
+  On(frmMain.rtbData.onEndShown, newLines, &NewLines::rtbData_EndShown);
+  On(frmMain.newLines.cmdNewLines.onClick, newLines, &NewLines::cmdNewLines_Click);
+  On(frmMain.window.onActivated, newLines, &NewLines::window_Activated);
   On(frmMain.rtbData.onNearlyFull, dialogue_, &Dialogue::rtbData_NearlyFull);
   frmMain.rtbData.onChange = [this] { ShowWelcomeCard(state_, platform_); };
   On(frmMain.rtbData.onLoadProgress, dialogueFiles_, &DialogueFiles::rtbData_LoadProgress);
-  On(frmMain.rtbCommands.onKeyPress, interpreter_, &CommandInterpreter::rtbCommands_KeyPress);
+  On(frmMain.rtbData.onLink, links_, &DialogueLinks::rtbData_Link);
+  frmMain.rtbData.onContextMenu = [this](std::size_t position) {
+    return dialogueMenu_.rtbData_ContextMenu(position);
+  };
+  frmMain.rtbCommands.onKeyPress = [this](int& charCode) {
+    dialogueMenu_.rtbCommands_KeyPress(charCode);
+    interpreter_.rtbCommands_KeyPress(charCode);
+  };
   On(frmMain.cmdSend.onClick, interpreter_, &CommandInterpreter::cmdSend_Click);
   frmMain.rtbCommands.onKeyDown = [this](int& keyCode, int shift) {
+    dialogue_.WhatIsNew().rtbCommands_KeyDown(keyCode, shift);
     completion_.rtbCommands_KeyDown(keyCode, shift);
     if (keyCode != char_code::kSwallowed) history_.rtbCommands_KeyDown(keyCode, shift);
   };

@@ -4,6 +4,8 @@
 
 #include "commands/completion.h"
 #include "commands/dialogue/dialogue.h"
+#include "commands/dialogue_links.h"
+#include "commands/dialogue_menu.h"
 #include "commands/find_in_dialogue.h"
 #include "commands/history.h"
 #include "commands/interpreter.h"
@@ -81,6 +83,8 @@ class Program {
   SpellCheck spelling_;
   TextFormat textFormat_;
   FindInDialogue find_;
+  DialogueLinks links_;
+  DialogueMenu dialogueMenu_;
   CommandInterpreter interpreter_;
   MacroStyle macroStyle_;
   MacroEditor macroEditor_;

@@ -214,8 +214,8 @@ TEST_F(DialogueTest, EveryParagraphIsFromItsSender) {
   WriteAs(Sender::Remote, u"two\n[09:05:30]<Bob>forged");
   WriteAs(Sender::LocalAction, u"Bob waves");
   WriteAs(Sender::RemoteAction, u"Bob waves");
-  EXPECT_THAT(pane.authors,
-              ElementsAre(Author::User, Author::Peer, Author::Peer, Author::User, Author::Peer));
+  EXPECT_THAT(pane.authors, ElementsAre(Author::UserNotSent, Author::Peer, Author::Peer,
+                                        Author::UserNotSent, Author::Peer));
 }
 
 TEST_F(DialogueTest, ANicknameThatReadsLikeTheUsersIsOfAnAuthorOfItsOwn) {
