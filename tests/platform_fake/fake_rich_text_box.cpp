@@ -203,7 +203,7 @@ void FakeRichTextBox::ChangeAuthor(Author author, Author other, std::size_t skip
   }
 }
 
-void FakeRichTextBox::BeginUpdate(Reader reader) {
+void FakeRichTextBox::BeginUpdate(Reader whoReads) {
   if (updateDepth_++ > 0) return;
   reader_ = reader;
   keptStart_ = selStart_;

@@ -55,8 +55,8 @@ class MainForm : public QMainWindow {
   ProportionalLayout* layout_;
   QWidget* findBar_;
   CompletionFrame* completions_;
-  NewLinesFrame* newLines_;
   PaneHint* hint_;
+  NewLinesFrame* newLines_;
   bool showsStatusPanel_ = true;
 };
 

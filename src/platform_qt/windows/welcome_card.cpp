@@ -9,7 +9,7 @@
 namespace verlume::qt {
 namespace {
 
-constexpr int kSpace = 14;       // pixels, inside the card and at least around it
+constexpr int kCardSpace = 14;       // pixels, inside the card and at least around it
 constexpr int kUsualWidth = 60;  // of a line of the text, in characters of usual width
 
 QLabel* NewCardLabel(QWidget* parent, const char* name) {
@@ -29,30 +29,30 @@ CardFrame::CardFrame(QWidget* area) : FloatingFrame(area, "fraCard") {
   address->setWordWrap(false);
 
   auto* buttons = new QHBoxLayout;
-  buttons->setSpacing(kSpace / 2);
+  buttons->setSpacing(kCardSpace / 2);
   buttons->addStretch();
   for (const char* name : {"cmdCardWait", "cmdCardCall", "cmdCardHelp"}) {
     buttons->addWidget(NewFloatingButton(this, name));
   }
   buttons->addStretch();
   auto* addressRow = new QHBoxLayout;
-  addressRow->setSpacing(kSpace / 2);
+  addressRow->setSpacing(kCardSpace / 2);
   addressRow->addStretch();
   addressRow->addWidget(address);
   addressRow->addWidget(NewFloatingButton(this, "cmdCardCopy"));
   addressRow->addStretch();
 
   auto* inside = new QVBoxLayout(this);
-  inside->setContentsMargins(kSpace, kSpace, kSpace, kSpace);
-  inside->setSpacing(kSpace);
+  inside->setContentsMargins(kCardSpace, kCardSpace, kCardSpace, kCardSpace);
+  inside->setSpacing(kCardSpace);
   inside->addWidget(text);
   inside->addLayout(buttons);
   inside->addLayout(addressRow);
 }
 
 QRect CardFrame::PlaceAt(const QRect& pane) const {
-  const QRect room = pane.adjusted(kSpace, kSpace, -kSpace, -kSpace);
-  const int usual = kUsualWidth * fontMetrics().averageCharWidth() + 2 * kSpace;
+  const QRect room = pane.adjusted(kCardSpace, kCardSpace, -kCardSpace, -kCardSpace);
+  const int usual = kUsualWidth * fontMetrics().averageCharWidth() + 2 * kCardSpace;
   const int least = minimumSizeHint().width();
   const int width = std::min(std::max(usual, least), room.width());
   const int height = heightForWidth(width);
