@@ -25,6 +25,15 @@ struct CompletionList {
   ListBox& lstCompletions;
 };
 
+// The menu Tools > Attention.
+struct AttentionMenu {
+  Menu& mnuAttention;
+  MenuEntry& mnuAttentionLines;
+  MenuEntry& mnuAttentionText;
+  MenuEntry& mnuAttentionSound;
+  MenuEntry& mnuAttentionCount;
+};
+
 struct MainWindow {
   Window& window;
   LayoutControl& freeSizer1;
@@ -69,6 +78,7 @@ struct MainWindow {
   MenuEntry& mnuToolsAlwaysOnTop;
   MenuEntry& mnuToolsLanguageEnglish;
   MenuEntry& mnuToolsLanguageGreek;
+  AttentionMenu attentionMenu;
 
   Menu& mnuView;
   MenuEntry& mnuViewStatusPanel;
@@ -168,6 +178,11 @@ MainWindow MainWindowOf(Controls& controls) {
       .mnuToolsAlwaysOnTop = controls.mnuToolsAlwaysOnTop,
       .mnuToolsLanguageEnglish = controls.mnuToolsLanguageEnglish,
       .mnuToolsLanguageGreek = controls.mnuToolsLanguageGreek,
+      .attentionMenu = {.mnuAttention = controls.mnuAttention,
+                        .mnuAttentionLines = controls.mnuAttentionLines,
+                        .mnuAttentionText = controls.mnuAttentionText,
+                        .mnuAttentionSound = controls.mnuAttentionSound,
+                        .mnuAttentionCount = controls.mnuAttentionCount},
       .mnuView = controls.mnuView,
       .mnuViewStatusPanel = controls.mnuViewStatusPanel,
       .mnuViewZoomIn = controls.mnuViewZoomIn,

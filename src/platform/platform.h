@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/about_window.h"
+#include "platform/attention.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/macro_window.h"
@@ -24,6 +25,7 @@ struct Platform {
   Application& application;
   HelpViewer& help;
   SystemTools& tools;
+  Attention& attention;
 };
 
 }  // namespace verlume

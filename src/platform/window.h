@@ -28,6 +28,8 @@ class Window {
   // Closes the window: raises onQueryUnload with UnloadMode::Code and, unless that cancels,
   // onUnload. Does nothing if the window has been unloaded already.
   virtual void Unload() = 0;
+  // Whether the user is in a window of the program.
+  virtual bool IsActive() const = 0;
   // Flags the window's task bar entry until the user comes back to the program. Does nothing while
   // the user is in a window of the program; never raises a window or takes the keyboard.
   virtual void FlagForAttention() = 0;

@@ -28,6 +28,7 @@ QtPlatform::QtPlatform()
           .application = application_,
           .help = help_,
           .tools = tools_,
+          .attention = attention_,
       } {
   QApplication::setStyle(new ReadableStyle);
   // The program yields while it handles a key. A box that opened then would keep that key waiting

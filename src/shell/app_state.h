@@ -62,6 +62,12 @@ struct AppState {
   // Whether a list below the command pane suggests completions of a word that begins with "/".
   bool SuggestCommands = true;
 
+  // How the user is told of what happens while another program is in use.
+  bool NotifyLines = true;   // notifications of lines and calls
+  bool NotifyText = false;   // with the text of the line
+  bool NotifySound = false;  // a sound
+  bool NotifyCount = true;   // the number of unread lines on the icon
+
   // The command history: element 0 holds the number of lines as text, 1 is the oldest line.
   std::array<std::u16string, kHistoryCapacity + 1> History;
   std::int16_t HistoryUp = 1;     // Page Up shows the line before this one

@@ -60,6 +60,7 @@ enum class Procedure : int {
   CommandCompletion = 255,
   mnuToolsCompletions_Click = 256,
   View = 257,  // the View menu
+  Attention = 280,
 };
 
 }  // namespace verlume

@@ -22,6 +22,10 @@ inline constexpr std::u16string_view kAlwaysOnTop = u"AlwaysOnTop";
 inline constexpr std::u16string_view kMacrosFolder = u"Macrosfolder";
 inline constexpr std::u16string_view kSuggestCommands = u"Suggestcommands";
 inline constexpr std::u16string_view kMostParagraphs = u"Mostparagraphs";
+inline constexpr std::u16string_view kNotifyLines = u"NotifyLines";
+inline constexpr std::u16string_view kNotifyText = u"NotifyText";
+inline constexpr std::u16string_view kNotifySound = u"NotifySound";
+inline constexpr std::u16string_view kNotifyCount = u"NotifyCount";
 // Of FontLocal.
 inline constexpr std::u16string_view kFontName = u"Name";
 inline constexpr std::u16string_view kFontBold = u"Bold";

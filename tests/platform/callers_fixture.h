@@ -131,7 +131,8 @@ class CallersFixture : public testing::Test {
                        fake.locale,
                        fake.application,
                        fake.help,
-                       fake.tools};
+                       fake.tools,
+                       fake.attention};
   Program program{platform};
   SocketUser peer{world.New()};
   SocketUser other{world.New()};

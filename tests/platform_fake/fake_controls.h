@@ -243,6 +243,7 @@ class FakeWindow : public Window {
     if (!unloaded) throw std::logic_error("the modal window stays open");
   }
   void Unload() override { Close(UnloadMode::Code); }
+  bool IsActive() const override { return active; }
   void FlagForAttention() override { ++timesFlagged; }
   bool CanBeTopMost() const override { return canBeTopMost; }
   bool SetTopMost(bool value) override {
@@ -261,6 +262,7 @@ class FakeWindow : public Window {
     if (onUnload) onUnload();
   }
 
+  bool active = true;
   std::function<void()> whileModal;
   std::optional<FailureNumber> titleFails;
   std::u16string title;

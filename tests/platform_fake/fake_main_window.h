@@ -50,6 +50,11 @@ struct FakeMainWindow {
   FakeMenuEntry mnuToolsAlwaysOnTop;
   FakeMenuEntry mnuToolsLanguageEnglish;
   FakeMenuEntry mnuToolsLanguageGreek;
+  FakeMenu mnuAttention;
+  FakeMenuEntry mnuAttentionLines;
+  FakeMenuEntry mnuAttentionText;
+  FakeMenuEntry mnuAttentionSound;
+  FakeMenuEntry mnuAttentionCount;
   FakeMenu mnuView;
   FakeMenuEntry mnuViewStatusPanel;
   FakeMenuEntry mnuViewZoomIn;

@@ -19,6 +19,7 @@ FakePlatform::FakePlatform(FakeNetwork& network)
           .application = application,
           .help = help,
           .tools = tools,
+          .attention = attention,
       } {
   files.MakeFolder(u"/verlume");
 }

@@ -3,6 +3,7 @@
 
 #include "platform/platform.h"
 #include "platform_fake/fake_about_window.h"
+#include "platform_fake/fake_attention.h"
 #include "platform_fake/fake_dialogs.h"
 #include "platform_fake/fake_file_system.h"
 #include "platform_fake/fake_macro_window.h"
@@ -29,6 +30,7 @@ struct FakePlatform {
   FakeApplication application;
   FakeHelpViewer help;
   FakeSystemTools tools;
+  FakeAttention attention;
 
   Platform platform;
 };

@@ -108,7 +108,8 @@ TEST_F(LogFolderTest, ConversationThatBeginsDuringTheDialogKeepsItsFolder) {
   Platform platform = {fake.window.frmMain, fake.about.frmAbout, fake.macros.frmMacros,
                        fake.socket,         fake.dialogs,        dialog,
                        fake.files,          fake.clock,          fake.locale,
-                       fake.application,    fake.help,           fake.tools};
+                       fake.application,    fake.help,           fake.tools,
+                       fake.attention};
   DialogueLog logUnderDialog{state, platform, errors, settings};
   state.LogFolder = u"/old/";
   state.LogDialogue = true;

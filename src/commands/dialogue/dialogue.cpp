@@ -39,6 +39,10 @@ bool IsAction(Sender sender) {
   return sender == Sender::LocalAction || sender == Sender::RemoteAction;
 }
 
+bool IsFromPeer(Sender sender) {
+  return sender == Sender::Remote || sender == Sender::RemoteAction;
+}
+
 void GoToEnd(RichTextBox& pane) {
   pane.Select(pane.TextLength(), 0);
 }
@@ -81,6 +85,7 @@ void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
   richtext::Document document = richtext::ReadJoinedRtfDocuments(rtf);
   std::u16string logLine;
   if (log_.IsRecording()) logLine = u"[" + both + u"]" + tag + document.text;
+  if (onRemoteLine && IsFromPeer(sender)) onRemoteLine(sender, document.text);
   richtext::KeepWithinBudget(document);
   AddToPane(stamp, tag, sender, std::move(document));
   log_.AppendToLog(std::move(logLine));
@@ -93,8 +98,7 @@ std::u16string Dialogue::TagOf(Sender sender) const {
 }
 
 Author Dialogue::AuthorOf(Sender sender) const {
-  const bool isRemote = sender == Sender::Remote || sender == Sender::RemoteAction;
-  return isRemote ? PeerAsAuthor(state_) : Author::User;
+  return IsFromPeer(sender) ? PeerAsAuthor(state_) : Author::User;
 }
 
 void Dialogue::AddToPane(std::u16string_view stamp, std::u16string_view tag, Sender sender,

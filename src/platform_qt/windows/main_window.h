@@ -69,6 +69,12 @@ class QtMainWindow {
   QtMenuEntry mnuToolsLanguageEnglish{form_.Find<QAction>("mnuToolsLanguageEnglish")};
   QtMenuEntry mnuToolsLanguageGreek{form_.Find<QAction>("mnuToolsLanguageGreek")};
 
+  QtMenu mnuAttention{form_.Find<QMenu>("mnuAttention")};
+  QtMenuEntry mnuAttentionLines{form_.Find<QAction>("mnuAttentionLines")};
+  QtMenuEntry mnuAttentionText{form_.Find<QAction>("mnuAttentionText")};
+  QtMenuEntry mnuAttentionSound{form_.Find<QAction>("mnuAttentionSound")};
+  QtMenuEntry mnuAttentionCount{form_.Find<QAction>("mnuAttentionCount")};
+
   QtMenu mnuView{form_.Find<QMenu>("mnuView")};
   QtMenuEntry mnuViewStatusPanel{form_.Find<QAction>("mnuViewStatusPanel")};
   QtMenuEntry mnuViewZoomIn{form_.Find<QAction>("mnuViewZoomIn")};

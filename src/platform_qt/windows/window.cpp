@@ -76,6 +76,10 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
+bool QtWindow::IsActive() const {
+  return QApplication::activeWindow() != nullptr;
+}
+
 void QtWindow::FlagForAttention() {
   // Does nothing while the form or a box over it is active.
   QApplication::alert(form_);

@@ -19,6 +19,7 @@ class QtWindow : public QObject, public Window {
   void Show() override;
   void ShowModal() override;
   void Unload() override;
+  bool IsActive() const override;
   void FlagForAttention() override;
   bool CanBeTopMost() const override;
   bool SetTopMost(bool topMost) override;

@@ -123,7 +123,8 @@ TEST_F(QtMainWindowTest, TheTickedEntriesAreCheckable) {
   QStringList expected{"mnuFileLogRecord",       "mnuFormatFontBold",   "mnuFormatFontItalics",
                        "mnuFormatFontUnderline", "mnuToolsCompletions", "mnuToolsDate",
                        "mnuToolsTime",           "mnuToolsAlwaysOnTop", "mnuToolsLanguageEnglish",
-                       "mnuToolsLanguageGreek",  "mnuViewStatusPanel"};
+                       "mnuToolsLanguageGreek",  "mnuViewStatusPanel",  "mnuAttentionLines",
+                       "mnuAttentionText",       "mnuAttentionSound",   "mnuAttentionCount"};
   expected.sort();
   EXPECT_EQ(checkable, expected);
 }

@@ -196,7 +196,8 @@ TEST_F(StartUpTest, ALongHostNameIsCutToANickname) {
   Platform other = {window.frmMain,   fake.about.frmAbout, fake.macros.frmMacros,
                     socket,           fake.dialogs,        fake.commonDialog,
                     fake.files,       fake.clock,          fake.locale,
-                    fake.application, fake.help,           fake.tools};
+                    fake.application, fake.help,           fake.tools,
+                    fake.attention};
   StartUp longNamed(state, other, errors, settings, language,
                     {[] {}, [] { return std::u16string(); }, [] {}});
   longNamed.Form_Load();
