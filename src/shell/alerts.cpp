@@ -29,7 +29,6 @@ void Alerts::OnRemoteLine(std::u16string_view text, bool isAction) {
 }
 
 void Alerts::OnIncomingCall(std::u16string_view address) {
-  if (platform_.frmMain.window.IsActive()) return;
   Notify(alert_texts::kIncomingCall.In(state_.IsGreek),
          alert_texts::kIsCalling.Fill(state_.IsGreek, {address}));
 }

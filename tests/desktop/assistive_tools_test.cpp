@@ -2,6 +2,7 @@
 // memory.
 #include <gmock/gmock.h>
 
+#include <QAccessible>
 #include <QTest>
 
 #include "desktop/screen_reader.h"
@@ -101,6 +102,20 @@ TEST_F(AssistiveToolsTest, AValueIsReadWithItsNameAndItsCaptionIsNot) {
   EXPECT_THAT(greek, Not(Contains(HasSubstr("address"))));
 }
 
+QStringList renamed;
+
+TEST_F(AssistiveToolsTest, AnotherValueIsToldOnce) {
+  const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+    if (event->type() != QAccessible::NameChanged) return;
+    renamed.append(event->accessibleInterface()->text(QAccessible::Name));
+  });
+  renamed.clear();
+  window.View().lblChatDuration.SetCaption(u"0:00:05");
+  window.View().lblChatDuration.SetCaption(u"0:00:05");
+  QAccessible::installUpdateHandler(before);
+  EXPECT_EQ(renamed, QStringList{"Duration: 0:00:05"});
+}
+
 TEST_F(AssistiveToolsTest, StateChangesAndThePeersLinesAreReadOutOnce) {
   Enter(u"/WAIT 4000");
   Tick();
@@ -120,6 +135,19 @@ TEST_F(AssistiveToolsTest, StateChangesAndThePeersLinesAreReadOutOnce) {
       "Connection state: waiting", "Connection state: connected", "Bob: Good morning", "Bob waves"};
   EXPECT_TRUE(WaitFor([&] { return Heard() == expected; })) << testing::PrintToString(Heard());
   EXPECT_THAT(Heard(), Each(Not(HasSubstr("Hello yourself"))));
+}
+
+TEST_F(AssistiveToolsTest, AnAnnouncementIsNotSeenAndTakesNoKeyboard) {
+  window.form().activateWindow();
+  ASSERT_TRUE(WaitFor([&] { return window.View().window.IsActive(); }));
+  const QWidget* focused = QApplication::focusWidget();
+  const auto corner = [&] { return window.form().grab(QRect(0, 0, 4, 4)).toImage(); };
+  const QImage before = corner();
+  attention.Announce(u"Bob: hello");
+  EXPECT_TRUE(WaitFor([&] { return Heard() == std::vector<std::string>{"Bob: hello"}; }));
+  EXPECT_EQ(corner(), before);
+  EXPECT_EQ(QApplication::focusWidget(), focused);
+  EXPECT_EQ(window.form().childAt(0, 0), window.form().menuWidget());
 }
 
 TEST_F(AssistiveToolsTest, ManyLinesAtOnceAreReadOutAsTheirNumber) {
