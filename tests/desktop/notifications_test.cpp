@@ -160,7 +160,7 @@ TEST(NotificationsTestWithoutServer, NothingHappens) {
   attention.Withdraw();
   // A server that comes later is asked then.
   NotificationServer server;
-  EXPECT_TRUE(WaitFor([&] {
+  ASSERT_TRUE(WaitFor([&] {
     attention.Notify({u"Bob", u"three", false});
     return !server.shown.empty();
   }));
