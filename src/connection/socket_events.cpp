@@ -21,6 +21,7 @@ void SocketEvents::sckControl_ConnectionRequest(std::int64_t requestId) {
   if (refused_.IsTurnedAway(ip, now_)) return platform_.sckControl.Reject(requestId);
   errors_.Guard(Procedure::sckControl_ConnectionRequest, [&] {
     ShowPeer(ip);
+    if (onIncomingCall) onIncomingCall(ip);
     const bool isAccepted = AskWhetherToAccept(ip);
     // The wait may have ended while the question was open: any error ends it, and has been
     // reported. Then there is no call to accept or reject.

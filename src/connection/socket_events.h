@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "connection/refused_callers.h"
@@ -34,6 +35,9 @@ class SocketEvents {
   // if it had closed the connection. One that has said something may stay silent. And shows which
   // callers are still turned away.
   void tmrTimer_Timer();
+
+  // Raised with the caller's address when the user is about to be asked about a call.
+  std::function<void(std::u16string_view address)> onIncomingCall;
 
  private:
   bool IsSilentCaller() const;

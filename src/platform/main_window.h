@@ -36,6 +36,15 @@ struct NewLinesButton {
   Button& cmdNewLines;
 };
 
+// The menu Tools > Attention.
+struct AttentionMenu {
+  Menu& mnuAttention;
+  MenuEntry& mnuAttentionLines;
+  MenuEntry& mnuAttentionText;
+  MenuEntry& mnuAttentionSound;
+  MenuEntry& mnuAttentionCount;
+};
+
 struct MainWindow {
   Window& window;
   LayoutControl& freeSizer1;
@@ -81,6 +90,7 @@ struct MainWindow {
   MenuEntry& mnuToolsAlwaysOnTop;
   MenuEntry& mnuToolsLanguageEnglish;
   MenuEntry& mnuToolsLanguageGreek;
+  AttentionMenu attentionMenu;
   MenuEntry& mnuToolsCheckSpelling;
 
   Menu& mnuView;
@@ -188,6 +198,11 @@ MainWindow MainWindowOf(Controls& controls) {
       .mnuToolsAlwaysOnTop = controls.mnuToolsAlwaysOnTop,
       .mnuToolsLanguageEnglish = controls.mnuToolsLanguageEnglish,
       .mnuToolsLanguageGreek = controls.mnuToolsLanguageGreek,
+      .attentionMenu = {.mnuAttention = controls.mnuAttention,
+                        .mnuAttentionLines = controls.mnuAttentionLines,
+                        .mnuAttentionText = controls.mnuAttentionText,
+                        .mnuAttentionSound = controls.mnuAttentionSound,
+                        .mnuAttentionCount = controls.mnuAttentionCount},
       .mnuToolsCheckSpelling = controls.mnuToolsCheckSpelling,
       .mnuView = controls.mnuView,
       .mnuViewStatusPanel = controls.mnuViewStatusPanel,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/about_window.h"
+#include "platform/attention.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/links.h"
@@ -26,6 +27,7 @@ struct Platform {
   HelpViewer& help;
   SystemTools& tools;
   LinkOpener& links;
+  Attention& attention;
 };
 
 }  // namespace verlume

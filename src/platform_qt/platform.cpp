@@ -29,6 +29,7 @@ QtPlatform::QtPlatform()
           .help = help_,
           .tools = tools_,
           .links = links_,
+          .attention = attention_,
       } {
   QApplication::setStyle(new ReadableStyle);
   // The program yields while it handles a key. A box that opened then would keep that key waiting

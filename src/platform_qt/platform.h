@@ -4,6 +4,7 @@
 #include <QDir>
 
 #include "platform/platform.h"
+#include "platform_qt/attention/attention.h"
 #include "platform_qt/dialogs/common_dialog.h"
 #include "platform_qt/dialogs/dialogs.h"
 #include "platform_qt/help/help_viewer.h"
@@ -52,6 +53,7 @@ class QtPlatform {
   QtSocket socket_;
   QtDialogs dialogs_{&window_.form()};
   QtCommonDialog commonDialog_{&window_.form()};
+  QtAttention attention_{&window_.form()};
 
   Platform view_;
 };

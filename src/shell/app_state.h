@@ -74,6 +74,11 @@ struct AppState {
 
   // Whether the spelling of what is typed is checked.
   bool CheckSpelling = true;
+  // How the user is told of what happens while another program is in use.
+  bool NotifyLines = true;   // notifications of lines and calls
+  bool NotifyText = false;   // with the text of the line
+  bool NotifySound = false;  // a sound
+  bool NotifyCount = true;   // the number of unread lines on the icon
 
   // The command history: element 0 holds the number of lines as text, 1 is the oldest line.
   std::array<std::u16string, kHistoryCapacity + 1> History;

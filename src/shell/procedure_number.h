@@ -59,10 +59,11 @@ enum class Procedure : int {
   rtbMacroText_KeyPress = 254,
   CommandCompletion = 255,
   mnuToolsCompletions_Click = 256,
-  OpenLink = 260,
   View = 257,  // the View menu
+  OpenLink = 260,
   SpellCheck = 275,
   mnuToolsCheckSpelling_Click = 276,
+  Attention = 280,
 };
 
 }  // namespace verlume

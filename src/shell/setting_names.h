@@ -24,6 +24,10 @@ inline constexpr std::u16string_view kSuggestCommands = u"Suggestcommands";
 inline constexpr std::u16string_view kMostParagraphs = u"Mostparagraphs";
 inline constexpr std::u16string_view kCalled = u"Called";  // and a number: "Called1"
 inline constexpr std::u16string_view kCheckSpelling = u"CheckSpelling";
+inline constexpr std::u16string_view kNotifyLines = u"NotifyLines";
+inline constexpr std::u16string_view kNotifyText = u"NotifyText";
+inline constexpr std::u16string_view kNotifySound = u"NotifySound";
+inline constexpr std::u16string_view kNotifyCount = u"NotifyCount";
 // Of FontLocal.
 inline constexpr std::u16string_view kFontName = u"Name";
 inline constexpr std::u16string_view kFontBold = u"Bold";

@@ -42,14 +42,18 @@ void TakeSwitch(Value value, bool& field, MenuEntry& entry) {
   SetSwitch(field, value ? BooleanOf(*value) : field, entry);
 }
 
-// On unless the value clearly says no: a misspelt value of a mere convenience is not worth an error
-// message at every start.
-bool IsNotOff(Value value) {
+// A misspelt value of a mere convenience counts as missing: it is not worth an error message at
+// every start.
+bool BooleanOr(Value value, bool missing) {
   try {
-    return !value || BooleanOf(*value);
+    return value ? BooleanOf(*value) : missing;
   } catch (const RunTimeFailure&) {
-    return true;
+    return missing;
   }
+}
+
+bool IsNotOff(Value value) {
+  return BooleanOr(value, true);
 }
 
 std::optional<Color> ColorOf(Value value) {
@@ -158,6 +162,26 @@ constexpr Key kKeys[] = {
      [](Value value, Target to) {
        SetSwitch(to.state.CheckSpelling, IsNotOff(value), to.frmMain.mnuToolsCheckSpelling);
      }},
+    {setting_section::kGeneral, setting_key::kNotifyLines, 20, kNull, CheckText,
+     [](Value value, Target to) {
+       SetSwitch(to.state.NotifyLines, BooleanOr(value, true),
+                 to.frmMain.attentionMenu.mnuAttentionLines);
+     }},
+    {setting_section::kGeneral, setting_key::kNotifyText, 20, kNull, CheckText,
+     [](Value value, Target to) {
+       SetSwitch(to.state.NotifyText, BooleanOr(value, false),
+                 to.frmMain.attentionMenu.mnuAttentionText);
+     }},
+    {setting_section::kGeneral, setting_key::kNotifySound, 20, kNull, CheckText,
+     [](Value value, Target to) {
+       SetSwitch(to.state.NotifySound, BooleanOr(value, false),
+                 to.frmMain.attentionMenu.mnuAttentionSound);
+     }},
+    {setting_section::kGeneral, setting_key::kNotifyCount, 20, kNull, CheckText,
+     [](Value value, Target to) {
+       SetSwitch(to.state.NotifyCount, BooleanOr(value, true),
+                 to.frmMain.attentionMenu.mnuAttentionCount);
+     }},
 };
 
 // The value of a key in the file.
@@ -193,6 +217,10 @@ void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
   SetSwitch(state.LogDialogue, false, frmMain.mnuFileLogRecord);
   SetSwitch(state.SuggestCommands, true, frmMain.mnuToolsCompletions);
   SetSwitch(state.CheckSpelling, true, frmMain.mnuToolsCheckSpelling);
+  SetSwitch(state.NotifyLines, true, frmMain.attentionMenu.mnuAttentionLines);
+  SetSwitch(state.NotifyText, false, frmMain.attentionMenu.mnuAttentionText);
+  SetSwitch(state.NotifySound, false, frmMain.attentionMenu.mnuAttentionSound);
+  SetSwitch(state.NotifyCount, true, frmMain.attentionMenu.mnuAttentionCount);
   frmMain.rtbData.SetMostParagraphs(kDefaultMostParagraphs);
 }
 

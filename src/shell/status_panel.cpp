@@ -5,7 +5,6 @@
 #include "platform/run_time_failure.h"
 #include "shell/conversions.h"
 #include "shell/date_time_text.h"
-#include "shell/text_pair.h"
 
 namespace verlume {
 namespace {
@@ -55,11 +54,15 @@ std::u16string DurationText(std::int32_t seconds) {
 
 }  // namespace
 
+const TextPair& ConnectionStateWords(const AppState& state) {
+  return LookOf(state).words;
+}
+
 void ShowLamp(const AppState& state, const MainWindow& frmMain) {
   const LampLook& look = LookOf(state);
   frmMain.shpStatus.SetBorderColor(look.color);
   frmMain.shpStatus.SetFillColor(look.color);
-  frmMain.picShape.SetAccessibleName(look.words.In(state.IsGreek));
+  frmMain.picShape.SetAccessibleName(ConnectionStateWords(state).In(state.IsGreek));
 }
 
 std::u16string GroupedNumberText(std::int32_t number, const Locale& locale) {

@@ -8,8 +8,12 @@
 #include "platform/platform.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
+#include "shell/text_pair.h"
 
 namespace verlume {
+
+// The connection state in words.
+const TextPair& ConnectionStateWords(const AppState& state);
 
 // Shows the connection state: by the lamp's colour, and in words that assistive tools read for
 // picShape.

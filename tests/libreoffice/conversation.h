@@ -48,7 +48,8 @@ class Conversation {
   Platform platform_ = {window_.View(),     fakes_.about.frmAbout, fakes_.macros.frmMacros,
                         fakes_.socket,      fakes_.dialogs,        fakes_.commonDialog,
                         fakes_.files,       fakes_.clock,          fakes_.locale,
-                        fakes_.application, fakes_.help,           fakes_.tools};
+                        fakes_.application, fakes_.help,           fakes_.tools,
+                        fakes_.attention};
   Program program_{platform_};
 };
 

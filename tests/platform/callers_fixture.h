@@ -132,7 +132,8 @@ class CallersFixture : public testing::Test {
                        fake.application,
                        fake.help,
                        fake.tools,
-                       fake.links};
+                       fake.links,
+                       fake.attention};
   Program program{platform};
   SocketUser peer{world.New()};
   SocketUser other{world.New()};

@@ -54,6 +54,11 @@ struct FakeMainWindow {
   FakeMenuEntry mnuToolsAlwaysOnTop;
   FakeMenuEntry mnuToolsLanguageEnglish;
   FakeMenuEntry mnuToolsLanguageGreek;
+  FakeMenu mnuAttention;
+  FakeMenuEntry mnuAttentionLines;
+  FakeMenuEntry mnuAttentionText;
+  FakeMenuEntry mnuAttentionSound;
+  FakeMenuEntry mnuAttentionCount;
   FakeMenuEntry mnuToolsCheckSpelling;
   FakeMenu mnuView;
   FakeMenuEntry mnuViewStatusPanel;

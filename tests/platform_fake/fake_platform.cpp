@@ -20,6 +20,7 @@ FakePlatform::FakePlatform(FakeNetwork& network)
           .help = help,
           .tools = tools,
           .links = links,
+          .attention = attention,
       } {
   files.MakeFolder(u"/verlume");
 }

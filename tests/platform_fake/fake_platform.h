@@ -3,6 +3,7 @@
 
 #include "platform/platform.h"
 #include "platform_fake/fake_about_window.h"
+#include "platform_fake/fake_attention.h"
 #include "platform_fake/fake_dialogs.h"
 #include "platform_fake/fake_file_system.h"
 #include "platform_fake/fake_macro_window.h"
@@ -30,6 +31,7 @@ struct FakePlatform {
   FakeHelpViewer help;
   FakeSystemTools tools;
   FakeLinkOpener links;
+  FakeAttention attention;
 
   Platform platform;
 };

@@ -109,7 +109,7 @@ TEST_F(LogFolderTest, ConversationThatBeginsDuringTheDialogKeepsItsFolder) {
                        fake.socket,         fake.dialogs,        dialog,
                        fake.files,          fake.clock,          fake.locale,
                        fake.application,    fake.help,           fake.tools,
-                       fake.links};
+                       fake.links,          fake.attention};
   DialogueLog logUnderDialog{state, platform, errors, settings};
   state.LogFolder = u"/old/";
   state.LogDialogue = true;

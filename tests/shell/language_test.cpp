@@ -97,18 +97,20 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
                mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
                mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
-               mnuToolsCheckSpelling, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
-               mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands,
-               rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult,
-               cmdFindClose, fraCompletions, lstCompletions, fraNewLines, cmdNewLines, welcomeCard,
-               againBar, lblHint, spelling, cmdSend, chkBold, chkItalics, chkUnderline, lblColor,
-               lblStatus, prgStatus, lblWaiting, fraPanel, lblCurrentDateTime, lblChatStartDateTime,
-               lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP,
-               lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
-               lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
-               lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
-               lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
-               shpStatus, lblCopyright, picCopyright, frmMain] = mainWindow;
+               mnuAttention, mnuAttentionLines, mnuAttentionText, mnuAttentionSound,
+               mnuAttentionCount, mnuToolsCheckSpelling, mnuView, mnuViewStatusPanel, mnuViewZoomIn,
+               mnuViewZoomOut, mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData,
+               rtbCommands, rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext,
+               lblFindResult, cmdFindClose, fraCompletions, lstCompletions, fraNewLines,
+               cmdNewLines, welcomeCard, againBar, lblHint, spelling, cmdSend, chkBold, chkItalics,
+               chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, fraPanel,
+               lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
+               lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
+               lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
+               lblChatDurationCaption, lblLocalPortCaption, lblLocalNicknameCaption,
+               lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
+               lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright, frmMain] =
+      mainWindow;
   (void)frmMain;
   ShownTexts texts;
   const auto collect = [&texts](const auto&... elements) { (Collect(texts, elements), ...); };
@@ -120,7 +122,8 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros,
           mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue, mnuToolsClearCommands,
           mnuToolsClearHistory, mnuToolsDate, mnuToolsTime, mnuToolsAlwaysOnTop,
-          mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuToolsCheckSpelling, mnuView,
+          mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuAttention, mnuAttentionLines,
+          mnuAttentionText, mnuAttentionSound, mnuAttentionCount, mnuToolsCheckSpelling, mnuView,
           mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut, mnuViewZoomReset, mnuHelp,
           mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote, fraFind, txtFind,
           cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose, fraCompletions, lstCompletions,

@@ -137,6 +137,25 @@ TEST_F(SettingsReaderTest, CommandsAreSuggestedUnlessTheFileClearlySaysNo) {
   EXPECT_EQ(fake.files.ReadText(kIniFile).find(u"Suggest"), std::u16string::npos);
 }
 
+TEST_F(SettingsReaderTest, ASwitchOfAttentionThatMakesNoSenseTakesItsDefault) {
+  for (const char* value : {"maybe", "", "NULL", "of"}) {
+    const std::string text(value);
+    state.NotifyLines = false;
+    state.NotifyText = true;
+    Read("[General]\nNotifyLines=" + text + "\nNotifyText=" + text + "\nNotifySound=" + text +
+         "\nNotifyCount=" + text + "\n");
+    EXPECT_TRUE(state.NotifyLines) << value;
+    EXPECT_FALSE(state.NotifyText) << value;
+    EXPECT_FALSE(state.NotifySound) << value;
+    EXPECT_TRUE(state.NotifyCount) << value;
+  }
+  Read("[General]\nNotifyLines=False\nNotifyText=True\nNotifySound=1\nNotifyCount=0\n");
+  EXPECT_FALSE(window.mnuAttentionLines.checked);
+  EXPECT_TRUE(window.mnuAttentionText.checked);
+  EXPECT_TRUE(window.mnuAttentionSound.checked);
+  EXPECT_FALSE(window.mnuAttentionCount.checked);
+}
+
 TEST_F(SettingsReaderTest, AValueThatStartsWithNullCountsAsMissing) {
   for (const char* value : {"NULL", "NULLx", "NULL and void"}) {
     Read(std::string("[General]\nDateStamp=") + value + "\n");

@@ -40,7 +40,7 @@ bool IsAction(Sender sender) {
   return sender == Sender::LocalAction || sender == Sender::RemoteAction;
 }
 
-bool IsRemote(Sender sender) {
+bool IsFromPeer(Sender sender) {
   return sender == Sender::Remote || sender == Sender::RemoteAction;
 }
 
@@ -91,10 +91,11 @@ void Dialogue::WriteLine(std::u16string_view rtf, Sender sender) {
   richtext::Document document = richtext::ReadJoinedRtfDocuments(rtf);
   std::u16string logLine;
   if (log_.IsRecording()) logLine = u"[" + both + u"]" + tag + document.text;
+  if (onRemoteLine && IsFromPeer(sender)) onRemoteLine(sender, document.text);
   richtext::KeepWithinBudget(document);
-  const Reader reader = IsRemote(sender) ? newLines_.ReaderNow() : Reader::Follows;
+  const Reader reader = IsFromPeer(sender) ? newLines_.ReaderNow() : Reader::Follows;
   const std::size_t start = AddToPane(stamp, tag, sender, std::move(document), reader);
-  if (IsRemote(sender)) {
+  if (IsFromPeer(sender)) {
     newLines_.NoteArrived(start, reader);
   } else {
     newLines_.NoteSaid();
@@ -109,7 +110,7 @@ std::u16string Dialogue::TagOf(Sender sender) const {
 }
 
 Author Dialogue::AuthorOf(Sender sender) const {
-  if (IsRemote(sender)) return PeerAsAuthor(state_);
+  if (IsFromPeer(sender)) return PeerAsAuthor(state_);
   const bool isSent = platform_.sckControl.State() == SocketState::Connected;
   return isSent ? Author::User : Author::UserNotSent;
 }

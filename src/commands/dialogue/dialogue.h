@@ -1,6 +1,7 @@
 // The dialogue pane. Every line that enters it goes through WriteDialogueLine.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -52,6 +53,9 @@ class Dialogue {
 
   // The pane is nearly full: says so in the pane, and how the dialogue is saved before lines leave.
   void rtbData_NearlyFull();
+
+  // Raised for each line of the peer, with its plain text, when it is being written.
+  std::function<void(Sender sender, std::u16string_view text)> onRemoteLine;
 
  private:
   void FollowUnlessReading();

@@ -1,5 +1,6 @@
 #include "platform_qt/controls/controls.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <algorithm>
 #include <chrono>
@@ -7,6 +8,15 @@
 #include "platform_qt/controls/proportional_layout.h"
 
 namespace verlume::qt {
+
+void QtLabel::SetCaption(std::u16string_view text) {
+  const QString caption = ToQt(text);
+  if (caption == widget_->text()) return;
+  widget_->setText(caption);
+  // Qt itself says so only of a label that has no accessible name.
+  QAccessibleEvent renamed(widget_, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&renamed);
+}
 
 void QtLabel::SetBackColor(Color color) {
   QPalette palette = widget_->palette();

@@ -19,7 +19,7 @@ class QtLabel : public QtControl<Label, QLabel> {
  public:
   using QtControl::QtControl;
 
-  void SetCaption(std::u16string_view text) override { widget_->setText(ToQt(text)); }
+  void SetCaption(std::u16string_view text) override;
   std::u16string Caption() const override { return FromQt(widget_->text()); }
   void SetTag(std::u16string_view text) override { tag_ = text; }
   std::u16string Tag() const override { return tag_; }

@@ -1,5 +1,6 @@
 #include "platform_qt/controls/controls_label.h"
 
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -7,6 +8,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "platform_qt/controls/label_accessibility.h"
 #include "platform_qt/controls/tool_tip.h"
 
 namespace verlume::qt {
@@ -29,6 +31,8 @@ QString OneParagraph(QString text) {
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
+  // Does nothing but the first time.
+  QAccessible::installFactory(NewLabelInterface);
 }
 
 QSize ElidedLabel::sizeHint() const {

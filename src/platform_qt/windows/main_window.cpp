@@ -27,19 +27,21 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   QFont strong;
   strong.setWeight(QFont::DemiBold);
   lblStatus.widget()->setFont(strong);
-  // Tab follows the reading order, and starts at the command pane.
-  QWidget::setTabOrder(rtbCommands.widget(), cmdSend.widget());
-  QWidget::setTabOrder(cmdSend.widget(), chkBold.widget());
-  QWidget::setTabOrder(chkBold.widget(), chkItalics.widget());
-  QWidget::setTabOrder(chkItalics.widget(), chkUnderline.widget());
-  QWidget::setTabOrder(chkUnderline.widget(), rtbData.widget());
+  // Tab goes down the window as the eye does, and from its end to its beginning. It starts at the
+  // command pane.
   QWidget::setTabOrder(rtbData.widget(), cmdNewLines.widget());
-  QWidget* const floating =
-      againBar.FollowInTabOrder(welcomeCard.FollowInTabOrder(cmdNewLines.widget()));
-  QWidget::setTabOrder(floating, txtFind.widget());
-  QWidget::setTabOrder(txtFind.widget(), cmdFindPrevious.widget());
-  QWidget::setTabOrder(cmdFindPrevious.widget(), cmdFindNext.widget());
-  QWidget::setTabOrder(cmdFindNext.widget(), cmdFindClose.widget());
+  const QList<QWidget*> down = {
+      againBar.FollowInTabOrder(welcomeCard.FollowInTabOrder(cmdNewLines.widget())),
+      txtFind.widget(),
+      cmdFindPrevious.widget(),
+      cmdFindNext.widget(),
+      cmdFindClose.widget(),
+      chkBold.widget(),
+      chkItalics.widget(),
+      chkUnderline.widget(),
+      rtbCommands.widget(),
+      cmdSend.widget()};
+  for (qsizetype i = 1; i < down.size(); ++i) QWidget::setTabOrder(down[i - 1], down[i]);
   rtbCommands.widget()->setFocus();
 }
 

@@ -75,6 +75,12 @@ class QtMainWindow {
   QtMenuEntry mnuToolsLanguageGreek{form_.Find<QAction>("mnuToolsLanguageGreek")};
   QtMenuEntry mnuToolsCheckSpelling{form_.Find<QAction>("mnuToolsCheckSpelling")};
 
+  QtMenu mnuAttention{form_.Find<QMenu>("mnuAttention")};
+  QtMenuEntry mnuAttentionLines{form_.Find<QAction>("mnuAttentionLines")};
+  QtMenuEntry mnuAttentionText{form_.Find<QAction>("mnuAttentionText")};
+  QtMenuEntry mnuAttentionSound{form_.Find<QAction>("mnuAttentionSound")};
+  QtMenuEntry mnuAttentionCount{form_.Find<QAction>("mnuAttentionCount")};
+
   QtMenu mnuView{form_.Find<QMenu>("mnuView")};
   QtMenuEntry mnuViewStatusPanel{form_.Find<QAction>("mnuViewStatusPanel")};
   QtMenuEntry mnuViewZoomIn{form_.Find<QAction>("mnuViewZoomIn")};

@@ -83,6 +83,16 @@ struct MenuEntryDesign {
   const char* keys = "";  // the shortcuts, in QKeySequence's notation, between semicolons
 };
 
+// A menu within another one, at its end.
+struct SubmenuDesign {
+  const char* parent;
+  const char* menu;
+};
+
+inline constexpr auto kSubmenuDesign = std::to_array<SubmenuDesign>({
+    {"mnuTools", "mnuAttention"},
+});
+
 inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuFile", "mnuFileMacrosFolder"},
     {"mnuFile", "mnuFileLogFolder"},
@@ -116,6 +126,10 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuTools", "mnuToolsAlwaysOnTop", true},
     {"mnuTools", "mnuToolsLanguageEnglish", true, true},
     {"mnuTools", "mnuToolsLanguageGreek", true},
+    {"mnuAttention", "mnuAttentionLines", true},
+    {"mnuAttention", "mnuAttentionText", true},
+    {"mnuAttention", "mnuAttentionSound", true, true},
+    {"mnuAttention", "mnuAttentionCount", true},
     {"mnuTools", "mnuToolsCheckSpelling", true, true},
     {"mnuView", "mnuViewStatusPanel", true, false, "F9"},
     {"mnuView", "mnuViewZoomIn", false, true, "Ctrl++; Ctrl+="},

@@ -106,11 +106,7 @@ MainForm::MainForm()
 void MainForm::BuildMenus() {
   for (const MenuEntryDesign& design : kMainMenuDesign) {
     auto* menu = Find<QMenu>(design.menu);
-    if (!menu) {
-      menu = menuBar()->addMenu(QString());
-      menu->setObjectName(QLatin1String(design.menu));
-      menu->setToolTipsVisible(true);
-    }
+    if (!menu) menu = NewMenu(design.menu);
     if (design.separatorBefore) menu->addSeparator();
     QAction* entry = menu->addAction(QString());
     entry->setObjectName(QLatin1String(design.entry));
@@ -120,6 +116,23 @@ void MainForm::BuildMenus() {
     entry->setMenuRole(QAction::NoRole);
   }
   Find<QAction>("mnuHelpDetailed")->setShortcut(QKeySequence::HelpContents);
+}
+
+QMenu* MainForm::NewMenu(const char* name) {
+  const auto* submenu = std::find_if(
+      kSubmenuDesign.begin(), kSubmenuDesign.end(),
+      [name](const SubmenuDesign& one) { return QLatin1String(one.menu) == QLatin1String(name); });
+  QMenu* menu = nullptr;
+  if (submenu == kSubmenuDesign.end()) {
+    menu = menuBar()->addMenu(QString());
+  } else {
+    auto* parent = Find<QMenu>(submenu->parent);
+    parent->addSeparator();
+    menu = parent->addMenu(QString());
+  }
+  menu->setObjectName(QLatin1String(name));
+  menu->setToolTipsVisible(true);
+  return menu;
 }
 
 void MainForm::BuildControls() {

@@ -44,6 +44,7 @@ class MainForm : public QMainWindow {
 
  private:
   void BuildMenus();
+  QMenu* NewMenu(const char* name);
   void BuildControls();
   QWidget* Build(const ControlDesign& design);
   QWidget* BuildLabel(const ControlDesign& design);

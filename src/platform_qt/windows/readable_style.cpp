@@ -1,6 +1,11 @@
 #include "platform_qt/windows/readable_style.h"
 
+#include <QAbstractScrollArea>
+#include <QPainter>
 #include <QStyleOption>
+
+#include "platform_qt/convert/text.h"
+#include "platform_qt/text/readable_shade.h"
 
 namespace verlume::qt {
 namespace {
@@ -20,6 +25,10 @@ bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() <
          palette.color(QPalette::WindowText).lightness();
 }
+
+// In pixels: one line could be overlooked.
+constexpr int kFocusFrame = 2;
+constexpr int kButtonRadius = 2;  // as Fusion draws them
 
 // Elements of which only the outline is drawn in the window's colour.
 bool HasOutlineOfWindow(QStyle::PrimitiveElement element) {
@@ -44,12 +53,43 @@ Option WithVisibleOutline(Option option) {
   return option;
 }
 
+bool Scrolls(const QWidget* widget) {
+  return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+}
+
+void DrawFocusFrame(QPainter& painter, const QStyleOption& option, int radius) {
+  const QPalette& palette = option.palette;
+  const Color ground = FromQt(palette.color(QPalette::Window));
+  painter.save();
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(ToQt(ReadableShade(FromQt(palette.color(QPalette::Highlight)), ground)));
+  for (int line = 0; line < kFocusFrame; ++line) {
+    const QRect place = option.rect.adjusted(line, line, -1 - line, -1 - line);
+    painter.drawRoundedRect(place, radius, radius);
+  }
+  painter.restore();
+}
+
 }  // namespace
 
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
-  const bool isFusion = baseStyle()->name() == QLatin1String("fusion");
-  if (isFusion && HasOutlineOfWindow(element) && IsDark(option->palette)) {
+  if (baseStyle()->name() != QLatin1String("fusion")) {
+    return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+  const bool hasFocus = option->state & State_HasFocus;
+  if (hasFocus && element == PE_Frame && Scrolls(widget)) {
+    return DrawFocusFrame(*painter, *option, 0);
+  }
+  DrawWithVisibleOutline(element, option, painter, widget);
+  if (hasFocus && element == PE_PanelButtonCommand) {
+    DrawFocusFrame(*painter, *option, kButtonRadius);
+  }
+}
+
+void ReadableStyle::DrawWithVisibleOutline(PrimitiveElement element, const QStyleOption* option,
+                                           QPainter* painter, const QWidget* widget) const {
+  if (HasOutlineOfWindow(element) && IsDark(option->palette)) {
     if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
       const auto readable = WithVisibleOutline(*button);
       return QProxyStyle::drawPrimitive(element, &readable, painter, widget);
@@ -60,6 +100,13 @@ void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     }
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+int ReadableStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                               const QWidget* widget) const {
+  const bool isFusion = baseStyle()->name() == QLatin1String("fusion");
+  if (isFusion && metric == PM_DefaultFrameWidth && Scrolls(widget)) return kFocusFrame;
+  return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 }  // namespace verlume::qt

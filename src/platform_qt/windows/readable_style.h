@@ -1,4 +1,5 @@
-// The desktop's style, with outlines that are visible on dark backgrounds too.
+// The desktop's style, with outlines that are visible on dark backgrounds too, and a frame that
+// tells which pane or button has the keyboard focus.
 #pragma once
 
 #include <QProxyStyle>
@@ -6,13 +7,20 @@
 namespace verlume::qt {
 
 // Qt's Fusion style draws outlines by darkening the background. On a dark background the outline of
-// a check box, frame or text field is therefore invisible. Other styles are not changed.
+// a check box, frame or text field is therefore invisible. Nor does Fusion mark the pane or list
+// that has the focus, and a button hardly. Other styles are not changed.
 class ReadableStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override;
+
+ private:
+  void DrawWithVisibleOutline(PrimitiveElement element, const QStyleOption* option,
+                              QPainter* painter, const QWidget* widget) const;
 };
 
 }  // namespace verlume::qt

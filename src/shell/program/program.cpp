@@ -61,6 +61,8 @@ Program::Program(Platform& platform)
       macroStyle_(state_, platform, errors_),
       macroEditor_(state_, platform, errors_, macroStore_, macroStyle_),
       macroSaving_(state_, platform, errors_, macroStore_),
+      alerts_(state_, platform, errors_),
+      attentionSwitches_(state_, platform, errors_, settings_),
       startUp_(state_, platform, errors_, settings_, language_,
                {.resetConnection = [this] { ResetConnection(state_, platform_); },
                 .buildProtocolMarker = BuildProtocolMarker,
@@ -76,6 +78,7 @@ Program::Program(Platform& platform)
   BindFindBar();
   BindFloating();
   BindSocket();
+  BindAttention();
   BindContextHelp(platform.frmMain);
 }
 
@@ -83,6 +86,7 @@ Program::~Program() = default;
 
 void Program::Start() {
   startUp_.Form_Load();
+  attentionSwitches_.ShowState();
   ReadCalledHosts(state_, platform_, settings_);
   ShowWelcomeCard(state_, platform_);
   if (platform_.application.HasEnded()) return;
@@ -108,6 +112,7 @@ void Program::BindWindow() {
   frmMain.tmrTimer.onTimer = [this] {
     statusPanel_.tmrTimer_Timer();
     socketEvents_.tmrTimer_Timer();
+    alerts_.tmrTimer_Timer();
   };
 }
 
@@ -277,6 +282,22 @@ void Program::BindSocket() {
   On(sckControl.onAcknowledged, wire_, &WireProtocol::ShowLinesWaiting);
   On(sckControl.onUndelivered, wire_, &WireProtocol::OnUndelivered);
   On(sckControl.onClose, socketEvents_, &SocketEvents::sckControl_Close);
+}
+
+void Program::BindAttention() {
+  On(platform_.attention.onUserBack, alerts_, &Alerts::attention_UserBack);
+  On(socketEvents_.onIncomingCall, alerts_, &Alerts::OnIncomingCall);
+  dialogue_.onRemoteLine = [this](Sender sender, std::u16string_view text) {
+    alerts_.OnRemoteLine(text, sender == Sender::RemoteAction);
+  };
+  const AttentionMenu& menu = platform_.frmMain.attentionMenu;
+  On(menu.mnuAttentionLines.onClick, attentionSwitches_,
+     &AttentionSwitches::mnuAttentionLines_Click);
+  On(menu.mnuAttentionText.onClick, attentionSwitches_, &AttentionSwitches::mnuAttentionText_Click);
+  On(menu.mnuAttentionSound.onClick, attentionSwitches_,
+     &AttentionSwitches::mnuAttentionSound_Click);
+  On(menu.mnuAttentionCount.onClick, attentionSwitches_,
+     &AttentionSwitches::mnuAttentionCount_Click);
 }
 
 }  // namespace verlume

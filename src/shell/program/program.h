@@ -23,7 +23,9 @@
 #include "records/dialogue_files.h"
 #include "records/dialogue_log.h"
 #include "shell/about_box.h"
+#include "shell/alerts.h"
 #include "shell/app_state.h"
+#include "shell/attention_menu.h"
 #include "shell/error_report.h"
 #include "shell/help.h"
 #include "shell/language.h"
@@ -60,6 +62,7 @@ class Program {
   void BindFindBar();
   void BindFloating();
   void BindSocket();
+  void BindAttention();
 
   Platform& platform_;
   AppState state_;
@@ -89,6 +92,8 @@ class Program {
   MacroStyle macroStyle_;
   MacroEditor macroEditor_;
   MacroSaving macroSaving_;
+  Alerts alerts_;
+  AttentionSwitches attentionSwitches_;
   StartUp startUp_;
   ShutDown shutDown_;
 };

@@ -6,6 +6,7 @@
 #include <QString>
 #include <string>
 
+#include "platform_fake/fake_attention.h"
 #include "platform_fake/fake_platform.h"
 #include "platform_qt/convert/text.h"
 #include "platform_qt/system/file_system.h"
@@ -110,9 +111,10 @@ class BasicProgramOnDisk {
   ApplicationIn application;
   fake::FakeHelpViewer help;
   fake::FakeSystemTools tools;
+  fake::FakeAttention attention;
   Platform platform = {
-      window.frmMain, about.frmAbout, macros.frmMacros, socket,      dialogs, commonDialog,
-      disk,           clock,          locale,           application, help,    tools};
+      window.frmMain, about.frmAbout, macros.frmMacros, socket, dialogs, commonDialog, disk,
+      clock,          locale,         application,      help,   tools,   attention};
   Program program;
 };
 

@@ -179,7 +179,7 @@ TEST_F(QtFindBarTest, MatchIsScrolledIntoView) {
   EXPECT_TRUE(pane->viewport()->rect().contains(pane->cursorRect()));
 }
 
-TEST_F(QtFindBarTest, TabKeyGoesFromTheDialogueThroughTheBarToTheCommandPane) {
+TEST_F(QtFindBarTest, TabKeyGoesFromTheDialogueThroughTheBarDownTheWindow) {
   bar.fraFind.SetVisible(true);
   view.rtbData.SetFocus();
   QStringList order;
@@ -187,8 +187,8 @@ TEST_F(QtFindBarTest, TabKeyGoesFromTheDialogueThroughTheBarToTheCommandPane) {
     QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
     order.append(form.focusWidget()->objectName());
   }
-  EXPECT_EQ(order, (QStringList{"txtFind", "cmdFindPrevious", "cmdFindNext", "cmdFindClose",
-                                "rtbCommands"}));
+  EXPECT_EQ(order,
+            (QStringList{"txtFind", "cmdFindPrevious", "cmdFindNext", "cmdFindClose", "chkBold"}));
   QTest::keyClick(form.focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_EQ(form.focusWidget()->objectName(), "cmdFindClose");
 }

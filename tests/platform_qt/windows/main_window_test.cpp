@@ -120,10 +120,12 @@ TEST_F(QtMainWindowTest, TheTickedEntriesAreCheckable) {
     if (action->isCheckable()) checkable.append(action->objectName());
   }
   checkable.sort();
-  QStringList expected{"mnuFileLogRecord",       "mnuFormatFontBold",     "mnuFormatFontItalics",
-                       "mnuFormatFontUnderline", "mnuToolsCompletions",   "mnuToolsDate",
-                       "mnuToolsTime",           "mnuToolsAlwaysOnTop",   "mnuToolsLanguageEnglish",
-                       "mnuToolsLanguageGreek",  "mnuToolsCheckSpelling", "mnuViewStatusPanel"};
+  QStringList expected{"mnuFileLogRecord",       "mnuFormatFontBold",   "mnuFormatFontItalics",
+                       "mnuFormatFontUnderline", "mnuToolsCompletions", "mnuToolsDate",
+                       "mnuToolsTime",           "mnuToolsAlwaysOnTop", "mnuToolsLanguageEnglish",
+                       "mnuToolsLanguageGreek",  "mnuViewStatusPanel",  "mnuAttentionLines",
+                       "mnuToolsCheckSpelling",  "mnuAttentionText",    "mnuAttentionSound",
+                       "mnuAttentionCount"};
   expected.sort();
   EXPECT_EQ(checkable, expected);
 }
@@ -299,18 +301,28 @@ TEST_F(QtMainWindowTest, CopyrightLabelMadeAsTallAsItsPictureStaysSo) {
   EXPECT_EQ(Named("lblCopyright")->height(), Named("picCopyright")->height());
 }
 
-TEST_F(QtMainWindowTest, TabKeyGoesRoundTheControls) {
+TEST_F(QtMainWindowTest, TabKeyGoesRoundTheControlsAsTheEyeDoes) {
   Show();
   form.activateWindow();
   ASSERT_TRUE(WaitForFocus(form));
-  view.chkBold.SetFocus();
+  view.findBar.fraFind.SetVisible(true);
+  view.cmdSend.SetFocus();
   QStringList order;
-  for (int step = 0; step < 3; ++step) {
-    order.append(QApplication::focusWidget()->objectName());
+  for (int step = 0; step < 9; ++step) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    order.append(QApplication::focusWidget()->objectName());
   }
-  EXPECT_EQ(order, (QStringList{"chkBold", "chkItalics", "chkUnderline"}));
-  EXPECT_EQ(QApplication::focusWidget()->objectName(), "rtbData");
+  EXPECT_EQ(order,
+            (QStringList{"rtbData", "txtFind", "cmdFindPrevious", "cmdFindNext", "cmdFindClose",
+                         "chkBold", "chkItalics", "chkUnderline", "rtbCommands"}));
+  // Tab does nothing in the command pane; Shift+Tab leaves it.
+  view.findBar.fraFind.SetVisible(false);
+  QStringList back;
+  for (int step = 0; step < 5; ++step) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    back.append(QApplication::focusWidget()->objectName());
+  }
+  EXPECT_EQ(back, (QStringList{"chkUnderline", "chkItalics", "chkBold", "rtbData", "cmdSend"}));
 }
 
 TEST_F(QtMainWindowTest, IconIsOneOfThisProgramsOwn) {

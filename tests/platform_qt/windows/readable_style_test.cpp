@@ -6,6 +6,7 @@
 #include <QFrame>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <algorithm>
@@ -64,6 +65,46 @@ TEST(ReadableStyleTest, OutlinesAreSeenOnADarkGround) {
   EXPECT_GE(OutlineContrast(frame, style, ground), kEnough);
   QLineEdit field;
   EXPECT_GE(OutlineContrast(field, style, ground), kEnough);
+}
+
+TEST(ReadableStyleTest, APaneShowsThatItHasTheFocus) {
+  ReadableStyle style(QStringLiteral("fusion"));
+  for (const QColor& ground : {QColor(0xEF, 0xEF, 0xEF), QColor(0x2D, 0x2D, 0x2D)}) {
+    QPalette palette = PaletteOf(ground, ground.lightness() > 128 ? Qt::black : Qt::white);
+    // A colour that would not be seen.
+    palette.setColor(QPalette::Highlight, ground.lighter(110));
+    QPlainTextEdit pane;
+    QStyleOptionFrame option;
+    option.initFrom(&pane);
+    option.rect = QRect(0, 0, 20, 20);
+    option.palette = palette;
+    const auto outline = [&](QStyle::State state) {
+      option.state = state;
+      QImage picture(20, 20, QImage::Format_ARGB32);
+      picture.fill(ground);
+      QPainter painter(&picture);
+      style.drawPrimitive(QStyle::PE_Frame, &option, &painter, &pane);
+      return picture.pixelColor(0, 10);
+    };
+    const QColor focused = outline(QStyle::State_Enabled | QStyle::State_HasFocus);
+    EXPECT_GE(Contrast(focused, ground), kEnough);
+    EXPECT_NE(focused, outline(QStyle::State_Enabled));
+  }
+}
+
+TEST(ReadableStyleTest, AButtonShowsThatItHasTheFocus) {
+  ReadableStyle style(QStringLiteral("fusion"));
+  const QColor ground(0x2D, 0x2D, 0x2D);
+  QStyleOptionButton option;
+  option.rect = QRect(0, 0, 40, 20);
+  option.palette = PaletteOf(ground, Qt::white);
+  option.palette.setColor(QPalette::Highlight, ground);
+  option.state = QStyle::State_Enabled | QStyle::State_HasFocus;
+  QImage picture(40, 20, QImage::Format_ARGB32);
+  picture.fill(ground);
+  QPainter painter(&picture);
+  style.drawPrimitive(QStyle::PE_PanelButtonCommand, &option, &painter, nullptr);
+  for (const int x : {0, 1}) EXPECT_GE(Contrast(picture.pixelColor(x, 10), ground), kEnough);
 }
 
 QImage PictureOf(QStyle& style, const QPalette& palette) {

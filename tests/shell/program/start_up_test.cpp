@@ -197,7 +197,7 @@ TEST_F(StartUpTest, ALongHostNameIsCutToANickname) {
                     socket,           fake.dialogs,        fake.commonDialog,
                     fake.files,       fake.clock,          fake.locale,
                     fake.application, fake.help,           fake.tools,
-                    fake.links};
+                    fake.links,       fake.attention};
   StartUp longNamed(state, other, errors, settings, language,
                     {[] {}, [] { return std::u16string(); }, [] {}});
   longNamed.Form_Load();
