@@ -95,7 +95,7 @@ std::optional<Link> LinkAt(std::u16string_view text, std::size_t position) {
   std::size_t end = position;
   while (end < windowEnd && IsInside(text[end])) ++end;
   for (std::size_t start = from; start <= position; ++start) {
-    const bool isWithinWord = start > 0 && IsWordCharacter(text[start - 1]);
+    const bool isWithinWord = start > from && IsWordCharacter(text[start - 1]);
     if (isWithinWord || !BeginsAddress(text.substr(start, end - start))) continue;
     std::u16string_view link = text.substr(start, end - start);
     while (!link.empty() && !MayEnd(link)) link.remove_suffix(1);

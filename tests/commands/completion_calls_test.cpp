@@ -18,18 +18,24 @@ class CompletionCallsTest : public fake::CompletionSide {
 TEST_F(CompletionCallsTest, ShowsTheComputersCalledLast) {
   pane.Type(u"/call ");
   EXPECT_TRUE(IsOpen());
-  EXPECT_THAT(Rows(), ElementsAre(u"/call bob.example.org 4000\tBob\t", u"/call 192.0.2.7 80\t\t"));
+  EXPECT_THAT(Rows(), ElementsAre(u"/call bob.example.org 4000", u"/call 192.0.2.7 80"));
+}
+
+TEST_F(CompletionCallsTest, SaysWhoAnsweredThere) {
+  pane.Type(u"/call ");
+  EXPECT_EQ(RowWith(u"/call bob.example.org 4000"), u"Bob\t");
+  EXPECT_EQ(RowWith(u"/call 192.0.2.7 80"), u"\t");
 }
 
 TEST_F(CompletionCallsTest, TheGreekWordCallsToo) {
   pane.Type(u"/κλήση ");
   EXPECT_THAT(Rows(),
-              ElementsAre(u"/κλήση bob.example.org 4000\tBob\t", u"/κλήση 192.0.2.7 80\t\t"));
+              ElementsAre(u"/κλήση bob.example.org 4000", u"/κλήση 192.0.2.7 80"));
 }
 
 TEST_F(CompletionCallsTest, KeepsThoseThatBeginWithWhatIsTyped) {
   pane.Type(u"/CALL BOB");
-  EXPECT_THAT(Rows(), ElementsAre(u"/CALL bob.example.org 4000\tBob\t"));
+  EXPECT_THAT(Rows(), ElementsAre(u"/CALL bob.example.org 4000"));
   pane.Type(u"x");
   EXPECT_FALSE(IsOpen());
 }

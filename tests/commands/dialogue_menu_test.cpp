@@ -38,7 +38,7 @@ TEST_F(DialogueMenuTest, WhatCanDoNothingIsGrey) {
   pane.SetText(u"one http://a.org");
   EXPECT_THAT(Enabled(0), ElementsAre(u"Select all", u"Save dialogue as"));
   EXPECT_THAT(Enabled(8), ElementsAre(u"Select all", u"Open link", u"Save dialogue as"));
-  EXPECT_THAT(Enabled(16), ElementsAre(u"Select all", u"Open link", u"Save dialogue as"));
+  EXPECT_THAT(Enabled(15), ElementsAre(u"Select all", u"Open link", u"Save dialogue as"));
   pane.Select(0, 3);
   EXPECT_THAT(Enabled(0), ElementsAre(u"Copy", u"Copy as plain text", u"Select all", u"Find this",
                                       u"Save dialogue as"));

@@ -38,11 +38,12 @@ TEST_F(ConnectionRulesTest, ASecondHandshakeIsNoNewConversation) {
   EXPECT_THAT(RulesOf(alice), ElementsAre(u"Connected, 09:05:30"));
 }
 
-TEST_F(ConnectionRulesTest, ACallThatWasNeverAConversationHasNone) {
+TEST_F(ConnectionRulesTest, ACallThatWasNeverAConversationSaysWhy) {
   alice.Call(u"nowhere 4000");
   network.RunUntilIdle();
   ASSERT_EQ(alice.State(), ConnectionState::Idle);
-  EXPECT_THAT(RulesOf(alice), ElementsAre());
+  EXPECT_THAT(RulesOf(alice), ElementsAre(u"The computer nowhere refused the call: nobody waits on "
+                                          u"port 4000 there, 09:05:30"));
 }
 
 TEST_F(ConnectionRulesTest, TheyFollowTheLanguage) {

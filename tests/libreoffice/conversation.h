@@ -49,7 +49,7 @@ class Conversation {
                         fakes_.socket,      fakes_.dialogs,        fakes_.commonDialog,
                         fakes_.files,       fakes_.clock,          fakes_.locale,
                         fakes_.application, fakes_.help,           fakes_.tools,
-                        fakes_.attention};
+                        fakes_.links,       fakes_.attention};
   Program program_{platform_};
 };
 

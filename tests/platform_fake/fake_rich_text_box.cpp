@@ -205,7 +205,7 @@ void FakeRichTextBox::ChangeAuthor(Author author, Author other, std::size_t skip
 
 void FakeRichTextBox::BeginUpdate(Reader whoReads) {
   if (updateDepth_++ > 0) return;
-  reader_ = reader;
+  reader_ = whoReads;
   keptStart_ = selStart_;
   keptLength_ = selLength_;
 }

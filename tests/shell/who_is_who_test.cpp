@@ -60,18 +60,20 @@ TEST_F(WhoIsWhoTest, TheMarginHasWordsForEveryAuthorInBothLanguages) {
   const auto& words = fake.window.rtbData.authorWords;
   SetAuthorWords(fake.window.rtbData, false);
   EXPECT_EQ(words.at(Author::User), u"You wrote this.");
+  EXPECT_NE(words.at(Author::UserNotSent), words.at(Author::User));
+  EXPECT_NE(words.at(Author::UserNotDelivered), words.at(Author::UserNotSent));
   EXPECT_EQ(words.at(Author::Peer), u"The other side wrote this.");
   EXPECT_EQ(words.at(Author::PeerReadingAlike),
             u"The other side wrote this. Its nickname reads like yours.");
   EXPECT_EQ(words.at(Author::PeerWithBrackets),
             u"The other side wrote this. Its nickname holds angle brackets.");
   EXPECT_EQ(words.at(Author::File), u"This was loaded from a file.");
-  EXPECT_EQ(words.size(), 5u);
+  EXPECT_EQ(words.size(), 7u);
   SetAuthorWords(fake.window.rtbData, true);
   EXPECT_EQ(words.at(Author::User), u"Το γράψατε εσείς.");
   EXPECT_EQ(words.at(Author::Peer), u"Το έγραψε η άλλη πλευρά.");
   EXPECT_EQ(words.at(Author::File), u"Φορτώθηκε από αρχείο.");
-  EXPECT_EQ(words.size(), 5u);
+  EXPECT_EQ(words.size(), 7u);
 }
 
 TEST_F(WhoIsWhoTest, NicknamesThatReadAlikeAreToldApartByTheirLetters) {

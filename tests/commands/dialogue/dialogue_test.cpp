@@ -181,13 +181,25 @@ TEST_F(DialogueTest, EmptyTextWritesNothing) {
 
 TEST_F(DialogueTest, EmptyTextShowsTheLastLineAndEmptiesAndFocusesTheCommandPane) {
   Write(u"one");
-  pane.Select(0, 3);
+  pane.Select(3, 0);
+  pane.showsEnd = true;
   commands.SetText(u"/DATE");
   commands.timesFocused = 0;
   Write(u"", CommandPane::Clear);
   EXPECT_EQ(pane.SelStart(), pane.TextLength());
   EXPECT_EQ(commands.Text(), u"");
   EXPECT_EQ(commands.timesFocused, 1);
+}
+
+TEST_F(DialogueTest, EmptyTextLeavesWhoReadsWhereHeIs) {
+  Write(u"one");
+  pane.Select(0, 3);
+  Write(u"", CommandPane::Clear);
+  EXPECT_EQ(pane.SelLength(), 3u);
+  pane.Select(0, 0);
+  pane.showsEnd = false;
+  Write(u"", CommandPane::Clear);
+  EXPECT_EQ(pane.SelStart(), 0u);
 }
 
 TEST_F(DialogueTest, EmptyTextLeavesNoFlagBehind) {

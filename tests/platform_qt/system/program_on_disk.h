@@ -111,10 +111,11 @@ class BasicProgramOnDisk {
   ApplicationIn application;
   fake::FakeHelpViewer help;
   fake::FakeSystemTools tools;
+  fake::FakeLinkOpener links;
   fake::FakeAttention attention;
   Platform platform = {
       window.frmMain, about.frmAbout, macros.frmMacros, socket, dialogs, commonDialog, disk,
-      clock,          locale,         application,      help,   tools,   attention};
+      clock,          locale,         application,      help,   tools,   links,        attention};
   Program program;
 };
 
