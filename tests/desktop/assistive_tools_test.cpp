@@ -84,6 +84,7 @@ class AssistiveToolsTest : public testing::Test {
                     .application = fake.application,
                     .help = fake.help,
                     .tools = fake.tools,
+                    .links = fake.links,
                     .attention = attention};
   Program program{platform};
   fake::ProgramCopy bob{network, u"Bob"};

@@ -11,7 +11,7 @@
 namespace verlume::e2e {
 namespace {
 
-constexpr std::size_t kFlood = (1 << 20) / kShare;
+constexpr std::size_t kCharacterFlood = (1 << 20) / kShare;
 constexpr char32_t kEnd = 0x20000;
 
 using Characters = std::vector<char32_t>;
@@ -74,7 +74,7 @@ std::string Rtf(const Characters& characters) {
 std::string InAllLooks(const Characters& characters) {
   const char* const kStyles[] = {R"(\b0\i0)", R"(\b\i0)", R"(\b0\i)", R"(\b\i)"};
   std::string text;
-  for (int look = 0; look < 142 * 4 && text.size() < kFlood; ++look) {
+  for (int look = 0; look < 142 * 4 && text.size() < kCharacterFlood; ++look) {
     for (std::size_t i = 0; i < characters.size(); ++i) {
       const int own = look + static_cast<int>(i);
       text += kStyles[own % 4];
@@ -94,7 +94,7 @@ std::string InAllFonts(const Characters& characters) {
     table += R"({\f)" + number + " " + kFamilies[i] + ";}";
     text += R"(\f)" + number + " " + Rtf(characters);
   }
-  return R"({\fonttbl)" + table + "}" + Repeat(text, kFlood);
+  return R"({\fonttbl)" + table + "}" + Repeat(text, kCharacterFlood);
 }
 
 struct Content {
@@ -111,19 +111,19 @@ TEST_P(FloodCharacters, TheWindowAnswers) {
 }
 
 const Content kContents[] = {
-    {"InOrder", [] { return Repeat(Rtf(AllCharacters()), kFlood); }},
-    {"Reversed", [] { return Repeat(Rtf(Reversed(AllCharacters())), kFlood); }},
-    {"Shuffled", [] { return Repeat(Rtf(Shuffled(AllCharacters())), kFlood); }},
-    {"OneOfEachScriptInALine", [] { return Repeat(Rtf(OneOfEachScript()) + R"(\par )", kFlood); }},
+    {"InOrder", [] { return Repeat(Rtf(AllCharacters()), kCharacterFlood); }},
+    {"Reversed", [] { return Repeat(Rtf(Reversed(AllCharacters())), kCharacterFlood); }},
+    {"Shuffled", [] { return Repeat(Rtf(Shuffled(AllCharacters())), kCharacterFlood); }},
+    {"OneOfEachScriptInALine", [] { return Repeat(Rtf(OneOfEachScript()) + R"(\par )", kCharacterFlood); }},
     {"BoldAndItalic",
-     [] { return Repeat(R"(\b )" + Rtf(AllCharacters()) + R"(\b0\i )", kFlood) + "x"; }},
+     [] { return Repeat(R"(\b )" + Rtf(AllCharacters()) + R"(\b0\i )", kCharacterFlood) + "x"; }},
     {"InAllFonts", [] { return InAllFonts(OneOfEachScript()); }},
     {"EachInALookOfItsOwn", [] { return InAllLooks(OneOfEachScript()); }},
     {"OfIndiaInALookOfItsOwn", [] { return InAllLooks(OfIndia()); }},
     {"OfIndiaAndOthers", [] {
        std::string text;
        for (const char32_t c : OfIndia()) text += Rtf(c) + " 1 a ";
-       return Repeat(text, kFlood);
+       return Repeat(text, kCharacterFlood);
      }}};
 
 INSTANTIATE_TEST_SUITE_P(Contents, FloodCharacters, testing::ValuesIn(kContents),
