@@ -234,7 +234,13 @@ void Photographer::TakeWindows() {
 }
 
 void Photographer::Take(QWidget* window, const QString& name) {
-  window->grab().save(folder_ + u'/' + name + QStringLiteral(".png"));
+  Save(window->grab(), name);
+}
+
+// Windows have few colours, and a picture with a palette is a third as large.
+void Photographer::Save(const QPixmap& picture, const QString& name) {
+  const QImage small = picture.toImage().convertToFormat(QImage::Format_Indexed8);
+  small.save(folder_ + u'/' + name + QStringLiteral(".png"));
 }
 
 void Photographer::TakeToolTip(const QString& control) {
@@ -250,7 +256,7 @@ void Photographer::TakeToolTip(const QString& control) {
     painter.drawPixmap(main_->mapFromGlobal(window->pos()), window->grab());
   }
   painter.end();
-  picture.save(folder_ + u'/' + scene_ + QStringLiteral(".png"));
+  Save(picture, scene_);
 }
 
 }  // namespace verlume::gallery

@@ -44,6 +44,7 @@ class Photographer : public QObject {
   void TakeEditor(QWidget* editor);
   void TakeWindows();
   void Take(QWidget* window, const QString& name);
+  void Save(const QPixmap& picture, const QString& name);
   // Takes a picture of the main window with the tool tip of one of its controls.
   void TakeToolTip(const QString& control);
   void AddScenes();

@@ -117,11 +117,10 @@ void SpellingMarks::NoteChange(int position, int removed, int added) {
   const int touched = isWithinOne ? removed : first.length() + removed;
   MoveWaves(first, position - first.position(), touched, added);
   if (to_ > position) to_ = std::max(position, to_ + added - removed);
-  typed_ = QTextCursor();
+  typed_.reset();
   // More at once was not typed: it was pasted, or put there by the program.
   if (added <= kMostTypedAtOnce) {
-    typed_ = QTextCursor(pane_.document());
-    typed_.setPosition(std::min(position + added, pane_.document()->characterCount() - 1));
+    typed_ = std::min(position + added, pane_.document()->characterCount() - 1);
   }
   const bool wasCommand = isCommand_;
   isCommand_ = pane_.document()->firstBlock().text().startsWith(u'/');
@@ -130,16 +129,16 @@ void SpellingMarks::NoteChange(int position, int removed, int added) {
 }
 
 void SpellingMarks::NoteCaret() {
-  if (typed_.isNull()) return;
+  if (!typed_) return;
   const QTextCursor caret = pane_.textCursor();
-  const QTextBlock block = typed_.block();
+  const QTextBlock block = pane_.document()->findBlock(*typed_);
   if (caret.block() == block) {
-    const int from = std::min(caret.positionInBlock(), typed_.positionInBlock());
-    const int to = std::max(caret.positionInBlock(), typed_.positionInBlock());
+    const int from = std::min(caret.position(), *typed_) - block.position();
+    const int to = std::max(caret.position(), *typed_) - block.position();
     if (!block.text().mid(from, to - from).contains(u' ')) return;
   }
-  CheckLater(typed_.position(), typed_.position());
-  typed_ = QTextCursor();
+  CheckLater(*typed_, *typed_);
+  typed_.reset();
 }
 
 bool SpellingMarks::eventFilter(QObject*, QEvent* event) {
@@ -195,7 +194,7 @@ std::vector<spelling::Word> SpellingMarks::WordsIn(const QTextBlock& block) cons
 
 bool SpellingMarks::IsBeingTyped(const QTextBlock& block, const spelling::Word& word) const {
   const QTextCursor caret = pane_.textCursor();
-  if (typed_.isNull() || caret.block() != block) return false;
+  if (!typed_ || caret.block() != block) return false;
   const auto place = static_cast<std::size_t>(caret.positionInBlock());
   return word.start <= place && place <= word.start + word.length;
 }

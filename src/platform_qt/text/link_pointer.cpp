@@ -7,9 +7,21 @@
 
 #include "platform_qt/controls/tool_tip.h"
 #include "platform_qt/convert/text.h"
+#include "platform_qt/text/seams.h"
 #include "richtext/links.h"
 
 namespace verlume::qt {
+namespace {
+
+// Part of an address leads elsewhere than the whole: one that a seam cuts is none.
+bool IsCutBySeam(const QTextBlock& block, const richtext::Link& link) {
+  const bool beginsThere = link.start == 0 && BeginsAtSeam(block, Lines::Many);
+  const bool reachesTheEnd = link.start + link.length == std::size_t(block.length() - 1);
+  const QTextBlock next = block.next();
+  return beginsThere || (reachesTheEnd && next.isValid() && BeginsAtSeam(next, Lines::Many));
+}
+
+}  // namespace
 
 QTextCursor LinkAround(const QTextDocument& document, int position) {
   const QTextBlock block = document.findBlock(position);
@@ -21,7 +33,7 @@ QTextCursor LinkAround(const QTextDocument& document, int position) {
   window.setPosition(block.position() + static_cast<int>(from));
   window.setPosition(window.position() + static_cast<int>(length), QTextCursor::KeepAnchor);
   const auto link = richtext::LinkAt(FromQt(window.selectedText()), place - from);
-  if (!link) return {};
+  if (!link || IsCutBySeam(block, {from + link->start, link->length})) return {};
   const int start = block.position() + static_cast<int>(from + link->start);
   window.setPosition(start);
   window.setPosition(start + static_cast<int>(link->length), QTextCursor::KeepAnchor);
@@ -56,6 +68,10 @@ bool LinkPointer::Handle(QEvent& event) {
     default:
       return false;
   }
+}
+
+void LinkPointer::Forget() {
+  if (under_.hasSelection()) PointAt({}, {});
 }
 
 void LinkPointer::PointAt(const QTextCursor& link, Qt::KeyboardModifiers held) {

@@ -28,6 +28,8 @@ class LinkPointer {
 
   // Offers an event of the viewport; true if it must go no further.
   bool Handle(QEvent& event);
+  // The text has moved under the pointer.
+  void Forget();
   // Underlines what of the address is in a block, whose text begins at `origin`.
   void Draw(QPainter& painter, const QTextBlock& block, const QPointF& origin) const;
 

@@ -63,6 +63,7 @@ MissingScripts::MissingScripts(QTextDocument& document, InstalledScripts& instal
 }
 
 void MissingScripts::NoteChange(int position, int added) {
+  unsureFrom_ = std::min(unsureFrom_, position);
   QTextBlock block = document_.findBlock(position);
   for (; block.isValid() && block.position() <= position + added; block = block.next()) Mark(block);
 }
@@ -83,8 +84,8 @@ void MissingScripts::Mark(QTextBlock block) {
 }
 
 void MissingScripts::NoteUnsure(const QTextBlock& block) {
-  const bool isFirst = !nextTurn_.isActive() || block.position() < unsure_.position();
-  if (isFirst) unsure_ = QTextCursor(block);
+  const bool isFirst = !nextTurn_.isActive();
+  unsureFrom_ = isFirst ? block.position() : std::min(unsureFrom_, block.position());
   // Not started anew: text that comes turn after turn would put it off.
   if (!nextTurn_.isActive()) nextTurn_.start(kPauseBetweenTurns);
 }
@@ -93,7 +94,7 @@ void MissingScripts::LookAtFonts() {
   installed_.RunTurn();
   if (!installed_.IsComplete()) return;
   nextTurn_.stop();
-  const int from = unsure_.block().position();
+  const int from = std::min(unsureFrom_, document_.characterCount() - 1);
   NoteChange(from, document_.characterCount() - from);
   document_.markContentsDirty(from, document_.characterCount() - from);
 }

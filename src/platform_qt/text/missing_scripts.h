@@ -5,7 +5,6 @@
 
 #include <QObject>
 #include <QTextBlock>
-#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QTimer>
@@ -36,7 +35,9 @@ class MissingScripts : public QObject {
 
   QTextDocument& document_;
   InstalledScripts& installed_;
-  QTextCursor unsure_;  // the first text that was marked before all fonts had been looked at
+  // No text before this place was marked before all fonts had been looked at. No QTextCursor: one
+  // that goes while a document is being cleared leaves the document with a pointer to it.
+  int unsureFrom_ = 0;
   QTimer nextTurn_;
 };
 

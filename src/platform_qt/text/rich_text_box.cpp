@@ -1,20 +1,14 @@
 #include "platform_qt/text/rich_text_box.h"
 
-#include <QAbstractTextDocumentLayout>
-#include <QClipboard>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QTextBlock>
-#include <QTextLayout>
 #include <algorithm>
-#include <future>
 #include <utility>
 
 #include "platform_qt/convert/text.h"
 #include "platform_qt/system/free_memory.h"
-#include "platform_qt/text/author_margin.h"
-#include "platform_qt/text/link_pointer.h"
 #include "platform_qt/text/open_direction.h"
 #include "platform_qt/text/paragraph_author.h"
 #include "platform_qt/text/readable_text.h"
@@ -38,17 +32,8 @@ namespace {
 constexpr std::size_t kLengthAtOnce = 8 * 1024;
 constexpr std::size_t kLengthOfRun = 8;
 
-// A text so long, in characters, is saved between events; and when it has been removed, its memory
-// goes back to the system.
+// When a text so long, in characters, has been removed, its memory goes back to the system.
 constexpr std::size_t kLongText = 64 * 1024;
-
-// The line of a paragraph in which the cursor is, as it is shown.
-QTextLine LineOf(const QTextCursor& cursor) {
-  const QTextBlock block = cursor.block();
-  // Lays the block out, if it is not yet.
-  block.document()->documentLayout()->blockBoundingRect(block);
-  return block.layout()->lineForTextPosition(cursor.positionInBlock());
-}
 
 }  // namespace
 
@@ -245,62 +230,6 @@ void QtRichTextBox::RaiseChange() {
   }
 }
 
-std::size_t QtRichTextBox::SelStart() const {
-  return TextPosition(Cursor().selectionStart());
-}
-
-std::size_t QtRichTextBox::SelLength() const {
-  const QTextCursor cursor = Cursor();
-  return TextPosition(cursor.selectionEnd()) - TextPosition(cursor.selectionStart());
-}
-
-void QtRichTextBox::Select(std::size_t start, std::size_t length) {
-  const RichTextUpdate update(*this);
-  const std::size_t from = std::min(start, TextLength());
-  const std::size_t to = from + std::min(length, TextLength() - from);
-  QTextCursor cursor(widget_->document());
-  cursor.setPosition(DocumentPosition(from));
-  cursor.setPosition(DocumentPosition(to), QTextCursor::KeepAnchor);
-  SetCursor(cursor);
-  RaiseSelChange();
-}
-
-bool QtRichTextBox::IsInFirstLine() const {
-  const QTextCursor cursor = Cursor();
-  return cursor.block() == widget_->document()->firstBlock() && LineOf(cursor).lineNumber() <= 0;
-}
-
-bool QtRichTextBox::IsInLastLine() const {
-  const QTextCursor cursor = Cursor();
-  const QTextLine line = LineOf(cursor);
-  return cursor.block() == widget_->document()->lastBlock() &&
-         line.lineNumber() == cursor.block().layout()->lineCount() - 1;
-}
-
-std::u16string QtRichTextBox::SelText() const {
-  return SelectedText(Cursor(), lines_);
-}
-
-void QtRichTextBox::SelectAll() {
-  widget_->selectAll();
-}
-
-void QtRichTextBox::Copy(TextFileFormat format) {
-  if (format == TextFileFormat::RichText) {
-    widget_->copy();
-  } else if (widget_->textCursor().hasSelection()) {
-    QGuiApplication::clipboard()->setText(ToQt(SelText()));
-  }
-}
-
-std::u16string QtRichTextBox::LinkAt(std::size_t position) const {
-  return AddressIn(LinkAround(*widget_->document(), DocumentPosition(position)));
-}
-
-void QtRichTextBox::SetLinkHint(std::u16string_view hint) {
-  view_->links().SetHint(ToQt(hint));
-}
-
 SelectionFormat QtRichTextBox::SelFormat() const {
   return SelectedFormat(Cursor(), lines_);
 }
@@ -334,60 +263,6 @@ void QtRichTextBox::SetSelDocument(richtext::Document document) {
   }
   limit_->Check();
   RaiseChange();
-}
-
-void QtRichTextBox::SetSelAuthor(Author author) {
-  const ProgramChange change(*view_);
-  SetAuthor(Cursor(), author, lines_);
-}
-
-Author QtRichTextBox::SelAuthor() const {
-  return AuthorOf(widget_->document()->findBlock(Cursor().selectionStart()));
-}
-
-void QtRichTextBox::ChangeAuthor(Author author, Author other, std::size_t skipped,
-                                 std::size_t count) {
-  const ProgramChange change(*view_);
-  ChangeLastAuthors(*widget_->document(), {author, other, skipped, count}, lines_);
-}
-
-void QtRichTextBox::SetAuthorWords(Author author, std::u16string_view words) {
-  if (!margin_) {
-    BeginLinesAtTheLeft(*widget_->document());
-    margin_ = new AuthorMargin(*view_);
-    margin_->SetDescription(ToQt(toolTip_));
-  }
-  margin_->SetWords(author, ToQt(words));
-}
-
-bool QtRichTextBox::ShowsEnd() const {
-  return view_->ShowsEnd();
-}
-
-bool QtRichTextBox::IsPressed() const {
-  return view_->IsPressed();
-}
-
-void QtRichTextBox::MarkUnread(std::optional<std::size_t> position, SignWords words) {
-  const QTextDocument& document = *widget_->document();
-  view_->MarkUnread(position ? document.findBlock(DocumentPosition(*position)) : QTextBlock());
-  if (margin_) margin_->SetUnreadWords(std::move(words));
-}
-
-void QtRichTextBox::AddRule(SignWords words) {
-  view_->AddRule(std::move(words));
-  RefreshSigns();
-}
-
-void QtRichTextBox::RefreshSigns() {
-  view_->viewport()->update();
-  if (margin_) margin_->DescribeCaret();
-}
-
-void QtRichTextBox::SetToolTip(std::u16string_view text) {
-  toolTip_ = text;
-  QtControl::SetToolTip(text);
-  if (margin_) margin_->SetDescription(ToQt(text));
 }
 
 bool QtRichTextBox::FitsIntoThisTurn(const richtext::Document& document) {
@@ -431,42 +306,6 @@ void QtRichTextBox::SetFontCharset(int charset) {
   view_->SetCharset(charset);
 }
 
-void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
-  const bool isPlain = format == TextFileFormat::PlainText;
-  FormattedText text = isPlain ? FormattedText(files_.ReadText(path), DefaultFormat(), lines_)
-                               : FormattedText(richtext::ReadRtf(files_.ReadBytes(path)), lines_);
-  Clear(isPlain ? DefaultFormat() : FormatOfFirst(widget_->textCursor()));
-  SetSelAuthor(Author::File);
-  loading_ = std::make_unique<TextLoading>(*view_, QTextCursor(widget_->document()),
-                                           std::move(text), [this](int percent) {
-                                             if (percent == 100) NoteLoaded();
-                                             if (onLoadProgress) onLoadProgress(percent);
-                                           });
-  whileLoading_ = std::make_unique<TextLimit::Hold>(*limit_);
-  if (loading_->IsDone()) NoteLoaded();
-  // A text that the user can change must be complete.
-  if (!Locked()) WaitForInsertions();
-  Select(0, 0);
-  RaiseChange();
-  if (onEndShown) onEndShown();
-}
-
-void QtRichTextBox::NoteLoaded() {
-  limit_->StartBehind(loading_->cursor());
-  whileLoading_.reset();
-}
-
-void QtRichTextBox::SaveFile(std::u16string_view path, TextFileFormat format) const {
-  const auto write = [this, path, format, content = Content()] {
-    const bool isPlain = format == TextFileFormat::PlainText;
-    files_.ReplaceText(path, isPlain ? content.text : richtext::WriteRtfFile(content));
-  };
-  if (TextLength() <= kLongText) return write();
-  std::future<void> written = std::async(std::launch::async, write);
-  WaitUntil([&] { return written.wait_for(kPauseBetweenTurns) == std::future_status::ready; });
-  written.get();
-}
-
 void QtRichTextBox::SetLocked(bool locked) {
   if (!locked) WaitForInsertions();
   widget_->setReadOnly(locked);
@@ -481,26 +320,6 @@ void QtRichTextBox::SetLocked(bool locked) {
 
 bool QtRichTextBox::Locked() const {
   return widget_->isReadOnly();
-}
-
-void QtRichTextBox::SetBackColor(Color color) {
-  view_->SetBackColor(color);
-}
-
-Color QtRichTextBox::BackColor() const {
-  return FromQt(widget_->palette().color(QPalette::Base));
-}
-
-void QtRichTextBox::SetPlaceholder(std::u16string_view text) {
-  widget_->setPlaceholderText(ToQt(text));
-}
-
-void QtRichTextBox::SetZoom(int percent) {
-  view_->SetZoom(percent);
-}
-
-int QtRichTextBox::Zoom() const {
-  return view_->Zoom();
 }
 
 }  // namespace verlume::qt

@@ -2,6 +2,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QAction>
+#include <QCoreApplication>
 #include <QInputMethodEvent>
 #include <QPaintEvent>
 #include <QScrollBar>
@@ -96,6 +97,13 @@ bool RichTextWidget::event(QEvent* event) {
 }
 
 void RichTextWidget::keyPressEvent(QKeyEvent* event) {
+  // Qt on X11 knows only the menu key.
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+    const QPoint place = viewport()->mapTo(this, cursorRect().center());
+    QContextMenuEvent wish(QContextMenuEvent::Keyboard, place, mapToGlobal(place));
+    QCoreApplication::sendEvent(this, &wish);
+    return event->accept();
+  }
   const UserChange change(*this);
   if (Swallowed(KeyCodeOf(*event), ShiftOf(*event), CharCodeOf(*event))) return event->accept();
   PerformKey(event);
@@ -210,7 +218,9 @@ bool RichTextWidget::IsUnreadFrom(const QTextBlock& block) const {
 
 // Cheap where it does not matter: each line that is written scrolls.
 void RichTextWidget::NoteScrolled() {
-  if (!events_ || !events_->onEndShown || programDepth_ > 0) return;
+  if (programDepth_ > 0) return;
+  links_.Forget();
+  if (!events_ || !events_->onEndShown) return;
   const QScrollBar& bar = *verticalScrollBar();
   if (bar.value() == bar.maximum() && ShowsEnd()) events_->onEndShown();
 }

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "platform_qt/convert/text.h"
-#include "platform_qt/text/readable_shade.h"
 
 namespace verlume::qt {
 namespace {
@@ -91,9 +90,11 @@ void DrawRules(QPainter& painter, const QTextBlock& block, const QRectF& place,
   const QTextDocument& document = *block.document();
   const qreal height = RuleHeight(document);
   const qreal margin = document.documentMargin();
-  const Color quiet = FromQt(palette.color(QPalette::PlaceholderText));
+  constexpr float kQuiet = 0.6F;  // opacity; leaves a contrast of 5 to black on white
+  QColor quiet = palette.color(QPalette::Text);
+  quiet.setAlphaF(kQuiet);
   painter.setFont(RuleFont(document));
-  painter.setPen(ToQt(ReadableShade(quiet, FromQt(palette.color(QPalette::Base)))));
+  painter.setPen(quiet);
   const auto draw = [&](const RuleList& list, qreal top) {
     for (const RichTextBox::SignWords& words : list) {
       const QRectF line(place.left(), top, place.width(), height);

@@ -23,7 +23,9 @@ NewLinesFrame::NewLinesFrame(QWidget* area) : QFrame(area), button_(new QPushBut
 
 void NewLinesFrame::PlaceOver(QPlainTextEdit* pane) {
   pane_ = pane;
-  pane->installEventFilter(this);
+  text_ = pane->viewport();
+  pane_->installEventFilter(this);
+  text_->installEventFilter(this);
 }
 
 bool NewLinesFrame::event(QEvent* event) {
@@ -39,15 +41,17 @@ void NewLinesFrame::showEvent(QShowEvent* event) {
 }
 
 bool NewLinesFrame::eventFilter(QObject* watched, QEvent* event) {
-  const bool moved = event->type() == QEvent::Resize || event->type() == QEvent::Move;
-  if (watched == pane_ && moved) Place();
+  // The pane hears of its new size before its text has it.
+  const bool isMoved = watched == pane_ && event->type() == QEvent::Move;
+  const bool isResized = watched == text_ && event->type() == QEvent::Resize;
+  if (isMoved || isResized) Place();
   return false;
 }
 
 void NewLinesFrame::Place() {
-  if (!pane_ || isHidden()) return;
+  if (!text_ || isHidden()) return;
   constexpr int kSpace = 4;  // pixels, to the edge of the pane
-  QRect text = pane_->viewport()->geometry();
+  QRect text = text_->geometry();
   text.moveTopLeft(pane_->mapToParent(text.topLeft()));
   const int width = std::min(sizeHint().width(), text.width());
   const int height = sizeHint().height();

@@ -26,7 +26,8 @@ class NewLinesFrame : public QFrame {
   void Place();
 
   QPushButton* button_;
-  QPointer<QPlainTextEdit> pane_;
+  QPointer<QWidget> pane_;
+  QPointer<QWidget> text_;  // the part of it that shows text
 };
 
 }  // namespace verlume::qt

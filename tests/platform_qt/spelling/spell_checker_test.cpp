@@ -72,6 +72,19 @@ class SpellCheckerTest : public testing::Test {
   QList<QAction*> actions;
 };
 
+// A cursor that goes while a document is being cleared would be moved by the next change.
+TEST_F(SpellCheckerTest, ATextThatIsReplacedAgainAndAgainStaysWhole) {
+  Start();
+  for (int i = 0; i < 200; ++i) {
+    Write(u"a");
+    QTest::keyClicks(pane, "bc ");
+    Write(u"");
+    box.SetSelText(u"d");
+    ASSERT_EQ(box.Text(), u"d");
+    QCoreApplication::processEvents();
+  }
+}
+
 TEST_F(SpellCheckerTest, MarksWrongWordsOfBothLanguages) {
   Start();
   Write(u"helo there, ναι γιεα");

@@ -85,11 +85,19 @@ class KilledWhileWritingTest : public testing::Test {
   void CheckSettings(const std::vector<Report>& reports) {
     for (const Report& report : reports)
       named = report.kind == Report::Named ? report.number : named;
-    const std::string now = Read("Verlume.ini");
+    const std::string now = WithoutCall(Read("Verlume.ini"));
     for (int number = named; number <= last + 1; ++number) {
       if (now == WithNickname(number)) return;
     }
     FAIL() << "nickname " << named << " in " << now.size() << " bytes: " << now.substr(0, 300);
+  }
+  // The program remembers whom it called: before and after an answer, in one step each.
+  static std::string WithoutCall(std::string text) {
+    for (const std::string_view line : {"Called1=bob 4000 Bob\r\n", "Called1=bob 4000\r\n"}) {
+      const std::size_t place = text.find(line);
+      if (place != text.npos) return text.erase(place, line.size());
+    }
+    return text;
   }
   std::string WithNickname(int number) const {
     std::string text = settings;
