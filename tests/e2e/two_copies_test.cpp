@@ -130,7 +130,7 @@ TEST(OneCopy, GoesAboveOthersAndBackWithoutLeavingTheScreen) {
 
 TEST(OneCopy, CopyrightCommandOpensTheAboutBoxWithoutSystemInfo) {
   Copy copy("Ann", false);
-  copy.ClickAt(0.8, 0.88);
+  copy.ClickAt(0.82, 0.972);
   ASSERT_TRUE(WaitUntil([&] { return copy.IsActive("About"); }));
   copy.PressKeys("Tab");
   copy.PressKeys("space");
