@@ -237,10 +237,10 @@ void Photographer::Take(QWidget* window, const QString& name) {
   Save(window->grab(), name);
 }
 
-// Windows have few colours, and a picture with a palette is a third as large.
 void Photographer::Save(const QPixmap& picture, const QString& name) {
-  const QImage small = picture.toImage().convertToFormat(QImage::Format_Indexed8);
-  small.save(folder_ + u'/' + name + QStringLiteral(".png"));
+  constexpr int kSmallest = 0;
+  const QImage opaque = picture.toImage().convertToFormat(QImage::Format_RGB888);
+  opaque.save(folder_ + u'/' + name + QStringLiteral(".png"), "PNG", kSmallest);
 }
 
 void Photographer::TakeToolTip(const QString& control) {

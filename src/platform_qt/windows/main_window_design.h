@@ -70,9 +70,9 @@ inline constexpr auto kMainWindowDesign = std::to_array<ControlDesign>({
     {ControlKind::Caption, "lblBytesSentCaption", {162, 417, 70, 17}, kHidden},
     {ControlKind::Value, "lblBytesSent", {236, 417, 72, 17}, kHidden},
     {ControlKind::Caption, "lblBytesReceivedCaption", {310, 417, 66, 17}, kHidden},
-    {ControlKind::Value, "lblBytesReceived", {380, 417, 82, 17}, kHidden},
-    {ControlKind::Picture, "picCopyright", {466, 417, 17, 17}, kHidden},
-    {ControlKind::Value, "lblCopyright", {487, 417, 145, 17}, kHidden},
+    {ControlKind::Value, "lblBytesReceived", {380, 417, 80, 17}, kHidden},
+    {ControlKind::Picture, "picCopyright", {462, 417, 17, 17}, kHidden},
+    {ControlKind::Value, "lblCopyright", {482, 417, 154, 17}, kHidden},
 });
 
 struct MenuEntryDesign {
