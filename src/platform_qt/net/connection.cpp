@@ -1,127 +1,201 @@
 #include "platform_qt/net/connection.h"
 
-#include <sys/socket.h>
+#include <fcntl.h>
 
-#include <algorithm>
+#include <QTimer>
 #include <utility>
 
+#include "platform_qt/net/clear_road.h"
+#include "platform_qt/net/private_road.h"
 #include "platform_qt/net/socket_options.h"
 #include "richtext/code_pages.h"
+#include "stream/tail.h"
+#include "stream/utf8_text.h"
 
 namespace verlume::qt {
 namespace {
 
-using std::chrono::milliseconds;
-using std::chrono::steady_clock;
-
 // From Close to the end of the connection.
 constexpr std::chrono::seconds kClosingLimit = Connection::kSendingLimit + std::chrono::seconds(1);
 
-std::string_view View(const QByteArray& bytes) {
-  return {bytes.data(), static_cast<std::size_t>(bytes.size())};
-}
-
 }  // namespace
 
-Connection::Connection(QTcpSocket* socket, QThread& network, milliseconds timeout, Events events)
-    : socket_(socket),
+Connection::Connection(QTcpSocket* socket, QThread& network, std::chrono::milliseconds timeout,
+                       Events events, PrivacyTerms terms)
+    : timeout_(timeout),
       events_(std::move(events)),
+      terms_(std::move(terms)),
       isOpen_(socket->state() == QAbstractSocket::ConnectedState),
-      assembler_(timeout) {
+      privacy_(terms_.offer == PrivacyOffer::Never ? Privacy::Clear : Privacy::None),
+      isAdmitted_(terms_.offer == PrivacyOffer::Never),
+      socket_(socket),
+      letsIn_(isAdmitted_) {
   socket_->disconnect();
   socket_->setParent(this);
-  timeout_.setSingleShot(true);
-  timeout_.setTimerType(Qt::PreciseTimer);
-  connect(&timeout_, &QTimer::timeout, this, &Connection::DeliverOverdue);
   moveToThread(&network);
   QMetaObject::invokeMethod(this, &Connection::Start, Qt::QueuedConnection);
 }
 
 Connection::~Connection() {
   // The socket's signals must not reach members that are already destroyed.
-  socket_->disconnect();
+  if (socket_) socket_->disconnect();
 }
 
 void Connection::Start() {
   CheckThread();
   sender_ = new Sender(socket_);
-  sender_->onAcknowledged = [this](std::size_t lines) { OnAcknowledged(lines); };
   // The system tells what the peer's machine has acknowledged only until the connection ends.
   connect(socket_, &QTcpSocket::stateChanged, sender_, &Sender::Flush);
-  connect(socket_, &QTcpSocket::readyRead, this, &Connection::Read);
-  connect(socket_, &QTcpSocket::disconnected, this, &Connection::OnDisconnected);
   SetConnectionOptions(*socket_);
-  // Signals for what came before, or for the end of the connection, found no receiver.
-  Read();
-  if (socket_->state() != QAbstractSocket::ConnectedState) OnDisconnected();
+  if (terms_.offer == PrivacyOffer::Never) {
+    return TakeRoad(
+        std::make_unique<ClearRoad>(socket_, sender_, RoadEvents(), timeout_, std::string()));
+  }
+  TakeRoad(std::make_unique<SettlingRoad>(
+      socket_, sender_, RoadEvents(), terms_,
+      SettlingRoad::Settled{
+          .onClear = [this](std::string heard,
+                            std::string_view name) { GoClear(std::move(heard), name); },
+          .onPrivate = [this](Greetings greetings) { GoPrivate(std::move(greetings)); },
+          .onFailed = [this](PrivacyFailure failure) { Fail(failure); }}));
 }
 
-void Connection::Send(stream::OutgoingText text) {
-  if (text.kind == TextKind::Line) ++linesWaiting_;
+Road::Events Connection::RoadEvents() {
+  return {.onArrival = [this](std::u16string arrival) { Enqueue(std::move(arrival)); },
+          .isFull = [this] { return arrivals_.IsFull(); },
+          .onAcknowledged = [this](std::size_t lines) { OnAcknowledged(lines); },
+          .onSendingEnded = [this] { WakeFinishSending(); },
+          .onEnded = [this] { OnEnded(); }};
+}
+
+// The road before may be at work, and is destroyed later.
+void Connection::TakeRoad(std::unique_ptr<Road> road) {
+  if (road_) road_.release()->deleteLater();
+  road_ = std::move(road);
+  road_->Start();
+}
+
+void Connection::GoClear(std::string heard, std::string_view nickname) {
+  CheckThread();
+  Enter(Privacy::Clear);
+  Know({.peer = {.key = std::nullopt, .name = richtext::DecodeGreek(nickname)}, .key = ""});
+  TakeRoad(std::make_unique<ClearRoad>(socket_, sender_, RoadEvents(), timeout_, std::move(heard)));
+}
+
+// TLS gets the connection under a socket that has never seen a byte in clear.
+void Connection::GoPrivate(Greetings greetings) {
+  CheckThread();
+  const int descriptor = ::fcntl(static_cast<int>(socket_->socketDescriptor()), F_DUPFD_CLOEXEC, 0);
+  if (descriptor < 0) return Fail(PrivacyFailure::Broken);
+  socket_->disconnect();
+  socket_->abort();
+  socket_->deleteLater();
+  socket_ = nullptr;
+  Enter(Privacy::Becoming);
+  TakeRoad(std::make_unique<PrivateRoad>(
+      descriptor, terms_, std::move(greetings), RoadEvents(),
+      PrivateRoad::Proved{.onKnown =
+                              [this](const PublicKey& key, std::string_view name) {
+                                Enter(Privacy::Private);
+                                Know({.peer = {.key = FingerprintOf(key),
+                                               .name = stream::DecodeUtf8(name)},
+                                      .key = key});
+                              },
+                          .onFailed = [this](PrivacyFailure failure) { Fail(failure); }}));
+}
+
+void Connection::Enter(Privacy privacy) {
+  privacy_ = privacy;
+  if (events_.onPrivacy) events_.onPrivacy();
+}
+
+void Connection::Know(KnownPeer peer) {
+  {
+    const std::lock_guard lock(peerMutex_);
+    peer_ = std::move(peer);
+  }
+  if (events_.onPeerKnown) events_.onPeerKnown();
+}
+
+std::optional<Connection::KnownPeer> Connection::WhoIsThere() const {
+  const std::lock_guard lock(peerMutex_);
+  return peer_;
+}
+
+void Connection::Fail(PrivacyFailure failure) {
+  CheckThread();
+  if (!isClosing_) failure_ = failure;
+  road_->Abort();
+  OnEnded();
+}
+
+void Connection::Admit() {
+  if (isAdmitted_.exchange(true)) return;
   QMetaObject::invokeMethod(
-      this, [this, text = std::move(text)]() mutable { sender_->Send(std::move(text)); },
+      this,
+      [this] {
+        letsIn_ = true;
+        road_->Admit();
+        if (isClosing_) return;
+        for (Said& said : std::exchange(waiting_, {})) road_->Send(std::move(said));
+      },
       Qt::QueuedConnection);
+}
+
+void Connection::Send(std::u16string_view text, TextKind kind) {
+  if (kind == TextKind::Line) ++linesWaiting_;
+  QMetaObject::invokeMethod(
+      this,
+      [this, said = Said{std::u16string(text), kind}]() mutable { SendOrWait(std::move(said)); },
+      Qt::QueuedConnection);
+}
+
+// Before the peer is let in, only the side that was called says that the conversation starts.
+void Connection::SendOrWait(Said said) {
+  CheckThread();
+  const auto isStart = [&said] {
+    return stream::IsGreeting(richtext::EncodeGreek(said.text), stream::Greeting::Start);
+  };
+  if (letsIn_) return road_->Send(std::move(said));
+  if (terms_.IsCaller() || hasStarted_ || !isStart()) return waiting_.push_back(std::move(said));
+  hasStarted_ = true;
+  road_->Send(std::move(said));
 }
 
 void Connection::OnAcknowledged(std::size_t lines) {
   CheckThread();
   linesWaiting_ -= lines;
-  if (lines > 0) events_.onAcknowledged();
+  if (lines > 0 && !isClosing_) events_.onAcknowledged();
 }
 
 std::optional<std::u16string> Connection::NextArrival() {
   auto taken = arrivals_.Take();
   if (!taken) return std::nullopt;
   if (taken->madeRoom) {
-    QMetaObject::invokeMethod(this, &Connection::ResumeReading, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { road_->ResumeReading(); }, Qt::QueuedConnection);
+  }
+  ++takenIn_;
+  if (privacy_ == Privacy::Private && !isTakenInTold_.exchange(true)) {
+    QMetaObject::invokeMethod(this, &Connection::TellTakenIn, Qt::QueuedConnection);
   }
   return std::move(taken->arrival);
 }
 
-void Connection::Read() {
+void Connection::TellTakenIn() {
   CheckThread();
-  // A connection that was reset has nothing left to read, and is not open.
-  while (socket_->isOpen() && socket_->bytesAvailable() > 0 && !arrivals_.IsFull()) {
-    const QByteArray bytes = socket_->read(kReadSize);
-    AcknowledgeAtOnce(*socket_);
-    assembler_.Add(View(bytes), steady_clock::now());
-    Deliver();
-  }
+  isTakenInTold_ = false;
+  road_->TakenIn(takenIn_);
 }
 
-void Connection::ResumeReading() {
+void Connection::Enqueue(std::u16string arrival) {
   CheckThread();
-  assembler_.RestartTimeout(steady_clock::now());
-  Read();
-  DeliverOverdue();
+  if (arrivals_.Add(std::move(arrival))) events_.onArrival();
 }
 
-// The timeout does not count while nothing is read.
-void Connection::DeliverOverdue() {
+void Connection::OnEnded() {
   CheckThread();
-  if (!arrivals_.IsFull()) Deliver();
-}
-
-void Connection::Deliver() {
-  CheckThread();
-  while (const auto arrival = assembler_.Take(steady_clock::now())) Enqueue(*arrival);
-  timeout_.stop();
-  if (const auto deadline = assembler_.Deadline()) {
-    const auto rest = std::chrono::ceil<milliseconds>(*deadline - steady_clock::now());
-    timeout_.start(std::max(rest, milliseconds(0)));
-  }
-}
-
-void Connection::Enqueue(std::string_view arrival) {
-  CheckThread();
-  if (arrivals_.Add(richtext::DecodeGreek(arrival))) events_.onArrival();
-}
-
-void Connection::OnDisconnected() {
-  CheckThread();
-  timeout_.stop();
-  if (socket_->isOpen()) assembler_.Add(View(socket_->readAll()), steady_clock::now());
-  if (const auto rest = assembler_.Flush()) Enqueue(*rest);
+  if (isClosing_) return Abort();
   arrivals_.End();
   isOpen_ = false;
   events_.onArrival();
@@ -134,30 +208,12 @@ void Connection::Close() {
 
 void Connection::StartClosing() {
   CheckThread();
-  socket_->disconnect(this);
-  timeout_.stop();
-  if (socket_->state() != QAbstractSocket::ConnectedState) return Abort();
-  connect(socket_, &QTcpSocket::readyRead, this, [this] { socket_->readAll(); });
-  connect(socket_, &QTcpSocket::disconnected, this, &Connection::Abort);
+  isClosing_ = true;
   QTimer::singleShot(kSendingLimit, this, [this] {
-    if (!sender_->IsDone()) Abort();
+    if (!hasSendingEnded_) Abort();
   });
   QTimer::singleShot(kClosingLimit, this, &Connection::Abort);
-  sender_->onAcknowledged = [this](std::size_t lines) {
-    linesWaiting_ -= lines;
-    ShutDownSending();
-  };
-  socket_->readAll();
-  ShutDownSending();
-}
-
-// Half-closes the connection once everything is sent. A full close while bytes are unread would
-// reset it, and the peer would lose what it has not read yet.
-void Connection::ShutDownSending() {
-  CheckThread();
-  if (!sender_->IsDone()) return;
-  ::shutdown(static_cast<int>(socket_->socketDescriptor()), SHUT_WR);
-  WakeFinishSending();
+  road_->Close();
 }
 
 void Connection::WakeFinishSending() {
@@ -170,8 +226,7 @@ void Connection::WakeFinishSending() {
 void Connection::Abort() {
   CheckThread();
   if (isClosed_) return;
-  socket_->disconnect(this);
-  socket_->abort();
+  road_->Abort();
   isClosed_ = true;
   WakeFinishSending();
   events_.onClosed();

@@ -5,15 +5,19 @@
 
 #include <QTcpSocket>
 #include <QThread>
-#include <QTimer>
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
 
+#include "platform_qt/net/privacy_terms.h"
+#include "platform_qt/net/read_size.h"
+#include "platform_qt/net/road.h"
 #include "platform_qt/net/sender.h"
+#include "platform_qt/net/settling_road.h"
 #include "stream/arrival_assembler.h"
 #include "stream/arrival_queue.h"
 
@@ -25,27 +29,33 @@ class Connection : public QObject {
  public:
   // Raised on the network thread.
   struct Events {
-    std::function<void()> onArrival;       // NextArrival has one where it had none, or IsOver
-    std::function<void()> onAcknowledged;  // LinesWaiting is less than it was
-    std::function<void()> onClosed;        // after Close: nothing more will happen
+    std::function<void()> onArrival;         // NextArrival has one where it had none, or IsOver
+    std::function<void()> onAcknowledged;    // LinesWaiting is less than it was
+    std::function<void()> onClosed;          // after Close: nothing more will happen
+    std::function<void()> onPrivacy = {};    // HowPrivate is another
+    std::function<void()> onPeerKnown = {};  // WhoIsThere tells
+  };
+  struct KnownPeer {
+    Peer peer;
+    PublicKey key;  // "" in clear
   };
 
   // How long a closing connection goes on sending.
   static constexpr std::chrono::seconds kSendingLimit{2};
   // How many bytes one read returns at most.
-  static constexpr qint64 kReadSize = 256 << 10;
+  static constexpr qint64 kReadSize = qt::kReadSize;
 
   // Moves the socket, which has no parent, to the network thread. `timeout` is how long an
   // incomplete text waits for its next byte.
-  Connection(QTcpSocket* socket, QThread& network, std::chrono::milliseconds timeout,
-             Events events);
+  Connection(QTcpSocket* socket, QThread& network, std::chrono::milliseconds timeout, Events events,
+             PrivacyTerms terms = {});
   ~Connection() override;
 
   // Whether texts can be sent: the connection has not ended, as far as the system knows.
   bool IsOpen() const { return isOpen_; }
 
-  void Send(stream::OutgoingText text);
-  // How many lines the peer's machine has not acknowledged; the last number once it has ended.
+  void Send(std::u16string_view text, TextKind kind);
+  // How many lines are not acknowledged; the last number once it has ended.
   std::size_t LinesWaiting() const { return linesWaiting_; }
 
   // The oldest arrival, if there is one. While several mebibytes of them wait no more is read, and
@@ -54,6 +64,16 @@ class Connection : public QObject {
   bool HasArrival() const { return !arrivals_.IsEmpty(); }
   // The connection has ended, and every arrival has been taken.
   bool IsOver() const { return arrivals_.IsOver(); }
+
+  Privacy HowPrivate() const { return privacy_; }
+  // Nothing before onPeerKnown.
+  std::optional<KnownPeer> WhoIsThere() const;
+  // Lets the peer in: sends what waits.
+  void Admit();
+  // What comes may be raised: the peer is let in, or nobody asks who it is.
+  bool IsAdmitted() const { return isAdmitted_; }
+  // Why the connection ended before its peer was known.
+  PrivacyFailure Failure() const { return failure_; }
 
   // Sends what is queued, for kSendingLimit at most; then the peer gets another second to close.
   void Close();
@@ -65,20 +85,25 @@ class Connection : public QObject {
   // All of these run on the network thread.
   void CheckThread() const { Q_ASSERT(QThread::currentThread() == thread()); }
   void Start();
-  void Read();
-  void ResumeReading();
-  void DeliverOverdue();
-  void Deliver();
-  void Enqueue(std::string_view arrival);
-  void OnDisconnected();
+  Road::Events RoadEvents();
+  void TakeRoad(std::unique_ptr<Road> road);
+  void GoClear(std::string heard, std::string_view nickname);
+  void GoPrivate(Greetings greetings);
+  void Enter(Privacy privacy);
+  void Know(KnownPeer peer);
+  void Fail(PrivacyFailure failure);
+  void SendOrWait(Said said);
+  void TellTakenIn();
+  void Enqueue(std::u16string arrival);
+  void OnEnded();
   void OnAcknowledged(std::size_t lines);
   void StartClosing();
-  void ShutDownSending();
   void WakeFinishSending();
   void Abort();
 
-  QTcpSocket* const socket_;
+  const std::chrono::milliseconds timeout_;
   const Events events_;
+  const PrivacyTerms terms_;
   std::atomic<bool> isOpen_;
   std::atomic<std::size_t> linesWaiting_ = 0;
   stream::ArrivalQueue arrivals_;
@@ -87,10 +112,22 @@ class Connection : public QObject {
   std::condition_variable sendingEnded_;
   bool hasSendingEnded_ = false;
 
+  std::atomic<Privacy> privacy_;
+  std::atomic<PrivacyFailure> failure_ = PrivacyFailure::None;
+  std::atomic<bool> isAdmitted_;
+  mutable std::mutex peerMutex_;
+  std::optional<KnownPeer> peer_;
+  std::atomic<std::uint64_t> takenIn_ = 0;  // arrivals
+  std::atomic<bool> isTakenInTold_ = false;
+
   // For the network thread only.
+  QTcpSocket* socket_;  // nothing once the conversation is private
   Sender* sender_ = nullptr;
-  stream::ArrivalAssembler assembler_;
-  QTimer timeout_{this};  // of an incomplete text
+  std::unique_ptr<Road> road_;
+  bool letsIn_;
+  bool hasStarted_ = false;
+  std::deque<Said> waiting_;  // until the peer is let in
+  bool isClosing_ = false;
 };
 
 // A connection is destroyed on its own thread.
