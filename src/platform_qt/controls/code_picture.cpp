@@ -12,7 +12,7 @@ namespace verlume::qt {
 namespace {
 
 constexpr int kQuietModules = 4;  // on each side, as the standard wants
-constexpr int kLeastModule = 4;   // pixels
+constexpr int kLeastModule = 5;   // pixels
 
 QAccessibleInterface* CodeInterfaceOf(const QString&, QObject* object) {
   auto* code = dynamic_cast<CodeWidget*>(object);
@@ -50,7 +50,7 @@ void CodeWidget::SetCode(const SquareCode& code) {
 
 QSize CodeWidget::sizeHint() const {
   if (code_.side == 0) return {0, 0};
-  const int module = std::max(kLeastModule, fontMetrics().height() / 4);
+  const int module = std::max(kLeastModule, fontMetrics().height() / 3);
   const int side = module * (code_.side + 2 * kQuietModules);
   return {side, side};
 }

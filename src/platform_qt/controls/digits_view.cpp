@@ -51,10 +51,13 @@ QString InGroups(std::u16string_view digits) {
 DigitsWidget::DigitsWidget(QWidget* parent) : QLabel(parent) {
   QAccessible::installFactory(&DigitsInterfaceOf);  // which the second time does nothing
   QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  fixed.setStyleHint(QFont::Monospace);
+  fixed.setFixedPitch(true);
   fixed.setPointSizeF(font().pointSizeF() * kDigitScale);
   setFont(fixed);
   setTextFormat(Qt::PlainText);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setFocusPolicy(Qt::StrongFocus);  // which Qt gives to no such label
   // Its own context menu would take the release of the right button, which is for help.
   setContextMenuPolicy(Qt::PreventContextMenu);
 }

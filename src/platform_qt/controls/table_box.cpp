@@ -7,7 +7,17 @@
 namespace verlume::qt {
 namespace {
 
-constexpr int kWidestColumn = 26;  // in characters of usual width
+// The widest width at which columns that need these widths fit side by side.
+int WidestThatFits(std::vector<int> needs, int room) {
+  std::sort(needs.begin(), needs.end());
+  int left = static_cast<int>(needs.size());
+  for (const int need : needs) {
+    if (need * left > room) return room / left;
+    room -= need;
+    --left;
+  }
+  return needs.empty() ? 0 : needs.back();
+}
 
 QStringList TextsOf(const TableBox::Row& row) {
   QStringList texts;
@@ -24,7 +34,28 @@ TableWidget::TableWidget(QWidget* parent) : QTreeWidget(parent) {
   setItemsExpandable(false);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   header()->setSectionsMovable(false);
+}
+
+void TableWidget::FitColumns() {
+  needs_.clear();
+  for (int column = 0; column < columnCount(); ++column) {
+    needs_.push_back(std::max(sizeHintForColumn(column), header()->sectionSizeHint(column)));
+  }
+  ShareRoom();
+}
+
+void TableWidget::resizeEvent(QResizeEvent* event) {
+  QTreeWidget::resizeEvent(event);
+  ShareRoom();
+}
+
+void TableWidget::ShareRoom() {
+  const int widest = WidestThatFits(needs_, viewport()->width());
+  for (int column = 0; column + 1 < columnCount(); ++column) {
+    setColumnWidth(column, std::min(needs_[static_cast<std::size_t>(column)], widest));
+  }
 }
 
 QItemSelectionModel::SelectionFlags TableWidget::selectionCommand(const QModelIndex& index,
@@ -44,7 +75,7 @@ QtTableBox::QtTableBox(TableWidget* widget) : QtControl(widget) {
 void QtTableBox::SetHeading(int column, std::u16string_view text) {
   if (column >= widget_->columnCount()) widget_->setColumnCount(column + 1);
   widget_->headerItem()->setText(column, ToQt(text));
-  FitColumns();
+  widget_->FitColumns();
 }
 
 void QtTableBox::SetRows(const std::vector<Row>& rows) {
@@ -53,7 +84,7 @@ void QtTableBox::SetRows(const std::vector<Row>& rows) {
   QList<QTreeWidgetItem*> items;
   for (const Row& row : rows) items.append(new QTreeWidgetItem(TextsOf(row)));
   widget_->addTopLevelItems(items);
-  FitColumns();
+  widget_->FitColumns();
 }
 
 void QtTableBox::SetRow(int index, const Row& row) {
@@ -61,6 +92,7 @@ void QtTableBox::SetRow(int index, const Row& row) {
   if (!item) return;
   const QStringList texts = TextsOf(row);
   for (int column = 0; column < texts.size(); ++column) item->setText(column, texts[column]);
+  widget_->FitColumns();
 }
 
 void QtTableBox::Select(int index) {
@@ -77,14 +109,6 @@ void QtTableBox::Select(int index) {
 int QtTableBox::SelectedIndex() const {
   const QList<QTreeWidgetItem*> selected = widget_->selectedItems();
   return selected.isEmpty() ? -1 : widget_->indexOfTopLevelItem(selected.first());
-}
-
-void QtTableBox::FitColumns() {
-  const int widest = kWidestColumn * widget_->fontMetrics().averageCharWidth();
-  for (int column = 0; column + 1 < widget_->columnCount(); ++column) {
-    widget_->resizeColumnToContents(column);
-    widget_->setColumnWidth(column, std::min(widget_->columnWidth(column), widest));
-  }
 }
 
 }  // namespace verlume::qt

@@ -8,14 +8,24 @@
 
 namespace verlume::qt {
 
-// A click beside the rows, or with Ctrl, does not remove the selection.
+// A click beside the rows, or with Ctrl, does not remove the selection. Where the columns have no
+// room, the widest ones are cut; the last one has what is left.
 class TableWidget : public QTreeWidget {
  public:
   explicit TableWidget(QWidget* parent);
 
+  // The columns are given the widths that the texts need, as far as there is room.
+  void FitColumns();
+
  protected:
+  void resizeEvent(QResizeEvent* event) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
+
+ private:
+  void ShareRoom();
+
+  std::vector<int> needs_;  // the widths that the columns need
 };
 
 class QtTableBox : public QtControl<TableBox, TableWidget> {
@@ -30,8 +40,6 @@ class QtTableBox : public QtControl<TableBox, TableWidget> {
   int SelectedIndex() const override;
 
  private:
-  void FitColumns();
-
   bool isChanging_ = false;  // the program changes the table, which is no click
 };
 

@@ -52,10 +52,13 @@ KeyFrame::KeyFrame(QWidget* area) : FloatingFrame(area, "fraKey") {
   inside->setSpacing(kKeyBarSpace);
   inside->addLayout(said, 1);
   inside->addLayout(answers);
+  // A layout counts only shown children, and the height is asked for before the bar is shown.
+  for (QWidget* child : findChildren<QWidget*>()) child->show();
 }
 
 QPushButton* KeyFrame::NewAnswer(const char* name) {
   QPushButton* button = NewFloatingButton(this, name);
+  KeepMnemonic(button);
   button->setAutoDefault(true);  // Enter on it presses it
   button->installEventFilter(this);
   return button;
@@ -100,12 +103,6 @@ bool KeyFrame::IsTooEarly(const QEvent& event) const {
 
 bool KeyFrame::IsOldEnough() const {
   return sinceShown_.isValid() && sinceShown_.hasExpired(kTimeToRead.count());
-}
-
-QWidget* QtKeyBar::FollowInTabOrder(QWidget* before) {
-  QWidget::setTabOrder(before, cmdKeyGoOn.widget());
-  QWidget::setTabOrder(cmdKeyGoOn.widget(), cmdKeyHangUp.widget());
-  return cmdKeyHangUp.widget();
 }
 
 }  // namespace verlume::qt

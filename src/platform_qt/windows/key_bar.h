@@ -34,8 +34,6 @@ class KeyFrame : public FloatingFrame {
 struct QtKeyBar {
   explicit QtKeyBar(QWidget* area) : frame(new KeyFrame(area)) {}
   KeyBar View() { return {fraKey, lblKey, cmdKeyGoOn, cmdKeyHangUp}; }
-  // Puts its buttons into the Tab order behind a widget, and returns the last of them.
-  QWidget* FollowInTabOrder(QWidget* before);
 
   template <class Widget>
   Widget* Find(const char* name) {

@@ -40,7 +40,8 @@ QtMainWindow::QtMainWindow(FileSystem& files)
       chkBold.widget(),
       chkItalics.widget(),
       chkUnderline.widget(),
-      keyBar.FollowInTabOrder(chkUnderline.widget()),
+      keyBar.cmdKeyGoOn.widget(),
+      keyBar.cmdKeyHangUp.widget(),
       rtbCommands.widget(),
       cmdSend.widget(),
       lblLock.widget()};

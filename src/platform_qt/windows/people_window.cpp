@@ -10,7 +10,7 @@
 namespace verlume::qt {
 namespace {
 
-constexpr int kTableColumns = 86;  // the table's width, in average characters
+constexpr int kTableColumns = 96;  // the table's width, in average characters
 constexpr int kTableRows = 9;
 
 QLabel* NewCaption(QWidget* form, const char* name) {
@@ -24,7 +24,7 @@ QLabel* NewCaption(QWidget* form, const char* name) {
 
 PeopleForm::PeopleForm(QWidget* mainWindow)
     : ModalForm(mainWindow),
-      lblPeopleNone(NewFormText(this, "lblPeopleNone")),
+      lblPeopleNone(NewCaption(this, "lblPeopleNone")),
       lstPeople(new TableWidget(this)),
       fraPerson(new QWidget(this)),
       lblPeopleNameCaption(NewCaption(this, "lblPeopleNameCaption")),
@@ -33,7 +33,8 @@ PeopleForm::PeopleForm(QWidget* mainWindow)
       lblPeopleKeyCaption(NewCaption(this, "lblPeopleKeyCaption")),
       lblPeopleKey(NewFormText(this, "lblPeopleKey")),
       cmdPeopleForget(NewFormButton(this, "cmdPeopleForget")),
-      cmdPeopleClose(NewFormButton(this, "cmdPeopleClose")) {
+      cmdPeopleClose(NewFormButton(this, "cmdPeopleClose")),
+      people_(new QStackedLayout) {
   setObjectName(QStringLiteral("frmPeople"));
   setSizeGripEnabled(true);
   lstPeople->setObjectName(QStringLiteral("lstPeople"));
@@ -42,9 +43,10 @@ PeopleForm::PeopleForm(QWidget* mainWindow)
   chkPeopleVerified->setObjectName(QStringLiteral("chkPeopleVerified"));
   lblPeopleNameCaption->setBuddy(txtPeopleName);
   lblPeopleKeyCaption->setBuddy(lblPeopleKey);
-  lblPeopleNone->hide();
   lblPeopleNone->setAlignment(Qt::AlignCenter);
+  lblPeopleNone->setWordWrap(true);
   lblPeopleKey->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  lblPeopleKey->setFocusPolicy(Qt::StrongFocus);
   cmdPeopleForget->setAutoDefault(false);
   cmdPeopleClose->setDefault(true);
   LayOutPerson();
@@ -78,17 +80,21 @@ void PeopleForm::LayOut() {
   buttons->addStretch();
   buttons->addWidget(cmdPeopleClose);
   auto* all = new QVBoxLayout(this);
-  all->addWidget(lblPeopleNone, 1);
-  all->addWidget(lstPeople, 1);
+  people_->addWidget(lstPeople);
+  people_->addWidget(lblPeopleNone);
+  all->addLayout(people_, 1);
   all->addWidget(fraPerson);
   all->addSpacing(fontMetrics().height() / 2);
   all->addLayout(buttons);
 }
 
+void PeopleForm::ShowNone(bool shown) {
+  people_->setCurrentIndex(shown ? 1 : 0);
+}
+
 void QtNoneLabel::SetCaption(std::u16string_view text) {
   QtLabel::SetCaption(text);
-  widget_->setVisible(!text.empty());
-  table_->setVisible(text.empty());
+  form_.ShowNone(!text.empty());
 }
 
 QtPeopleWindow::QtPeopleWindow(QWidget* mainWindow)

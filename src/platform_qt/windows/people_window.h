@@ -1,6 +1,8 @@
 // frmPeople, implemented with Qt. Each widget has the name of its control.
 #pragma once
 
+#include <QStackedLayout>
+
 #include "platform/people_window.h"
 #include "platform_qt/controls/controls.h"
 #include "platform_qt/controls/table_box.h"
@@ -13,6 +15,9 @@ namespace verlume::qt {
 class PeopleForm : public ModalForm {
  public:
   explicit PeopleForm(QWidget* mainWindow);
+
+  // The label instead of the table, or the other way round.
+  void ShowNone(bool shown);
 
   QLabel* const lblPeopleNone;
   TableWidget* const lstPeople;
@@ -28,16 +33,18 @@ class PeopleForm : public ModalForm {
  private:
   void LayOutPerson();
   void LayOut();
+
+  QStackedLayout* const people_;
 };
 
 // A label in the place of the table, shown while it has a caption.
 class QtNoneLabel : public QtLabel {
  public:
-  QtNoneLabel(QLabel* label, QWidget* table) : QtLabel(label), table_(table) {}
+  explicit QtNoneLabel(PeopleForm& form) : QtLabel(form.lblPeopleNone), form_(form) {}
   void SetCaption(std::u16string_view text) override;
 
  private:
-  QWidget* table_;
+  PeopleForm& form_;
 };
 
 class QtPeopleWindow {
@@ -51,7 +58,7 @@ class QtPeopleWindow {
   PeopleForm form_;
 
   QtWindow window{&form_};
-  QtNoneLabel lblPeopleNone{form_.lblPeopleNone, form_.lstPeople};
+  QtNoneLabel lblPeopleNone{form_};
   QtTableBox lstPeople{form_.lstPeople};
   QtPanel fraPerson{form_.fraPerson};
   QtLabel lblPeopleNameCaption{form_.lblPeopleNameCaption};

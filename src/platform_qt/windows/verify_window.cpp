@@ -24,8 +24,16 @@ VerifyForm::VerifyForm(QWidget* mainWindow)
   setObjectName(QStringLiteral("frmVerify"));
   lblVerifyDigits->setObjectName(QStringLiteral("lblVerifyDigits"));
   picVerifyCode->setObjectName(QStringLiteral("picVerifyCode"));
+  for (QPushButton* button : {cmdVerifyCopy, cmdVerifyMatch}) button->setAutoDefault(false);
   cmdVerifyClose->setDefault(true);
   LayOut();
+}
+
+void VerifyForm::showEvent(QShowEvent* event) {
+  for (QLabel* text : {lblVerifyWho, lblVerifyMeaning}) text->setSelection(0, 0);
+  lblVerifyDigits->setSelection(0, 0);
+  lblVerifyDigits->setFocus();
+  ModalForm::showEvent(event);
 }
 
 void VerifyForm::LayOut() {

@@ -22,6 +22,10 @@ class VerifyForm : public ModalForm {
   QPushButton* const cmdVerifyMatch;
   QPushButton* const cmdVerifyClose;
 
+ protected:
+  // The focus starts on the digits, which assistive tools then read.
+  void showEvent(QShowEvent* event) override;
+
  private:
   void LayOut();
 };
