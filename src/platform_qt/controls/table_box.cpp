@@ -51,6 +51,11 @@ void TableWidget::resizeEvent(QResizeEvent* event) {
   ShareRoom();
 }
 
+void TableWidget::mousePressEvent(QMouseEvent* event) {
+  // The other buttons are for context help.
+  if (event->button() == Qt::LeftButton) QTreeWidget::mousePressEvent(event);
+}
+
 void TableWidget::ShareRoom() {
   const int widest = WidestThatFits(needs_, viewport()->width());
   for (int column = 0; column + 1 < columnCount(); ++column) {

@@ -53,6 +53,7 @@ class QtPeopleWindow {
 
   PeopleWindow& View() { return view_; }
   PeopleForm& form() { return form_; }
+  const PeopleForm& form() const { return form_; }
 
  private:
   PeopleForm form_;

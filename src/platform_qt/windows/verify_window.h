@@ -36,6 +36,7 @@ class QtVerifyWindow {
 
   VerifyWindow& View() { return view_; }
   VerifyForm& form() { return form_; }
+  const VerifyForm& form() const { return form_; }
 
  private:
   VerifyForm form_;

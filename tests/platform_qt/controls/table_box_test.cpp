@@ -79,6 +79,14 @@ TEST_F(QtTableBoxTest, AClickBesideTheRowsLeavesTheSelection) {
   EXPECT_EQ(table.SelectedIndex(), 1);
 }
 
+TEST_F(QtTableBoxTest, TheRightButtonSelectsNothing) {
+  std::vector<MouseButton> released;
+  table.onMouseUp = [&](MouseButton button) { released.push_back(button); };
+  QTest::mouseClick(widget.viewport(), Qt::RightButton, {}, RowAt(1));
+  EXPECT_EQ(table.SelectedIndex(), -1);
+  EXPECT_EQ(released, std::vector{MouseButton::Right});
+}
+
 TEST_F(QtTableBoxTest, TheWidestColumnsGiveWay) {
   table.SetRows({{std::u16string(200, u'w'), u"3 November 2026"}});
   EXPECT_EQ(widget.header()->length(), widget.viewport()->width());
