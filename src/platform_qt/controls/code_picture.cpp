@@ -64,6 +64,7 @@ void CodeWidget::paintEvent(QPaintEvent*) {
   const int all = module * (code_.side + 2 * kQuietModules);
   // In the screen's own pixels, so that no edge is blurred.
   painter.scale(1 / ratio, 1 / ratio);
+  painter.translate((pixels - all) / 2, (pixels - all) / 2);
   painter.fillRect(0, 0, all, all, Qt::white);
   for (int row = 0; row < code_.side; ++row) {
     for (int column = 0; column < code_.side; ++column) {
