@@ -8,8 +8,10 @@
 #include "platform/links.h"
 #include "platform/macro_window.h"
 #include "platform/main_window.h"
+#include "platform/people_window.h"
 #include "platform/socket.h"
 #include "platform/system.h"
+#include "platform/verify_window.h"
 
 namespace verlume {
 
@@ -17,6 +19,8 @@ struct Platform {
   MainWindow& frmMain;
   AboutWindow& frmAbout;
   MacroWindow& frmMacros;
+  PeopleWindow& frmPeople;
+  VerifyWindow& frmVerify;
   Socket& sckControl;
   Dialogs& dialogs;
   CommonDialog& dlgControl;
@@ -26,6 +30,7 @@ struct Platform {
   Application& application;
   HelpViewer& help;
   SystemTools& tools;
+  Clipboard& clipboard;
   LinkOpener& links;
   Attention& attention;
 };

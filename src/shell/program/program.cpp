@@ -80,6 +80,8 @@ Program::Program(Platform& platform)
   BindSocket();
   BindAttention();
   BindContextHelp(platform.frmMain);
+  BindContextHelp(platform.frmPeople);
+  BindContextHelp(platform.frmVerify);
 }
 
 Program::~Program() = default;
