@@ -8,6 +8,7 @@
 #include "platform/links.h"
 #include "platform/macro_window.h"
 #include "platform/main_window.h"
+#include "platform/privacy.h"
 #include "platform/socket.h"
 #include "platform/system.h"
 
@@ -18,6 +19,7 @@ struct Platform {
   AboutWindow& frmAbout;
   MacroWindow& frmMacros;
   Socket& sckControl;
+  PeerPrivacy& privacy;
   Dialogs& dialogs;
   CommonDialog& dlgControl;
   FileSystem& files;

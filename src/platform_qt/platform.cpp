@@ -20,6 +20,7 @@ QtPlatform::QtPlatform()
           .frmAbout = about_.View(),
           .frmMacros = macros_.View(),
           .sckControl = socket_,
+          .privacy = privacy_,
           .dialogs = dialogs_,
           .dlgControl = commonDialog_,
           .files = files_,

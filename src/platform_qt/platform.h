@@ -8,6 +8,7 @@
 #include "platform_qt/dialogs/common_dialog.h"
 #include "platform_qt/dialogs/dialogs.h"
 #include "platform_qt/help/help_viewer.h"
+#include "platform_qt/net/no_privacy.h"
 #include "platform_qt/net/socket.h"
 #include "platform_qt/system/file_system.h"
 #include "platform_qt/system/link_opener.h"
@@ -51,6 +52,7 @@ class QtPlatform {
       &window_.form(), window_.View(),
       QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};
   QtSocket socket_;
+  NoPrivacy privacy_;
   QtDialogs dialogs_{&window_.form()};
   QtCommonDialog commonDialog_{&window_.form()};
   QtAttention attention_{&window_.form()};

@@ -76,6 +76,7 @@ class AssistiveToolsTest : public testing::Test {
                     .frmAbout = fake.about.frmAbout,
                     .frmMacros = fake.macros.frmMacros,
                     .sckControl = fake.socket,
+                    .privacy = fake.socket.privacy,
                     .dialogs = fake.dialogs,
                     .dlgControl = fake.commonDialog,
                     .files = fake.files,

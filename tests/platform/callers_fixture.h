@@ -124,6 +124,7 @@ class CallersFixture : public testing::Test {
                        fake.about.frmAbout,
                        fake.macros.frmMacros,
                        socket,
+                       fake.socket.privacy,
                        fake.dialogs,
                        fake.commonDialog,
                        fake.files,

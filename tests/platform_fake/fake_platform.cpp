@@ -11,6 +11,7 @@ FakePlatform::FakePlatform(FakeNetwork& network)
           .frmAbout = about.frmAbout,
           .frmMacros = macros.frmMacros,
           .sckControl = socket,
+          .privacy = socket.privacy,
           .dialogs = dialogs,
           .dlgControl = commonDialog,
           .files = files,

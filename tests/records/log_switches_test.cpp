@@ -105,11 +105,21 @@ TEST_F(LogFolderTest, ConversationThatBeginsDuringTheDialogKeepsItsFolder) {
     std::function<void()> whileOpen;
   } dialog;
   dialog.whileOpen = [this] { state.LogOpen = true; };
-  Platform platform = {fake.window.frmMain, fake.about.frmAbout, fake.macros.frmMacros,
-                       fake.socket,         fake.dialogs,        dialog,
-                       fake.files,          fake.clock,          fake.locale,
-                       fake.application,    fake.help,           fake.tools,
-                       fake.links,          fake.attention};
+  Platform platform = {fake.window.frmMain,
+                       fake.about.frmAbout,
+                       fake.macros.frmMacros,
+                       fake.socket,
+                       fake.socket.privacy,
+                       fake.dialogs,
+                       dialog,
+                       fake.files,
+                       fake.clock,
+                       fake.locale,
+                       fake.application,
+                       fake.help,
+                       fake.tools,
+                       fake.links,
+                       fake.attention};
   DialogueLog logUnderDialog{state, platform, errors, settings};
   state.LogFolder = u"/old/";
   state.LogDialogue = true;

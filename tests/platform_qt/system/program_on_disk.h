@@ -113,9 +113,10 @@ class BasicProgramOnDisk {
   fake::FakeSystemTools tools;
   fake::FakeLinkOpener links;
   fake::FakeAttention attention;
-  Platform platform = {
-      window.frmMain, about.frmAbout, macros.frmMacros, socket, dialogs, commonDialog, disk,
-      clock,          locale,         application,      help,   tools,   links,        attention};
+  Platform platform = {window.frmMain, about.frmAbout, macros.frmMacros, socket,
+                       socket.privacy, dialogs,        commonDialog,     disk,
+                       clock,          locale,         application,      help,
+                       tools,          links,          attention};
   Program program;
 };
 
