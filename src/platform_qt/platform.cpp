@@ -19,6 +19,8 @@ QtPlatform::QtPlatform()
           .frmMain = window_.View(),
           .frmAbout = about_.View(),
           .frmMacros = macros_.View(),
+          .frmPeople = people_.View(),
+          .frmVerify = verify_.View(),
           .sckControl = socket_,
           .privacy = privacy_,
           .dialogs = dialogs_,
@@ -29,6 +31,7 @@ QtPlatform::QtPlatform()
           .application = application_,
           .help = help_,
           .tools = tools_,
+          .clipboard = clipboard_,
           .links = links_,
           .attention = attention_,
       } {

@@ -75,6 +75,8 @@ class AssistiveToolsTest : public testing::Test {
   Platform platform{.frmMain = window.View(),
                     .frmAbout = fake.about.frmAbout,
                     .frmMacros = fake.macros.frmMacros,
+                    .frmPeople = fake.people.frmPeople,
+                    .frmVerify = fake.verify.frmVerify,
                     .sckControl = fake.socket,
                     .privacy = fake.socket.privacy,
                     .dialogs = fake.dialogs,
@@ -85,6 +87,7 @@ class AssistiveToolsTest : public testing::Test {
                     .application = fake.application,
                     .help = fake.help,
                     .tools = fake.tools,
+                    .clipboard = fake.clipboard,
                     .links = fake.links,
                     .attention = attention};
   Program program{platform};

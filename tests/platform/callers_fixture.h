@@ -123,6 +123,8 @@ class CallersFixture : public testing::Test {
   Platform platform = {fake.window.frmMain,
                        fake.about.frmAbout,
                        fake.macros.frmMacros,
+                       fake.people.frmPeople,
+                       fake.verify.frmVerify,
                        socket,
                        fake.socket.privacy,
                        fake.dialogs,
@@ -133,6 +135,7 @@ class CallersFixture : public testing::Test {
                        fake.application,
                        fake.help,
                        fake.tools,
+                       fake.clipboard,
                        fake.links,
                        fake.attention};
   Program program{platform};

@@ -108,6 +108,8 @@ TEST_F(LogFolderTest, ConversationThatBeginsDuringTheDialogKeepsItsFolder) {
   Platform platform = {fake.window.frmMain,
                        fake.about.frmAbout,
                        fake.macros.frmMacros,
+                       fake.people.frmPeople,
+                       fake.verify.frmVerify,
                        fake.socket,
                        fake.socket.privacy,
                        fake.dialogs,
@@ -118,6 +120,7 @@ TEST_F(LogFolderTest, ConversationThatBeginsDuringTheDialogKeepsItsFolder) {
                        fake.application,
                        fake.help,
                        fake.tools,
+                       fake.clipboard,
                        fake.links,
                        fake.attention};
   DialogueLog logUnderDialog{state, platform, errors, settings};

@@ -1,0 +1,69 @@
+// frmPeople, implemented with Qt. Each widget has the name of its control.
+#pragma once
+
+#include "platform/people_window.h"
+#include "platform_qt/controls/controls.h"
+#include "platform_qt/controls/table_box.h"
+#include "platform_qt/windows/find_bar.h"
+#include "platform_qt/windows/modal_form.h"
+#include "platform_qt/windows/window.h"
+
+namespace verlume::qt {
+
+class PeopleForm : public ModalForm {
+ public:
+  explicit PeopleForm(QWidget* mainWindow);
+
+  QLabel* const lblPeopleNone;
+  TableWidget* const lstPeople;
+  QWidget* const fraPerson;
+  QLabel* const lblPeopleNameCaption;
+  QLineEdit* const txtPeopleName;
+  QCheckBox* const chkPeopleVerified;
+  QLabel* const lblPeopleKeyCaption;
+  QLabel* const lblPeopleKey;
+  QPushButton* const cmdPeopleForget;
+  QPushButton* const cmdPeopleClose;
+
+ private:
+  void LayOutPerson();
+  void LayOut();
+};
+
+// A label in the place of the table, shown while it has a caption.
+class QtNoneLabel : public QtLabel {
+ public:
+  QtNoneLabel(QLabel* label, QWidget* table) : QtLabel(label), table_(table) {}
+  void SetCaption(std::u16string_view text) override;
+
+ private:
+  QWidget* table_;
+};
+
+class QtPeopleWindow {
+ public:
+  explicit QtPeopleWindow(QWidget* mainWindow);
+
+  PeopleWindow& View() { return view_; }
+  PeopleForm& form() { return form_; }
+
+ private:
+  PeopleForm form_;
+
+  QtWindow window{&form_};
+  QtNoneLabel lblPeopleNone{form_.lblPeopleNone, form_.lstPeople};
+  QtTableBox lstPeople{form_.lstPeople};
+  QtPanel fraPerson{form_.fraPerson};
+  QtLabel lblPeopleNameCaption{form_.lblPeopleNameCaption};
+  QtTextField txtPeopleName{form_.txtPeopleName};
+  QtCheckBox chkPeopleVerified{form_.chkPeopleVerified};
+  QtLabel lblPeopleKeyCaption{form_.lblPeopleKeyCaption};
+  QtLabel lblPeopleKey{form_.lblPeopleKey};
+  QtButton cmdPeopleForget{form_.cmdPeopleForget};
+  QtButton cmdPeopleClose{form_.cmdPeopleClose};
+
+  // The logic's view of the window.
+  PeopleWindow view_;
+};
+
+}  // namespace verlume::qt
