@@ -41,6 +41,7 @@ class SocketEvents {
 
  private:
   bool IsSilentCaller() const;
+  bool HasProvedItself() const;
   bool AskWhetherToAccept(const std::u16string& ip);
   void AcceptCaller(std::int64_t requestId);
   void RejectCaller(std::int64_t requestId, const std::u16string& ip);

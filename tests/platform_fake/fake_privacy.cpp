@@ -44,6 +44,10 @@ void FakePrivacy::Begin() {
   isOpen_ = isSettled_ = offerNow_ == PrivacyOffer::Never;
 }
 
+void FakePrivacy::Connected() {
+  if (offerNow_ == PrivacyOffer::Never) Enter(Privacy::Clear);
+}
+
 void FakePrivacy::End() {
   isOpen_ = isSettled_ = true;
   peer_.reset();

@@ -52,7 +52,8 @@ class FakePrivacy : public PeerPrivacy {
   friend class FakeSocket;
 
   bool CanBePrivate() const { return offerNow_ != PrivacyOffer::Never && isReady_; }
-  void Begin();
+  void Begin();      // a call, or a connection that is accepted
+  void Connected();  // it is made
   void End();
   void SettleByArrival(std::u16string_view text);
   void SettleInClear(std::u16string_view text);

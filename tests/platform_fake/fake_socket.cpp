@@ -62,6 +62,7 @@ void FakeSocket::Connect() {
     state_ = SocketState::Connected;
     peer_ = listener->second;
     remoteHostIP_ = peer_->localIP;
+    privacy.Connected();
     peer_->callers_.push_back(this);
     peer_->AskNextCaller();
     if (onConnect) onConnect();
@@ -97,6 +98,7 @@ void FakeSocket::Accept(std::int64_t requestId) {
   isCaller_ = false;
   hasSent_ = false;
   privacy.Begin();
+  Post([this] { privacy.Connected(); });
   for (const std::u16string& text : std::exchange(caller->early_, {})) Arrive(text);
 }
 
