@@ -52,7 +52,8 @@ class ConnectionActions {
   void HangUp();
   // Whether the line is not said to a peer, but calls by the invitation that it is, or tries to be.
   bool IsInvitationToCall(std::u16string_view line) const;
-  // An invitation from outside the program: asks before it calls.
+  // An invitation from outside the program: asks before it calls. Does nothing if the text does not
+  // look like one.
   void OpenInvitation(std::u16string_view text);
   // Asks, unless Idle, whether the program may end, and sets AppState::ExitConfirmed.
   void ConfirmExit();

@@ -30,6 +30,8 @@ bool ConnectionActions::IsInvitationToCall(std::u16string_view line) const {
 void ConnectionActions::OpenInvitation(std::u16string_view text) {
   namespace texts = invitation_texts;
   errors_.Guard(Procedure::Invite, [this, text] {
+    // Anything else on a command line is not for this program.
+    if (!LooksLikeInvitation(text)) return;
     const auto invitation = InvitationIn(text);
     if (!invitation) return TellOfWrongInvitation();
     const std::u16string port = DecimalText(invitation->port);

@@ -95,11 +95,12 @@ void SocketEvents::sckControl_Close() {
     const PrivacyFailure failure = platform_.privacy.LastFailure();
     platform_.sckControl.Close();
     const ConnectionState left = StateOf(state_);
+    const std::u16string notPrivate = NotPrivateText();
     ResetConnection(state_, platform_);
     platform_.frmMain.window.FlagForAttention();
     const bool isConversation = left == ConnectionState::Connected;
     if (left != ConnectionState::Idle && !isConversation && failure != PrivacyFailure::None) {
-      SetStatus(status_texts::kNotPrivate, state_.RemoteHost, state_.RemotePort);
+      platform_.frmMain.lblStatus.SetCaption(notPrivate);
       return ExplainPrivacyFailure(state_, platform_, failure);
     }
     if (left == ConnectionState::Calling || left == ConnectionState::Waiting) {
@@ -114,6 +115,16 @@ void SocketEvents::sckControl_Close() {
     log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());
     state_.LogOpen = false;
   });
+}
+
+// Who has called is known only by what the window shows of it.
+std::u16string SocketEvents::NotPrivateText() const {
+  const MainWindow& frmMain = platform_.frmMain;
+  const bool wasCalled = StateOf(state_) == ConnectionState::Waiting;
+  return status_texts::kNotPrivate.Fill(
+      state_.IsGreek,
+      {wasCalled ? frmMain.lblRemoteIP.Caption() : state_.RemoteHost,
+       wasCalled ? frmMain.lblRemotePort.Caption() : DecimalText(state_.RemotePort)});
 }
 
 void SocketEvents::tmrTimer_Timer() {

@@ -40,6 +40,8 @@ class SocketEvents {
   std::function<void(std::u16string_view address)> onIncomingCall;
 
  private:
+  // The status when a connection has ended because the keys could not be proved.
+  std::u16string NotPrivateText() const;
   bool IsSilentCaller() const;
   bool HasProvedItself() const;
   bool AskWhetherToAccept(const std::u16string& ip);

@@ -16,7 +16,8 @@ bool MayBeCalled(const KnownPeer& peer, std::u16string_view name) {
   const auto has = [name = ShowableNickname(name)](const std::vector<std::u16string>& names) {
     return std::ranges::find(names, name) != names.end();
   };
-  return has(peer.acceptedNames) || (IsTrusted(peer) && has(peer.names));
+  const bool isGiven = peer.givenName == ShowableNickname(name);
+  return has(peer.acceptedNames) || (IsTrusted(peer) && (isGiven || has(peer.names)));
 }
 
 PeerVerdict JudgeKey(const PeerBook& book, const KeyFingerprint& key, std::u16string_view name,

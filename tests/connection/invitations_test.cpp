@@ -158,8 +158,13 @@ TEST_F(InvitationFromOutsideTest, NoCallsNobody) {
   EXPECT_FALSE(program.State().IsCalling || program.State().IsConnected);
 }
 
+TEST_F(InvitationFromOutsideTest, WhatIsNoneIsIgnored) {
+  StartWith(u"--fullscreen", Answer::Ok);
+  EXPECT_TRUE(carol.dialogs.messages.empty());
+}
+
 TEST_F(InvitationFromOutsideTest, AWrongOneIsTold) {
-  StartWith(u"--help", Answer::Ok);
+  StartWith(u"verlume://bob:4000", Answer::Ok);
   ASSERT_EQ(carol.dialogs.messages.size(), 1u);
   EXPECT_TRUE(carol.dialogs.messages[0].text.starts_with(u"This is not a whole invitation."));
 }

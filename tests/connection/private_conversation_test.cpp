@@ -139,6 +139,16 @@ TEST_F(PrivateConversationTest, AFailureIsToldInBothLanguages) {
   }
 }
 
+TEST_F(PrivateConversationTest, WhoWasCalledIsToldWhoCouldNot) {
+  bob.platform.window.mnuPrivateOnly.Click();
+  ann.platform.window.mnuPrivateNever.Click();
+  Connect();
+  EXPECT_EQ(bob.Status(), u"Remote computer / port: 192.0.2.1 / " +
+                              DecimalText(ann.platform.socket.LocalPort()) +
+                              u". A private connection could NOT be established.");
+  EXPECT_FALSE(ann.program.State().IsConnected);
+}
+
 TEST_F(PrivateConversationTest, AFileAboutPeopleThatIsNotWholeIsTold) {
   PeerBook nobody;
   ProgramCopy carol(network, u"Carol", nobody);

@@ -81,6 +81,8 @@ TEST_F(PeerVerdictTest, TwoThatAreVerifiedMayHaveTheSameName) {
   book.Meet(MeetingOf(1, u"Bob"));
   book.SetVerified(KeyOfNumber(1), true);
   EXPECT_EQ(Private(1, u"Carol"), StopReason::OtherKeyForName) << "never had it before";
+  book.SetGivenName(KeyOfNumber(1), u"Carol");
+  EXPECT_EQ(Private(1, u"Carol"), StopReason::None) << "the user calls both so";
 }
 
 TEST_F(PeerVerdictTest, InClearEachNameAndPlaceKnownInPrivateStops) {

@@ -52,7 +52,8 @@ class Program {
   Program& operator=(const Program&) = delete;
 
   // Loads the main window, shows it and starts the clock; from then on the program waits for
-  // events. An invitation from outside ("" for none) is opened when the window has been laid out.
+  // events. An invitation from outside ("" for none) is opened when the window has been laid out;
+  // another text is ignored.
   void Start(std::u16string_view invitation = {});
 
   const AppState& State() const { return state_; }
