@@ -9,6 +9,7 @@
 #include "platform/macro_window.h"
 #include "platform/main_window.h"
 #include "platform/people_window.h"
+#include "platform/privacy.h"
 #include "platform/socket.h"
 #include "platform/system.h"
 #include "platform/verify_window.h"
@@ -22,6 +23,7 @@ struct Platform {
   PeopleWindow& frmPeople;
   VerifyWindow& frmVerify;
   Socket& sckControl;
+  PeerPrivacy& privacy;
   Dialogs& dialogs;
   CommonDialog& dlgControl;
   FileSystem& files;

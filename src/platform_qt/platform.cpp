@@ -22,6 +22,7 @@ QtPlatform::QtPlatform()
           .frmPeople = people_.View(),
           .frmVerify = verify_.View(),
           .sckControl = socket_,
+          .privacy = socket_.ConnectionPrivacy(),
           .dialogs = dialogs_,
           .dlgControl = commonDialog_,
           .files = files_,

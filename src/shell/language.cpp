@@ -38,6 +38,7 @@ void Language::ApplyLanguage() {
     frmMain.rtbData.SetLinkHint(kLinkHint.In(isGreek));
     frmMain.mnuToolsAlwaysOnTop.SetToolTip(
         frmMain.window.CanBeTopMost() ? u"" : kNeverTopMost.In(isGreek));
+    if (onApplied) onApplied();
     frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);
     frmMain.mnuToolsLanguageGreek.SetChecked(isGreek);
     platform_.dialogs.SetLanguage(isGreek);

@@ -78,6 +78,7 @@ class AssistiveToolsTest : public testing::Test {
                     .frmPeople = fake.people.frmPeople,
                     .frmVerify = fake.verify.frmVerify,
                     .sckControl = fake.socket,
+                    .privacy = fake.socket.privacy,
                     .dialogs = fake.dialogs,
                     .dlgControl = fake.commonDialog,
                     .files = fake.files,

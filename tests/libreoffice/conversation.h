@@ -51,6 +51,7 @@ class Conversation {
                         fakes_.people.frmPeople,
                         fakes_.verify.frmVerify,
                         fakes_.socket,
+                        fakes_.socket.privacy,
                         fakes_.dialogs,
                         fakes_.commonDialog,
                         fakes_.files,

@@ -126,6 +126,7 @@ class CallersFixture : public testing::Test {
                        fake.people.frmPeople,
                        fake.verify.frmVerify,
                        socket,
+                       fake.socket.privacy,
                        fake.dialogs,
                        fake.commonDialog,
                        fake.files,

@@ -13,6 +13,7 @@ FakePlatform::FakePlatform(FakeNetwork& network)
           .frmPeople = people.frmPeople,
           .frmVerify = verify.frmVerify,
           .sckControl = socket,
+          .privacy = socket.privacy,
           .dialogs = dialogs,
           .dlgControl = commonDialog,
           .files = files,

@@ -121,6 +121,7 @@ TEST_F(LogFolderTest, ConversationThatBeginsDuringTheDialogKeepsItsFolder) {
                        fake.people.frmPeople,
                        fake.verify.frmVerify,
                        fake.socket,
+                       fake.socket.privacy,
                        fake.dialogs,
                        dialog,
                        fake.files,

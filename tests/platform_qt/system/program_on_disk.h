@@ -122,6 +122,7 @@ class BasicProgramOnDisk {
                        people.frmPeople,
                        verify.frmVerify,
                        socket,
+                       socket.privacy,
                        dialogs,
                        commonDialog,
                        disk,

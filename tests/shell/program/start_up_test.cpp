@@ -199,6 +199,7 @@ TEST_F(StartUpTest, ALongHostNameIsCutToANickname) {
                     fake.people.frmPeople,
                     fake.verify.frmVerify,
                     socket,
+                    socket.privacy,
                     fake.dialogs,
                     fake.commonDialog,
                     fake.files,
