@@ -58,6 +58,7 @@ TEST_F(QtLockLabelTest, KeepsItsPlaceWithAndWithoutTheStatusPanel) {
   const QRect before = PlaceOf("lblLock");
   view.fraPanel.SetVisible(false);
   EXPECT_EQ(PlaceOf("lblLock").left(), before.left());
+  EXPECT_GT(PlaceOf("lblLock").top(), before.top());
   EXPECT_EQ(PlaceOf("lblLock").top(), PlaceOf("lblStatus").top());
   EXPECT_TRUE(widget->isVisible());
   lock.SetCaption(u"");
