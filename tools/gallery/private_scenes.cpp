@@ -13,8 +13,9 @@ constexpr TextPair kVerified = {u"Private, verified: Carol (calls itself Bob)",
                                 u"Ιδιωτική, επαληθευμένη: Carol (συστήνεται ως Bob)"};
 constexpr TextPair kOpen = {u"Not private: the other program cannot",
                             u"Όχι ιδιωτική: το άλλο πρόγραμμα δεν μπορεί"};
-constexpr TextPair kWarning = {u"Private, first time with this key; another Bob is known",
-                               u"Ιδιωτική, πρώτη φορά με αυτό το κλειδί· γνωστός και άλλος Bob"};
+constexpr TextPair kWarning = {
+    u"Not private: the other program cannot; another Bob is known",
+    u"Όχι ιδιωτική: το άλλο πρόγραμμα δεν μπορεί· γνωστός και άλλος Bob"};
 constexpr TextPair kChanged = {
     u"Carol has another key than on 3 November 2026, when you verified it. That happens with a new "
     u"computer, and also when somebody between you reads along. Ask her before you go on.",

@@ -135,6 +135,9 @@ TEST_F(QtKeyBarTest, EnterAndTheSpaceBarOnAButtonPressItAfterARest) {
   Rest();
   Press(Qt::Key_Space);
   EXPECT_EQ(timesGoneOn, 1);
+  Rest();
+  Press(Qt::Key_Return);
+  EXPECT_EQ(timesGoneOn, 2);
   EXPECT_EQ(timesHungUp, 1);
 }
 

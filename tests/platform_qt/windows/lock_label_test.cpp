@@ -45,6 +45,7 @@ TEST_F(QtLockLabelTest, IsThereOnlyWhileItHasSomethingToSay) {
   EXPECT_FALSE(widget->isVisible());
   lock.SetCaption(u"Private, verified: Carol");
   EXPECT_TRUE(widget->isVisible());
+  EXPECT_GT(PlaceOf("lblLock").width(), PlaceOf("lblWaiting").width());
   EXPECT_LT(PlaceOf("lblStatus").right(), PlaceOf("lblWaiting").left());
   EXPECT_LT(PlaceOf("lblWaiting").right(), PlaceOf("lblLock").left());
   lock.SetCaption(u"");
@@ -57,6 +58,7 @@ TEST_F(QtLockLabelTest, KeepsItsPlaceWithAndWithoutTheStatusPanel) {
   const QRect before = PlaceOf("lblLock");
   view.fraPanel.SetVisible(false);
   EXPECT_EQ(PlaceOf("lblLock").left(), before.left());
+  EXPECT_GT(PlaceOf("lblLock").top(), before.top());
   EXPECT_EQ(PlaceOf("lblLock").top(), PlaceOf("lblStatus").top());
   EXPECT_TRUE(widget->isVisible());
   lock.SetCaption(u"");
