@@ -207,6 +207,17 @@ TEST_F(PeerGateTest, ANameThatComesOnlyWithTheHandshakeStopsThere) {
   EXPECT_EQ(ann.Dialogue(), u"<Carol>hello");
 }
 
+TEST_F(PeerGateTest, TheNameOfTheHandshakeIsRememberedButOfNoLaterOne) {
+  bob.Enter(u"/NICK Dora");
+  bob.Privacy().SetOwnName(u"Robert");
+  Call(ann, bob, u"elsewhere");
+  EXPECT_NE(ann.Peers().find(u"Name=\"Dora\"\r\nName=\"Robert\""), std::u16string::npos);
+  const std::u16string& marker = ann.program.State().ProtocolMarker;
+  ann.platform.socket.Receive(marker + u"SEve" + u'\0');
+  EXPECT_EQ(ann.platform.window.lblRemoteNickname.caption, u"Eve");
+  EXPECT_EQ(ann.Peers().find(u"Eve"), std::u16string::npos) << "a peer could send any number";
+}
+
 TEST_F(PeerGateTest, HangingUpAtTheHandshakeLeavesNothingBehind) {
   bob.Enter(u"/NICK Carol");
   bob.Privacy().SetOwnName(u"Bob");
