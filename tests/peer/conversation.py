@@ -41,12 +41,13 @@ class Conversation:
 
     def begin(self, limit=LIMIT):
         """Up to S and C, in clear or inside. Raises Late, Broken, NotExpected."""
-        s = b""
+        s, hasty = b"", False
         if self.role == CALLEE:
+            hasty = self._has_come()
             s = self._opening("S", self.name)
             self.wire.send(s)
         first, found = self._first_arrival("S" if self.role == CALLER else "C", limit)
-        if found:
+        if found and not hasty:
             self._become_private(s, first)
         elif self.expected:
             raise NotExpected("it cannot talk privately")
@@ -93,6 +94,14 @@ class Conversation:
         if not self.road.private:
             return ""
         return digits.digits(self.own.spki, self.peer_spki)
+
+    def _has_come(self):
+        """Whether the caller has not waited for S."""
+        try:
+            self.wire.arrivals.appendleft(self.wire.receive(0))
+            return True
+        except Late:
+            return False
 
     def _opening(self, kind, name):
         if self.own:
