@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/protocol_marker.h"
 #include "richtext/code_pages.h"
 #include "support/side.h"
 
@@ -40,7 +41,7 @@ TEST(ProtocolMarkerTest, ItIsTheFixedText) {
 
 TEST(ProtocolMarkerTest, ItCrossesTheWireUnchanged) {
   const std::string bytes = richtext::EncodeGreek(BuildProtocolMarker());
-  EXPECT_EQ(bytes.size(), 69u);
+  EXPECT_EQ(bytes, kMarkerBytes);
   EXPECT_EQ(richtext::DecodeGreek(bytes), BuildProtocolMarker());
 }
 

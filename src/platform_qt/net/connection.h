@@ -5,7 +5,6 @@
 
 #include <QTcpSocket>
 #include <QThread>
-#include <QTimer>
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
@@ -13,6 +12,8 @@
 #include <memory>
 #include <mutex>
 
+#include "platform_qt/net/read_size.h"
+#include "platform_qt/net/road.h"
 #include "platform_qt/net/sender.h"
 #include "stream/arrival_assembler.h"
 #include "stream/arrival_queue.h"
@@ -33,7 +34,7 @@ class Connection : public QObject {
   // How long a closing connection goes on sending.
   static constexpr std::chrono::seconds kSendingLimit{2};
   // How many bytes one read returns at most.
-  static constexpr qint64 kReadSize = 256 << 10;
+  static constexpr qint64 kReadSize = qt::kReadSize;
 
   // Moves the socket, which has no parent, to the network thread. `timeout` is how long an
   // incomplete text waits for its next byte.
@@ -44,8 +45,8 @@ class Connection : public QObject {
   // Whether texts can be sent: the connection has not ended, as far as the system knows.
   bool IsOpen() const { return isOpen_; }
 
-  void Send(stream::OutgoingText text);
-  // How many lines the peer's machine has not acknowledged; the last number once it has ended.
+  void Send(std::u16string_view text, TextKind kind);
+  // How many lines are not acknowledged; the last number once it has ended.
   std::size_t LinesWaiting() const { return linesWaiting_; }
 
   // The oldest arrival, if there is one. While several mebibytes of them wait no more is read, and
@@ -65,19 +66,16 @@ class Connection : public QObject {
   // All of these run on the network thread.
   void CheckThread() const { Q_ASSERT(QThread::currentThread() == thread()); }
   void Start();
-  void Read();
-  void ResumeReading();
-  void DeliverOverdue();
-  void Deliver();
-  void Enqueue(std::string_view arrival);
-  void OnDisconnected();
+  Road::Events RoadEvents();
+  void Enqueue(std::u16string arrival);
+  void OnEnded();
   void OnAcknowledged(std::size_t lines);
   void StartClosing();
-  void ShutDownSending();
   void WakeFinishSending();
   void Abort();
 
   QTcpSocket* const socket_;
+  const std::chrono::milliseconds timeout_;
   const Events events_;
   std::atomic<bool> isOpen_;
   std::atomic<std::size_t> linesWaiting_ = 0;
@@ -88,9 +86,8 @@ class Connection : public QObject {
   bool hasSendingEnded_ = false;
 
   // For the network thread only.
-  Sender* sender_ = nullptr;
-  stream::ArrivalAssembler assembler_;
-  QTimer timeout_{this};  // of an incomplete text
+  std::unique_ptr<Road> road_;
+  bool isClosing_ = false;
 };
 
 // A connection is destroyed on its own thread.

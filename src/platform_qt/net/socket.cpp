@@ -14,7 +14,6 @@
 #include "platform/run_time_failure.h"
 #include "platform_qt/convert/text.h"
 #include "platform_qt/net/socket_address.h"
-#include "richtext/code_pages.h"
 
 namespace verlume::qt {
 namespace {
@@ -344,7 +343,7 @@ void QtSocket::Abort(QTcpSocket* socket) {
 
 void QtSocket::SendData(std::u16string_view text, TextKind kind) {
   if (State() != SocketState::Connected) return;
-  connection_->Send({richtext::EncodeGreek(text), kind});
+  connection_->Send(text, kind);
 }
 
 std::size_t QtSocket::LinesWaiting() const {
