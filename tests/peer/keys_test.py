@@ -1,8 +1,11 @@
 """Peers whose key or certificate is not what it has to be."""
 
+import subprocess
+import tempfile
 import unittest
 
 from OpenSSL import SSL, crypto
+from cryptography.hazmat.primitives import serialization
 from cryptography.hazmat.primitives.asymmetric import ec, ed25519, rsa
 
 import identity
@@ -40,6 +43,12 @@ class Keys(AttackCase):
                 own = identity.Identity(key)
                 self.in_both_roles(lambda role: self.refused(role, show(any_context), own))
 
+    def test_keys_that_are_written_in_another_way(self):
+        for option in ("-conv_form", "compressed"), ("-param_enc", "explicit"):
+            with self.subTest(option=option):
+                own = written_with(option)
+                self.in_both_roles(lambda role: self.refused(role, show(any_context), own))
+
     def test_the_victims_own_key(self):
         self.in_both_roles(lambda role: self.refused(role, show(any_context), OWN))
 
@@ -69,6 +78,24 @@ class Keys(AttackCase):
             made.set_max_proto_version(SSL.TLS1_2_VERSION)
             return made
         self.in_both_roles(lambda role: self.refused(role, show(older)))
+
+
+def written_with(option):
+    """An identity whose certificate holds its point or its curve in an unusual form."""
+    made = identity.Identity()
+    secret = made.key.private_bytes(identity.PEM, serialization.PrivateFormat.TraditionalOpenSSL,
+                                    serialization.NoEncryption())
+    with tempfile.NamedTemporaryFile() as file:
+        file.write(run("openssl", "ec", *option, sent=secret))
+        file.flush()
+        pem = run("openssl", "req", "-x509", "-subj", "/CN=x", "-key", file.name, sent=b"")
+    made.certificate = crypto.load_certificate(crypto.FILETYPE_PEM, pem)
+    return made
+
+
+def run(*command, sent):
+    return subprocess.run(command, input=sent, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                          check=True).stdout
 
 
 def borrowed(own):

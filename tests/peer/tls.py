@@ -19,7 +19,10 @@ def context(own, signature=SIGNATURE):
     if signature:
         lib.SSL_CTX_set1_sigalgs_list(made._context, signature.encode("ascii"))
     if own:
-        made.use_certificate(crypto.X509.from_cryptography(own.certificate))
+        certificate = own.certificate
+        if not isinstance(certificate, crypto.X509):
+            certificate = crypto.X509.from_cryptography(certificate)
+        made.use_certificate(certificate)
         made.use_privatekey(crypto.PKey.from_cryptography_key(own.key))
     return made
 
@@ -61,7 +64,10 @@ class TlsWire:
         key = leaf.to_cryptography().public_key()
         if getattr(getattr(key, "curve", None), "name", "") != "secp256r1":
             raise Broken("a key that is not on P-256")
-        spki = identity.public_bytes(key)
+        # Made of the numbers alone, it is in the one form in which a key may be written.
+        spki = identity.public_bytes(key.public_numbers().public_key())
+        if spki not in leaf.to_cryptography().tbs_certificate_bytes:
+            raise Broken("a key that is not written as it should")
         if spki == own_spki:
             raise Broken("the own key")
         return spki
@@ -83,7 +89,10 @@ class TlsWire:
 
     def send(self, data, limit=LIMIT):
         for start in range(0, len(data), 16384):
-            self.connection.sendall(data[start:start + 16384])
+            try:
+                self.connection.sendall(data[start:start + 16384])
+            except SSL.Error:
+                raise ConnectionError("TLS has ended") from None
             self._flush(limit)
 
     def finish(self):

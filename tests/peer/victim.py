@@ -52,7 +52,10 @@ class PythonVictim:
         wait_until(lambda: any(part in line for line in self.lines()), limit)
 
     def wait_until_connected(self, limit=LIMIT):
-        wait_until(lambda: self.conversation and self.conversation.connected, limit)
+        wait_until(self.is_connected, limit)
+
+    def is_connected(self):
+        return bool(self.conversation and self.conversation.connected)
 
     def wait_for_end(self, limit=LIMIT):
         self._thread.join(limit)
@@ -81,6 +84,9 @@ class PythonVictim:
         self.hang_up()
 
     def _reset(self):
+        if self._thread:
+            self.hang_up()
+            self.wait_for_end()
         self.conversation = None
         self.failure = None
         self.expected = getattr(self, "expected", None)

@@ -48,8 +48,9 @@ class Wire:
 
     def receive(self, limit=LIMIT):
         """The next arrival. Raises Late."""
-        if not self.arrivals and not self.ended:
-            self._wait(limit, False)
+        deadline = time.monotonic() + limit
+        while not self.arrivals and not self.ended:
+            self._wait(deadline - time.monotonic(), False)
             self._read()
         return self.arrivals.popleft() if self.arrivals else b""
 
