@@ -5,15 +5,18 @@ import unittest
 
 import identity
 from attacker import Attacker, meet
+from driver_victim import DriverVictim
 from frames import CALLEE, CALLER, Broken
 from victim import PythonVictim
 
 ROLES = {"caller": CALLER, "callee": CALLEE}  # of the victim
-OWN, MALLORY = identity.Identity(), identity.Identity()
+MALLORY = identity.Identity()
 
 
 def make_victim():
-    return PythonVictim(OWN)
+    """The program, if VERLUME_DRIVER says where its driver is."""
+    driver = os.environ.get("VERLUME_DRIVER")
+    return DriverVictim(driver) if driver else PythonVictim(identity.Identity())
 
 
 class AttackCase(unittest.TestCase):

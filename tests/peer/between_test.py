@@ -6,7 +6,7 @@ import unittest
 import identity
 import messages
 import wire
-from attack_case import MALLORY, OWN, ROLES, AttackCase
+from attack_case import MALLORY, ROLES, AttackCase
 from attacker import Attacker
 from between import CHANGES, Between, Cut, Faithful, Records, Replace, Strip
 from frames import CALLEE, CALLER, Broken

@@ -33,8 +33,8 @@ class BeforeHello(AttackCase):
     def test_hellos_of_wrong_lengths(self):
         for length in (0, 1, 32, 162, 65536):
             with self.subTest(length=length):
-                self.refused_first(lambda attacker, length=length:
-                                   frame(HELLO, (self.good(attacker)[5:38] + b"x" * length)[:length]))
+                self.refused_first(lambda attacker, length=length: frame(
+                    HELLO, (self.good(attacker)[5:38] + b"x" * length)[:length]))
 
     def test_lengths_above_the_limit(self):
         for kind in (HELLO, TEXT, UNKNOWN):
@@ -66,7 +66,7 @@ class BehindHello(AttackCase):
         self.in_both_roles(lambda role: self.ended(role, attack))
 
     def test_a_second_hello(self):
-        self.ends(lambda road: frames.hello(road.role, road.transcript, "Other") + frames.text(EVIL))
+        self.ends(lambda road: frames.hello(road.role, road.transcript, "Eve") + frames.text(EVIL))
 
     def test_wrong_lengths(self):
         for data in (frame(ALIVE, b"x"), frame(GOODBYE, b"x"), frame(ACKNOWLEDGEMENT, b"\0" * 7),

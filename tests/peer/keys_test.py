@@ -10,7 +10,7 @@ from cryptography.hazmat.primitives.asymmetric import ec, ed25519, rsa
 
 import identity
 import tls
-from attack_case import MALLORY, OWN, AttackCase
+from attack_case import MALLORY, AttackCase
 from frames import CALLER
 
 
@@ -31,7 +31,7 @@ class Keys(AttackCase):
         def check(role):
             attacker, road = self.talks_privately(
                 role, lambda attacker: attacker.tails().handshake(any_context(attacker.own)))
-            self.assertEqual(attacker.tls.peer_key(MALLORY.spki), OWN.spki)
+            self.assertEqual(attacker.tls.peer_key(MALLORY.spki), self.victim.own.spki)
             self.finish(road)
         self.in_both_roles(check)
 
@@ -50,7 +50,7 @@ class Keys(AttackCase):
                 self.in_both_roles(lambda role: self.refused(role, show(any_context), own))
 
     def test_the_victims_own_key(self):
-        self.in_both_roles(lambda role: self.refused(role, show(any_context), OWN))
+        self.in_both_roles(lambda role: self.refused(role, show(any_context), self.victim.own))
 
     def test_no_certificate(self):
         """A server of TLS cannot begin without one."""
@@ -59,7 +59,7 @@ class Keys(AttackCase):
     def test_two_certificates(self):
         def two(own):
             made = any_context(own)
-            made.add_extra_chain_cert(crypto.X509.from_cryptography(OWN.certificate))
+            made.add_extra_chain_cert(crypto.X509.from_cryptography(FRIEND.certificate))
             return made
         self.in_both_roles(lambda role: self.refused(role, show(two)))
 
