@@ -50,7 +50,8 @@ class QtPlatform {
   QtWindowMemory windowMemory_{
       &window_.form(), window_.View(),
       QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};
-  QtSocket socket_;
+  QtSocket socket_{stream::ArrivalAssembler::kTimeout,
+                   QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.key").toStdString()};
   QtDialogs dialogs_{&window_.form()};
   QtCommonDialog commonDialog_{&window_.form()};
   QtAttention attention_{&window_.form()};

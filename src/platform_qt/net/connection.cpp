@@ -1,10 +1,16 @@
 #include "platform_qt/net/connection.h"
 
+#include <fcntl.h>
+
 #include <QTimer>
 #include <utility>
 
 #include "platform_qt/net/clear_road.h"
+#include "platform_qt/net/private_road.h"
 #include "platform_qt/net/socket_options.h"
+#include "richtext/code_pages.h"
+#include "stream/tail.h"
+#include "stream/utf8_text.h"
 
 namespace verlume::qt {
 namespace {
@@ -15,11 +21,15 @@ constexpr std::chrono::seconds kClosingLimit = Connection::kSendingLimit + std::
 }  // namespace
 
 Connection::Connection(QTcpSocket* socket, QThread& network, std::chrono::milliseconds timeout,
-                       Events events)
-    : socket_(socket),
-      timeout_(timeout),
+                       Events events, PrivacyTerms terms)
+    : timeout_(timeout),
       events_(std::move(events)),
-      isOpen_(socket->state() == QAbstractSocket::ConnectedState) {
+      terms_(std::move(terms)),
+      isOpen_(socket->state() == QAbstractSocket::ConnectedState),
+      privacy_(terms_.offer == PrivacyOffer::Never ? Privacy::Clear : Privacy::None),
+      isAdmitted_(terms_.offer == PrivacyOffer::Never),
+      socket_(socket),
+      letsIn_(isAdmitted_) {
   socket_->disconnect();
   socket_->setParent(this);
   moveToThread(&network);
@@ -28,17 +38,26 @@ Connection::Connection(QTcpSocket* socket, QThread& network, std::chrono::millis
 
 Connection::~Connection() {
   // The socket's signals must not reach members that are already destroyed.
-  socket_->disconnect();
+  if (socket_) socket_->disconnect();
 }
 
 void Connection::Start() {
   CheckThread();
-  auto* const sender = new Sender(socket_);
+  sender_ = new Sender(socket_);
   // The system tells what the peer's machine has acknowledged only until the connection ends.
-  connect(socket_, &QTcpSocket::stateChanged, sender, &Sender::Flush);
+  connect(socket_, &QTcpSocket::stateChanged, sender_, &Sender::Flush);
   SetConnectionOptions(*socket_);
-  road_ = std::make_unique<ClearRoad>(socket_, sender, RoadEvents(), timeout_, std::string());
-  road_->Start();
+  if (terms_.offer == PrivacyOffer::Never) {
+    return TakeRoad(
+        std::make_unique<ClearRoad>(socket_, sender_, RoadEvents(), timeout_, std::string()));
+  }
+  TakeRoad(std::make_unique<SettlingRoad>(
+      socket_, sender_, RoadEvents(), terms_,
+      SettlingRoad::Settled{
+          .onClear = [this](std::string heard,
+                            std::string_view name) { GoClear(std::move(heard), name); },
+          .onPrivate = [this](Greetings greetings) { GoPrivate(std::move(greetings)); },
+          .onFailed = [this](PrivacyFailure failure) { Fail(failure); }}));
 }
 
 Road::Events Connection::RoadEvents() {
@@ -49,12 +68,98 @@ Road::Events Connection::RoadEvents() {
           .onEnded = [this] { OnEnded(); }};
 }
 
+// The road before may be at work, and is destroyed later.
+void Connection::TakeRoad(std::unique_ptr<Road> road) {
+  if (road_) road_.release()->deleteLater();
+  road_ = std::move(road);
+  road_->Start();
+}
+
+void Connection::GoClear(std::string heard, std::string_view nickname) {
+  CheckThread();
+  Enter(Privacy::Clear);
+  Know({.peer = {.key = std::nullopt, .name = richtext::DecodeGreek(nickname)}, .key = ""});
+  TakeRoad(std::make_unique<ClearRoad>(socket_, sender_, RoadEvents(), timeout_, std::move(heard)));
+}
+
+// TLS gets the connection under a socket that has never seen a byte in clear.
+void Connection::GoPrivate(Greetings greetings) {
+  CheckThread();
+  const int descriptor = ::fcntl(static_cast<int>(socket_->socketDescriptor()), F_DUPFD_CLOEXEC, 0);
+  if (descriptor < 0) return Fail(PrivacyFailure::Broken);
+  socket_->disconnect();
+  socket_->abort();
+  socket_->deleteLater();
+  socket_ = nullptr;
+  Enter(Privacy::Becoming);
+  TakeRoad(std::make_unique<PrivateRoad>(
+      descriptor, terms_, std::move(greetings), RoadEvents(),
+      PrivateRoad::Proved{.onKnown =
+                              [this](const PublicKey& key, std::string_view name) {
+                                Enter(Privacy::Private);
+                                Know({.peer = {.key = FingerprintOf(key),
+                                               .name = stream::DecodeUtf8(name)},
+                                      .key = key});
+                              },
+                          .onFailed = [this](PrivacyFailure failure) { Fail(failure); }}));
+}
+
+void Connection::Enter(Privacy privacy) {
+  privacy_ = privacy;
+  if (events_.onPrivacy) events_.onPrivacy();
+}
+
+void Connection::Know(KnownPeer peer) {
+  {
+    const std::lock_guard lock(peerMutex_);
+    peer_ = std::move(peer);
+  }
+  if (events_.onPeerKnown) events_.onPeerKnown();
+}
+
+std::optional<Connection::KnownPeer> Connection::WhoIsThere() const {
+  const std::lock_guard lock(peerMutex_);
+  return peer_;
+}
+
+void Connection::Fail(PrivacyFailure failure) {
+  CheckThread();
+  if (!isClosing_) failure_ = failure;
+  road_->Abort();
+  OnEnded();
+}
+
+void Connection::Admit() {
+  if (isAdmitted_.exchange(true)) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        letsIn_ = true;
+        road_->Admit();
+        if (isClosing_) return;
+        for (Said& said : std::exchange(waiting_, {})) road_->Send(std::move(said));
+      },
+      Qt::QueuedConnection);
+}
+
 void Connection::Send(std::u16string_view text, TextKind kind) {
   if (kind == TextKind::Line) ++linesWaiting_;
   QMetaObject::invokeMethod(
       this,
-      [this, said = Said{std::u16string(text), kind}]() mutable { road_->Send(std::move(said)); },
+      [this, said = Said{std::u16string(text), kind}]() mutable { SendOrWait(std::move(said)); },
       Qt::QueuedConnection);
+}
+
+// Before the peer is let in, only the side that was called says that the conversation starts.
+void Connection::SendOrWait(Said said) {
+  CheckThread();
+  const auto isStart = [&said] {
+    return stream::IsGreeting(richtext::EncodeGreek(said.text), stream::Greeting::Start);
+  };
+  if (letsIn_) return road_->Send(std::move(said));
+  if (terms_.IsCaller() || hasStarted_ || !isStart()) return waiting_.push_back(std::move(said));
+  hasStarted_ = true;
+  road_->Send(std::move(said));
 }
 
 void Connection::OnAcknowledged(std::size_t lines) {
@@ -70,7 +175,17 @@ std::optional<std::u16string> Connection::NextArrival() {
     QMetaObject::invokeMethod(
         this, [this] { road_->ResumeReading(); }, Qt::QueuedConnection);
   }
+  ++takenIn_;
+  if (privacy_ == Privacy::Private && !isTakenInTold_.exchange(true)) {
+    QMetaObject::invokeMethod(this, &Connection::TellTakenIn, Qt::QueuedConnection);
+  }
   return std::move(taken->arrival);
+}
+
+void Connection::TellTakenIn() {
+  CheckThread();
+  isTakenInTold_ = false;
+  road_->TakenIn(takenIn_);
 }
 
 void Connection::Enqueue(std::u16string arrival) {

@@ -8,13 +8,16 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
 
+#include "platform_qt/net/privacy_terms.h"
 #include "platform_qt/net/read_size.h"
 #include "platform_qt/net/road.h"
 #include "platform_qt/net/sender.h"
+#include "platform_qt/net/settling_road.h"
 #include "stream/arrival_assembler.h"
 #include "stream/arrival_queue.h"
 
@@ -26,9 +29,15 @@ class Connection : public QObject {
  public:
   // Raised on the network thread.
   struct Events {
-    std::function<void()> onArrival;       // NextArrival has one where it had none, or IsOver
-    std::function<void()> onAcknowledged;  // LinesWaiting is less than it was
-    std::function<void()> onClosed;        // after Close: nothing more will happen
+    std::function<void()> onArrival;         // NextArrival has one where it had none, or IsOver
+    std::function<void()> onAcknowledged;    // LinesWaiting is less than it was
+    std::function<void()> onClosed;          // after Close: nothing more will happen
+    std::function<void()> onPrivacy = {};    // HowPrivate is another
+    std::function<void()> onPeerKnown = {};  // WhoIsThere tells
+  };
+  struct KnownPeer {
+    Peer peer;
+    PublicKey key;  // "" in clear
   };
 
   // How long a closing connection goes on sending.
@@ -38,8 +47,8 @@ class Connection : public QObject {
 
   // Moves the socket, which has no parent, to the network thread. `timeout` is how long an
   // incomplete text waits for its next byte.
-  Connection(QTcpSocket* socket, QThread& network, std::chrono::milliseconds timeout,
-             Events events);
+  Connection(QTcpSocket* socket, QThread& network, std::chrono::milliseconds timeout, Events events,
+             PrivacyTerms terms = {});
   ~Connection() override;
 
   // Whether texts can be sent: the connection has not ended, as far as the system knows.
@@ -56,6 +65,16 @@ class Connection : public QObject {
   // The connection has ended, and every arrival has been taken.
   bool IsOver() const { return arrivals_.IsOver(); }
 
+  Privacy HowPrivate() const { return privacy_; }
+  // Nothing before onPeerKnown.
+  std::optional<KnownPeer> WhoIsThere() const;
+  // Lets the peer in: sends what waits.
+  void Admit();
+  // What comes may be raised: the peer is let in, or nobody asks who it is.
+  bool IsAdmitted() const { return isAdmitted_; }
+  // Why the connection ended before its peer was known.
+  PrivacyFailure Failure() const { return failure_; }
+
   // Sends what is queued, for kSendingLimit at most; then the peer gets another second to close.
   void Close();
   bool IsClosed() const { return isClosed_; }
@@ -67,6 +86,14 @@ class Connection : public QObject {
   void CheckThread() const { Q_ASSERT(QThread::currentThread() == thread()); }
   void Start();
   Road::Events RoadEvents();
+  void TakeRoad(std::unique_ptr<Road> road);
+  void GoClear(std::string heard, std::string_view nickname);
+  void GoPrivate(Greetings greetings);
+  void Enter(Privacy privacy);
+  void Know(KnownPeer peer);
+  void Fail(PrivacyFailure failure);
+  void SendOrWait(Said said);
+  void TellTakenIn();
   void Enqueue(std::u16string arrival);
   void OnEnded();
   void OnAcknowledged(std::size_t lines);
@@ -74,9 +101,9 @@ class Connection : public QObject {
   void WakeFinishSending();
   void Abort();
 
-  QTcpSocket* const socket_;
   const std::chrono::milliseconds timeout_;
   const Events events_;
+  const PrivacyTerms terms_;
   std::atomic<bool> isOpen_;
   std::atomic<std::size_t> linesWaiting_ = 0;
   stream::ArrivalQueue arrivals_;
@@ -85,8 +112,21 @@ class Connection : public QObject {
   std::condition_variable sendingEnded_;
   bool hasSendingEnded_ = false;
 
+  std::atomic<Privacy> privacy_;
+  std::atomic<PrivacyFailure> failure_ = PrivacyFailure::None;
+  std::atomic<bool> isAdmitted_;
+  mutable std::mutex peerMutex_;
+  std::optional<KnownPeer> peer_;
+  std::atomic<std::uint64_t> takenIn_ = 0;  // arrivals
+  std::atomic<bool> isTakenInTold_ = false;
+
   // For the network thread only.
+  QTcpSocket* socket_;  // nothing once the conversation is private
+  Sender* sender_ = nullptr;
   std::unique_ptr<Road> road_;
+  bool letsIn_;
+  bool hasStarted_ = false;
+  std::deque<Said> waiting_;  // until the peer is let in
   bool isClosing_ = false;
 };
 

@@ -56,7 +56,8 @@ CallFailure FailureOf(QAbstractSocket::SocketError error) {
 
 }  // namespace
 
-QtSocket::QtSocket(std::chrono::milliseconds timeout) : timeout_(timeout) {
+QtSocket::QtSocket(std::chrono::milliseconds timeout, std::string keyFile)
+    : privacy_(std::move(keyFile), [this] { AdmitPeer(); }), timeout_(timeout) {
   network_.setObjectName("network");
   network_.start();
   server_.setProxy(QNetworkProxy::NoProxy);
@@ -160,8 +161,11 @@ void QtSocket::RaiseConnectionRequest() {
 void QtSocket::Accept(std::int64_t requestId) {
   const Caller caller = requestId == caller_.id ? std::exchange(caller_, {}) : Caller{};
   Close();
-  if (!caller.socket) return Post(&QtSocket::EndConnection);
-  StartConnection(caller.socket);
+  PrivacyTerms terms = privacy_.TermsFor(stream::Role::Callee);
+  const bool mayBegin = privacy_.MayBegin(terms);
+  if (!mayBegin) Abort(caller.socket);
+  if (!caller.socket || !mayBegin) return Post(&QtSocket::EndConnection);
+  StartConnection(caller.socket, std::move(terms));
   peer_ = caller.peer;
 }
 
@@ -177,7 +181,9 @@ void QtSocket::Connect() {
   callFailure_ = CallFailure::None;
   state_ = SocketState::Connecting;
   const QString host = HostToCall(remoteHost_);
-  if (host.isEmpty() || remotePort_ <= 0 || remotePort_ > kLastPort) {
+  callTerms_ = privacy_.TermsFor(stream::Role::Caller);
+  const bool mayBegin = privacy_.MayBegin(callTerms_);
+  if (host.isEmpty() || remotePort_ <= 0 || remotePort_ > kLastPort || !mayBegin) {
     return FailCall(CallFailure::Other);
   }
   auto* socket = new QTcpSocket(this);
@@ -218,21 +224,39 @@ void QtSocket::TakeLookUp(const QHostInfo& found, std::uint64_t generation) {
 
 void QtSocket::RaiseConnect() {
   connectLimit_.stop();
-  StartConnection(std::exchange(calling_, nullptr));
+  StartConnection(std::exchange(calling_, nullptr), std::move(callTerms_));
   if (onConnect) onConnect();
 }
 
-void QtSocket::StartConnection(QTcpSocket* socket) {
+void QtSocket::StartConnection(QTcpSocket* socket, PrivacyTerms terms) {
   const auto post = [this, generation = generation_](void (QtSocket::*step)()) {
     return [this, step, generation] { Post(step, generation); };
   };
   const auto removeClosed = [this] {
     QMetaObject::invokeMethod(this, &QtSocket::RemoveClosed, Qt::QueuedConnection);
   };
-  connection_.reset(new Connection(
-      socket, network_, timeout_,
-      {post(&QtSocket::DeliverArrival), post(&QtSocket::RaiseAcknowledged), removeClosed}));
+  connection_.reset(
+      new Connection(socket, network_, timeout_,
+                     {post(&QtSocket::DeliverArrival), post(&QtSocket::RaiseAcknowledged),
+                      removeClosed, post(&QtSocket::RaisePrivacy), post(&QtSocket::RaisePeerKnown)},
+                     std::move(terms)));
   state_ = SocketState::Connected;
+  Post(&QtSocket::RaisePrivacy);
+}
+
+void QtSocket::RaisePrivacy() {
+  privacy_.OnState(connection_ ? connection_->HowPrivate() : Privacy::None);
+}
+
+void QtSocket::RaisePeerKnown() {
+  auto known = connection_->WhoIsThere();
+  if (known) privacy_.OnPeerKnown(std::move(known->peer), std::move(known->key));
+}
+
+void QtSocket::AdmitPeer() {
+  if (!connection_) return;
+  connection_->Admit();
+  Post(&QtSocket::DeliverArrival);
 }
 
 void QtSocket::RaiseAcknowledged() {
@@ -247,6 +271,7 @@ void QtSocket::DeliverArrival() {
   turn.start();
   while (self && generation == generation_ && !arrivalsPaused_ && !turn.hasExpired(kTurn.count())) {
     if (connection_->IsOver()) return EndConnection();
+    if (!connection_->IsAdmitted()) return connection_->IsOpen() ? void() : EndConnection();
     auto arrival = connection_->NextArrival();
     if (!arrival) return;
     // Posted before the handler runs, which may open a modal box.
@@ -282,6 +307,7 @@ void QtSocket::GiveUpCall() {
 void QtSocket::EndConnection() {
   const ConnectionOwner ended = std::move(connection_);
   const std::size_t undelivered = ended ? ended->LinesWaiting() : 0;
+  if (ended) privacy_.OnFailed(ended->Failure());
   Close();
   if (undelivered > 0) RaiseUndelivered(undelivered);
   if (onClose) onClose();
@@ -301,6 +327,8 @@ void QtSocket::Close() {
   ++generation_;
   state_ = SocketState::Closed;
   peer_ = {};
+  privacy_.OnLeft();
+  Post(&QtSocket::RaisePrivacy);
   arrival_.clear();
   connectLimit_.stop();
   acceptPause_.stop();

@@ -16,6 +16,7 @@
 
 #include "platform/socket.h"
 #include "platform_qt/net/connection.h"
+#include "platform_qt/net/peer_privacy.h"
 
 class QHostInfo;
 
@@ -23,8 +24,10 @@ namespace verlume::qt {
 
 class QtSocket : public QObject, public Socket {
  public:
-  // `timeout` is how long an incomplete text waits for its next byte.
-  explicit QtSocket(std::chrono::milliseconds timeout = stream::ArrivalAssembler::kTimeout);
+  // `timeout` is how long an incomplete text waits for its next byte; `keyFile` is where the key
+  // of this folder of the program is kept.
+  explicit QtSocket(std::chrono::milliseconds timeout = stream::ArrivalAssembler::kTimeout,
+                    std::string keyFile = {});
   // Blocks until what is queued has been sent, for 2 s at most.
   ~QtSocket() override;
 
@@ -50,6 +53,9 @@ class QtSocket : public QObject, public Socket {
   void PauseArrivals() override { arrivalsPaused_ = true; }
   void ResumeArrivals() override;
   bool ArrivalsPaused() const override { return arrivalsPaused_; }
+
+  // Who the peers of this socket's connections are.
+  QtPeerPrivacy& ConnectionPrivacy() { return privacy_; }
 
   // While this holds no connection request is raised; the caller waits.
   void HoldRequestsWhile(std::function<bool()> condition) { holdsRequests_ = std::move(condition); }
@@ -84,7 +90,10 @@ class QtSocket : public QObject, public Socket {
 
   void RaiseConnectionRequest();
   void RaiseConnect();
-  void StartConnection(QTcpSocket* socket);
+  void StartConnection(QTcpSocket* socket, PrivacyTerms terms);
+  void RaisePrivacy();
+  void RaisePeerKnown();
+  void AdmitPeer();
   void RaiseAcknowledged();
   void RaiseUndelivered(std::size_t lines);
   void DeliverArrival();
@@ -97,7 +106,9 @@ class QtSocket : public QObject, public Socket {
   void RaiseArrival(std::u16string arrival);
 
   QTcpServer server_;
+  QtPeerPrivacy privacy_;
   QTcpSocket* calling_ = nullptr;  // of a call, until it is answered
+  PrivacyTerms callTerms_;         // likewise
   Caller caller_;                  // the one that is asked about
   QThread network_{this};          // where established connections live
   ConnectionOwner connection_;
