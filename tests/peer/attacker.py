@@ -12,12 +12,12 @@ from tls import TlsWire, context
 from wire import LIMIT, Late
 
 
-def meet(victim, role):
-    """A connection to the victim, which plays `role` in it."""
+def meet(victim, role, **how):
+    """A connection to the victim, which plays `role` in it, and lets the peer in as `how` says."""
     if role == CALLEE:
-        return wire.connect("127.0.0.1", victim.listen())
+        return wire.connect("127.0.0.1", victim.listen(**how))
     listener = wire.Listener()
-    victim.call(listener.port)
+    victim.call(listener.port, **how)
     try:
         return listener.accept()
     finally:

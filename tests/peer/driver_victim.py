@@ -80,6 +80,10 @@ class DriverVictim:
     def wait_for_end(self, limit=LIMIT):
         wait_until(lambda: self.failure is not None, limit)
 
+    def waiting(self):
+        """How many lines the peer's program has not acknowledged."""
+        return int(self._ask("waiting", "waiting"))
+
     def hang_up(self):
         self._do("close")
         if self.failure is None:
@@ -89,7 +93,9 @@ class DriverVictim:
         return list(self._lines)
 
     def safety_digits(self):
-        return self._ask("digits", "digits")
+        """In groups of five."""
+        plain = self._ask("digits", "digits")
+        return " ".join(plain[i:i + 5] for i in range(0, len(plain), 5))
 
     def resources(self):
         """Resident memory in KiB, open descriptors."""
@@ -116,6 +122,7 @@ class DriverVictim:
         self._peer_name = ""
         self._connected = False
         self._lines = []
+        self.undelivered = 0
         self.failure = None  # how the conversation has ended
 
     def _do(self, command):
@@ -166,8 +173,8 @@ class DriverVictim:
     def _on_closed(self, failure):
         self.failure = failure
 
-    def _on_privacy(self, state):
-        self.privacy = state
+    def _on_undelivered(self, lines):
+        self.undelivered = int(lines)
 
 
 def escaped(text):

@@ -1,6 +1,7 @@
 """The frames inside TLS."""
 
 HELLO, TEXT, PART, ACKNOWLEDGEMENT, ALIVE, GOODBYE = 1, 2, 3, 4, 5, 6
+KNOWN = range(HELLO, GOODBYE + 1)
 GREATEST = 65536  # bytes of a body
 CALLER, CALLEE = 1, 2
 GREATEST_NAME = 128  # bytes

@@ -26,9 +26,20 @@ class BeforeHello(AttackCase):
 
     def test_other_frames_first(self):
         for first in (frames.text(EVIL), frame(PART, b"evil"), frames.acknowledgement(0),
-                      frame(ALIVE), frame(GOODBYE), frame(UNKNOWN), frame(0)):
+                      frame(ALIVE), frame(GOODBYE)):
             with self.subTest(first=first):
                 self.refused_first(lambda attacker, first=first: first + self.good(attacker))
+
+    def test_unknown_kinds_are_skipped_even_here(self):
+        def begin(attacker):
+            attacker.tails().handshake()
+            attacker.send_frame(UNKNOWN, b"x" * 65536)
+            attacker.send_frame(0)
+
+        def check(role):
+            _, road = self.talks_privately(role, begin)
+            self.finish(road)
+        self.in_both_roles(check)
 
     def test_hellos_of_wrong_lengths(self):
         for length in (0, 1, 32, 162, 65536):

@@ -53,6 +53,10 @@ class PrivateRoad:
         self.sent += 1
         self.send_frames(frames.text(text), limit)
 
+    def acknowledgeable(self):
+        """How many texts have come."""
+        return self._came
+
     def took(self):
         """One more text has been taken in."""
         self._taken += 1
@@ -100,6 +104,8 @@ class PrivateRoad:
     def _take(self, kind, body):
         if self.ended:
             raise Broken("a frame behind goodbye")
+        if kind not in frames.KNOWN:
+            return
         if self.peer_name is None:
             self._take_hello(kind, body)
         elif kind == frames.HELLO:

@@ -95,7 +95,8 @@ class NoTails(AttackCase):
     def test_a_tail_that_does_not_end(self):
         start = time.monotonic()
         self.goes_clear(b"+secure/1")
-        self.assertGreater(time.monotonic() - start, 2 * tails.PATIENCE)
+        # Once in each role; timers need not be exact.
+        self.assertGreater(time.monotonic() - start, 2 * 0.9 * tails.PATIENCE)
 
 
 class Variants(AttackCase):

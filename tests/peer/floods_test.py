@@ -1,13 +1,11 @@
-"""Peers that want to use up the memory, the descriptors or the time of the program."""
+"""Peers that want to use up the memory or the descriptors of the program."""
 
-import threading
-import time
 import unittest
 
 import frames
 import tails
 import wire
-from attack_case import MALLORY, AttackCase, make_victim
+from attack_case import MALLORY, AttackCase
 from attacker import Attacker, meet
 from frames import ALIVE, CALLEE, CALLER, PART, TEXT, Broken, frame
 from wire import Late
@@ -15,8 +13,6 @@ from wire import Late
 UNKNOWN = 77
 MEGABYTE = 1024 * 1024
 MOST_MEMORY = 48 * 1024  # KiB by which the victim may have grown at any time
-LIMIT_OF_PROOF = 30.0  # seconds
-MARGIN = 8.0  # seconds
 BROKEN_OFF = 500  # connections in each role
 
 
@@ -141,63 +137,6 @@ def half_a_handshake(attacker):
 STAGES = [half_a_tail, lambda attacker: attacker.tails(), half_a_handshake,
           lambda attacker: attacker.tails().handshake(),
           lambda attacker: attacker.tails().handshake().road()]
-
-
-def silent(attacker):
-    attacker.tails()
-
-
-def drip(attacker):
-    """A byte of a record of TLS each second: something comes, but never the proof."""
-    attacker.tails()
-    for byte in b"\x16\x03\x03\x40\0\x02\0\x3f\xf0" + b"\3" * 100:
-        attacker.wire.send(bytes([byte]))
-        try:
-            if not attacker.wire.receive(1.0) or attacker.wire.ended:
-                return
-        except Late:
-            pass  # the victim still waits
-
-
-def without_hello(attacker):
-    """The key is proved, and nothing is said."""
-    attacker.tails().handshake()
-
-
-def speechless(attacker):
-    """Not even that it is alive."""
-    attacker.tails().handshake().connect()
-
-
-class Slow(unittest.TestCase):
-    """All at once, for each takes half a minute."""
-
-    def test_each_ends_in_time(self):
-        self.errors = []
-        cases = [(act, role) for act in (silent, drip, without_hello, speechless)
-                 for role in (CALLER, CALLEE)]
-        threads = [threading.Thread(target=self.play, args=case) for case in cases]
-        for thread in threads:
-            thread.start()
-        for thread in threads:
-            thread.join()
-        self.assertEqual(self.errors, [])
-
-    def play(self, act, role):
-        victim = make_victim()
-        try:
-            attacker = Attacker(meet(victim, role), role, MALLORY)
-            act(attacker)
-            start = time.monotonic()
-            attacker.drain(LIMIT_OF_PROOF + MARGIN)
-            victim.wait_for_end(MARGIN)
-            took = time.monotonic() - start
-            if act != drip and took < LIMIT_OF_PROOF - MARGIN:
-                self.errors.append(f"{act.__name__}, {role}: after {took:.1f} s")
-        except Exception as error:  # of a thread, for the test to tell
-            self.errors.append(f"{act.__name__}, {role}: {error!r}")
-        finally:
-            victim.close()
 
 
 if __name__ == "__main__":
