@@ -55,6 +55,10 @@ class DriverVictim:
         """when, only, never."""
         self._do("offer " + offer)
 
+    def call_oneself(self, name):
+        """In the hellos of connections that begin from now on."""
+        self._do("name " + escaped(name))
+
     def say(self, line):
         self._do("line " + escaped(messages.document(line)))
 

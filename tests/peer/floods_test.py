@@ -80,6 +80,18 @@ class Floods(Measured):
     def test_texts_without_a_character(self):
         self.swallows(frame(TEXT) * 20_000, 2)
 
+    def test_a_peer_that_never_reads(self):
+        """It has all acknowledged that it sends, and takes no acknowledgement."""
+        for frame_of_many in (frame(TEXT), frames.acknowledgement(1)):
+            with self.subTest(frame=frame_of_many):
+                attacker, _ = self.talks_privately(CALLEE)
+                for _ in range(60):
+                    send_without_reading(attacker, frame_of_many * 50_000)
+                    self.assert_small()
+                attacker.wire.reset()
+                self.victim.wait_for_end()
+                self.assert_as_before()
+
     def swallows(self, data, times):
         """All of it is read, and the victim still talks."""
         def check(role):
@@ -100,6 +112,17 @@ class Floods(Measured):
                 send(data, 1.0)
         except (Late, ConnectionError):
             pass  # its buffers are full, or it has hung up
+
+
+def send_without_reading(attacker, data):
+    """Waits only where the victim has stopped to read, which is an end as good as another."""
+    attacker.wire.socket.settimeout(1.0)
+    for start in range(0, len(data), 16384):
+        attacker.tls.connection.sendall(data[start:start + 16384])
+        try:
+            attacker.wire.socket.sendall(attacker.tls.connection.bio_read(65536))
+        except TimeoutError:
+            return
 
 
 class BrokenOff(Measured):

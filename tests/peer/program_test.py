@@ -69,6 +69,46 @@ class Private(ProgramCase):
             self.part(peer)
         self.in_both_roles(check)
 
+    def test_long_names_are_cut_between_characters(self):
+        self.addCleanup(self.victim.call_oneself, "Victim")
+        for name, heard in (("😀" * 40, "😀" * 32), ("x" + "😀" * 40, "x" + "😀" * 31), ("", "")):
+            self.victim.call_oneself(name)
+            peer = self.begin(CALLEE)
+            self.assertEqual(peer.road.peer_name, heard)
+            self.part(peer)
+
+    def test_names_of_peers(self):
+        for name, heard in ((b"", ""), (b"x" * 128, "x" * 128), (b"a\xffb", "a\ufffdb"),
+                            ("\u202e€\0\n".encode("utf-8"), "\u202e€\0\n")):
+            with self.subTest(name=name):
+                attacker = self.attacker(CALLEE).tails().handshake()
+                attacker.send_frame(frames.HELLO, bytes([frames.CALLER]) + attacker.transcript() + name)
+                wait_until(self.victim.is_private)
+                self.assertEqual(self.victim.name_of_peer(), heard)
+                attacker.close()
+                self.victim.wait_for_end()
+
+    def test_goodbye_is_answered(self):
+        """By the acknowledgement of all that came before it, and goodbye."""
+        def check(role):
+            attacker, road = self.talks_privately(role)
+            texts = [frames.text(messages.document(f"line {number}")) for number in range(50)]
+            attacker.tls.send(b"".join(texts) + frames.frame(frames.GOODBYE))
+            came = frames.Decoder().feed(self.read_to_end(attacker.tls))
+            self.assertEqual(came[-1], (frames.GOODBYE, b""))
+            self.assertEqual(came[-2], (frames.ACKNOWLEDGEMENT, (51).to_bytes(8, "big")))
+            attacker.close()
+            self.victim.wait_for_end()
+            self.assertEqual(len(self.victim.lines()), 50)
+        self.in_both_roles(check)
+
+    @staticmethod
+    def read_to_end(tls):
+        came = b""
+        while data := tls.receive():
+            came += data
+        return came
+
     def test_the_peer_hangs_up(self):
         def check(role):
             peer = self.begin(role)
