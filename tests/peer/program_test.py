@@ -82,7 +82,8 @@ class Private(ProgramCase):
                             ("\u202e€\0\n".encode("utf-8"), "\u202e€\0\n")):
             with self.subTest(name=name):
                 attacker = self.attacker(CALLEE).tails().handshake()
-                attacker.send_frame(frames.HELLO, bytes([frames.CALLER]) + attacker.transcript() + name)
+                body = bytes([frames.CALLER]) + attacker.transcript() + name
+                attacker.send_frame(frames.HELLO, body)
                 wait_until(self.victim.is_private)
                 self.assertEqual(self.victim.name_of_peer(), heard)
                 attacker.close()
