@@ -171,6 +171,37 @@ def step(road):
     return True
 
 
+class Failures(ProgramCase):
+    """What the program is told of a connection that ends before its peer is known."""
+
+    def fails(self, role, attack, failure):
+        self.refused(role, attack)
+        self.assertEqual(self.victim.failure, failure)
+
+    def test_another_key(self):
+        self.victim.expect(bytes(32))
+        self.fails(CALLER, lambda attacker: attacker.tails().handshake().road(), "OtherKey")
+
+    def test_no_key_where_one_is_expected(self):
+        self.victim.expect(bytes(32))
+        self.fails(CALLER, lambda attacker: attacker.wire.send(plain_opening(attacker)),
+                   "NotOffered")
+
+    def test_who_calls_may_have_any_key(self):
+        self.victim.expect(bytes(32))
+        self.part(self.begin(CALLEE))
+
+    def test_a_broken_rule(self):
+        def attack(attacker):
+            attacker.tails()
+            attacker.wire.send(b"in clear")
+        self.in_both_roles(lambda role: self.fails(role, attack, "Broken"))
+
+    def test_a_peer_that_leaves_before_its_proof(self):
+        self.in_both_roles(lambda role: self.fails(
+            role, lambda attacker: attacker.tails().wire.finish(), "Broken"))
+
+
 class Clear(ProgramCase):
     def test_a_peer_that_cannot(self):
         def check(role):
