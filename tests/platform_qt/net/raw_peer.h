@@ -29,7 +29,14 @@ class RawPeer {
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     ::connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address);
   }
-  RawPeer(RawPeer&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+  // An end of a connection that is there already.
+  static RawPeer Of(int descriptor) {
+    RawPeer peer;
+    peer.descriptor_ = descriptor;
+    return peer;
+  }
+  RawPeer(RawPeer&& other) noexcept
+      : descriptor_(std::exchange(other.descriptor_, -1)), received_(std::move(other.received_)) {}
   RawPeer& operator=(RawPeer&&) = delete;
   ~RawPeer() { Close(); }
 
@@ -76,6 +83,8 @@ class RawPeer {
   }
 
  private:
+  RawPeer() : descriptor_(-1) {}
+
   int descriptor_;
   std::string received_;
 };
