@@ -174,6 +174,9 @@ class Keys(BetweenCase):
         to_victim = Attacker(listener.accept(), CALLER, MALLORY)
         to_honest = Attacker(wire.connect("127.0.0.1", callee_port), CALLEE, MALLORY)
         listener.close()
+        self.roads = to_victim, to_honest
+        for road in self.roads:
+            self.addCleanup(road.close)
         to_honest.s = to_honest.wire.receive()
         to_victim.s, to_honest.c = to_honest.s, b""
         to_victim.wire.send(to_victim.s)
@@ -197,8 +200,9 @@ class Keys(BetweenCase):
             self.meet_both()
         self.victim.wait_for_end()
         self.assertFalse(self.victim.is_private() or self.victim.is_clear())
-        self.honest.hang_up()
-        self.honest.wait_for_end(40)
+        for road in self.roads:
+            road.close()
+        self.honest.wait_for_end()
 
     def test_who_expects_a_key_gets_it(self):
         self.victim.expect(HONEST.fingerprint)

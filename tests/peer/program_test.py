@@ -7,7 +7,7 @@ import messages
 import tails
 import wire
 from attack_case import MALLORY, AttackCase
-from attacker import meet
+from attacker import Attacker, meet
 from conversation import Conversation
 from frames import CALLEE, CALLER
 from victim import wait_until
@@ -145,6 +145,23 @@ class Private(ProgramCase):
             peer.wait_until(lambda: peer.connected)
             peer.wait_for_delivery()
             self.part(peer)
+        self.in_both_roles(check)
+
+    def test_a_peer_that_leaves_before_it_is_let_in(self):
+        """What it has said is neither shown nor acknowledged, then or later."""
+        def check(role):
+            attacker = Attacker(meet(self.victim, role, admits=False), role, MALLORY)
+            self.addCleanup(attacker.close)
+            attacker.tails().handshake().road()
+            attacker.tls.send(frames.text(messages.document("too early"))
+                              + frames.frame(frames.GOODBYE))
+            came = frames.Decoder().feed(self.read_to_end(attacker.tls))
+            self.assertNotIn(frames.ACKNOWLEDGEMENT, [kind for kind, _ in came])
+            attacker.close()
+            self.victim.wait_for_end()
+            self.victim.admit()
+            self.assertGreater(self.victim.resources()[0], 0)  # it has been done
+            self.assertEqual(self.victim.lines(), [])
         self.in_both_roles(check)
 
     def test_a_line_waits_until_the_peers_program_has_it(self):

@@ -142,7 +142,7 @@ class Variants(AttackCase):
             road.send(messages.from_clear(piece))
 
 
-class BeforeTheQuestion(AttackCase):
+class OutOfTurn(AttackCase):
     def test_a_confirmation_before_the_start(self):
         """C before S is one of a peer that cannot talk privately, tail or not."""
         caller = wire.connect("127.0.0.1", self.victim.listen(asks=True))
@@ -152,6 +152,19 @@ class BeforeTheQuestion(AttackCase):
         self.victim.let_in()
         self.victim.wait_until_connected()
         self.assertTrue(self.victim.is_clear())
+
+    def test_the_opening_of_the_other_side(self):
+        """S to the callee, C to the caller: each is the one of a peer that cannot."""
+        for role, kind in ((CALLEE, "S"), (CALLER, "C")):
+            with self.subTest(kind=kind):
+                attacker = self.attacker(role)
+                if role == CALLEE:
+                    attacker.wire.receive()
+                attacker.wire.send(tails.with_tail(kind, "Mallory"))
+                self.victim.wait_until_connected()
+                self.assertTrue(self.victim.is_clear())
+                attacker.close()
+                self.victim.wait_for_end()
 
 
 if __name__ == "__main__":
