@@ -26,7 +26,6 @@ Connection::Connection(QTcpSocket* socket, QThread& network, std::chrono::millis
       events_(std::move(events)),
       terms_(std::move(terms)),
       isOpen_(socket->state() == QAbstractSocket::ConnectedState),
-      privacy_(terms_.offer == PrivacyOffer::Never ? Privacy::Clear : Privacy::None),
       isAdmitted_(terms_.offer == PrivacyOffer::Never),
       socket_(socket),
       letsIn_(isAdmitted_) {
@@ -48,6 +47,7 @@ void Connection::Start() {
   connect(socket_, &QTcpSocket::stateChanged, sender_, &Sender::Flush);
   SetConnectionOptions(*socket_);
   if (terms_.offer == PrivacyOffer::Never) {
+    Enter(Privacy::Clear);
     return TakeRoad(
         std::make_unique<ClearRoad>(socket_, sender_, RoadEvents(), timeout_, std::string()));
   }
@@ -105,8 +105,8 @@ void Connection::GoPrivate(Greetings greetings) {
 }
 
 void Connection::Enter(Privacy privacy) {
-  privacy_ = privacy;
-  if (events_.onPrivacy) events_.onPrivacy();
+  isPrivate_ = privacy == Privacy::Private;
+  if (events_.onPrivacy) events_.onPrivacy(privacy);
 }
 
 void Connection::Know(KnownPeer peer) {
@@ -176,7 +176,7 @@ std::optional<std::u16string> Connection::NextArrival() {
         this, [this] { road_->ResumeReading(); }, Qt::QueuedConnection);
   }
   ++takenIn_;
-  if (privacy_ == Privacy::Private && !isTakenInTold_.exchange(true)) {
+  if (isPrivate_ && !isTakenInTold_.exchange(true)) {
     QMetaObject::invokeMethod(this, &Connection::TellTakenIn, Qt::QueuedConnection);
   }
   return std::move(taken->arrival);

@@ -29,11 +29,11 @@ class Connection : public QObject {
  public:
   // Raised on the network thread.
   struct Events {
-    std::function<void()> onArrival;         // NextArrival has one where it had none, or IsOver
-    std::function<void()> onAcknowledged;    // LinesWaiting is less than it was
-    std::function<void()> onClosed;          // after Close: nothing more will happen
-    std::function<void()> onPrivacy = {};    // HowPrivate is another
-    std::function<void()> onPeerKnown = {};  // WhoIsThere tells
+    std::function<void()> onArrival;       // NextArrival has one where it had none, or IsOver
+    std::function<void()> onAcknowledged;  // LinesWaiting is less than it was
+    std::function<void()> onClosed;        // after Close: nothing more will happen
+    std::function<void(Privacy)> onPrivacy = {};  // it is another
+    std::function<void()> onPeerKnown = {};       // WhoIsThere tells
   };
   struct KnownPeer {
     Peer peer;
@@ -65,7 +65,6 @@ class Connection : public QObject {
   // The connection has ended, and every arrival has been taken.
   bool IsOver() const { return arrivals_.IsOver(); }
 
-  Privacy HowPrivate() const { return privacy_; }
   // Nothing before onPeerKnown.
   std::optional<KnownPeer> WhoIsThere() const;
   // Lets the peer in: sends what waits.
@@ -112,7 +111,7 @@ class Connection : public QObject {
   std::condition_variable sendingEnded_;
   bool hasSendingEnded_ = false;
 
-  std::atomic<Privacy> privacy_;
+  std::atomic<bool> isPrivate_ = false;
   std::atomic<PrivacyFailure> failure_ = PrivacyFailure::None;
   std::atomic<bool> isAdmitted_;
   mutable std::mutex peerMutex_;

@@ -235,17 +235,22 @@ void QtSocket::StartConnection(QTcpSocket* socket, PrivacyTerms terms) {
   const auto removeClosed = [this] {
     QMetaObject::invokeMethod(this, &QtSocket::RemoveClosed, Qt::QueuedConnection);
   };
-  connection_.reset(
-      new Connection(socket, network_, timeout_,
-                     {post(&QtSocket::DeliverArrival), post(&QtSocket::RaiseAcknowledged),
-                      removeClosed, post(&QtSocket::RaisePrivacy), post(&QtSocket::RaisePeerKnown)},
-                     std::move(terms)));
+  connection_.reset(new Connection(
+      socket, network_, timeout_,
+      {post(&QtSocket::DeliverArrival), post(&QtSocket::RaiseAcknowledged), removeClosed,
+       [this, generation = generation_](Privacy privacy) { PostPrivacy(privacy, generation); },
+       post(&QtSocket::RaisePeerKnown)},
+      std::move(terms)));
   state_ = SocketState::Connected;
-  Post(&QtSocket::RaisePrivacy);
 }
 
-void QtSocket::RaisePrivacy() {
-  privacy_.OnState(connection_ ? connection_->HowPrivate() : Privacy::None);
+void QtSocket::PostPrivacy(Privacy privacy, std::uint64_t generation) {
+  QMetaObject::invokeMethod(
+      this,
+      [this, privacy, generation] {
+        if (generation == generation_) privacy_.OnState(privacy);
+      },
+      Qt::QueuedConnection);
 }
 
 void QtSocket::RaisePeerKnown() {
@@ -328,7 +333,7 @@ void QtSocket::Close() {
   state_ = SocketState::Closed;
   peer_ = {};
   privacy_.OnLeft();
-  Post(&QtSocket::RaisePrivacy);
+  PostPrivacy(Privacy::None, generation_);
   arrival_.clear();
   connectLimit_.stop();
   acceptPause_.stop();

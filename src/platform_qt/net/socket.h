@@ -91,7 +91,7 @@ class QtSocket : public QObject, public Socket {
   void RaiseConnectionRequest();
   void RaiseConnect();
   void StartConnection(QTcpSocket* socket, PrivacyTerms terms);
-  void RaisePrivacy();
+  void PostPrivacy(Privacy privacy, std::uint64_t generation);
   void RaisePeerKnown();
   void AdmitPeer();
   void RaiseAcknowledged();
