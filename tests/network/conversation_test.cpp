@@ -20,8 +20,8 @@ constexpr LinkQuality kBadLink = {.delay = 200ms, .jitter = 50ms, .loss = 0.05};
 
 class ConversationTest : public testing::Test {
  protected:
-  void Connect(const LinkQuality& quality, std::size_t conversations) {
-    machines_.emplace(quality, kSeed);
+  void Connect(const LinkQuality& quality, std::size_t conversations, Talk talk = Talk::InClear) {
+    machines_.emplace(quality, kSeed, talk);
     for (std::size_t i = 0; i < conversations; ++i) {
       conversations_.emplace_back(*machines_, 4000 + static_cast<int>(i));
     }
@@ -76,6 +76,21 @@ TEST_F(ConversationTest, EveryMessageArrivesOnItsOwnOverASlowAndLossyLink) {
   ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 4));
   ASSERT_NO_FATAL_FAILURE(Start({.steps = 50}));
   ExpectAllShown();
+}
+
+TEST_F(ConversationTest, EveryMessageArrivesOnItsOwnInPrivateOverASlowAndLossyLink) {
+  ASSERT_NO_FATAL_FAILURE(Connect(kBadLink, 4, Talk::InPrivate));
+  ASSERT_NO_FATAL_FAILURE(Start({.steps = 50}));
+  ExpectAllShown();
+}
+
+// In private nothing waits for what is before it to be read: in clear this takes 13 s.
+TEST_F(ConversationTest, InPrivateLinesFollowEachOtherAtOnce) {
+  ASSERT_NO_FATAL_FAILURE(
+      Connect({.delay = 100ms, .jitter = 50ms, .loss = 0.05}, 1, Talk::InPrivate));
+  ASSERT_NO_FATAL_FAILURE(Start({.steps = 44, .longest = 200}));
+  ExpectAllShown();
+  EXPECT_LT(time_.elapsed(), 6000);
 }
 
 TEST_F(ConversationTest, EveryMessageArrivesOnItsOwnOverATelephoneLine) {

@@ -53,9 +53,10 @@ bool WaitUntil(const std::function<bool()>& condition, int limitMilliseconds) {
   return true;
 }
 
-PeerProcess::PeerProcess(const NetNamespace& network, char16_t side, const QString& hosts)
+PeerProcess::PeerProcess(const NetNamespace& network, char16_t side, const QString& hosts,
+                         const QString& settings)
     : side_(side), folder_(QString(kFoldersInMemory) + "/peer-XXXXXX") {
-  MakeFolder(hosts);
+  MakeFolder(hosts, settings);
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("QT_QPA_PLATFORM", "offscreen");
   process_.setProcessEnvironment(environment);
@@ -75,7 +76,7 @@ PeerProcess::~PeerProcess() {
   EXPECT_EQ(process_.exitCode(), 0);
 }
 
-void PeerProcess::MakeFolder(const QString& hosts) {
+void PeerProcess::MakeFolder(const QString& hosts, const QString& settings) {
   const QDir folder(folder_.path());
   folder.mkdir("macros");
   folder.mkdir("logs");
@@ -85,9 +86,9 @@ void PeerProcess::MakeFolder(const QString& hosts) {
             "{\\rtf1\\ansi " + ToQt(kMacroText) + "}");
   WriteFile(folder.filePath("Verlume.ini"),
             QString("[General]\r\nLanguage=0\r\nNickname=%1\r\nDateStamp=False\r\n"
-                    "TimeStamp=False\r\nMacrosfolder=%2/macros/\r\n"
+                    "TimeStamp=False\r\nMacrosfolder=%2/macros/\r\n%3\r\n"
                     "[Logging]\r\nLogfolder=%2/logs/\r\nLogdialogue=True\r\n")
-                .arg(ToQt(FirstNickname(side_.unicode())), folder_.path()));
+                .arg(ToQt(FirstNickname(side_.unicode())), folder_.path(), settings));
 }
 
 void PeerProcess::Start(const Play& play) {

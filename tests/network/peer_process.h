@@ -21,8 +21,10 @@ void KeepFoldersInMemory();
 
 class PeerProcess {
  public:
-  // Starts it in a folder of its own. `hosts` is the content of its /etc/hosts.
-  PeerProcess(const NetNamespace& network, char16_t side, const QString& hosts);
+  // Starts it in a folder of its own. `hosts` is the content of its /etc/hosts, `settings` are
+  // further lines of its general settings.
+  PeerProcess(const NetNamespace& network, char16_t side, const QString& hosts,
+              const QString& settings);
   // Ends it; the test fails if its exit status is not 0.
   ~PeerProcess();
 
@@ -44,7 +46,7 @@ class PeerProcess {
   QString Log(const QString& partner) const;
 
  private:
-  void MakeFolder(const QString& hosts);
+  void MakeFolder(const QString& hosts, const QString& settings);
   void Order(const QString& order);
   void Read();
   void Take(const QString& what, const QString& text);

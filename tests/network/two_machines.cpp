@@ -49,15 +49,16 @@ void ExpectSameLines(const QStringList& shown, const QStringList& expected, cons
 
 }  // namespace
 
-TwoMachines::TwoMachines(const LinkQuality& quality, std::uint64_t seed)
-    : cable_(alicesEnd_, bobsEnd_, quality, seed) {
+TwoMachines::TwoMachines(const LinkQuality& quality, std::uint64_t seed, Talk talk)
+    : talk_(talk), cable_(alicesEnd_, bobsEnd_, quality, seed) {
   GiveAddresses(alices_, kAliceIPv4, kAliceIPv6, kAliceOnTheLink);
   GiveAddresses(bobs_, kBobIPv4, kBobIPv6, kBobOnTheLink);
 }
 
 std::unique_ptr<PeerProcess> TwoMachines::Start(const NetNamespace& network, char16_t side) const {
   const QString hosts = QString("%1 bob-by-ipv4 bob\n%2 bob-by-ipv6 bob\n").arg(kBobIPv4, kBobIPv6);
-  return std::make_unique<PeerProcess>(network, side, hosts);
+  const QString offer = talk_ == Talk::InPrivate ? "Only" : "Never";
+  return std::make_unique<PeerProcess>(network, side, hosts, "PrivateConversations=" + offer);
 }
 
 std::unique_ptr<PeerProcess> TwoMachines::StartAlice() const {

@@ -9,9 +9,12 @@
 
 namespace verlume::network {
 
+// How the two programs talk; neither does otherwise.
+enum class Talk { InClear, InPrivate };
+
 class TwoMachines {
  public:
-  TwoMachines(const LinkQuality& quality, std::uint64_t seed);
+  TwoMachines(const LinkQuality& quality, std::uint64_t seed, Talk talk = Talk::InClear);
 
   std::unique_ptr<PeerProcess> StartAlice() const;
   std::unique_ptr<PeerProcess> StartBob() const;
@@ -26,6 +29,7 @@ class TwoMachines {
  private:
   std::unique_ptr<PeerProcess> Start(const NetNamespace& network, char16_t side) const;
 
+  const Talk talk_;
   NetNamespace alices_;
   NetNamespace bobs_;
   TapDevice alicesEnd_{alices_, kDevice};
