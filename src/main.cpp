@@ -13,7 +13,7 @@ int main(int argc, char* argv[]) {
   {
     verlume::qt::QtPlatform platform;
     verlume::Program program(platform.View());
-    program.Start();
+    program.Start(QApplication::arguments().value(1).toStdU16String());
     status = platform.Run();
     isLookingUp = platform.IsLookingUp();
   }

@@ -8,6 +8,7 @@
 #include "connection/command_parts.h"
 #include "macros/store/macro_paths.h"
 #include "platform/char_code.h"
+#include "shell/trim.h"
 
 namespace verlume {
 namespace {
@@ -46,13 +47,16 @@ void CommandInterpreter::cmdSend_Click() {
 
 void CommandInterpreter::RunTypedLine() {
   RichTextBox& pane = platform_.frmMain.rtbCommands;
+  if (HasToWait(pane.Text())) return;
   with_.history.AddToHistory();
   LoadMacroNamedBy(pane.Text());
   const std::u16string line = state_.CommandLine = pane.Text();
-  if (line.empty()) return;  // the macro was
+  if (line.empty() || HasToWait(line)) return;  // as the macro was
 
   const CommandRow* row = FindCommand(platform_.locale.UpperCase(FirstWord(line)));
-  if (!row) {
+  if (!row && with_.connection.IsInvitationToCall(line)) {
+    CallByInvitation(line);
+  } else if (!row) {
     WriteChatLine();
   } else if (row->kind == CommandKind::Action) {
     WriteActionLine(FirstWord(line));
@@ -61,6 +65,19 @@ void CommandInterpreter::RunTypedLine() {
   } else {
     PerformRoutine(*row, line);
   }
+}
+
+bool CommandInterpreter::HasToWait(std::u16string_view line) const {
+  if (!state_.PeerStops || line.empty()) return false;
+  if (line.starts_with(u'/') && MacroExists(state_, platform_.files, line.substr(1))) return false;
+  const CommandRow* row = FindCommand(platform_.locale.UpperCase(FirstWord(line)));
+  return row ? row->kind == CommandKind::Action : !with_.connection.IsInvitationToCall(line);
+}
+
+void CommandInterpreter::CallByInvitation(std::u16string_view line) {
+  state_.OutgoingText.clear();
+  with_.connection.CallRemote(std::u16string(u"/CALL ").append(Trim(line)));
+  EmptyPaneOf(line);
 }
 
 // "/" + a macro's name puts the macro in the place of the line.

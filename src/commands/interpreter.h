@@ -37,6 +37,10 @@ class CommandInterpreter {
 
  private:
   void RunTypedLine();
+  // Whether the line is said to the peer while the user is asked whether to go on with it. Such a
+  // line stays where it is.
+  bool HasToWait(std::u16string_view line) const;
+  void CallByInvitation(std::u16string_view line);
   void LoadMacroNamedBy(std::u16string_view line);
   void PerformPlain(const CommandRow& row, std::u16string_view line);
   void PerformRoutine(const CommandRow& row, std::u16string_view typed);

@@ -1,4 +1,6 @@
-// "/CALL host port".
+// "/CALL host port" and "/CALL invitation".
+#include <utility>
+
 #include "connection/command_parts.h"
 #include "connection/connection_actions.h"
 #include "connection/connection_note.h"
@@ -21,31 +23,27 @@ void ConnectionActions::CallRemote(std::u16string_view commandLine) {
     const std::optional<ConnectionState> agreed = AskToLeaveState(leave);
     if (!agreed) return;
 
-    const auto parts = CommandParts(commandLine, 3);
-    std::u16string host = parts.size() > 1 ? parts[1] : u"";
-    if (host.empty()) host = AskHost();
-    if (host.empty()) return;
-
-    std::optional<std::int32_t> port;
-    if (parts.size() > 2 && IsPortNumber(parts[2], kLeastPort, kGreatestPort)) {
-      port = PortNumberOf(parts[2]);
-    }
-    if (!port) port = AskRemotePort();
+    const std::optional<Callee> callee = CalleeIn(commandLine);
+    if (!callee) return;
+    const bool canBegin = PrepareKey(callee->key ? MustBePrivate::Yes : MustBePrivate::No);
     // A caller may have been accepted while host and port were being asked for.
-    if (!port || !MayStillLeaveState(leave, *agreed)) return;
+    if (!canBegin || !MayStillLeaveState(leave, *agreed)) return;
 
     ResetConnection(state_, platform_);
     BeginAttempt(state_, platform_);
-    state_.RemoteHost = host;
-    state_.RemotePort = *port;
+    TellOfKey();
+    state_.RemoteHost = callee->host;
+    state_.RemotePort = callee->port;
+    state_.ExpectedKey = callee->key;
     RememberCall(state_, platform_, with_.settings);
-    platform_.sckControl.SetRemoteHost(host);
-    platform_.sckControl.SetRemotePort(*port);
+    platform_.privacy.ExpectKey(callee->key);
+    platform_.sckControl.SetRemoteHost(callee->host);
+    platform_.sckControl.SetRemotePort(callee->port);
     platform_.sckControl.Connect();
 
-    const std::u16string portText = DecimalText(*port);
-    SetStatus(status_texts::kCalling.Fill(state_.IsGreek, {host, portText}));
-    platform_.frmMain.lblRemoteIP.SetCaption(host);
+    const std::u16string portText = DecimalText(callee->port);
+    SetStatus(status_texts::kCalling.Fill(state_.IsGreek, {callee->host, portText}));
+    platform_.frmMain.lblRemoteIP.SetCaption(callee->host);
     platform_.frmMain.lblRemotePort.SetCaption(portText);
     EnterState(state_, ConnectionState::Calling);
     ShowLamp(state_, platform_.frmMain);
@@ -53,6 +51,27 @@ void ConnectionActions::CallRemote(std::u16string_view commandLine) {
     // Last: if this line cannot be written, the error report ends the call.
     WriteOutgoingText();
   });
+}
+
+std::optional<ConnectionActions::Callee> ConnectionActions::CalleeIn(
+    std::u16string_view commandLine) {
+  const auto parts = CommandParts(commandLine, 3);
+  std::u16string host = parts.size() > 1 ? parts[1] : u"";
+  if (host.empty()) host = AskHost();
+  if (host.empty()) return std::nullopt;
+  if (LooksLikeInvitation(host)) {
+    const auto invitation = InvitationIn(host);
+    if (invitation) return Callee{invitation->host, invitation->port, invitation->key};
+    TellOfWrongInvitation();
+    return std::nullopt;
+  }
+  std::optional<std::int32_t> port;
+  if (parts.size() > 2 && IsPortNumber(parts[2], kLeastPort, kGreatestPort)) {
+    port = PortNumberOf(parts[2]);
+  }
+  if (!port) port = AskRemotePort();
+  if (!port) return std::nullopt;
+  return Callee{std::move(host), *port, std::nullopt};
 }
 
 std::u16string ConnectionActions::AskHost() {

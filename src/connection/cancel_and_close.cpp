@@ -43,4 +43,15 @@ void ConnectionActions::CloseConnection() {
   });
 }
 
+void ConnectionActions::HangUp() {
+  Run(Procedure::CloseConnection, [this] {
+    const ConnectionState left = StateOf(state_);
+    const std::u16string address = platform_.sckControl.RemoteHostIP();
+    const std::u16string port = DecimalText(platform_.sckControl.RemotePort());
+    ResetConnection(state_, platform_);
+    if (left == ConnectionState::Connected) return RecordClosedByUser();
+    SetStatus(status_texts::kClosedByUser.Fill(state_.IsGreek, {address, port}));
+  });
+}
+
 }  // namespace verlume

@@ -17,6 +17,7 @@
 #include "commands/dialogue/dialogue.h"
 #include "connection/connection_state.h"
 #include "connection/wire_protocol.h"
+#include "people/invitation.h"
 #include "platform/platform.h"
 #include "records/dialogue_log.h"
 #include "shell/app_state.h"
@@ -47,6 +48,13 @@ class ConnectionActions {
   void CloseConnection();
   void RefreshLocalIP();
   void SetNickname(std::u16string_view commandLine);
+  // Ends the connection as the user's close does, at any stage; what is typed stays.
+  void HangUp();
+  // Whether the line is not said to a peer, but calls by the invitation that it is, or tries to be.
+  bool IsInvitationToCall(std::u16string_view line) const;
+  // An invitation from outside the program: asks before it calls. Does nothing if the text does not
+  // look like one.
+  void OpenInvitation(std::u16string_view text);
   // Asks, unless Idle, whether the program may end, and sets AppState::ExitConfirmed.
   void ConfirmExit();
 
@@ -56,6 +64,8 @@ class ConnectionActions {
   void mnuCommClose_Click();
   void mnuCommRefresh_Click();
   void mnuToolsNick_Click();
+  // Copies an invitation to this program, while it waits.
+  void mnuCommInvite_Click();
   void mnuCommCallAgain_Choose(std::size_t index);
   void mnuCommCallAgain_Last();
   // Calls the peer of the last conversation again, or waits again on the port of it.
@@ -93,6 +103,21 @@ class ConnectionActions {
   // No is the default.
   bool UserAgrees(const std::u16string& text, const TextPair& title);
 
+  // Where to call, and who has to answer there.
+  struct Callee {
+    std::u16string host;
+    std::int32_t port = 0;
+    std::optional<KeyFingerprint> key;
+  };
+  // Asks for what the line does not say. None when the user gave up, or it is a wrong invitation.
+  std::optional<Callee> CalleeIn(std::u16string_view commandLine);
+  void TellOfWrongInvitation();
+  enum class MustBePrivate { Yes, No };
+  // Prepares the own key. False if there is none to show, the conversation has to be private, and
+  // the user has been told.
+  bool PrepareKey(MustBePrivate must);
+  // Says quietly that the conversation will not be private, if there is no key to show.
+  void TellOfKey();
   // "" when the user gave up.
   std::u16string AskHost();
   // None when the user gave up.
@@ -118,6 +143,7 @@ class ConnectionActions {
   Platform& platform_;
   ErrorReport& errors_;
   Collaborators with_;
+  bool hasAskedAboutKey_ = false;
 };
 
 }  // namespace verlume

@@ -26,6 +26,21 @@ const NoteText& TextOf(CallFailure failure) {
   return note_texts::kOther;
 }
 
+const NoteText& NoteTextOf(PrivacyFailure failure) {
+  switch (failure) {
+    case PrivacyFailure::NotOffered:
+      return note_texts::kNotOffered;
+    case PrivacyFailure::OtherKey:
+      return note_texts::kOtherKey;
+    case PrivacyFailure::Late:
+      return note_texts::kLate;
+    case PrivacyFailure::NoKey:
+      return note_texts::kNoKey;
+    default:
+      return note_texts::kBroken;
+  }
+}
+
 }  // namespace
 
 void ShowConnectionNote(AppState& state, const Platform& platform, const NoteText& text,
@@ -52,6 +67,10 @@ void ExplainFailedCall(AppState& state, const Platform& platform) {
 
 void ExplainFailedWait(AppState& state, const Platform& platform) {
   ShowConnectionNote(state, platform, note_texts::kCallerLeft);
+}
+
+void ExplainPrivacyFailure(AppState& state, const Platform& platform, PrivacyFailure failure) {
+  ShowConnectionNote(state, platform, NoteTextOf(failure));
 }
 
 void ExplainRefusedPort(AppState& state, const Platform& platform, std::int32_t port,

@@ -23,6 +23,8 @@ void BeginAttempt(AppState& state, const Platform& platform);
 void ExplainFailedCall(AppState& state, const Platform& platform);
 // The caller that was accepted has left before the handshake.
 void ExplainFailedWait(AppState& state, const Platform& platform);
+// Why the keys could not be proved. Not for None.
+void ExplainPrivacyFailure(AppState& state, const Platform& platform, PrivacyFailure failure);
 // Why this port cannot be waited on. Says nothing of other failures.
 void ExplainRefusedPort(AppState& state, const Platform& platform, std::int32_t port,
                         FailureNumber failure);

@@ -21,6 +21,14 @@ void EnterState(AppState& state, ConnectionState entered) {
   state.ReservedState = false;
 }
 
+void EndStop(AppState& state, Platform& platform) {
+  if (!state.PeerStops) return;
+  state.PeerStops = false;
+  const FloatingPanel& bar = platform.frmMain.keyBar.fraKey;
+  if (bar.HasFocus()) platform.frmMain.rtbCommands.SetFocus();
+  platform.frmMain.keyBar.fraKey.SetVisible(false);
+}
+
 void ResetConnection(AppState& state, Platform& platform) {
   // That these lines were not delivered may become known only during the next conversation, and
   // belongs into the log of this one. Before the handshake there is no conversation.
@@ -35,6 +43,9 @@ void ResetConnection(AppState& state, Platform& platform) {
   frmMain.lblRemotePort.SetCaption(u"");
   ShowLamp(state, frmMain);
   platform.sckControl.Close();
+  if (state.PeerStops) platform.sckControl.ResumeArrivals();
+  EndStop(state, platform);
+  frmMain.lblLock.SetCaption(u"");
   // When the peer closes, the socket raises that only when all that came before has been inserted.
   frmMain.rtbData.DropInsertions();
   state.LinesWaiting = 0;

@@ -18,4 +18,7 @@ void EnterState(AppState& state, ConnectionState entered);
 // has said and the dialogue pane does not show yet is dropped.
 void ResetConnection(AppState& state, Platform& platform);
 
+// The bar no longer asks whether to go on with the peer. Does nothing if it does not.
+void EndStop(AppState& state, Platform& platform);
+
 }  // namespace verlume

@@ -57,4 +57,36 @@ inline constexpr NoteText kPortNotAllowed = {
      u"Αυτός ο υπολογιστής δεν σας επιτρέπει να περιμένετε στη θύρα %1"},
     {u"Choose a port from 1024 to 32767.", u"Επιλέξτε θύρα από 1024 έως 32767."}};
 
+// The keys could not be proved. Of a call or a wait alike.
+inline constexpr NoteText kNotOffered = {
+    {u"The other program cannot talk in private, and this conversation has to be",
+     u"Το άλλο πρόγραμμα δεν μπορεί να συνομιλεί ιδιωτικά, και αυτή η συνομιλία πρέπει να είναι "
+     u"ιδιωτική"},
+    {u"It may be an older program, or somebody between you may want it so. Ask the other side.",
+     u"Ίσως είναι παλαιότερο πρόγραμμα, ίσως το θέλει έτσι κάποιος ανάμεσά σας. Ρωτήστε την άλλη "
+     u"πλευρά."}};
+inline constexpr NoteText kOtherKey = {
+    {u"Somebody else answered than the one who sent the invitation",
+     u"Απάντησε κάποιος άλλος από αυτόν που έστειλε την πρόσκληση"},
+    {u"Ask for a new invitation. If the key has not changed there, somebody is between you.",
+     u"Ζητήστε νέα πρόσκληση. Αν το κλειδί εκεί δεν έχει αλλάξει, κάποιος βρίσκεται ανάμεσά "
+     u"σας."}};
+inline constexpr NoteText kBroken = {
+    {u"The private connection was disturbed before it began",
+     u"Η ιδιωτική σύνδεση διαταράχθηκε προτού αρχίσει"},
+    {u"Try again. If it happens each time, somebody between you may not want you to talk in "
+     u"private.",
+     u"Προσπαθήστε ξανά. Αν συμβαίνει κάθε φορά, ίσως κάποιος ανάμεσά σας δεν θέλει να μιλάτε "
+     u"ιδιωτικά."}};
+inline constexpr NoteText kLate = {{u"The private connection did not come about in time",
+                                    u"Η ιδιωτική σύνδεση δεν ολοκληρώθηκε εγκαίρως"},
+                                   {u"The line may be very slow. Try again.",
+                                    u"Ίσως η γραμμή είναι πολύ αργή. Προσπαθήστε "
+                                    u"ξανά."}};
+inline constexpr NoteText kNoKey = {
+    {u"This program has no key to show, and this conversation has to be private",
+     u"Αυτό το πρόγραμμα δεν έχει κλειδί να δείξει, και αυτή η συνομιλία πρέπει να είναι ιδιωτική"},
+    {u"Wait or call again: you will be told what is wrong with the key.",
+     u"Μπείτε ξανά σε αναμονή ή καλέστε ξανά: θα σας εξηγηθεί τι συμβαίνει με το κλειδί."}};
+
 }  // namespace verlume::note_texts

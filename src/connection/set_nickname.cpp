@@ -49,6 +49,7 @@ void ConnectionActions::SetNickname(std::u16string_view commandLine) {
     with_.settings.WriteSetting(setting_section::kGeneral, setting_key::kNickname, nickname);
     const std::u16string before = WhoIsWho(state_);
     state_.Nickname = nickname;
+    platform_.privacy.SetOwnName(nickname);
     platform_.frmMain.lblLocalNickname.SetCaption(ShowableNickname(nickname));
     ExplainRemoteNickname(state_, platform_.frmMain);
     with_.wire.SayWhoIsWho(before);
@@ -78,6 +79,8 @@ std::u16string ConnectionActions::AskNickname(std::u16string candidate) {
 
 bool ConnectionActions::WantsAnother(const std::u16string& nickname) {
   namespace texts = connection_texts::set_nickname;
+  // In private it arrives whole.
+  if (platform_.privacy.State() == Privacy::Private) return false;
   const std::u16string arriving = AsItArrives(nickname);
   if (arriving == nickname) return false;
   const Message question =

@@ -92,23 +92,39 @@ void SocketEvents::sckControl_DataArrival(std::int32_t) {
 
 void SocketEvents::sckControl_Close() {
   errors_.Guard(Procedure::sckControl_Close, [this] {
+    const PrivacyFailure failure = platform_.privacy.LastFailure();
     platform_.sckControl.Close();
     const ConnectionState left = StateOf(state_);
+    const std::u16string notPrivate = NotPrivateText();
     ResetConnection(state_, platform_);
     platform_.frmMain.window.FlagForAttention();
+    const bool isConversation = left == ConnectionState::Connected;
+    if (left != ConnectionState::Idle && !isConversation && failure != PrivacyFailure::None) {
+      platform_.frmMain.lblStatus.SetCaption(notPrivate);
+      return ExplainPrivacyFailure(state_, platform_, failure);
+    }
     if (left == ConnectionState::Calling || left == ConnectionState::Waiting) {
       SetStatus(status_texts::kNotEstablished, state_.RemoteHost, state_.RemotePort);
       const bool wasCall = left == ConnectionState::Calling;
       (wasCall ? ExplainFailedCall : ExplainFailedWait)(state_, platform_);
       return;
     }
-    if (left == ConnectionState::Connected) OfferAgain(state_, platform_);
+    if (isConversation) OfferAgain(state_, platform_);
     SetStatus(status_texts::kClosedByPeer, state_.RemoteAddress, state_.RemotePort);
-    if (left == ConnectionState::Connected)
-      AddDialogueRule(state_, platform_, rule_texts::kConnectionLost);
+    if (isConversation) AddDialogueRule(state_, platform_, rule_texts::kConnectionLost);
     log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());
     state_.LogOpen = false;
   });
+}
+
+// Who has called is known only by what the window shows of it.
+std::u16string SocketEvents::NotPrivateText() const {
+  const MainWindow& frmMain = platform_.frmMain;
+  const bool wasCalled = StateOf(state_) == ConnectionState::Waiting;
+  return status_texts::kNotPrivate.Fill(
+      state_.IsGreek,
+      {wasCalled ? frmMain.lblRemoteIP.Caption() : state_.RemoteHost,
+       wasCalled ? frmMain.lblRemotePort.Caption() : DecimalText(state_.RemotePort)});
 }
 
 void SocketEvents::tmrTimer_Timer() {
@@ -124,10 +140,19 @@ void SocketEvents::ShowTurnedAway() {
   ShowDelivery(state_, platform_.frmMain);
 }
 
+// A caller that can talk in private is found dead by the connection itself. Until the user there
+// lets this side in, it has nothing to say.
+bool SocketEvents::HasProvedItself() const {
+  const PeerPrivacy& privacy = platform_.privacy;
+  return privacy.CurrentPeer() || privacy.State() == Privacy::Becoming ||
+         privacy.State() == Privacy::Private;
+}
+
 // The wait may have ended, or have given way to another. While arrivals are paused the caller may
 // have said something that waits.
 bool SocketEvents::IsSilentCaller() const {
   const Socket& socket = platform_.sckControl;
+  if (HasProvedItself()) return false;
   return isSilent_ && StateOf(state_) == ConnectionState::Waiting &&
          socket.State() == SocketState::Connected && !socket.ArrivalsPaused();
 }

@@ -40,7 +40,10 @@ class SocketEvents {
   std::function<void(std::u16string_view address)> onIncomingCall;
 
  private:
+  // The status when a connection has ended because the keys could not be proved.
+  std::u16string NotPrivateText() const;
   bool IsSilentCaller() const;
+  bool HasProvedItself() const;
   bool AskWhetherToAccept(const std::u16string& ip);
   void AcceptCaller(std::int64_t requestId);
   void RejectCaller(std::int64_t requestId, const std::u16string& ip);

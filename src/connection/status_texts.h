@@ -41,6 +41,10 @@ inline constexpr TextPair kRejected = {
 inline constexpr TextPair kNotEstablished = {
     u"Remote computer / port: %1 / %2. A connection could NOT be established.",
     u"Απομακρυσμένος υπολογιστής / θύρα: %1 / %2. Η σύνδεση ΔΕΝ κατέστη εφικτή."};
+// %1 RemoteHost, %2 RemotePort
+inline constexpr TextPair kNotPrivate = {
+    u"Remote computer / port: %1 / %2. A private connection could NOT be established.",
+    u"Απομακρυσμένος υπολογιστής / θύρα: %1 / %2. Η ιδιωτική σύνδεση ΔΕΝ κατέστη εφικτή."};
 // %1 RemoteAddress, %2 RemotePort. Greek tells "it was disconnected" from "you disconnected".
 inline constexpr TextPair kClosedByPeer = {
     u"Remote computer IP address / port: %1 / %2. Disconnected.",

@@ -26,10 +26,13 @@ void ConnectionActions::WaitForCall(std::u16string_view commandLine) {
     if (!CorrectLocalPort(portText)) return;
     const std::int16_t port = PortNumberOf(portText);
     // The call may have been answered while the port was being asked for.
-    if (!MayStillLeaveState(leave, *agreed)) return;
+    if (!PrepareKey(MustBePrivate::No) || !MayStillLeaveState(leave, *agreed)) return;
 
     ResetConnection(state_, platform_);
     BeginAttempt(state_, platform_);
+    state_.ExpectedKey.reset();
+    platform_.privacy.ExpectKey(std::nullopt);
+    TellOfKey();
     Listen(port);
     state_.LocalPort = platform_.sckControl.LocalPort();
 

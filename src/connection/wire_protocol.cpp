@@ -1,6 +1,8 @@
 #include "connection/wire_protocol.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "connection/connection_state.h"
 #include "connection/rule_texts.h"
@@ -40,6 +42,14 @@ char16_t KindOf(std::u16string_view data) {
   return data.size() > kMarkerLength ? data[kMarkerLength] : u'\0';
 }
 
+// The nickname in a handshake or nickname message; none if the message has no end.
+std::optional<std::u16string_view> NicknameOf(std::u16string_view data) {
+  const std::u16string_view rest = data.substr(kMarkerLength + 1);
+  const std::size_t end = rest.find(u'\0');
+  if (end == rest.npos) return std::nullopt;
+  return rest.substr(0, end);
+}
+
 }  // namespace
 
 std::u16string BuildProtocolMarker() {
@@ -59,6 +69,7 @@ bool WireProtocol::SendToPeer(std::u16string_view text, TextKind kind) {
 }
 
 bool WireProtocol::SendWithNickname(char16_t kind) {
+  nicknameTold_ = state_.Nickname;
   return SendToPeer(state_.ProtocolMarker + kind + state_.Nickname + u'\0', TextKind::Signal);
 }
 
@@ -67,7 +78,8 @@ void WireProtocol::SendStart() {
 }
 
 void WireProtocol::SendNickname() {
-  SendWithNickname(kNickname);
+  // TellNickname follows.
+  if (!state_.PeerStops) SendWithNickname(kNickname);
 }
 
 void WireProtocol::SendActionLine(std::u16string_view rtf) {
@@ -82,9 +94,9 @@ void WireProtocol::OnDataArrival(std::u16string_view data) {
   const char16_t kind = data.starts_with(state_.ProtocolMarker) ? KindOf(data) : u'\0';
   switch (kind) {
     case kStart:
-      return OnStart(data);
     case kConfirm:
-      return OnConfirm(data);
+      if (MayBegin(data)) OnHandshake(data);
+      return;
     case kNickname:
       return OnNickname(data);
     case kActionLine:
@@ -94,6 +106,26 @@ void WireProtocol::OnDataArrival(std::u16string_view data) {
       state_.ForeignText = true;
       return WriteRemoteLine(data, Sender::Remote);
   }
+}
+
+bool WireProtocol::MayBegin(std::u16string_view data) {
+  const auto nickname = NicknameOf(data);
+  if (!with_.mayBegin || !nickname || with_.mayBegin(*nickname)) return true;
+  stopped_ = data;
+  return false;
+}
+
+void WireProtocol::OnHandshake(std::u16string_view data) {
+  KindOf(data) == kStart ? OnStart(data) : OnConfirm(data);
+}
+
+void WireProtocol::GoOn() {
+  if (const std::u16string data = std::exchange(stopped_, {}); !data.empty()) OnHandshake(data);
+}
+
+void WireProtocol::TellNickname() {
+  const bool isToldLater = StateOf(state_) == ConnectionState::Calling;
+  if (!isToldLater && state_.Nickname != nicknameTold_) SendNickname();
 }
 
 void WireProtocol::ShowLinesWaiting() {
@@ -173,12 +205,12 @@ std::u16string WireProtocol::EnterConversation() {
 }
 
 void WireProtocol::TakeNickname(std::u16string_view data) {
-  const std::u16string_view rest = data.substr(kMarkerLength + 1);
-  const std::size_t end = rest.find(u'\0');
-  if (end == rest.npos) throw RunTimeFailure(FailureNumber::InvalidProcedureCall);
-  state_.RemoteNickname = ShowableNickname(rest.substr(0, end));
+  const auto nickname = NicknameOf(data);
+  if (!nickname) throw RunTimeFailure(FailureNumber::InvalidProcedureCall);
+  state_.RemoteNickname = ShowableNickname(*nickname);
   platform_.frmMain.lblRemoteNickname.SetCaption(state_.RemoteNickname);
   ExplainRemoteNickname(state_, platform_.frmMain);
+  if (with_.onNickname) with_.onNickname();
 }
 
 void WireProtocol::NameLog() {

@@ -27,6 +27,11 @@ class WireProtocol {
     StatusPanel& statusPanel;
     // A conversation has begun, and the peer's nickname is known.
     std::function<void()> onConversation = {};
+    // Whether a conversation may begin with a peer of this nickname. If not, the message waits for
+    // GoOn.
+    std::function<bool(std::u16string_view nickname)> mayBegin = {};
+    // The peer has another nickname.
+    std::function<void()> onNickname = {};
   };
 
   WireProtocol(AppState& state, Platform& platform, ErrorReport& errors,
@@ -48,6 +53,11 @@ class WireProtocol {
   // 5 when a handshake or nickname message has no end, 6 when the count overflows.
   void OnDataArrival(std::u16string_view data);
 
+  // Takes the message that mayBegin has stopped; only while the connection waits for that.
+  void GoOn();
+  // Sends "N" if the nickname has changed while the user was asked about the peer.
+  void TellNickname();
+
   // Appends to the log which nickname is whose, if they read alike. Does nothing if it would say
   // what `before` says.
   void SayWhoIsWho(std::u16string_view before);
@@ -59,6 +69,9 @@ class WireProtocol {
   void OnUndelivered(std::size_t lines);
 
  private:
+  // Whether the handshake may go on; keeps it if not.
+  bool MayBegin(std::u16string_view data);
+  void OnHandshake(std::u16string_view data);
   void OnStart(std::u16string_view data);
   void OnConfirm(std::u16string_view data);
   void OnNickname(std::u16string_view data);
@@ -74,6 +87,8 @@ class WireProtocol {
   Platform& platform_;
   ErrorReport& errors_;
   Collaborators with_;
+  std::u16string stopped_;       // a handshake that waits for GoOn
+  std::u16string nicknameTold_;  // to the peer
 };
 
 }  // namespace verlume

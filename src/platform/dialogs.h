@@ -101,9 +101,10 @@ class CommonDialog {
   virtual ~CommonDialog() = default;
   virtual FileChoice ShowOpen(const FileChoice& start) = 0;
   virtual FileChoice ShowSave(const FileChoice& start) = 0;
-  // The path of an existing folder, ending in a separator.
-  virtual std::u16string ChooseFolder(std::u16string_view title,
-                                      std::u16string_view initialFolder) = 0;
+  // The path of an existing folder, ending in a separator. The dialog also offers a folder of the
+  // name `suggestion` in the user's documents, which is made when the user chooses it there.
+  virtual std::u16string ChooseFolder(std::u16string_view title, std::u16string_view initialFolder,
+                                      std::u16string_view suggestion) = 0;
   virtual Color ShowColor(Color start) = 0;
   // The size of the result is between minimum and maximum.
   virtual FontChoice ShowFont(const FontChoice& start, double minimumSize, double maximumSize) = 0;

@@ -40,4 +40,15 @@ struct AgainBar {
   Button& cmdAgainClose;
 };
 
+// The bar above the command pane when another key than before has come: the conversation waits for
+// the user. It is shown even where there is little room. lblKey wraps. What is typed goes on into
+// the command pane and never answers it: its buttons are pressed by mouse, by Alt and their letter,
+// and with Enter or the space bar once Tab has reached them, each only after a rest.
+struct KeyBar {
+  FloatingPanel& fraKey;
+  Label& lblKey;
+  Button& cmdKeyGoOn;
+  Button& cmdKeyHangUp;  // the default button
+};
+
 }  // namespace verlume

@@ -4,6 +4,7 @@
 #include "platform/choice_menu.h"
 #include "platform/control.h"
 #include "platform/floating.h"
+#include "platform/lock_label.h"
 #include "platform/rich_text_box.h"
 #include "platform/spell_checker.h"
 #include "platform/window.h"
@@ -45,6 +46,14 @@ struct AttentionMenu {
   MenuEntry& mnuAttentionCount;
 };
 
+// The menu Tools > Private conversations, of which one entry has a tick.
+struct PrivateMenu {
+  Menu& mnuPrivate;
+  MenuEntry& mnuPrivateWhenPossible;
+  MenuEntry& mnuPrivateOnly;
+  MenuEntry& mnuPrivateNever;
+};
+
 struct MainWindow {
   Window& window;
   LayoutControl& freeSizer1;
@@ -65,6 +74,9 @@ struct MainWindow {
   MenuEntry& mnuCommClose;
   MenuEntry& mnuCommRefresh;
   ChoiceMenu& mnuCommCallAgain;
+  MenuEntry& mnuCommInvite;
+  MenuEntry& mnuCommVerify;
+  MenuEntry& mnuCommPeople;
 
   Menu& mnuFormat;
   MenuEntry& mnuFormatFontBold;
@@ -92,6 +104,7 @@ struct MainWindow {
   MenuEntry& mnuToolsLanguageGreek;
   AttentionMenu attentionMenu;
   MenuEntry& mnuToolsCheckSpelling;
+  PrivateMenu privateMenu;
 
   Menu& mnuView;
   MenuEntry& mnuViewStatusPanel;
@@ -111,6 +124,7 @@ struct MainWindow {
   NewLinesButton newLines;
   WelcomeCard welcomeCard;
   AgainBar againBar;
+  KeyBar keyBar;
   // Floats beside the command pane while it has a caption, and is then the pane's description.
   Label& lblHint;
   SpellChecker& spelling;  // of the command pane
@@ -124,6 +138,7 @@ struct MainWindow {
   Label& lblStatus;
   ProgressBar& prgStatus;  // at the bottom of lblStatus
   Label& lblWaiting;       // how many lines have not arrived yet
+  LockLabel& lblLock;
 
   // The values of the status panel, which can be hidden, and their captions.
   Panel& fraPanel;
@@ -175,6 +190,9 @@ MainWindow MainWindowOf(Controls& controls) {
       .mnuCommClose = controls.mnuCommClose,
       .mnuCommRefresh = controls.mnuCommRefresh,
       .mnuCommCallAgain = controls.mnuCommCallAgain,
+      .mnuCommInvite = controls.mnuCommInvite,
+      .mnuCommVerify = controls.mnuCommVerify,
+      .mnuCommPeople = controls.mnuCommPeople,
       .mnuFormat = controls.mnuFormat,
       .mnuFormatFontBold = controls.mnuFormatFontBold,
       .mnuFormatFontItalics = controls.mnuFormatFontItalics,
@@ -204,6 +222,10 @@ MainWindow MainWindowOf(Controls& controls) {
                         .mnuAttentionSound = controls.mnuAttentionSound,
                         .mnuAttentionCount = controls.mnuAttentionCount},
       .mnuToolsCheckSpelling = controls.mnuToolsCheckSpelling,
+      .privateMenu = {.mnuPrivate = controls.mnuPrivate,
+                      .mnuPrivateWhenPossible = controls.mnuPrivateWhenPossible,
+                      .mnuPrivateOnly = controls.mnuPrivateOnly,
+                      .mnuPrivateNever = controls.mnuPrivateNever},
       .mnuView = controls.mnuView,
       .mnuViewStatusPanel = controls.mnuViewStatusPanel,
       .mnuViewZoomIn = controls.mnuViewZoomIn,
@@ -226,6 +248,7 @@ MainWindow MainWindowOf(Controls& controls) {
       .newLines = {.fraNewLines = controls.fraNewLines, .cmdNewLines = controls.cmdNewLines},
       .welcomeCard = controls.welcomeCard.View(),
       .againBar = controls.againBar.View(),
+      .keyBar = controls.keyBar.View(),
       .lblHint = controls.lblHint,
       .spelling = controls.spelling,
       .cmdSend = controls.cmdSend,
@@ -236,6 +259,7 @@ MainWindow MainWindowOf(Controls& controls) {
       .lblStatus = controls.lblStatus,
       .prgStatus = controls.prgStatus,
       .lblWaiting = controls.lblWaiting,
+      .lblLock = controls.lblLock,
       .fraPanel = controls.fraPanel,
       .lblCurrentDateTime = controls.lblCurrentDateTime,
       .lblChatStartDateTime = controls.lblChatStartDateTime,

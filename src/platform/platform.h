@@ -8,8 +8,11 @@
 #include "platform/links.h"
 #include "platform/macro_window.h"
 #include "platform/main_window.h"
+#include "platform/people_window.h"
+#include "platform/privacy.h"
 #include "platform/socket.h"
 #include "platform/system.h"
+#include "platform/verify_window.h"
 
 namespace verlume {
 
@@ -17,7 +20,10 @@ struct Platform {
   MainWindow& frmMain;
   AboutWindow& frmAbout;
   MacroWindow& frmMacros;
+  PeopleWindow& frmPeople;
+  VerifyWindow& frmVerify;
   Socket& sckControl;
+  PeerPrivacy& privacy;
   Dialogs& dialogs;
   CommonDialog& dlgControl;
   FileSystem& files;
@@ -26,6 +32,7 @@ struct Platform {
   Application& application;
   HelpViewer& help;
   SystemTools& tools;
+  Clipboard& clipboard;
   LinkOpener& links;
   Attention& attention;
 };

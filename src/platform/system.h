@@ -58,6 +58,13 @@ class Application {
   virtual void LogError(std::string_view line) = 0;
 };
 
+class Clipboard {
+ public:
+  virtual ~Clipboard() = default;
+  // Replaces what is on the clipboard by plain text.
+  virtual void SetText(std::u16string_view text) = 0;
+};
+
 class HelpViewer {
  public:
   virtual ~HelpViewer() = default;

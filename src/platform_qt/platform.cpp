@@ -19,7 +19,10 @@ QtPlatform::QtPlatform()
           .frmMain = window_.View(),
           .frmAbout = about_.View(),
           .frmMacros = macros_.View(),
+          .frmPeople = people_.View(),
+          .frmVerify = verify_.View(),
           .sckControl = socket_,
+          .privacy = socket_.ConnectionPrivacy(),
           .dialogs = dialogs_,
           .dlgControl = commonDialog_,
           .files = files_,
@@ -28,6 +31,7 @@ QtPlatform::QtPlatform()
           .application = application_,
           .help = help_,
           .tools = tools_,
+          .clipboard = clipboard_,
           .links = links_,
           .attention = attention_,
       } {

@@ -9,12 +9,15 @@
 #include "platform_qt/dialogs/dialogs.h"
 #include "platform_qt/help/help_viewer.h"
 #include "platform_qt/net/socket.h"
+#include "platform_qt/system/clipboard.h"
 #include "platform_qt/system/file_system.h"
 #include "platform_qt/system/link_opener.h"
 #include "platform_qt/system/system.h"
 #include "platform_qt/windows/about_window.h"
 #include "platform_qt/windows/macro_window.h"
 #include "platform_qt/windows/main_window.h"
+#include "platform_qt/windows/people_window.h"
+#include "platform_qt/windows/verify_window.h"
 #include "platform_qt/windows/window_memory.h"
 
 namespace verlume::qt {
@@ -42,11 +45,14 @@ class QtPlatform {
   QtLocale locale_;
   QtApplication application_;
   QtSystemTools tools_;
+  QtClipboard clipboard_;
   QtLinkOpener links_;
   QtMainWindow window_{files_};
   QtHelpViewer help_{&window_.form()};
   QtAboutWindow about_{&window_.form()};
   QtMacroWindow macros_{&window_.form(), files_};
+  QtPeopleWindow people_{&window_.form()};
+  QtVerifyWindow verify_{&window_.form()};
   QtWindowMemory windowMemory_{
       &window_.form(), window_.View(),
       QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};

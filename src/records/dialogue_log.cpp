@@ -93,8 +93,8 @@ void DialogueLog::mnuFileLogFolder_Click() {
 bool DialogueLog::ChooseLogFolder() {
   return errors_.Guard(Procedure::mnuFileLogFolder_Click, [this] {
     if (RefuseWhileRecording()) return;
-    const auto folder =
-        ChooseFolder(platform_, kLogFolderDialogTitle.In(state_.IsGreek), state_.LogFolder);
+    const auto folder = ChooseFolder(platform_, kLogFolderDialogTitle.In(state_.IsGreek),
+                                     state_.LogFolder, kSuggestedLogFolder.In(state_.IsGreek));
     // A conversation may have begun while the dialog was open.
     if (!folder || RefuseWhileRecording()) return;
     state_.LogFolder = *folder;

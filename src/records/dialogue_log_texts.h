@@ -18,6 +18,8 @@ inline constexpr TextPair kLogFolderRefusal = {
     u"αυτό δεν επιτρέπεται τώρα η αλλαγή του φακέλλου "
     u"καταγραφής."};
 
+inline constexpr TextPair kSuggestedLogFolder = {u"Verlume dialogues", u"Διάλογοι Verlume"};
+
 inline constexpr TextPair kLogFolderDialogTitle = {
     u"Select the folder that will hold the logs of your dialogues",
     u"Επιλέξτε τον φάκελλο στον οποίο θα καταγράφονται οι διάλογοί σας"};

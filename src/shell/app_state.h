@@ -6,9 +6,11 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/privacy.h"
 #include "shell/called_hosts.h"
 #include "shell/text_pair.h"
 #include "shell/text_style.h"
@@ -53,6 +55,14 @@ struct AppState {
   std::vector<CalledHost> CalledHosts;  // newest first
   FilledPair ConnectionNote;            // why the last call or wait has failed, and what to do next
   std::vector<std::u16string> TurnedAway;  // addresses whose calls are rejected without asking
+
+  // Private conversations.
+  PrivacyOffer Offer = PrivacyOffer::WhenPossible;
+  OwnKey OwnKeyFound = OwnKey::Ready;         // when the last call or wait began
+  std::optional<KeyFingerprint> ExpectedKey;  // of the last call: by invitation
+  // A bar asks whether to go on with the peer (connection/peer_gate.h). Until then nothing of the
+  // peer is shown, and lines stay in the command pane.
+  bool PeerStops = false;
 
   // The line being executed.
   std::u16string CommandLine;   // its plain text

@@ -6,12 +6,13 @@
 namespace verlume {
 
 std::optional<std::u16string> ChooseFolder(Platform& platform, std::u16string_view title,
-                                           std::u16string_view current) {
+                                           std::u16string_view current,
+                                           std::u16string_view suggestion) {
   const std::u16string initialFolder = FolderExists(platform.files, current)
                                            ? std::u16string(current)
                                            : platform.application.ProgramFolder();
   try {
-    return platform.dlgControl.ChooseFolder(title, initialFolder);
+    return platform.dlgControl.ChooseFolder(title, initialFolder, suggestion);
   } catch (const RunTimeFailure& failure) {
     if (failure.number != FailureNumber::Cancelled) throw;
     return std::nullopt;

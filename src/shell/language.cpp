@@ -5,6 +5,7 @@
 #include "shell/delivery.h"
 #include "shell/language_texts.h"
 #include "shell/lines_below.h"
+#include "shell/private_texts.h"
 #include "shell/setting_names.h"
 #include "shell/settings_reader.h"
 #include "shell/status_panel.h"
@@ -22,6 +23,9 @@ void Language::ApplyLanguage() {
     for (const auto& [set, text] : PanelTexts(frmMain)) set(text.In(isGreek));
     for (const auto& [set, text] : WelcomeCardTexts(frmMain.welcomeCard)) set(text.In(isGreek));
     for (const auto& [set, text] : AgainBarTexts(frmMain.againBar)) set(text.In(isGreek));
+    for (const auto& [set, text] : PrivateTexts(frmMain)) set(text.In(isGreek));
+    for (const auto& [set, text] : PeopleWindowTexts(platform_.frmPeople)) set(text.In(isGreek));
+    for (const auto& [set, text] : VerifyWindowTexts(platform_.frmVerify)) set(text.In(isGreek));
     ShowLamp(state_, frmMain);
     ShowDelivery(state_, frmMain);
     ShowWelcomeCard(state_, platform_);
@@ -34,6 +38,7 @@ void Language::ApplyLanguage() {
     frmMain.rtbData.SetLinkHint(kLinkHint.In(isGreek));
     frmMain.mnuToolsAlwaysOnTop.SetToolTip(
         frmMain.window.CanBeTopMost() ? u"" : kNeverTopMost.In(isGreek));
+    if (onApplied) onApplied();
     frmMain.mnuToolsLanguageEnglish.SetChecked(!isGreek);
     frmMain.mnuToolsLanguageGreek.SetChecked(isGreek);
     platform_.dialogs.SetLanguage(isGreek);

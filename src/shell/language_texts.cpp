@@ -1,30 +1,12 @@
 #include "shell/language_texts.h"
 
 #include "shell/maker_texts.h"
+#include "shell/setters.h"
 
 namespace verlume {
 namespace {
 
-using Setter = std::function<void(std::u16string_view)>;
-
-Setter Title(Window& window) {
-  return [&window](std::u16string_view text) { window.SetTitle(text); };
-}
-
-template <class Element>
-Setter Caption(Element& element) {
-  return [&element](std::u16string_view text) { element.SetCaption(text); };
-}
-
-Setter ToolTip(Control& control) {
-  return [&control](std::u16string_view text) { control.SetToolTip(text); };
-}
-
-Setter AccessibleName(Control& control) {
-  return [&control](std::u16string_view text) { control.SetAccessibleName(text); };
-}
-
-Setter Placeholder(RichTextBox& box) {
+TextSetter Placeholder(RichTextBox& box) {
   return [&box](std::u16string_view text) { box.SetPlaceholder(text); };
 }
 

@@ -126,6 +126,20 @@ bool ReadAlike(std::u16string_view one, std::u16string_view other) {
   return lookAlike(Case::AsWritten) || lookAlike(Case::Small) || lookAlike(Case::Capital);
 }
 
+ReadName::ReadName(std::u16string_view name) {
+  const std::u16string letters = PlainLetters(name);
+  shapes_ = {Shapes(letters, Case::AsWritten), Shapes(letters, Case::Small),
+             Shapes(letters, Case::Capital)};
+}
+
+bool ReadName::ReadsLike(const ReadName& other) const {
+  if (shapes_.front().empty()) return false;
+  for (std::size_t i = 0; i < shapes_.size(); ++i) {
+    if (shapes_[i] == other.shapes_[i]) return true;
+  }
+  return false;
+}
+
 bool MayReadAsLatin(std::u16string_view text) {
   const std::u16string plain = PlainLetters(text);
   const auto isLatin = [&](Case compared) {

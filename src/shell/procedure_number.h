@@ -64,6 +64,11 @@ enum class Procedure : int {
   SpellCheck = 275,
   mnuToolsCheckSpelling_Click = 276,
   Attention = 280,
+  PeerKnown = 290,  // and the bar that asks about a key
+  Invite = 291,     // and an invitation from outside
+  mnuPrivate_Click = 292,
+  PeopleWindow = 293,
+  VerifyWindow = 294,
 };
 
 }  // namespace verlume

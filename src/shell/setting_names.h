@@ -28,6 +28,7 @@ inline constexpr std::u16string_view kNotifyLines = u"NotifyLines";
 inline constexpr std::u16string_view kNotifyText = u"NotifyText";
 inline constexpr std::u16string_view kNotifySound = u"NotifySound";
 inline constexpr std::u16string_view kNotifyCount = u"NotifyCount";
+inline constexpr std::u16string_view kPrivateConversations = u"PrivateConversations";
 // Of FontLocal.
 inline constexpr std::u16string_view kFontName = u"Name";
 inline constexpr std::u16string_view kFontBold = u"Bold";

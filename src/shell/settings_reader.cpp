@@ -89,6 +89,23 @@ std::int32_t MostParagraphsOf(Value value) {
   }
 }
 
+struct OfferName {
+  PrivacyOffer offer;
+  std::u16string_view text;
+};
+constexpr OfferName kOfferNames[] = {{PrivacyOffer::WhenPossible, u"WhenPossible"},
+                                     {PrivacyOffer::Only, u"Only"},
+                                     {PrivacyOffer::Never, u"Never"}};
+
+// In any letter case; what is none of them counts as missing.
+PrivacyOffer OfferOf(Value value) {
+  const auto small = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
+  for (const auto& [offer, text] : kOfferNames) {
+    if (value && std::ranges::equal(*value, text, {}, small, small)) return offer;
+  }
+  return PrivacyOffer::WhenPossible;
+}
+
 struct Key {
   std::u16string_view section;
   std::u16string_view key;
@@ -182,6 +199,11 @@ constexpr Key kKeys[] = {
        SetSwitch(to.state.NotifyCount, BooleanOr(value, true),
                  to.frmMain.attentionMenu.mnuAttentionCount);
      }},
+    {setting_section::kGeneral, setting_key::kPrivateConversations, 20, kNull, CheckText,
+     [](Value value, Target to) {
+       to.state.Offer = OfferOf(value);
+       ShowOffer(to.state, to.frmMain);
+     }},
 };
 
 // The value of a key in the file.
@@ -222,6 +244,20 @@ void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
   SetSwitch(state.NotifySound, false, frmMain.attentionMenu.mnuAttentionSound);
   SetSwitch(state.NotifyCount, true, frmMain.attentionMenu.mnuAttentionCount);
   frmMain.rtbData.SetMostParagraphs(kDefaultMostParagraphs);
+  state.Offer = PrivacyOffer::WhenPossible;
+  ShowOffer(state, frmMain);
+}
+
+std::u16string_view OfferText(PrivacyOffer offer) {
+  const auto isThat = [offer](const OfferName& each) { return each.offer == offer; };
+  return std::ranges::find_if(kOfferNames, isThat)->text;
+}
+
+void ShowOffer(const AppState& state, const MainWindow& frmMain) {
+  const PrivateMenu& menu = frmMain.privateMenu;
+  menu.mnuPrivateWhenPossible.SetChecked(state.Offer == PrivacyOffer::WhenPossible);
+  menu.mnuPrivateOnly.SetChecked(state.Offer == PrivacyOffer::Only);
+  menu.mnuPrivateNever.SetChecked(state.Offer == PrivacyOffer::Never);
 }
 
 void ReadLanguage(AppState& state, const Settings& settings) {

@@ -30,6 +30,11 @@ void ReadSettings(AppState& state, const MainWindow& frmMain, const Settings& se
 // Whether ReadSettings can read every key.
 bool AllValuesAreValid(const Settings& settings);
 
+// The choice of Tools > Private conversations as it is written into the file, and by the ticks of
+// the menu.
+std::u16string_view OfferText(PrivacyOffer offer);
+void ShowOffer(const AppState& state, const MainWindow& frmMain);
+
 // The language and the local font as they are written into the file.
 std::u16string_view LanguageText(const AppState& state);
 std::vector<Settings::KeyValue> FontSettings(const AppState& state);

@@ -50,6 +50,7 @@ void BindContextHelp(const MainWindow& frmMain) {
                    &frmMain.lblStatus,
                    &frmMain.prgStatus,
                    &frmMain.lblWaiting,
+                   &frmMain.lblLock,
                    &frmMain.picShape,
                    &frmMain.cmdSend,
                    &frmMain.chkBold,
@@ -63,6 +64,18 @@ void BindContextHelp(const MainWindow& frmMain) {
                    &frmMain.findBar.lblFindResult,
                    &frmMain.findBar.cmdFindClose,
                    &frmMain.completionList.lstCompletions});
+}
+
+void BindContextHelp(const PeopleWindow& frmPeople) {
+  BindContextHelp({&frmPeople.lblPeopleNone, &frmPeople.lstPeople, &frmPeople.lblPeopleNameCaption,
+                   &frmPeople.chkPeopleVerified, &frmPeople.lblPeopleKeyCaption,
+                   &frmPeople.lblPeopleKey, &frmPeople.cmdPeopleForget, &frmPeople.cmdPeopleClose});
+}
+
+void BindContextHelp(const VerifyWindow& frmVerify) {
+  BindContextHelp({&frmVerify.lblVerifyWho, &frmVerify.lblVerifyDigits, &frmVerify.picVerifyCode,
+                   &frmVerify.lblVerifyMeaning, &frmVerify.cmdVerifyCopy, &frmVerify.cmdVerifyMatch,
+                   &frmVerify.cmdVerifyClose});
 }
 
 }  // namespace verlume

@@ -31,5 +31,8 @@ void BindContextHelp(std::initializer_list<Control*> controls);
 
 // The same for the labels, check boxes and pictures of the main window.
 void BindContextHelp(const MainWindow& frmMain);
+// The same for all that is in the window but the text field, which has a menu of its own.
+void BindContextHelp(const PeopleWindow& frmPeople);
+void BindContextHelp(const VerifyWindow& frmVerify);
 
 }  // namespace verlume

@@ -75,7 +75,10 @@ class AssistiveToolsTest : public testing::Test {
   Platform platform{.frmMain = window.View(),
                     .frmAbout = fake.about.frmAbout,
                     .frmMacros = fake.macros.frmMacros,
+                    .frmPeople = fake.people.frmPeople,
+                    .frmVerify = fake.verify.frmVerify,
                     .sckControl = fake.socket,
+                    .privacy = fake.socket.privacy,
                     .dialogs = fake.dialogs,
                     .dlgControl = fake.commonDialog,
                     .files = fake.files,
@@ -84,6 +87,7 @@ class AssistiveToolsTest : public testing::Test {
                     .application = fake.application,
                     .help = fake.help,
                     .tools = fake.tools,
+                    .clipboard = fake.clipboard,
                     .links = fake.links,
                     .attention = attention};
   Program program{platform};

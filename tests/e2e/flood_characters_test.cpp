@@ -55,6 +55,11 @@ Characters OfIndia() {
           0x0B15, 0x0B95, 0x0C15, 0x0C95, 0x0D15, 0x0D9A, 0x1780};
 }
 
+// Signs that go with any script, some of which no font has.
+Characters Symbols() {
+  return {0x2190, 0x2211, 0x25A0, 0x2603, 0x2E3A, 0xE000, 0xF8FF, 0x1F600, 0x1FAE8, 0x10FFFD};
+}
+
 std::string Escape(int unit) {
   return "\\u" + std::to_string(static_cast<std::int16_t>(unit)) + " ";
 }
@@ -84,6 +89,23 @@ std::string InAllLooks(const Characters& characters) {
   return text;
 }
 
+// Short documents, each of which has as many looks as a short text may.
+std::string InManyDocuments(const Characters& characters) {
+  constexpr int kLooks = 900;
+  std::string documents;
+  for (int first = 0; documents.size() < kCharacterFlood; first += kLooks) {
+    documents += R"({\rtf1\ansi\uc0 )";
+    for (int look = first; look < first + kLooks; ++look) {
+      documents +=
+          R"(\fs)" + std::to_string(2 + look % 142) + (look / 142 % 2 ? R"(\b)" : R"(\b0)");
+      documents += (look / 284 % 2 ? R"(\i )" : R"(\i0 )");
+      documents += Rtf(characters[static_cast<std::size_t>(look) % characters.size()]);
+    }
+    documents += "}";
+  }
+  return documents;
+}
+
 std::string InAllFonts(const Characters& characters) {
   const char* const kFamilies[] = {"DejaVu Sans", "DejaVu Serif", "Liberation Serif",
                                    "Liberation Mono", "No such font"};
@@ -110,16 +132,34 @@ TEST_P(FloodCharacters, TheWindowAnswers) {
   SendAndWatch(R"({\rtf1\ansi\uc0 )" + GetParam().make() + "}");
 }
 
+TEST_F(Flood, TheWindowAnswersWhileShortDocumentsOfManyLooksCome) {
+  SendAndWatch(InManyDocuments({'a'}));
+  SendAndWatch(InManyDocuments(OneOfEachScript()));
+}
+
 const Content kContents[] = {
     {"InOrder", [] { return Repeat(Rtf(AllCharacters()), kCharacterFlood); }},
     {"Reversed", [] { return Repeat(Rtf(Reversed(AllCharacters())), kCharacterFlood); }},
     {"Shuffled", [] { return Repeat(Rtf(Shuffled(AllCharacters())), kCharacterFlood); }},
-    {"OneOfEachScriptInALine", [] { return Repeat(Rtf(OneOfEachScript()) + R"(\par )", kCharacterFlood); }},
+    {"OneOfEachScriptInALine",
+     [] { return Repeat(Rtf(OneOfEachScript()) + R"(\par )", kCharacterFlood); }},
     {"BoldAndItalic",
      [] { return Repeat(R"(\b )" + Rtf(AllCharacters()) + R"(\b0\i )", kCharacterFlood) + "x"; }},
     {"InAllFonts", [] { return InAllFonts(OneOfEachScript()); }},
     {"EachInALookOfItsOwn", [] { return InAllLooks(OneOfEachScript()); }},
     {"OfIndiaInALookOfItsOwn", [] { return InAllLooks(OfIndia()); }},
+    {"SymbolsInALookOfTheirOwn", [] { return InAllLooks(Symbols()); }},
+    // Text that is inserted fast is inserted in long steps.
+    {"AllLooksBehindPlainText",
+     [] { return std::string(kCharacterFlood, 'x') + InAllLooks(OneOfEachScript()); }},
+    {"AllScriptsInEachLook",
+     [] {
+       std::string text;
+       for (int size = 2; text.size() < kCharacterFlood; size = 2 + size % 142) {
+         text += R"(\fs)" + std::to_string(size) + " " + Rtf(OneOfEachScript());
+       }
+       return std::string(kCharacterFlood, 'x') + text;
+     }},
     {"OfIndiaAndOthers", [] {
        std::string text;
        for (const char32_t c : OfIndia()) text += Rtf(c) + " 1 a ";

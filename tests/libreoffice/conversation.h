@@ -45,11 +45,24 @@ class Conversation {
   fake::FakePlatform fakes_{network_};
   qt::QtFileSystem files_;
   qt::QtMainWindow window_{files_};
-  Platform platform_ = {window_.View(),     fakes_.about.frmAbout, fakes_.macros.frmMacros,
-                        fakes_.socket,      fakes_.dialogs,        fakes_.commonDialog,
-                        fakes_.files,       fakes_.clock,          fakes_.locale,
-                        fakes_.application, fakes_.help,           fakes_.tools,
-                        fakes_.links,       fakes_.attention};
+  Platform platform_ = {window_.View(),
+                        fakes_.about.frmAbout,
+                        fakes_.macros.frmMacros,
+                        fakes_.people.frmPeople,
+                        fakes_.verify.frmVerify,
+                        fakes_.socket,
+                        fakes_.socket.privacy,
+                        fakes_.dialogs,
+                        fakes_.commonDialog,
+                        fakes_.files,
+                        fakes_.clock,
+                        fakes_.locale,
+                        fakes_.application,
+                        fakes_.help,
+                        fakes_.tools,
+                        fakes_.clipboard,
+                        fakes_.links,
+                        fakes_.attention};
   Program program_{platform_};
 };
 

@@ -123,7 +123,10 @@ class CallersFixture : public testing::Test {
   Platform platform = {fake.window.frmMain,
                        fake.about.frmAbout,
                        fake.macros.frmMacros,
+                       fake.people.frmPeople,
+                       fake.verify.frmVerify,
                        socket,
+                       fake.socket.privacy,
                        fake.dialogs,
                        fake.commonDialog,
                        fake.files,
@@ -132,6 +135,7 @@ class CallersFixture : public testing::Test {
                        fake.application,
                        fake.help,
                        fake.tools,
+                       fake.clipboard,
                        fake.links,
                        fake.attention};
   Program program{platform};

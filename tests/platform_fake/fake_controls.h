@@ -8,7 +8,9 @@
 #include <vector>
 
 #include "platform/control.h"
+#include "platform/lock_label.h"
 #include "platform/run_time_failure.h"
+#include "platform/table_box.h"
 #include "platform/window.h"
 
 namespace verlume::fake {
@@ -67,6 +69,17 @@ class FakeLabel : public FakeControl<Label> {
   std::u16string tagWhenPainted;
   Color backColor = 0;
   int height = 0;
+};
+
+class FakeLockLabel : public FakeControl<LockLabel> {
+ public:
+  void SetCaption(std::u16string_view text) override { caption = text; }
+  std::u16string Caption() const override { return caption; }
+  void SetPicture(LockPicture value) override { picture = value; }
+  LockPicture Picture() const override { return picture; }
+
+  std::u16string caption;
+  LockPicture picture = LockPicture::Becoming;
 };
 
 class FakePicture : public FakeControl<Picture> {
@@ -162,6 +175,38 @@ class FakeListBox : public FakeControl<ListBox> {
   int selected = -1;
   int top = -1;
   std::u16string tag;
+
+ private:
+  bool Has(int index) const { return index >= 0 && index < Count(); }
+};
+
+class FakeTableBox : public FakeControl<TableBox> {
+ public:
+  void SetHeading(int column, std::u16string_view text) override {
+    const auto index = static_cast<std::size_t>(column);
+    if (index >= headings.size()) headings.resize(index + 1);
+    headings[index] = text;
+  }
+  void SetRows(const std::vector<Row>& values) override {
+    rows = values;
+    selected = -1;
+  }
+  void SetRow(int index, const Row& row) override {
+    if (Has(index)) rows[static_cast<std::size_t>(index)] = row;
+  }
+  int Count() const override { return static_cast<int>(rows.size()); }
+  void Select(int index) override { selected = Has(index) ? index : -1; }
+  int SelectedIndex() const override { return selected; }
+
+  // As a user would.
+  void Choose(int index) {
+    selected = index;
+    if (onClick) onClick();
+  }
+
+  Row headings;
+  std::vector<Row> rows;
+  int selected = -1;
 
  private:
   bool Has(int index) const { return index >= 0 && index < Count(); }

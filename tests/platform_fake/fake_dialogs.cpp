@@ -54,8 +54,10 @@ FileChoice FakeCommonDialog::ShowSave(const FileChoice& start) {
 }
 
 std::u16string FakeCommonDialog::ChooseFolder(std::u16string_view title,
-                                              std::u16string_view initialFolder) {
-  foldersShown.push_back({std::u16string(title), std::u16string(initialFolder)});
+                                              std::u16string_view initialFolder,
+                                              std::u16string_view suggestion) {
+  foldersShown.push_back(
+      {std::u16string(title), std::u16string(initialFolder), std::u16string(suggestion)});
   if (whileOpen) whileOpen();
   return TakeChoice(folders, "a folder dialog");
 }

@@ -43,8 +43,8 @@ class FakeCommonDialog : public CommonDialog {
  public:
   FileChoice ShowOpen(const FileChoice& start) override;
   FileChoice ShowSave(const FileChoice& start) override;
-  std::u16string ChooseFolder(std::u16string_view title,
-                              std::u16string_view initialFolder) override;
+  std::u16string ChooseFolder(std::u16string_view title, std::u16string_view initialFolder,
+                              std::u16string_view suggestion) override;
   Color ShowColor(Color start) override;
   FontChoice ShowFont(const FontChoice& start, double minimumSize, double maximumSize) override;
 
@@ -61,6 +61,7 @@ class FakeCommonDialog : public CommonDialog {
   struct FolderShown {
     std::u16string title;
     std::u16string initialFolder;
+    std::u16string suggestion;
   };
   std::vector<FolderShown> foldersShown;
   std::vector<Color> colorsShown;

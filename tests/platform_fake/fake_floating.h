@@ -55,4 +55,13 @@ struct FakeAgainBar {
   AgainBar View() { return {fraAgain, lblAgain, cmdAgain, cmdAgainClose}; }
 };
 
+struct FakeKeyBar {
+  FakeFloatingPanel fraKey;
+  FakeLabel lblKey;
+  FakeButton cmdKeyGoOn;
+  FakeButton cmdKeyHangUp;
+
+  KeyBar View() { return {fraKey, lblKey, cmdKeyGoOn, cmdKeyHangUp}; }
+};
+
 }  // namespace verlume::fake

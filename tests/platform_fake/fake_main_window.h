@@ -31,6 +31,9 @@ struct FakeMainWindow {
   FakeMenuEntry mnuCommClose;
   FakeMenuEntry mnuCommRefresh;
   FakeChoiceMenu mnuCommCallAgain;
+  FakeMenuEntry mnuCommInvite;
+  FakeMenuEntry mnuCommVerify;
+  FakeMenuEntry mnuCommPeople;
   FakeMenu mnuFormat;
   FakeMenuEntry mnuFormatFontBold;
   FakeMenuEntry mnuFormatFontItalics;
@@ -60,6 +63,10 @@ struct FakeMainWindow {
   FakeMenuEntry mnuAttentionSound;
   FakeMenuEntry mnuAttentionCount;
   FakeMenuEntry mnuToolsCheckSpelling;
+  FakeMenu mnuPrivate;
+  FakeMenuEntry mnuPrivateWhenPossible;
+  FakeMenuEntry mnuPrivateOnly;
+  FakeMenuEntry mnuPrivateNever;
   FakeMenu mnuView;
   FakeMenuEntry mnuViewStatusPanel;
   FakeMenuEntry mnuViewZoomIn;
@@ -83,6 +90,7 @@ struct FakeMainWindow {
   FakeButton cmdNewLines;
   FakeWelcomeCard welcomeCard;
   FakeAgainBar againBar;
+  FakeKeyBar keyBar;
   FakeLabel lblHint;
   FakeSpellChecker spelling;
   FakeButton cmdSend;
@@ -93,6 +101,7 @@ struct FakeMainWindow {
   FakeLabel lblStatus;
   FakeProgressBar prgStatus;
   FakeLabel lblWaiting;
+  FakeLockLabel lblLock;
   FakePanel fraPanel;
   FakeLabel lblCurrentDateTime;
   FakeLabel lblChatStartDateTime;

@@ -10,7 +10,10 @@ FakePlatform::FakePlatform(FakeNetwork& network)
           .frmMain = window.frmMain,
           .frmAbout = about.frmAbout,
           .frmMacros = macros.frmMacros,
+          .frmPeople = people.frmPeople,
+          .frmVerify = verify.frmVerify,
           .sckControl = socket,
+          .privacy = socket.privacy,
           .dialogs = dialogs,
           .dlgControl = commonDialog,
           .files = files,
@@ -19,6 +22,7 @@ FakePlatform::FakePlatform(FakeNetwork& network)
           .application = application,
           .help = help,
           .tools = tools,
+          .clipboard = clipboard,
           .links = links,
           .attention = attention,
       } {

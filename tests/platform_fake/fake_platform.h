@@ -8,8 +8,10 @@
 #include "platform_fake/fake_file_system.h"
 #include "platform_fake/fake_macro_window.h"
 #include "platform_fake/fake_main_window.h"
+#include "platform_fake/fake_people_window.h"
 #include "platform_fake/fake_socket.h"
 #include "platform_fake/fake_system.h"
+#include "platform_fake/fake_verify_window.h"
 
 namespace verlume::fake {
 
@@ -22,6 +24,8 @@ struct FakePlatform {
   FakeMainWindow window;
   FakeAboutWindow about;
   FakeMacroWindow macros;
+  FakePeopleWindow people;
+  FakeVerifyWindow verify;
   FakeSocket socket;
   FakeDialogs dialogs;
   FakeCommonDialog commonDialog;
@@ -30,6 +34,7 @@ struct FakePlatform {
   FakeApplication application;
   FakeHelpViewer help;
   FakeSystemTools tools;
+  FakeClipboard clipboard;
   FakeLinkOpener links;
   FakeAttention attention;
 

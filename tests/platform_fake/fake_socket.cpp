@@ -18,7 +18,9 @@ void FakeNetwork::RunUntilIdle() {
 
 void FakeNetwork::Mend() {
   isCut_ = false;
-  for (FakeSocket* socket : sockets_) socket->DeliverWaiting();
+  for (FakeSocket* socket : sockets_) {
+    if (!socket->privacy.IsHeld()) socket->DeliverWaiting();
+  }
 }
 
 FakeSocket::~FakeSocket() {
@@ -49,7 +51,9 @@ void FakeSocket::Connect() {
   state_ = SocketState::Connecting;
   callFailure_ = CallFailure::None;
   early_.clear();
+  isCaller_ = true;
   localPort_ = network_.nextPort_++;
+  privacy.Begin();
   Post([this] {
     if (network_.fails) return FailCall(*network_.fails);
     if (remoteHost.ends_with(u".invalid")) return FailCall(CallFailure::UnknownHost);
@@ -58,6 +62,7 @@ void FakeSocket::Connect() {
     state_ = SocketState::Connected;
     peer_ = listener->second;
     remoteHostIP_ = peer_->localIP;
+    privacy.Connected();
     peer_->callers_.push_back(this);
     peer_->AskNextCaller();
     if (onConnect) onConnect();
@@ -90,6 +95,10 @@ void FakeSocket::Accept(std::int64_t requestId) {
   remotePort_ = caller->localPort_;
   caller->peer_ = this;
   state_ = SocketState::Connected;
+  isCaller_ = false;
+  hasSent_ = false;
+  privacy.Begin();
+  Post([this] { privacy.Connected(); });
   for (const std::u16string& text : std::exchange(caller->early_, {})) Arrive(text);
 }
 
@@ -127,6 +136,7 @@ void FakeSocket::Close() {
     }
   }
   LoseWaiting();
+  privacy.End();
   if (undelivered_ > 0) {
     network_.events_.push_back([this] {
       if (network_.sockets_.contains(this)) RaiseUndelivered();
@@ -147,6 +157,7 @@ void FakeSocket::LosePeer() {
   state_ = SocketState::Closed;
   peer_ = nullptr;
   LoseWaiting();
+  privacy.End();
   isCloseWaiting_ = wasConnected && arePaused_;
   if (isCloseWaiting_) return;
   RaiseUndelivered();
@@ -156,12 +167,17 @@ void FakeSocket::LosePeer() {
 void FakeSocket::SendData(std::u16string_view text, TextKind kind) {
   if (state_ != SocketState::Connected) return;
   sent.emplace_back(text);
-  if (network_.isCut_) return waiting_.push_back({sent.back(), kind});
+  const bool isFirst = !std::exchange(hasSent_, true) && !isCaller_;
+  const bool isHeld = privacy.IsHeld() && !isFirst;
+  if (network_.isCut_ || isHeld) return waiting_.push_back({sent.back(), kind});
   Deliver(sent.back());
 }
 
 void FakeSocket::Deliver(const std::u16string& text) {
-  const std::u16string received = richtext::DecodeGreek(richtext::EncodeGreek(text));
+  // In private no character is lost.
+  const bool isWhole = peer_ && privacy.CanBePrivate() && peer_->privacy.CanBePrivate();
+  const std::u16string received =
+      isWhole ? text : richtext::DecodeGreek(richtext::EncodeGreek(text));
   if (peer_ && peer_->peer_ == this) {
     peer_->Arrive(received);
   } else {
@@ -211,13 +227,30 @@ void FakeSocket::Receive(std::u16string text) {
 }
 
 void FakeSocket::DeliverArrival() {
-  if (arePaused_ || arrivals_.empty()) return;
+  if (arrivals_.empty()) return;
+  privacy.SettleByArrival(arrivals_.front());
+  if (arePaused_ || privacy.IsHeld() || arrivals_.empty()) return;
   arrival_.clear();
   do {
     arrival_ += arrivals_.front();
     arrivals_.pop_front();
   } while (network_.joinArrivals && !arrivals_.empty());
   if (onDataArrival) onDataArrival(static_cast<std::int32_t>(arrival_.size()));
+}
+
+// The peer has been let in.
+void FakeSocket::Open() {
+  if (!network_.isCut_) DeliverWaiting();
+  for (std::size_t i = 0; i < arrivals_.size(); ++i) Post([this] { DeliverArrival(); });
+}
+
+void FakeSocket::DropConnection() {
+  if (FakeSocket* peer = std::exchange(peer_, nullptr); peer && peer->peer_ == this) {
+    peer->peer_ = nullptr;
+    peer->Post([peer] { peer->LosePeer(); });
+  }
+  arrivals_.clear();
+  LosePeer();
 }
 
 void FakeSocket::ResumeArrivals() {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/socket.h"
+#include "platform_fake/fake_privacy.h"
 
 namespace verlume::fake {
 
@@ -41,11 +42,15 @@ class FakeNetwork {
   bool isCut_ = false;
   std::int32_t nextPort_ = 20000;
   std::int64_t nextRequest_ = 1;
+  std::uint8_t lastKey_ = 0;
 };
 
 class FakeSocket : public Socket {
  public:
-  explicit FakeSocket(FakeNetwork& network) : network_(network) { network_.sockets_.insert(this); }
+  explicit FakeSocket(FakeNetwork& network)
+      : privacy(*this, ++network.lastKey_), network_(network) {
+    network_.sockets_.insert(this);
+  }
   ~FakeSocket() override;
 
   SocketState State() const override { return state_; }
@@ -74,12 +79,14 @@ class FakeSocket : public Socket {
   // A text arrives at once, without a peer that sends it. Does nothing unless connected.
   void Receive(std::u16string text);
 
+  FakePrivacy privacy;
   std::u16string remoteHost;
   std::u16string localIP = u"192.0.2.1";
   std::vector<std::u16string> sent;  // every text handed to SendData while connected
 
  private:
   friend class FakeNetwork;
+  friend class FakePrivacy;
   struct Text {
     std::u16string text;
     TextKind kind;
@@ -96,6 +103,8 @@ class FakeSocket : public Socket {
   void FailCall(CallFailure failure);
   void AskNextCaller();
   void DropCaller();
+  void Open();
+  void DropConnection();
 
   FakeNetwork& network_;
   SocketState state_ = SocketState::Closed;
@@ -108,8 +117,10 @@ class FakeSocket : public Socket {
   std::int64_t request_ = 0;           // the caller being asked about, 0 for none
   FakeSocket* pending_ = nullptr;      // that caller, until it leaves
   std::vector<std::u16string> early_;  // sent before the call was answered
-  std::deque<Text> waiting_;           // while the network is cut
-  std::size_t undelivered_ = 0;        // lines of ended connections, not raised yet
+  std::deque<Text> waiting_;           // while the network is cut, or the peer is not let in
+  bool hasSent_ = false;               // over this connection
+  bool isCaller_ = false;
+  std::size_t undelivered_ = 0;  // lines of ended connections, not raised yet
   std::deque<std::u16string> arrivals_;
   std::u16string arrival_;
   bool arePaused_ = false;       // the arrivals

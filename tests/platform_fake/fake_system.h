@@ -56,6 +56,13 @@ class FakeApplication : public Application {
   std::vector<std::string> loggedErrors;
 };
 
+class FakeClipboard : public Clipboard {
+ public:
+  void SetText(std::u16string_view value) override { text = value; }
+
+  std::u16string text;
+};
+
 class FakeHelpViewer : public HelpViewer {
  public:
   void SetHelpFile(std::u16string_view path, bool isGreekFile) override {

@@ -38,6 +38,15 @@ TEST_F(LogFolderTest, DialogSpeaksTheLanguageInForce) {
             u"Επιλέξτε τον φάκελλο στον οποίο θα καταγράφονται οι διάλογοί σας");
 }
 
+TEST_F(LogFolderTest, DialogSuggestsAFolderInTheLanguageInForce) {
+  fake.commonDialog.folders = {std::nullopt, std::nullopt};
+  log.mnuFileLogFolder_Click();
+  state.IsGreek = true;
+  log.mnuFileLogFolder_Click();
+  EXPECT_EQ(fake.commonDialog.foldersShown[0].suggestion, u"Verlume dialogues");
+  EXPECT_EQ(fake.commonDialog.foldersShown[1].suggestion, u"Διάλογοι Verlume");
+}
+
 TEST_F(LogFolderTest, DialogStartsInTheFolderInForceOrTheProgramsOwn) {
   fake.commonDialog.folders = {std::nullopt, std::nullopt, std::nullopt};
   log.mnuFileLogFolder_Click();
@@ -98,18 +107,32 @@ TEST_F(LogFolderTest, ChangeIsAllowedBetweenConversations) {
 
 TEST_F(LogFolderTest, ConversationThatBeginsDuringTheDialogKeepsItsFolder) {
   struct OpenDialog : fake::FakeCommonDialog {
-    std::u16string ChooseFolder(std::u16string_view, std::u16string_view) override {
+    std::u16string ChooseFolder(std::u16string_view, std::u16string_view,
+                                std::u16string_view) override {
       whileOpen();
       return u"/logs/";
     }
     std::function<void()> whileOpen;
   } dialog;
   dialog.whileOpen = [this] { state.LogOpen = true; };
-  Platform platform = {fake.window.frmMain, fake.about.frmAbout, fake.macros.frmMacros,
-                       fake.socket,         fake.dialogs,        dialog,
-                       fake.files,          fake.clock,          fake.locale,
-                       fake.application,    fake.help,           fake.tools,
-                       fake.links,          fake.attention};
+  Platform platform = {fake.window.frmMain,
+                       fake.about.frmAbout,
+                       fake.macros.frmMacros,
+                       fake.people.frmPeople,
+                       fake.verify.frmVerify,
+                       fake.socket,
+                       fake.socket.privacy,
+                       fake.dialogs,
+                       dialog,
+                       fake.files,
+                       fake.clock,
+                       fake.locale,
+                       fake.application,
+                       fake.help,
+                       fake.tools,
+                       fake.clipboard,
+                       fake.links,
+                       fake.attention};
   DialogueLog logUnderDialog{state, platform, errors, settings};
   state.LogFolder = u"/old/";
   state.LogDialogue = true;

@@ -27,6 +27,7 @@ void ExpectAlike(std::initializer_list<Names> all, bool alike) {
   for (const Names& names : all) {
     EXPECT_EQ(ReadAlike(names.one, names.other), alike) << Shown(names);
     EXPECT_EQ(ReadAlike(names.other, names.one), alike) << Shown(names);
+    EXPECT_EQ(ReadName(names.one).ReadsLike(ReadName(names.other)), alike) << Shown(names);
   }
 }
 

@@ -43,6 +43,8 @@ TEST_F(WindowBehaviourTest, AChoiceThatCannotBeKeptIsReported) {
 
 TEST_F(WindowBehaviourTest, AReleaseOfAnyOtherButtonThanTheLeftShowsContextHelp) {
   BindContextHelp(window.frmMain);
+  BindContextHelp(fake.people.frmPeople);
+  BindContextHelp(fake.verify.frmVerify);
   const auto check = [](auto&... controls) {
     for (Control* control : std::initializer_list<Control*>{&controls...}) {
       ASSERT_TRUE(control->onMouseUp);
@@ -65,7 +67,14 @@ TEST_F(WindowBehaviourTest, AReleaseOfAnyOtherButtonThanTheLeftShowsContextHelp)
         window.lblStatus, window.lblWaiting, window.picShape, window.chkBold, window.chkItalics,
         window.chkUnderline, window.lblColor, window.lblCopyright, window.picCopyright,
         window.cmdFindPrevious, window.cmdFindNext, window.lblFindResult, window.cmdFindClose,
-        window.lstCompletions);
+        window.lstCompletions, window.lblLock);
+  fake::FakePeopleWindow& people = fake.people;
+  check(people.lblPeopleNone, people.lstPeople, people.lblPeopleNameCaption,
+        people.chkPeopleVerified, people.lblPeopleKeyCaption, people.lblPeopleKey,
+        people.cmdPeopleForget, people.cmdPeopleClose);
+  fake::FakeVerifyWindow& verify = fake.verify;
+  check(verify.lblVerifyWho, verify.lblVerifyDigits, verify.picVerifyCode, verify.lblVerifyMeaning,
+        verify.cmdVerifyCopy, verify.cmdVerifyMatch, verify.cmdVerifyClose);
 }
 
 }  // namespace

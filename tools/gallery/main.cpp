@@ -28,7 +28,7 @@ int main(int argc, char* argv[]) {
 
   verlume::qt::QtPlatform platform;
   verlume::Program program(platform.View());
-  verlume::gallery::Photographer photographer(arguments[1], arguments.value(2));
+  verlume::gallery::Photographer photographer(platform.View(), arguments[1], arguments.value(2));
   program.Start();
   return platform.Run();
 }

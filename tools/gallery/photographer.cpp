@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <utility>
 
+#include "private_scenes.h"
+
 namespace verlume::gallery {
 namespace {
 
@@ -27,8 +29,9 @@ bool OpensABox(const QAction& entry) {
 
 }  // namespace
 
-Photographer::Photographer(const QString& folder, const QString& start)
-    : folder_(folder),
+Photographer::Photographer(Platform& platform, const QString& folder, const QString& start)
+    : platform_(platform),
+      folder_(folder),
       scene_(start.isEmpty() ? QStringLiteral("start") : start),
       onlyStart_(!start.isEmpty()) {
   connect(&timer_, &QTimer::timeout, this, &Photographer::Step);
@@ -112,6 +115,12 @@ void Photographer::AddScenes() {
   AddTyped(QStringLiteral("waiting"), QStringLiteral("/WAIT"));
   AddTyped(QStringLiteral("exit-while-waiting"), QStringLiteral("/EXIT"));
   AddTyped(QStringLiteral("call-while-waiting"), QStringLiteral("/CALL localhost 1"));
+  for (PrivateScene& scene : PrivateScenes(platform_, [this] {
+         QApplication::processEvents();
+         Take(main_, scene_);
+       })) {
+    scenes_.push_back({scene.name, std::move(scene.enter)});
+  }
   AddCall();
 }
 
@@ -237,10 +246,10 @@ void Photographer::Take(QWidget* window, const QString& name) {
   Save(window->grab(), name);
 }
 
-// Windows have few colours, and a picture with a palette is a third as large.
 void Photographer::Save(const QPixmap& picture, const QString& name) {
-  const QImage small = picture.toImage().convertToFormat(QImage::Format_Indexed8);
-  small.save(folder_ + u'/' + name + QStringLiteral(".png"));
+  constexpr int kSmallest = 0;
+  const QImage opaque = picture.toImage().convertToFormat(QImage::Format_RGB888);
+  opaque.save(folder_ + u'/' + name + QStringLiteral(".png"), "PNG", kSmallest);
 }
 
 void Photographer::TakeToolTip(const QString& control) {

@@ -11,6 +11,7 @@
 
 #include "caller.h"
 #include "macro_tour.h"
+#include "platform/platform.h"
 
 class QAction;
 class QMainWindow;
@@ -22,7 +23,7 @@ class Photographer : public QObject {
  public:
   // The pictures are FOLDER/NAME.png; the folder must exist. With a name for the start, a picture
   // is taken only of what opens at the start of the program.
-  Photographer(const QString& folder, const QString& start);
+  Photographer(Platform& platform, const QString& folder, const QString& start);
 
  private:
   struct Scene {
@@ -53,6 +54,7 @@ class Photographer : public QObject {
   QWidget* Type(const QString& text);
   void Enter(const QString& line);
 
+  Platform& platform_;
   QString folder_;
   QMainWindow* main_ = nullptr;
   std::vector<Scene> scenes_;

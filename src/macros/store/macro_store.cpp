@@ -10,6 +10,8 @@
 namespace verlume {
 namespace {
 
+constexpr TextPair kSuggestedMacrosFolder = {u"Verlume macros", u"Μακροεντολές Verlume"};
+
 constexpr TextPair kMacrosFolderDialogTitle = {
     u"Select the folder that will hold your macros",
     u"Επιλέξτε τον φάκελλο που θα περιέχει τις μακροεντολές σας"};
@@ -23,7 +25,8 @@ bool IsValidMacroName(std::u16string_view name) {
 void MacroStore::ChooseMacrosFolder() {
   errors_.Guard(Procedure::ChooseMacrosFolder, [this] {
     const auto folder =
-        ChooseFolder(platform_, kMacrosFolderDialogTitle.In(state_.IsGreek), state_.MacrosFolder);
+        ChooseFolder(platform_, kMacrosFolderDialogTitle.In(state_.IsGreek), state_.MacrosFolder,
+                     kSuggestedMacrosFolder.In(state_.IsGreek));
     if (!folder) return;
     state_.MacrosFolder = *folder;
     settings_.WriteSetting(setting_section::kGeneral, setting_key::kMacrosFolder, *folder);

@@ -20,11 +20,10 @@ class ElidedLabel : public QLabel {
  protected:
   void paintEvent(QPaintEvent* event) override;
   bool event(QEvent* event) override;
-
- private:
   // The lines as they are drawn; `cut` tells whether some of the text is missing.
   QStringList VisibleLines(bool& cut) const;
 
+ private:
   bool muted_ = false;
 };
 

@@ -10,6 +10,8 @@ namespace {
 
 // The property in which a widget or action keeps its caption without mnemonic.
 constexpr auto kCaption = "verlumeCaption";
+// The property of push buttons that have a letter in a window with a menu bar.
+constexpr auto kKeepsMnemonic = "verlumeKeepsMnemonic";
 
 // The key of the letter; null if it cannot be a mnemonic. An accented letter needs two keys, and a
 // final sigma is not on the key of its letter.
@@ -121,21 +123,21 @@ QString SetTexts(const QList<Element*>& elements, const QString& taken) {
 }
 
 // Assigns everything that Alt and a letter reach in a window: first the menus of the menu bar, then
-// the check boxes. Without a menu bar, the buttons get letters too, before the check boxes.
+// the check boxes, then what KeepMnemonic says. Without a menu bar, all buttons get letters, before
+// the check boxes.
 void SetTextsOfWindow(QWidget* window) {
   QList<QAbstractButton*> elements;
-  const auto add = [&](const auto& found) {
+  const auto add = [&](const auto& found, const char* property) {
     for (auto* one : found) {
-      if (one->window() == window && one->property(kCaption).isValid()) elements.append(one);
+      const bool isCaptioned = one->window() == window && one->property(kCaption).isValid();
+      if (isCaptioned && one->property(property).isValid()) elements.append(one);
     }
   };
-  QString taken;
-  if (const auto* bar = window->findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly)) {
-    taken = SetTexts(bar->actions(), taken);
-  } else {
-    add(window->findChildren<QPushButton*>());
-  }
-  add(window->findChildren<QCheckBox*>());
+  const auto* bar = window->findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly);
+  const QString taken = bar ? SetTexts(bar->actions(), QString()) : QString();
+  if (!bar) add(window->findChildren<QPushButton*>(), kCaption);
+  add(window->findChildren<QCheckBox*>(), kCaption);
+  if (bar) add(window->findChildren<QPushButton*>(), kKeepsMnemonic);
   SetTexts(elements, taken);
 }
 
@@ -166,6 +168,10 @@ void SetCaptionWithMnemonic(QAction* action, const QString& caption) {
     return;
   }
   action->setText(WithMnemonic(caption, -1));
+}
+
+void KeepMnemonic(QPushButton* button) {
+  button->setProperty(kKeepsMnemonic, true);
 }
 
 void SetCaptionWithMnemonic(QAbstractButton* button, const QString& caption) {

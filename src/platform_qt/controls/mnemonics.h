@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QPushButton>
 #include <QStringList>
 #include <vector>
 
@@ -20,8 +21,12 @@ QString WithMnemonic(const QString& caption, qsizetype place);
 
 // Sets the caption of a menu entry, or of a menu of the menu bar, and chooses new letters for all
 // entries beside it. The letters of a menu bar are not available to the check boxes of its window.
-// The push buttons of such a window have no letters, because they come and go.
+// The push buttons of such a window have no letters, because they come and go; but for those of
+// KeepMnemonic, which get theirs last.
 void SetCaptionWithMnemonic(QAction* action, const QString& caption);
 void SetCaptionWithMnemonic(QAbstractButton* button, const QString& caption);
+
+// Gives a push button a letter although its window has a menu bar. Before it has a caption.
+void KeepMnemonic(QPushButton* button);
 
 }  // namespace verlume::qt

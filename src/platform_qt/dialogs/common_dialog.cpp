@@ -10,6 +10,7 @@
 #include "platform_qt/dialogs/common_dialog_files.h"
 #include "platform_qt/dialogs/common_dialog_font.h"
 #include "platform_qt/dialogs/dialogs.h"
+#include "platform_qt/dialogs/folder_suggestion.h"
 
 namespace verlume::qt {
 namespace {
@@ -80,8 +81,10 @@ FileChoice QtCommonDialog::ShowSave(const FileChoice& start) {
 }
 
 std::u16string QtCommonDialog::ChooseFolder(std::u16string_view title,
-                                            std::u16string_view initialFolder) {
+                                            std::u16string_view initialFolder,
+                                            std::u16string_view suggestion) {
   auto* dialog = new FileDialog(ParentOfBoxes(mainWindow_), ToQt(title), initialFolder);
+  SuggestFolder(*dialog, FolderInDocuments(ToQt(suggestion)));
   dialog->setFileMode(QFileDialog::Directory);
   dialog->setOption(QFileDialog::ShowDirsOnly);
   return Ask(dialog, [](const FileDialog& done) {

@@ -16,8 +16,8 @@ class QtCommonDialog : public CommonDialog {
 
   FileChoice ShowOpen(const FileChoice& start) override;
   FileChoice ShowSave(const FileChoice& start) override;
-  std::u16string ChooseFolder(std::u16string_view title,
-                              std::u16string_view initialFolder) override;
+  std::u16string ChooseFolder(std::u16string_view title, std::u16string_view initialFolder,
+                              std::u16string_view suggestion) override;
   Color ShowColor(Color start) override;
   FontChoice ShowFont(const FontChoice& start, double minimumSize, double maximumSize) override;
 

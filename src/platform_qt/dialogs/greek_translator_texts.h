@@ -107,6 +107,7 @@ inline constexpr auto kFileQuestionTexts = std::to_array<QtText>({
     {"'%1' is write protected.\nDo you want to delete it anyway?",
      u"Το «%1» προστατεύεται από εγγραφή.\nΘέλετε να διαγραφεί παρ' όλα αυτά;"},
     {"Are you sure you want to delete '%1'?", u"Θέλετε σίγουρα να διαγραφεί το «%1»;"},
+    {"The folder %1 could not be made.", u"Δεν έγινε δυνατή η δημιουργία του φακέλλου %1."},
     {"Could not delete directory.", u"Δεν έγινε δυνατή η διαγραφή του φακέλλου."},
     {"Invalid filename", u"Μη έγκυρο όνομα αρχείου"},
     {"<b>The name \"%1\" cannot be used.</b><p>Try using another name, with fewer characters or no "

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/text/look_count.h"
 #include "platform_qt/text/text_format.h"
 
 namespace verlume::qt {
@@ -48,31 +49,39 @@ FormattedText::FormattedText(std::u16string_view plain, const QTextCharFormat& f
     : text(SafeText(plain, lines)), pieces{{text.size(), format}} {}
 
 FormattedText::FormattedText(richtext::Document document, Lines lines, TextFormats* formats)
-    : FormattedText(DocumentParts(std::move(document), lines, formats).Next(std::u16string::npos)) {
-}
+    : FormattedText(DocumentParts(std::move(document), lines, formats)
+                        .Next(std::u16string::npos, std::u16string::npos)) {}
 
 DocumentParts::DocumentParts(richtext::Document document, Lines lines, TextFormats* formats)
     : document_(std::move(document)), lines_(lines), boxFormats_(formats) {}
 
-FormattedText DocumentParts::Next(std::size_t units) {
-  const std::size_t begin = at_;
-  std::size_t end = begin + std::min(units, document_.text.size() - begin);
-  const bool splitsPair =
-      end > begin && end < document_.text.size() && QChar::isHighSurrogate(document_.text[end - 1]);
-  if (splitsPair) ++end;
+FormattedText DocumentParts::Next(std::size_t units, std::size_t looks) {
+  const std::size_t end = EndOfPart(units);
+  LookCount count(looks);
   FormattedText part;
-  part.text = SafeUnits(std::u16string_view(document_.text).substr(begin, end - begin), lines_);
+  const std::u16string_view text = document_.text;
+  const std::size_t begin = at_;
   while (at_ < end) {
     const richtext::Run& run = document_.runs[run_];
-    const std::size_t length = std::min(run.length - inRun_, end - at_);
-    part.pieces.push_back({static_cast<qsizetype>(length), FormatOf(run.format)});
+    const std::size_t wanted = std::min(run.length - inRun_, end - at_);
+    const std::size_t length = count.LengthWithin(text.substr(at_, wanted), run.format);
+    if (length > 0) part.pieces.push_back({static_cast<qsizetype>(length), FormatOf(run.format)});
     at_ += length;
     inRun_ += length;
     if (inRun_ < run.length) break;
     ++run_;
     inRun_ = 0;
   }
+  part.text = SafeUnits(text.substr(begin, at_ - begin), lines_);
   return part;
+}
+
+std::size_t DocumentParts::EndOfPart(std::size_t units) const {
+  const std::size_t size = document_.text.size();
+  const std::size_t end = at_ + std::min(units, size - at_);
+  const bool splitsPair =
+      end > at_ && end < size && QChar::isHighSurrogate(document_.text[end - 1]);
+  return splitsPair ? end + 1 : end;
 }
 
 const QTextCharFormat& DocumentParts::FormatOf(const richtext::CharFormat& format) {

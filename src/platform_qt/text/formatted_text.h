@@ -44,10 +44,12 @@ class DocumentParts {
 
   bool IsDone() const { return at_ == document_.text.size(); }
   bool IsAtStart() const { return at_ == 0; }
-  // The next part: `units` long, or one more so as not to split a surrogate pair.
-  FormattedText Next(std::size_t units);
+  // The next part: `units` long, or one more so as not to split a surrogate pair, but no longer
+  // than its first `looks` (look_count.h), two or more.
+  FormattedText Next(std::size_t units, std::size_t looks);
 
  private:
+  std::size_t EndOfPart(std::size_t units) const;
   const QTextCharFormat& FormatOf(const richtext::CharFormat& format);
 
   const richtext::Document document_;

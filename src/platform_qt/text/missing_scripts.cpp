@@ -1,5 +1,6 @@
 #include "platform_qt/text/missing_scripts.h"
 
+#include <QElapsedTimer>
 #include <algorithm>
 
 #include "platform_qt/text/turn.h"
@@ -58,12 +59,13 @@ QList<QTextLayout::FormatRange> PartsInMissingScripts(
 MissingScripts::MissingScripts(QTextDocument& document, InstalledScripts& installed)
     : document_(document), installed_(installed) {
   connect(&document, &QTextDocument::contentsChange, this,
-          [this](int position, int, int added) { NoteChange(position, added); });
-  connect(&nextTurn_, &QTimer::timeout, this, [this] { LookAtFonts(); });
+          [this](int position, int removed, int added) { NoteChange(position, removed, added); });
+  connect(&nextTurn_, &QTimer::timeout, this, [this] { RunTurn(); });
 }
 
-void MissingScripts::NoteChange(int position, int added) {
-  unsureFrom_ = std::min(unsureFrom_, position);
+void MissingScripts::NoteChange(int position, int removed, int added) {
+  const bool isBefore = position + removed <= unsureFrom_;
+  unsureFrom_ = isBefore ? unsureFrom_ + added - removed : std::min(unsureFrom_, position);
   QTextBlock block = document_.findBlock(position);
   for (; block.isValid() && block.position() <= position + added; block = block.next()) Mark(block);
 }
@@ -90,13 +92,22 @@ void MissingScripts::NoteUnsure(const QTextBlock& block) {
   if (!nextTurn_.isActive()) nextTurn_.start(kPauseBetweenTurns);
 }
 
-void MissingScripts::LookAtFonts() {
-  installed_.RunTurn();
-  if (!installed_.IsComplete()) return;
-  nextTurn_.stop();
-  const int from = std::min(unsureFrom_, document_.characterCount() - 1);
-  NoteChange(from, document_.characterCount() - from);
-  document_.markContentsDirty(from, document_.characterCount() - from);
+void MissingScripts::RunTurn() {
+  if (!installed_.IsComplete()) return installed_.RunTurn();
+  QElapsedTimer turn;
+  turn.start();
+  while (nextTurn_.isActive() && !turn.hasExpired(kTurn.count())) MarkNext();
+}
+
+// Lays the block out at once, so that a turn ends where that takes long.
+void MissingScripts::MarkNext() {
+  const QTextBlock block = document_.findBlock(unsureFrom_);
+  if (!block.isValid()) return nextTurn_.stop();
+  const QList<QTextLayout::FormatRange> before = block.layout()->formats();
+  Mark(block);
+  unsureFrom_ = block.position() + block.length();
+  if (block.layout()->formats() == before) return;
+  document_.markContentsDirty(block.position(), block.length());
 }
 
 }  // namespace verlume::qt

@@ -19,8 +19,9 @@ namespace verlume::qt {
 QList<QTextLayout::FormatRange> PartsInMissingScripts(
     QStringView text, const std::function<bool(QChar::Script)>& shows);
 
-// Until all fonts have been looked at, which begins with the first text that makes it necessary and
-// takes no more than a turn at once, that text is shown as if no font had its letters.
+// Until all fonts have been looked at, which begins with the first text that makes it necessary,
+// that text is shown as if no font had its letters. Looking at fonts, and afterwards at the text
+// again, takes no more than a turn at once.
 class MissingScripts : public QObject {
  public:
   // The document must not be destroyed before this object, nor `installed`.
@@ -28,10 +29,11 @@ class MissingScripts : public QObject {
                           InstalledScripts& installed = InstalledScripts::Instance());
 
  private:
-  void NoteChange(int position, int added);
+  void NoteChange(int position, int removed, int added);
   void Mark(QTextBlock block);
   void NoteUnsure(const QTextBlock& block);
-  void LookAtFonts();
+  void RunTurn();
+  void MarkNext();
 
   QTextDocument& document_;
   InstalledScripts& installed_;

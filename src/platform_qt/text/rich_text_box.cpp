@@ -9,6 +9,7 @@
 
 #include "platform_qt/convert/text.h"
 #include "platform_qt/system/free_memory.h"
+#include "platform_qt/text/look_count.h"
 #include "platform_qt/text/open_direction.h"
 #include "platform_qt/text/paragraph_author.h"
 #include "platform_qt/text/readable_text.h"
@@ -59,7 +60,10 @@ QtRichTextBox::QtRichTextBox(RichTextWidget* widget, FileSystem& files, Lines li
   memoryReturn_.setSingleShot(true);
   QObject::connect(&memoryReturn_, &QTimer::timeout, &memoryReturn_, [] { GiveBackFreeMemory(); });
   turnEnd_.setSingleShot(true);
-  QObject::connect(&turnEnd_, &QTimer::timeout, &turnEnd_, [this] { inThisTurn_ = 0; });
+  QObject::connect(&turnEnd_, &QTimer::timeout, &turnEnd_, [this] {
+    inThisTurn_ = 0;
+    looksInThisTurn_ = 0;
+  });
 }
 
 QtRichTextBox::~QtRichTextBox() {
@@ -267,13 +271,14 @@ void QtRichTextBox::SetSelDocument(richtext::Document document) {
 
 bool QtRichTextBox::FitsIntoThisTurn(const richtext::Document& document) {
   if (!Locked()) return true;
-  if (inThisTurn_ == 0) turnEnd_.start(0);
+  if (!turnEnd_.isActive()) turnEnd_.start(0);
   inThisTurn_ += document.text.size() + kLengthOfRun * document.runs.size();
+  if (inThisTurn_ > kLengthAtOnce) return false;
+  looksInThisTurn_ += CountLooks(document, kMostLooksAtOnce);
+  if (looksInThisTurn_ > kMostLooksAtOnce) return false;
   const int place = Cursor().position();
-  const bool isBehindOther = std::any_of(writings_.begin(), writings_.end(), [&](const auto& w) {
-    return !w->IsDone() && w->EndsAt(place);
-  });
-  return !isBehindOther && inThisTurn_ <= kLengthAtOnce;
+  return std::none_of(writings_.begin(), writings_.end(),
+                      [&](const auto& w) { return !w->IsDone() && w->EndsAt(place); });
 }
 
 void QtRichTextBox::WriteInTurns(richtext::Document document) {

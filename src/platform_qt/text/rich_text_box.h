@@ -124,6 +124,7 @@ class QtRichTextBox : public QtControl<RichTextBox, QPlainTextEdit> {
   std::vector<std::unique_ptr<TextWriting>> writings_;  // in no order; some may be done
   std::unique_ptr<TextUpdate> update_;                  // null between updates
   std::size_t inThisTurn_ = 0;  // written since events were last handled, as kLengthAtOnce counts
+  std::size_t looksInThisTurn_ = 0;
   QTimer turnEnd_;
   int finished_ = 0;  // how often onInsertionFinished was due
   QTimer memoryReturn_;

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <utility>
 
+#include "platform_qt/text/look_count.h"
 #include "platform_qt/text/turn.h"
 
 namespace verlume::qt {
@@ -59,7 +60,7 @@ void TextWriting::InsertStep() {
 void TextWriting::TakeNextPart() {
   if (!waiting_.front().IsDone()) {
     if (waiting_.front().IsAtStart()) insertion_.EndOpenDirection();
-    insertion_.StartNext(waiting_.front().Next(step_));
+    insertion_.StartNext(waiting_.front().Next(step_, kMostLooksAtOnce));
     return;
   }
   waiting_.pop_front();

@@ -1,6 +1,7 @@
 #include "platform_qt/windows/floating_frame.h"
 
 #include <QEvent>
+#include <QLayout>
 #include <QPainter>
 
 namespace verlume::qt {
@@ -47,6 +48,8 @@ bool FloatingFrame::eventFilter(QObject* watched, QEvent* event) {
 void FloatingFrame::Place() {
   if (!pane_) return;
   ensurePolished();
+  // A layout within the layout forgets what it held before only now.
+  layout()->activate();
   const QRect place = isWanted_ ? PlaceAt(pane_->geometry()) : QRect();
   if (!place.isEmpty()) {
     setGeometry(place);

@@ -17,6 +17,7 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   welcomeCard.frame->Follow(rtbData.widget());
   form_.PlacePane(rtbCommands.widget(), "rtbCommands");
   againBar.frame->Follow(rtbCommands.widget());
+  keyBar.frame->Follow(rtbCommands.widget());
   form_.PlaceCompletionList(rtbCommands.widget());
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
   rtbRemote.widget()->hide();
@@ -39,8 +40,11 @@ QtMainWindow::QtMainWindow(FileSystem& files)
       chkBold.widget(),
       chkItalics.widget(),
       chkUnderline.widget(),
+      keyBar.cmdKeyGoOn.widget(),
+      keyBar.cmdKeyHangUp.widget(),
       rtbCommands.widget(),
-      cmdSend.widget()};
+      cmdSend.widget(),
+      lblLock.widget()};
   for (qsizetype i = 1; i < down.size(); ++i) QWidget::setTabOrder(down[i - 1], down[i]);
   rtbCommands.widget()->setFocus();
 }

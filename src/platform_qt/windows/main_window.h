@@ -9,6 +9,7 @@
 #include "platform_qt/text/rich_text_box.h"
 #include "platform_qt/windows/again_bar.h"
 #include "platform_qt/windows/find_bar.h"
+#include "platform_qt/windows/key_bar.h"
 #include "platform_qt/windows/main_window_form.h"
 #include "platform_qt/windows/welcome_card.h"
 #include "platform_qt/windows/window.h"
@@ -48,6 +49,9 @@ class QtMainWindow {
   QtMenuEntry mnuCommClose{form_.Find<QAction>("mnuCommClose")};
   QtMenuEntry mnuCommRefresh{form_.Find<QAction>("mnuCommRefresh")};
   QtChoiceMenu mnuCommCallAgain{form_.Find<QMenu>("mnuComm"), "mnuCommCallAgain"};
+  QtMenuEntry mnuCommInvite{form_.Find<QAction>("mnuCommInvite")};
+  QtMenuEntry mnuCommVerify{form_.Find<QAction>("mnuCommVerify")};
+  QtMenuEntry mnuCommPeople{form_.Find<QAction>("mnuCommPeople")};
 
   QtMenu mnuFormat{form_.Find<QMenu>("mnuFormat")};
   QtMenuEntry mnuFormatFontBold{form_.Find<QAction>("mnuFormatFontBold")};
@@ -81,6 +85,11 @@ class QtMainWindow {
   QtMenuEntry mnuAttentionSound{form_.Find<QAction>("mnuAttentionSound")};
   QtMenuEntry mnuAttentionCount{form_.Find<QAction>("mnuAttentionCount")};
 
+  QtMenu mnuPrivate{form_.Find<QMenu>("mnuPrivate")};
+  QtMenuEntry mnuPrivateWhenPossible{form_.Find<QAction>("mnuPrivateWhenPossible")};
+  QtMenuEntry mnuPrivateOnly{form_.Find<QAction>("mnuPrivateOnly")};
+  QtMenuEntry mnuPrivateNever{form_.Find<QAction>("mnuPrivateNever")};
+
   QtMenu mnuView{form_.Find<QMenu>("mnuView")};
   QtMenuEntry mnuViewStatusPanel{form_.Find<QAction>("mnuViewStatusPanel")};
   QtMenuEntry mnuViewZoomIn{form_.Find<QAction>("mnuViewZoomIn")};
@@ -112,6 +121,7 @@ class QtMainWindow {
 
   QtWelcomeCard welcomeCard{form_.centralWidget()};
   QtAgainBar againBar{form_.centralWidget()};
+  QtKeyBar keyBar{form_.centralWidget()};
 
   QtButton cmdSend{form_.Find<QPushButton>("cmdSend")};
   QtCheckBox chkBold{form_.Find<QCheckBox>("chkBold")};
@@ -121,6 +131,7 @@ class QtMainWindow {
   QtLabel lblStatus{form_.Find<ElidedLabel>("lblStatus")};
   QtProgressBar prgStatus{form_.Find<QProgressBar>("prgStatus")};
   QtLabel lblWaiting{form_.Find<ElidedLabel>("lblWaiting")};
+  QtLockLabel lblLock{form_};
   QtStatusPanel fraPanel{form_};
   QtLabel lblCurrentDateTime{form_.Find<ElidedLabel>("lblCurrentDateTime")};
   QtLabel lblChatStartDateTime{form_.Find<ElidedLabel>("lblChatStartDateTime")};

@@ -14,6 +14,7 @@ enum class ControlKind {
   Address,  // a value that ends where the colon before the port is
   Status,
   Note,  // at the right end of the status line
+  Lock,
   Swatch,
   CheckBox,
   Button,
@@ -47,6 +48,7 @@ inline constexpr auto kMainWindowDesign = std::to_array<ControlDesign>({
     {ControlKind::LampFrame, "picShape", {8, 349, 22, 30}, {8, 405, 22, 30}},
     {ControlKind::Status, "lblStatus", {34, 349, 498, 30}, {34, 405, 498, 30}},
     {ControlKind::Note, "lblWaiting", {536, 349, 96, 30}, {536, 405, 96, 30}},
+    {ControlKind::Lock, "lblLock", {632, 349, 0, 30}, {632, 405, 0, 30}},
 
     {ControlKind::Hairline, "fraPanel", {8, 380, 624, 2}, kHidden},
     {ControlKind::Caption, "lblLocalNicknameCaption", {8, 383, 54, 17}, kHidden},
@@ -70,9 +72,22 @@ inline constexpr auto kMainWindowDesign = std::to_array<ControlDesign>({
     {ControlKind::Caption, "lblBytesSentCaption", {162, 417, 70, 17}, kHidden},
     {ControlKind::Value, "lblBytesSent", {236, 417, 72, 17}, kHidden},
     {ControlKind::Caption, "lblBytesReceivedCaption", {310, 417, 66, 17}, kHidden},
-    {ControlKind::Value, "lblBytesReceived", {380, 417, 82, 17}, kHidden},
-    {ControlKind::Picture, "picCopyright", {466, 417, 17, 17}, kHidden},
-    {ControlKind::Value, "lblCopyright", {487, 417, 145, 17}, kHidden},
+    {ControlKind::Value, "lblBytesReceived", {380, 417, 80, 17}, kHidden},
+    {ControlKind::Picture, "picCopyright", {462, 417, 17, 17}, kHidden},
+    {ControlKind::Value, "lblCopyright", {482, 417, 154, 17}, kHidden},
+});
+
+// While the lock is shown, the controls of the status line have these places across.
+struct SpanDesign {
+  const char* name;
+  int left;
+  int width;
+};
+
+inline constexpr auto kBesideLock = std::to_array<SpanDesign>({
+    {"lblStatus", 34, 332},
+    {"lblWaiting", 370, 76},
+    {"lblLock", 448, 184},
 });
 
 struct MenuEntryDesign {
@@ -91,6 +106,7 @@ struct SubmenuDesign {
 
 inline constexpr auto kSubmenuDesign = std::to_array<SubmenuDesign>({
     {"mnuTools", "mnuAttention"},
+    {"mnuTools", "mnuPrivate"},
 });
 
 inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
@@ -105,6 +121,9 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuComm", "mnuCommCancel", false, true},
     {"mnuComm", "mnuCommClose"},
     {"mnuComm", "mnuCommRefresh", false, true},
+    {"mnuComm", "mnuCommInvite", false, true},
+    {"mnuComm", "mnuCommVerify"},
+    {"mnuComm", "mnuCommPeople"},
     {"mnuFormat", "mnuFormatFontBold", true, false, "Ctrl+B"},
     {"mnuFormat", "mnuFormatFontItalics", true, false, "Ctrl+I"},
     {"mnuFormat", "mnuFormatFontUnderline", true, false, "Ctrl+U"},
@@ -131,6 +150,9 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuAttention", "mnuAttentionSound", true, true},
     {"mnuAttention", "mnuAttentionCount", true},
     {"mnuTools", "mnuToolsCheckSpelling", true, true},
+    {"mnuPrivate", "mnuPrivateWhenPossible", true},
+    {"mnuPrivate", "mnuPrivateOnly", true},
+    {"mnuPrivate", "mnuPrivateNever", true},
     {"mnuView", "mnuViewStatusPanel", true, false, "F9"},
     {"mnuView", "mnuViewZoomIn", false, true, "Ctrl++; Ctrl+="},
     {"mnuView", "mnuViewZoomOut", false, false, "Ctrl+-"},

@@ -1,5 +1,6 @@
 #include "platform_qt/windows/main_window_form.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFrame>
 #include <QMenuBar>
@@ -156,6 +157,11 @@ QWidget* MainForm::Build(const ControlDesign& design) {
       return NewButton(area_);
     case ControlKind::Swatch:
       return new SwatchLabel(area_);
+    case ControlKind::Lock: {
+      auto* lock = new LockWidget(area_);
+      lock->hide();
+      return lock;
+    }
     case ControlKind::Picture: {
       auto* picture = new PictureWidget(area_);
       picture->SetIcon(windowIcon());
@@ -170,7 +176,7 @@ QWidget* MainForm::BuildLabel(const ControlDesign& design) {
   auto* label = new ElidedLabel(area_);
   label->SetMuted(design.kind == ControlKind::Caption);
   label->setWordWrap(design.kind == ControlKind::Status);
-  if (design.placeAlone.isEmpty()) label->setFont(QuietFont(label->font()));
+  if (design.placeAlone.isNull()) label->setFont(QuietFont(label->font()));
   const bool endsAtTheRight = design.kind == ControlKind::Caption ||
                               design.kind == ControlKind::Address ||
                               design.kind == ControlKind::Note;
@@ -186,13 +192,34 @@ void MainForm::ShowStatusPanel(bool shown) {
   if (shown == showsStatusPanel_) return;
   showsStatusPanel_ = shown;
   for (const ControlDesign& design : kMainWindowDesign) {
-    auto* widget = Find<QWidget>(design.name);
-    if (design.placeAlone.isEmpty()) {
-      widget->setVisible(shown);
-    } else {
-      layout_->Place(widget, shown ? design.place : design.placeAlone);
-    }
+    if (design.placeAlone.isNull()) Find<QWidget>(design.name)->setVisible(shown);
   }
+  PlaceControls();
+}
+
+void MainForm::ShowLock(bool shown) {
+  if (shown == showsLock_) return;
+  showsLock_ = shown;
+  PlaceControls();
+  Find<QWidget>("lblLock")->setVisible(shown);
+}
+
+void MainForm::PlaceControls() {
+  for (const ControlDesign& design : kMainWindowDesign) {
+    const QRect place = PlaceOf(design);
+    if (!place.isNull()) layout_->Place(Find<QWidget>(design.name), place);
+  }
+}
+
+QRect MainForm::PlaceOf(const ControlDesign& design) const {
+  QRect place = showsStatusPanel_ ? design.place : design.placeAlone;
+  if (!showsLock_) return place;
+  for (const SpanDesign& span : kBesideLock) {
+    if (QLatin1String(span.name) != QLatin1String(design.name)) continue;
+    place.setLeft(span.left);
+    place.setWidth(span.width);
+  }
+  return place;
 }
 
 void MainForm::PlaceProgressBar() {
@@ -231,6 +258,29 @@ void MainForm::keyPressEvent(QKeyEvent* event) {
     }
   }
   QMainWindow::keyPressEvent(event);
+}
+
+QtLockLabel::QtLockLabel(MainForm& form)
+    : QtControl(form.Find<LockWidget>("lblLock")), form_(form) {
+  widget_->onPressed = [this] {
+    if (onMouseDown) onMouseDown(MouseButton::Left);
+  };
+}
+
+void QtLockLabel::SetCaption(std::u16string_view sentence) {
+  const QString text = ToQt(sentence);
+  if (text == widget_->text()) return;
+  widget_->setText(text);
+  SetToolTip(ToolTip());
+  form_.ShowLock(!text.isEmpty());
+  QAccessibleEvent renamed(widget_, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&renamed);
+}
+
+void QtLockLabel::SetToolTip(std::u16string_view text) {
+  QtControl::SetToolTip(text);
+  const QString below = text.empty() ? QString() : u'\n' + ToQt(text);
+  widget_->setToolTip(PlainToolTip(widget_->text() + below));
 }
 
 void MainForm::PlacePane(QWidget* pane, const char* name) {

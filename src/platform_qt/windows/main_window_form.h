@@ -6,6 +6,7 @@
 
 #include "platform/file_system.h"
 #include "platform_qt/controls/controls.h"
+#include "platform_qt/controls/lock_widget.h"
 #include "platform_qt/controls/proportional_layout.h"
 #include "platform_qt/windows/completion_list.h"
 #include "platform_qt/windows/main_window_design.h"
@@ -29,6 +30,8 @@ class MainForm : public QMainWindow {
   // The rows below the status line. Without them the controls have other places.
   bool ShowsStatusPanel() const;
   void ShowStatusPanel(bool shown);
+  // The lock at the end of the status line, for which the rest makes room.
+  void ShowLock(bool shown);
   // Puts the find bar at the bottom of a pane's place.
   void PlaceFindBar(QWidget* pane) { layout_->PlaceFoot(pane, findBar_); }
   // Puts the button that tells of new lines over the lower edge of a pane.
@@ -46,6 +49,8 @@ class MainForm : public QMainWindow {
   void BuildMenus();
   QMenu* NewMenu(const char* name);
   void BuildControls();
+  void PlaceControls();
+  QRect PlaceOf(const ControlDesign& design) const;
   QWidget* Build(const ControlDesign& design);
   QWidget* BuildLabel(const ControlDesign& design);
   void PlaceProgressBar();
@@ -59,6 +64,7 @@ class MainForm : public QMainWindow {
   PaneHint* hint_;
   NewLinesFrame* newLines_;
   bool showsStatusPanel_ = true;
+  bool showsLock_ = false;
 };
 
 // The status panel, which is hidden and shown as a whole.
@@ -68,6 +74,20 @@ class QtStatusPanel : public Panel {
   void SetVisible(bool visible) override { form_.ShowStatusPanel(visible); }
   bool Visible() const override { return form_.ShowsStatusPanel(); }
   bool HasFocus() const override { return false; }
+
+ private:
+  MainForm& form_;
+};
+
+class QtLockLabel : public QtControl<LockLabel, LockWidget> {
+ public:
+  explicit QtLockLabel(MainForm& form);
+  void SetCaption(std::u16string_view sentence) override;
+  std::u16string Caption() const override { return FromQt(widget_->text()); }
+  // What is said below the sentence in the tool tip.
+  void SetToolTip(std::u16string_view text) override;
+  void SetPicture(LockPicture picture) override { widget_->SetPicture(picture); }
+  LockPicture Picture() const override { return widget_->Picture(); }
 
  private:
   MainForm& form_;

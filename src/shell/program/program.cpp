@@ -1,5 +1,7 @@
 #include "shell/program/program.h"
 
+#include <utility>
+
 #include "connection/rule_texts.h"
 #include "platform/char_code.h"
 #include "shell/called_hosts.h"
@@ -33,17 +35,24 @@ Program::Program(Platform& platform)
       dialogueFiles_(state_, platform, errors_),
       macroStore_(state_, platform, errors_, settings_),
       dialogue_(state_, platform, errors_, settings_, log_),
+      people_(state_, platform, errors_),
       wire_(state_, platform, errors_,
             {.dialogue = dialogue_,
              .log = log_,
              .statusPanel = statusPanel_,
-             .onConversation = [this] { RememberAnswer(state_, platform_, settings_); }}),
+             .onConversation = [this] { RememberAnswer(state_, platform_, settings_); },
+             .mayBegin = [this](std::u16string_view name) { return peerGate_.MayBegin(name); },
+             .onNickname = [this] { peerGate_.ShowLock(); }}),
       connection_(state_, platform, errors_,
                   {.settings = settings_,
                    .dialogue = dialogue_,
                    .log = log_,
                    .statusPanel = statusPanel_,
                    .wire = wire_}),
+      peerGate_(state_, platform, errors_, people_, wire_, [this] { connection_.HangUp(); }),
+      privateMenu_(state_, platform, errors_, settings_),
+      peopleList_(state_, platform, errors_, people_),
+      verification_(state_, platform, errors_, people_),
       socketEvents_(state_, platform, errors_, wire_, log_),
       history_(state_, platform, errors_),
       completion_(state_, platform, errors_, settings_, macroStore_, history_),
@@ -79,17 +88,23 @@ Program::Program(Platform& platform)
   BindFloating();
   BindSocket();
   BindAttention();
+  BindPrivacy();
   BindContextHelp(platform.frmMain);
+  BindContextHelp(platform.frmPeople);
+  BindContextHelp(platform.frmVerify);
 }
 
 Program::~Program() = default;
 
-void Program::Start() {
+void Program::Start(std::u16string_view invitation) {
+  invitation_ = invitation;
   startUp_.Form_Load();
+  privateMenu_.Start();
   attentionSwitches_.ShowState();
   ReadCalledHosts(state_, platform_, settings_);
   ShowWelcomeCard(state_, platform_);
   if (platform_.application.HasEnded()) return;
+  people_.Start();
   spelling_.Start();
   platform_.frmMain.window.Show();
 }
@@ -108,7 +123,13 @@ void Program::BindWindow() {
   MainWindow& frmMain = platform_.frmMain;
   On(frmMain.window.onQueryUnload, shutDown_, &ShutDown::Form_QueryUnload);
   On(frmMain.window.onUnload, shutDown_, &ShutDown::Form_Unload);
-  On(frmMain.freeSizer1.onPostLayout, startUp_, &StartUp::freeSizer1_PostLayout);
+  frmMain.freeSizer1.onPostLayout = [this] {
+    startUp_.freeSizer1_PostLayout();
+    const std::u16string invitation = std::exchange(invitation_, {});
+    if (!invitation.empty() && !platform_.application.HasEnded()) {
+      connection_.OpenInvitation(invitation);
+    }
+  };
   frmMain.tmrTimer.onTimer = [this] {
     statusPanel_.tmrTimer_Timer();
     socketEvents_.tmrTimer_Timer();
@@ -278,10 +299,53 @@ void Program::BindSocket() {
   On(sckControl.onDataArrival, socketEvents_, &SocketEvents::sckControl_DataArrival);
   // A peer that sends faster than the dialogue pane shows is slowed down.
   On(platform_.frmMain.rtbData.onInsertionStarted, sckControl, &Socket::PauseArrivals);
-  On(platform_.frmMain.rtbData.onInsertionFinished, sckControl, &Socket::ResumeArrivals);
+  platform_.frmMain.rtbData.onInsertionFinished = [this] {
+    if (!state_.PeerStops) platform_.sckControl.ResumeArrivals();
+  };
   On(sckControl.onAcknowledged, wire_, &WireProtocol::ShowLinesWaiting);
   On(sckControl.onUndelivered, wire_, &WireProtocol::OnUndelivered);
   On(sckControl.onClose, socketEvents_, &SocketEvents::sckControl_Close);
+}
+
+void Program::BindPrivacy() {
+  On(platform_.privacy.onState, peerGate_, &PeerGate::privacy_State);
+  On(platform_.privacy.onPeerKnown, peerGate_, &PeerGate::privacy_PeerKnown);
+  people_.onChange = [this] {
+    peerGate_.ShowLock();
+    peopleList_.Refresh();
+  };
+  language_.onApplied = [this] {
+    peerGate_.ShowLock();
+    peerGate_.ShowBar();
+  };
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.keyBar.cmdKeyGoOn.onClick, peerGate_, &PeerGate::cmdKeyGoOn_Click);
+  On(frmMain.keyBar.cmdKeyHangUp.onClick, peerGate_, &PeerGate::cmdKeyHangUp_Click);
+  On(frmMain.mnuCommInvite.onClick, connection_, &ConnectionActions::mnuCommInvite_Click);
+  const PrivateMenu& menu = frmMain.privateMenu;
+  On(menu.mnuPrivateWhenPossible.onClick, privateMenu_,
+     &PrivateMenuChoice::mnuPrivateWhenPossible_Click);
+  On(menu.mnuPrivateOnly.onClick, privateMenu_, &PrivateMenuChoice::mnuPrivateOnly_Click);
+  On(menu.mnuPrivateNever.onClick, privateMenu_, &PrivateMenuChoice::mnuPrivateNever_Click);
+  BindPeople();
+}
+
+void Program::BindPeople() {
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.mnuCommPeople.onClick, peopleList_, &PeopleList::mnuCommPeople_Click);
+  const PeopleWindow& frmPeople = platform_.frmPeople;
+  On(frmPeople.lstPeople.onClick, peopleList_, &PeopleList::lstPeople_Click);
+  On(frmPeople.txtPeopleName.onChange, peopleList_, &PeopleList::txtPeopleName_Change);
+  On(frmPeople.chkPeopleVerified.onClick, peopleList_, &PeopleList::chkPeopleVerified_Click);
+  On(frmPeople.cmdPeopleForget.onClick, peopleList_, &PeopleList::cmdPeopleForget_Click);
+  On(frmPeople.cmdPeopleClose.onClick, peopleList_, &PeopleList::cmdPeopleClose_Click);
+
+  On(frmMain.mnuCommVerify.onClick, verification_, &Verification::mnuCommVerify_Click);
+  On(frmMain.lblLock.onMouseDown, verification_, &Verification::lblLock_MouseDown);
+  const VerifyWindow& frmVerify = platform_.frmVerify;
+  On(frmVerify.cmdVerifyCopy.onClick, verification_, &Verification::cmdVerifyCopy_Click);
+  On(frmVerify.cmdVerifyMatch.onClick, verification_, &Verification::cmdVerifyMatch_Click);
+  On(frmVerify.cmdVerifyClose.onClick, verification_, &Verification::cmdVerifyClose_Click);
 }
 
 void Program::BindAttention() {

@@ -13,12 +13,17 @@
 #include "commands/text_format.h"
 #include "connection/connection_actions.h"
 #include "connection/connection_state.h"
+#include "connection/peer_gate.h"
+#include "connection/private_menu.h"
 #include "connection/socket_events.h"
 #include "connection/wire_protocol.h"
 #include "macros/macro_editor.h"
 #include "macros/macro_saving.h"
 #include "macros/macro_style.h"
 #include "macros/store/macro_store.h"
+#include "people/people.h"
+#include "people/people_list.h"
+#include "people/verification.h"
 #include "platform/platform.h"
 #include "records/dialogue_files.h"
 #include "records/dialogue_log.h"
@@ -47,8 +52,9 @@ class Program {
   Program& operator=(const Program&) = delete;
 
   // Loads the main window, shows it and starts the clock; from then on the program waits for
-  // events.
-  void Start();
+  // events. An invitation from outside ("" for none) is opened when the window has been laid out;
+  // another text is ignored.
+  void Start(std::u16string_view invitation = {});
 
   const AppState& State() const { return state_; }
 
@@ -63,6 +69,8 @@ class Program {
   void BindFloating();
   void BindSocket();
   void BindAttention();
+  void BindPrivacy();
+  void BindPeople();
 
   Platform& platform_;
   AppState state_;
@@ -78,8 +86,13 @@ class Program {
   DialogueFiles dialogueFiles_;
   MacroStore macroStore_;
   Dialogue dialogue_;
+  People people_;
   WireProtocol wire_;
   ConnectionActions connection_;
+  PeerGate peerGate_;
+  PrivateMenuChoice privateMenu_;
+  PeopleList peopleList_;
+  Verification verification_;
   SocketEvents socketEvents_;
   CommandHistory history_;
   CommandCompletion completion_;
@@ -96,6 +109,7 @@ class Program {
   AttentionSwitches attentionSwitches_;
   StartUp startUp_;
   ShutDown shutDown_;
+  std::u16string invitation_;  // from outside, until it is opened
 };
 
 }  // namespace verlume

@@ -36,6 +36,15 @@ TEST_F(MacroStoreTest, DialogSpeaksTheLanguageInForce) {
             u"Επιλέξτε τον φάκελλο που θα περιέχει τις μακροεντολές σας");
 }
 
+TEST_F(MacroStoreTest, DialogSuggestsAFolderInTheLanguageInForce) {
+  fake.commonDialog.folders = {std::nullopt, std::nullopt};
+  store.ChooseMacrosFolder();
+  state.IsGreek = true;
+  store.ChooseMacrosFolder();
+  EXPECT_EQ(fake.commonDialog.foldersShown[0].suggestion, u"Verlume macros");
+  EXPECT_EQ(fake.commonDialog.foldersShown[1].suggestion, u"Μακροεντολές Verlume");
+}
+
 TEST_F(MacroStoreTest, DialogStartsInTheFolderInForce) {
   state.MacrosFolder = u"/old/";
   store.ChooseMacrosFolder();

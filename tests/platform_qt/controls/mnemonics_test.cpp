@@ -10,6 +10,7 @@
 #include "platform_qt/windows/main_window.h"
 #include "platform_qt/windows/window_focus.h"
 #include "shell/language_texts.h"
+#include "shell/private_texts.h"
 
 namespace verlume::qt {
 namespace {
@@ -61,6 +62,7 @@ class MnemonicsTest : public testing::Test {
   void SetLanguage(bool isGreek) {
     for (const auto& [set, text] : MenuAndToolTipTexts(view)) set(text.In(isGreek));
     for (const auto& [set, text] : PanelTexts(view)) set(text.In(isGreek));
+    for (const auto& [set, text] : PrivateTexts(view)) set(text.In(isGreek));
   }
 
   // The key of a text's mnemonic; fails the test if there is none, or an accented one.
@@ -80,10 +82,13 @@ class MnemonicsTest : public testing::Test {
       keys.append(key);
     }
   }
-  QStringList MenuBarAndCheckBoxes() {
+  QStringList MenuBarBoxesAndKeyBar() {
     QStringList texts;
     for (const QAction* menu : form.menuBar()->actions()) texts.append(menu->text());
     for (const QCheckBox* box : form.findChildren<QCheckBox*>()) texts.append(box->text());
+    for (const char* name : {"cmdKeyGoOn", "cmdKeyHangUp"}) {
+      texts.append(form.Find<QPushButton>(name)->text());
+    }
     return texts;
   }
 
@@ -95,9 +100,9 @@ class MnemonicsTest : public testing::Test {
 
 class WindowMnemonics : public MnemonicsTest, public testing::WithParamInterface<bool> {};
 
-TEST_P(WindowMnemonics, EveryMenuAndCheckBoxHasALetterOfItsOwn) {
+TEST_P(WindowMnemonics, EveryMenuBoxAndAnswerHasALetterOfItsOwn) {
   SetLanguage(GetParam());
-  ExpectDifferentKeys(MenuBarAndCheckBoxes());
+  ExpectDifferentKeys(MenuBarBoxesAndKeyBar());
 }
 
 TEST_P(WindowMnemonics, EveryEntryHasALetterOfItsOwnInItsMenu) {
@@ -113,11 +118,11 @@ TEST_P(WindowMnemonics, EveryEntryHasALetterOfItsOwnInItsMenu) {
 
 TEST_P(WindowMnemonics, LettersDependOnNothingButTheCaptions) {
   SetLanguage(GetParam());
-  const QStringList first = MenuBarAndCheckBoxes();
+  const QStringList first = MenuBarBoxesAndKeyBar();
   SetLanguage(!GetParam());
-  EXPECT_NE(MenuBarAndCheckBoxes(), first);
+  EXPECT_NE(MenuBarBoxesAndKeyBar(), first);
   SetLanguage(GetParam());
-  EXPECT_EQ(MenuBarAndCheckBoxes(), first);
+  EXPECT_EQ(MenuBarBoxesAndKeyBar(), first);
 }
 
 TEST_P(WindowMnemonics, CaptionsStayAsTheyWereSet) {

@@ -217,12 +217,12 @@ TEST_F(QtCommonDialogTest, SaveWithoutTheFlagReturnsAFileThatMayNotBeWritten) {
 
 TEST_F(QtCommonDialogTest, FolderEndsInASeparator) {
   const ModalDriver driver([this](QDialog& dialog) { Type(dialog, folder.path() + "/inner"); });
-  EXPECT_EQ(dialogs.ChooseFolder(u"t", FromQt(folder.path())), PathOf("inner/"));
+  EXPECT_EQ(dialogs.ChooseFolder(u"t", FromQt(folder.path()), u""), PathOf("inner/"));
 }
 
 TEST_F(QtCommonDialogTest, RootFolderHasOneSeparator) {
   const ModalDriver driver([](QDialog& dialog) { Type(dialog, "/"); });
-  EXPECT_EQ(dialogs.ChooseFolder(u"t", FromQt(folder.path())), u"/");
+  EXPECT_EQ(dialogs.ChooseFolder(u"t", FromQt(folder.path()), u""), u"/");
 }
 
 TEST_F(QtCommonDialogTest, FolderMustExist) {
@@ -232,7 +232,7 @@ TEST_F(QtCommonDialogTest, FolderMustExist) {
     EXPECT_TRUE(dialog.isVisible());
     dialog.reject();
   });
-  EXPECT_EQ(FailureOf([this] { dialogs.ChooseFolder(u"t", FromQt(folder.path())); }),
+  EXPECT_EQ(FailureOf([this] { dialogs.ChooseFolder(u"t", FromQt(folder.path()), u""); }),
             FailureNumber::Cancelled);
 }
 
@@ -247,7 +247,7 @@ TEST_F(QtCommonDialogTest, FolderDialogOffersToMakeAFolder) {
     files.reject();
   });
   EXPECT_EQ(
-      FailureOf([this] { dialogs.ChooseFolder(u"Select the folder", FromQt(folder.path())); }),
+      FailureOf([this] { dialogs.ChooseFolder(u"Select the folder", FromQt(folder.path()), u""); }),
       FailureNumber::Cancelled);
 }
 

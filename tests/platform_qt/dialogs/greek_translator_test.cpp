@@ -109,7 +109,7 @@ TEST_F(GreekTranslatorTest, FileDialogsAreGreek) {
   start.initialFolder = FromQt(folder.path());
   ExpectGreek([&] { common.ShowOpen(start); });
   ExpectGreek([&] { common.ShowSave(start); });
-  ExpectGreek([&] { common.ChooseFolder(u"Φάκελλος", start.initialFolder); });
+  ExpectGreek([&] { common.ChooseFolder(u"Φάκελλος", start.initialFolder, u""); });
 }
 
 TEST_F(GreekTranslatorTest, RefusalsOfFilesAreGreek) {

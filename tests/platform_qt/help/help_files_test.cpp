@@ -11,6 +11,8 @@
 #include "platform_qt/help/help_window.h"
 #include "platform_qt/windows/macro_window.h"
 #include "platform_qt/windows/main_window.h"
+#include "platform_qt/windows/people_window.h"
+#include "platform_qt/windows/verify_window.h"
 
 namespace verlume::qt {
 namespace {
@@ -130,6 +132,17 @@ TEST_F(HelpFilesTest, ExplainEveryControlOfTheMacroEditor) {
   EXPECT_EQ(NamesToExplain(frmMacros.form()).size(), 14);
   EXPECT_EQ(NotExplained(english, frmMacros.form()), "");
   EXPECT_EQ(NotExplained(greek, frmMacros.form()), "");
+}
+
+TEST_F(HelpFilesTest, ExplainEveryControlOfTheWindowsOfPrivateConversations) {
+  const QtPeopleWindow frmPeople(nullptr);
+  const QtVerifyWindow frmVerify(nullptr);
+  EXPECT_EQ(NamesToExplain(frmPeople.form()).size(), 9);
+  EXPECT_EQ(NamesToExplain(frmVerify.form()).size(), 7);
+  for (const HelpBook* book : {&english, &greek}) {
+    EXPECT_EQ(NotExplained(*book, frmPeople.form()), "");
+    EXPECT_EQ(NotExplained(*book, frmVerify.form()), "");
+  }
 }
 
 TEST_F(HelpFilesTest, ExplainEveryControlOfTheHelpWindow) {

@@ -103,6 +103,8 @@ class BasicProgramOnDisk {
   Window window{disk};
   fake::FakeAboutWindow about;
   fake::FakeMacroWindow macros{disk};
+  fake::FakePeopleWindow people;
+  fake::FakeVerifyWindow verify;
   fake::FakeSocket socket;
   fake::FakeDialogs dialogs;
   fake::FakeCommonDialog commonDialog;
@@ -111,11 +113,27 @@ class BasicProgramOnDisk {
   ApplicationIn application;
   fake::FakeHelpViewer help;
   fake::FakeSystemTools tools;
+  fake::FakeClipboard clipboard;
   fake::FakeLinkOpener links;
   fake::FakeAttention attention;
-  Platform platform = {
-      window.frmMain, about.frmAbout, macros.frmMacros, socket, dialogs, commonDialog, disk,
-      clock,          locale,         application,      help,   tools,   links,        attention};
+  Platform platform = {window.frmMain,
+                       about.frmAbout,
+                       macros.frmMacros,
+                       people.frmPeople,
+                       verify.frmVerify,
+                       socket,
+                       socket.privacy,
+                       dialogs,
+                       commonDialog,
+                       disk,
+                       clock,
+                       locale,
+                       application,
+                       help,
+                       tools,
+                       clipboard,
+                       links,
+                       attention};
   Program program;
 };
 

@@ -93,7 +93,14 @@ class MissingScriptsInAnEditor : public testing::Test {
     }
     return {};
   }
-  bool IsMarked() const { return !editor.document()->firstBlock().layout()->formats().isEmpty(); }
+  static bool IsMarked(const QTextBlock& block) { return !block.layout()->formats().isEmpty(); }
+  bool IsMarked() const { return IsMarked(editor.document()->firstBlock()); }
+  int MarkedBlocks() const {
+    int marked = 0;
+    QTextBlock block = editor.document()->firstBlock();
+    for (; block.isValid(); block = block.next()) marked += IsMarked(block);
+    return marked;
+  }
 
   QPlainTextEdit editor;
 };
@@ -122,6 +129,35 @@ TEST_F(MissingScriptsInAnEditor, WhatFontsHaveIsShownWhenTheyHaveBeenLookedAt) {
   while (IsMarked() && !deadline.hasExpired()) QCoreApplication::processEvents();
   EXPECT_FALSE(IsMarked());
   EXPECT_TRUE(installed.IsComplete());
+}
+
+TEST_F(MissingScriptsInAnEditor, TextThatMovesMeanwhileIsLookedAtAgain) {
+  const QString line = Letter(true) + '\n';
+  InstalledScripts installed;
+  const MissingScripts missing(*editor.document(), installed);
+  editor.setPlainText("some words\n" + line.repeated(10));
+  EXPECT_EQ(MarkedBlocks(), 10);
+  QTextCursor start(editor.document());
+  start.movePosition(QTextCursor::NextWord, QTextCursor::KeepAnchor);
+  start.removeSelectedText();
+  const QDeadlineTimer deadline(10'000);
+  while (MarkedBlocks() > 0 && !deadline.hasExpired()) QCoreApplication::processEvents();
+  EXPECT_EQ(MarkedBlocks(), 0);
+}
+
+TEST_F(MissingScriptsInAnEditor, MuchTextIsLookedAtAgainBetweenEvents) {
+  const QString line = Letter(true) + '\n';
+  InstalledScripts installed;
+  const MissingScripts missing(*editor.document(), installed);
+  editor.setPlainText(line.repeated(20'000));
+  int turns = 0;
+  const QDeadlineTimer deadline(60'000);
+  while (IsMarked(editor.document()->findBlockByNumber(19'999)) && !deadline.hasExpired()) {
+    QCoreApplication::processEvents();
+    if (!IsMarked()) ++turns;
+  }
+  EXPECT_GT(turns, 1);
+  EXPECT_EQ(MarkedBlocks(), 0);
 }
 
 }  // namespace

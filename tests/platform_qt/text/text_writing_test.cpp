@@ -8,6 +8,7 @@
 
 #include "platform/run_time_failure.h"
 #include "platform_fake/fake_file_system.h"
+#include "platform_qt/convert/text.h"
 #include "platform_qt/text/rich_text_box.h"
 #include "richtext/rtf_reader.h"
 
@@ -47,6 +48,20 @@ TEST_F(QtTextWritingTest, AShortTextIsInsertedAtOnce) {
   EXPECT_EQ(box.Text(), u"short");
   EXPECT_EQ(started, 0);
   EXPECT_EQ(finished, 0);
+}
+
+// Each look may need a font to be opened.
+TEST_F(QtTextWritingTest, AShortTextOfManyLooksIsInsertedBetweenEvents) {
+  std::u16string content;
+  std::u16string expected;
+  for (int size = 2; size < 140; ++size) {
+    content += u"\\fs" + FromQt(QString::number(size)) + u" a";
+    expected += u'a';
+  }
+  Write(u"{\\rtf1 " + content + u"}");
+  EXPECT_TRUE(box.IsInserting());
+  ASSERT_TRUE(FinishesInserting());
+  EXPECT_EQ(box.Text(), expected);
 }
 
 TEST_F(QtTextWritingTest, TheStartIsRaisedOncePerInsertion) {

@@ -120,12 +120,14 @@ TEST_F(QtMainWindowTest, TheTickedEntriesAreCheckable) {
     if (action->isCheckable()) checkable.append(action->objectName());
   }
   checkable.sort();
-  QStringList expected{"mnuFileLogRecord",       "mnuFormatFontBold",   "mnuFormatFontItalics",
-                       "mnuFormatFontUnderline", "mnuToolsCompletions", "mnuToolsDate",
-                       "mnuToolsTime",           "mnuToolsAlwaysOnTop", "mnuToolsLanguageEnglish",
-                       "mnuToolsLanguageGreek",  "mnuViewStatusPanel",  "mnuAttentionLines",
-                       "mnuToolsCheckSpelling",  "mnuAttentionText",    "mnuAttentionSound",
-                       "mnuAttentionCount"};
+  QStringList expected{
+      "mnuFileLogRecord",       "mnuFormatFontBold",      "mnuFormatFontItalics",
+      "mnuFormatFontUnderline", "mnuToolsCompletions",    "mnuToolsDate",
+      "mnuToolsTime",           "mnuToolsAlwaysOnTop",    "mnuToolsLanguageEnglish",
+      "mnuToolsLanguageGreek",  "mnuViewStatusPanel",     "mnuAttentionLines",
+      "mnuToolsCheckSpelling",  "mnuAttentionText",       "mnuAttentionSound",
+      "mnuAttentionCount",      "mnuPrivateWhenPossible", "mnuPrivateOnly",
+      "mnuPrivateNever"};
   expected.sort();
   EXPECT_EQ(checkable, expected);
 }
@@ -253,13 +255,16 @@ TEST_F(QtMainWindowTest, SwatchIsFilledWithTheColour) {
 
 TEST_F(QtMainWindowTest, ControlsNeitherOverlapNorLeaveTheWindow) {
   Show();
-  for (const QSize& size : {QSize(640, 480), QSize(900, 640), QSize(1400, 1000)}) {
+  for (const QSize& size :
+       {QSize(640, 480), QSize(900, 640), QSize(1400, 1000), QSize(900, 640), QSize(640, 480)}) {
     form.resize(size);
+    if (size.width() == 1400) view.lblLock.SetCaption(u"Private, verified: Carol");
     ASSERT_TRUE(QTest::qWaitFor([&] { return form.size() == size; }, 10000));
     form.centralWidget()->layout()->activate();
     std::vector<const QWidget*> placed;
     for (const ControlDesign& design : kMainWindowDesign) {
       const QWidget* widget = Named(design.name);
+      if (widget->isHidden()) continue;
       EXPECT_TRUE(form.centralWidget()->rect().contains(widget->geometry())) << design.name;
       for (const QWidget* other : placed) {
         EXPECT_FALSE(widget->geometry().intersects(other->geometry()))

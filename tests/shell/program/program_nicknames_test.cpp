@@ -14,10 +14,11 @@ using fake::ProgramCopy;
 
 class ProgramNicknamesTest : public testing::Test {
  protected:
-  // Eve, with this nickname in her settings file, calls Bob.
+  // Eve, with this nickname in her settings file, calls Bob, who talks in clear.
   void Start(std::u16string_view nickname) {
     eve = std::make_unique<ProgramCopy>(network, nickname);
     bob = std::make_unique<ProgramCopy>(network, u"Bob");
+    bob->platform.window.mnuPrivateNever.Click();
     bob->Enter(u"/WAIT 4000");
     eve->Enter(u"/CALL bob 4000");
     bob->platform.dialogs.answers = {Answer::Yes};

@@ -305,6 +305,7 @@ TEST_F(ProgramTest, ElementsOfTheAboutBoxShowTheirContextHelp) {
   };
   check(about.lblTitle, about.lblVersion, about.lblDescription, about.lblDisclaimer, about.picIcon,
         about.cmdOK, about.cmdSysInfo);
+  check(ann.platform.people.lstPeople, ann.platform.verify.lblVerifyDigits);
 }
 
 TEST_F(ProgramTest, FindBarIsBoundToTheDialogue) {

@@ -193,11 +193,24 @@ class LongNamedSocket : public fake::FakeSocket {
 
 TEST_F(StartUpTest, ALongHostNameIsCutToANickname) {
   LongNamedSocket socket(network);
-  Platform other = {window.frmMain,   fake.about.frmAbout, fake.macros.frmMacros,
-                    socket,           fake.dialogs,        fake.commonDialog,
-                    fake.files,       fake.clock,          fake.locale,
-                    fake.application, fake.help,           fake.tools,
-                    fake.links,       fake.attention};
+  Platform other = {window.frmMain,
+                    fake.about.frmAbout,
+                    fake.macros.frmMacros,
+                    fake.people.frmPeople,
+                    fake.verify.frmVerify,
+                    socket,
+                    socket.privacy,
+                    fake.dialogs,
+                    fake.commonDialog,
+                    fake.files,
+                    fake.clock,
+                    fake.locale,
+                    fake.application,
+                    fake.help,
+                    fake.tools,
+                    fake.clipboard,
+                    fake.links,
+                    fake.attention};
   StartUp longNamed(state, other, errors, settings, language,
                     {[] {}, [] { return std::u16string(); }, [] {}});
   longNamed.Form_Load();

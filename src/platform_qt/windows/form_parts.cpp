@@ -1,0 +1,23 @@
+#include "platform_qt/windows/form_parts.h"
+
+namespace verlume::qt {
+
+QLabel* NewFormText(QWidget* form, const char* name) {
+  auto* text = new QLabel(form);
+  text->setObjectName(QLatin1String(name));
+  text->setTextFormat(Qt::PlainText);
+  text->setWordWrap(true);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  // A selectable text has a context menu of its own, which would take the release of the right
+  // button.
+  text->setContextMenuPolicy(Qt::PreventContextMenu);
+  return text;
+}
+
+QPushButton* NewFormButton(QWidget* form, const char* name) {
+  auto* button = new QPushButton(form);
+  button->setObjectName(QLatin1String(name));
+  return button;
+}
+
+}  // namespace verlume::qt

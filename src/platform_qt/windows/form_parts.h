@@ -1,0 +1,14 @@
+// What the modal windows are put together from.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace verlume::qt {
+
+// A plain text over as many lines as it needs, which can be selected and copied by mouse and
+// keyboard.
+QLabel* NewFormText(QWidget* form, const char* name);
+QPushButton* NewFormButton(QWidget* form, const char* name);
+
+}  // namespace verlume::qt
