@@ -8,6 +8,7 @@ import struct
 import termios
 import time
 
+GREATEST_TYPED = 32767  # the last port that they can type
 LIMIT = 10.0  # seconds, for what should take none
 
 
@@ -33,6 +34,16 @@ class Listener:
 
     def close(self):
         self.socket.close()
+
+
+def listen_below_32768():
+    """On a port that the program's users can type."""
+    for port in range(GREATEST_TYPED, 10000, -1):
+        try:
+            return Listener(port)
+        except OSError:
+            pass  # taken
+    raise OSError("no port is free")
 
 
 class Wire:
