@@ -67,9 +67,9 @@ class CommandLine(unittest.TestCase):
         self.finish(bob, 1)
 
     def test_what_does_not_come(self):
-        bob, calling = self.listen("--stay", "10")
-        carol = self.finish(self.start(*calling, "--limit", "0.5", "--expect", "hello"), 1)
-        self.assertTrue(carol[-1].startswith("failed Late"), carol)
+        bob, calling = self.listen("--expect", "hello")
+        carol = self.finish(self.start(*calling, "--say", "hello", "--expect", "and you"), 1)
+        self.assertTrue(carol[-1].startswith("failed Broken"), carol)
         self.finish(bob)
 
 
