@@ -9,7 +9,7 @@ import wire
 from frames import CALLEE, CALLER, Broken
 from private_road import PrivateRoad, transcript
 from tls import TlsWire, context
-from wire import LIMIT, Late
+from wire import LIMIT
 
 
 def meet(victim, role, **how):

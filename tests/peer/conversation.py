@@ -41,6 +41,11 @@ class Conversation:
 
     def begin(self, limit=LIMIT):
         """Up to S and C, in clear or inside. Raises Late, Broken, NotExpected."""
+        self.settle(limit)
+        self.wait_until(lambda: self.connected, limit)
+
+    def settle(self, limit=LIMIT):
+        """Chooses the road; a private one up to both hellos, and S. Raises as begin does."""
         s, hasty = b"", False
         if self.role == CALLEE:
             hasty = self._has_come()
@@ -55,7 +60,6 @@ class Conversation:
             self.road = ClearRoad(self.wire, first)
             self.report("clear")
             self._take_texts()
-        self.wait_until(lambda: self.connected, limit)
 
     def say(self, text):
         """`text` as a chat line."""

@@ -132,12 +132,13 @@ class Private(ProgramCase):
             connected = meet(self.victim, role, admits=False)
             peer = Conversation(connected, CALLER + CALLEE - role, MALLORY, "Carol")
             self.addCleanup(peer.close)
+            peer.settle()
+            peer.say("too early")
             # S goes to a caller even now, but no C comes back.
             with self.assertRaises(Late):
-                peer.begin(0.5)
-                peer.say("too early")
                 peer.wait_for_delivery(0.5)
-            self.assertTrue(self.victim.is_private())
+            wait_until(self.victim.is_private)
+            self.assertEqual(peer.connected, role == CALLEE)
             self.assertFalse(self.victim.is_connected())
             self.assertEqual(self.victim.lines(), [])
             self.assertEqual(peer.road.acknowledged, 0)

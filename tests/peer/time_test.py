@@ -70,10 +70,7 @@ def stays_while_the_user_thinks(victim, role):
     """Whether the peer is to be let in: its connection is kept, whatever it says."""
     connected = meet(victim, role, admits=False)
     peer = Conversation(connected, CALLER + CALLEE - role, MALLORY, "Carol")
-    try:
-        peer.begin(0.5)
-    except Late:
-        pass  # not connected: nobody has let it in
+    peer.settle()
     peer.say("too early")
     stay(peer)
     if victim.lines() or peer.connected and role == CALLER:

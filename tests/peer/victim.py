@@ -4,11 +4,9 @@ Both play one conversation after the other, in either role, and tell how it went
 """
 
 import queue
-import subprocess
 import threading
 import time
 
-import identity
 import wire
 from conversation import Conversation, NotExpected
 from frames import CALLEE, CALLER, Broken

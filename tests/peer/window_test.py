@@ -4,6 +4,7 @@ import os
 import unittest
 
 import identity
+import messages
 import wire
 from attacker import Attacker
 from conversation import Conversation
@@ -58,12 +59,11 @@ class WindowCase(unittest.TestCase):
 
     def is_held(self, peer, word):
         """Nothing that the peer says is shown or acknowledged, and nothing typed is sent."""
-        try:
-            peer.begin(SHORT)
-        except Late:
-            pass  # C has not come
-        if peer.road:
+        if peer.own or peer.role == CALLER:
+            peer.settle()
             peer.say(f"{word} of the peer")
+        else:
+            peer.wire.send(messages.to_clear(messages.named("S", peer.name)))
         self.window.enter(f"{word} of the window")
         with self.assertRaises(Late):
             peer.wait_for_line("", SHORT) if peer.road else peer.wire.receive(SHORT)
