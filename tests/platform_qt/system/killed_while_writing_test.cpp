@@ -48,6 +48,7 @@ class KilledWhileWritingTest : public testing::Test {
     for (const Report& report : reports) last = std::max(last, report.number);
     CheckSettings(reports);
     CheckSaved(reports);
+    CheckPeers();
     CheckFolders();
   }
   void KillAtAnyTime() {
@@ -115,6 +116,12 @@ class KilledWhileWritingTest : public testing::Test {
                 (macro.starts_with("{\\rtf1") && macro.find("m\\par\r\n}") != macro.npos))
         << macro.substr(macro.size() - std::min(macro.size(), std::size_t{40}));
   }
+  // One meeting, or none yet.
+  void CheckPeers() {
+    if (!QFile::exists(folder.filePath("Verlume.peers"))) return;
+    const std::string peers = Read("Verlume.peers");
+    EXPECT_TRUE(peers.starts_with('[') && peers.ends_with("Address=\"bob 4000\"\r\n")) << peers;
+  }
   // The leftover files of interrupted writes do not become more and more.
   void CheckFolders() {
     for (const char* name : {"", "macros/"}) {
@@ -123,8 +130,8 @@ class KilledWhileWritingTest : public testing::Test {
     const auto names = [](const QString& path) {
       return QDir(path).entryList(QDir::Files | QDir::Hidden | QDir::System);
     };
-    EXPECT_THAT(names(folder.path()),
-                testing::IsSubsetOf({".verlume.new", "Verlume.ini", "dialogue.txt"}));
+    EXPECT_THAT(names(folder.path()), testing::IsSubsetOf({".verlume.new", "Verlume.ini",
+                                                           "Verlume.peers", "dialogue.txt"}));
     EXPECT_THAT(names(folder.filePath("macros")),
                 testing::IsSubsetOf({".verlume.new", "macro.rtf"}));
     EXPECT_THAT(names(folder.filePath("logs")), testing::IsSubsetOf({"Bob.txt"}));

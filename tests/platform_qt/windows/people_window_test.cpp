@@ -31,10 +31,16 @@ class QtPeopleWindowTest : public testing::Test {
   void SetLanguage(bool isGreek) {
     for (const auto& [set, text] : PeopleWindowTexts(view)) set(text.In(isGreek));
   }
+  // The window has it once the window manager has made it the active one.
+  bool HasKeyboard() {
+    const bool has = QTest::qWaitFor([this] { return form.focusWidget() != nullptr; }, 10000);
+    EXPECT_TRUE(has);
+    return has;
+  }
   // Shows the window, does the act and closes the window.
   void ShowAnd(const std::function<void()>& act) {
     const ModalDriver driver([&](QDialog&) {
-      act();
+      if (HasKeyboard()) act();
       view.window.Unload();
     });
     view.window.ShowModal();
