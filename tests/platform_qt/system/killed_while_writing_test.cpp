@@ -120,7 +120,7 @@ class KilledWhileWritingTest : public testing::Test {
   void CheckPeers() {
     if (!QFile::exists(folder.filePath("Verlume.peers"))) return;
     const std::string peers = Read("Verlume.peers");
-    EXPECT_TRUE(peers.starts_with('[') && peers.ends_with("Address=\"bob 4000\"\r\n")) << peers;
+    EXPECT_TRUE(peers.starts_with('[') && peers.ends_with("Address=\"bob 4000\"\r\n\r\n")) << peers;
   }
   // The leftover files of interrupted writes do not become more and more.
   void CheckFolders() {
