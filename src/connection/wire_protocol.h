@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "commands/dialogue/dialogue.h"
 #include "platform/platform.h"
@@ -36,7 +37,7 @@ class WireProtocol {
 
   WireProtocol(AppState& state, Platform& platform, ErrorReport& errors,
                Collaborators collaborators)
-      : state_(state), platform_(platform), errors_(errors), with_(collaborators) {}
+      : state_(state), platform_(platform), errors_(errors), with_(std::move(collaborators)) {}
 
   // Everything is sent by this function: in one send, counted in lblBytesSent. Does nothing unless
   // the socket is connected. A failure is reported (227), not thrown; only then is the result

@@ -1,10 +1,10 @@
 // A day of the calendar, as text for files and in words for people.
 #pragma once
 
-#include <compare>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 #include "platform/system.h"
 
@@ -15,7 +15,10 @@ struct Day {
   int month = 0;  // 1 to 12
   int day = 0;
 
-  auto operator<=>(const Day&) const = default;
+  bool operator==(const Day&) const = default;
+  bool operator<(const Day& other) const {
+    return std::tie(year, month, day) < std::tie(other.year, other.month, other.day);
+  }
 };
 
 inline Day DayOf(const LocalTime& time) {

@@ -1,6 +1,7 @@
 #include "people/peer_book.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "shell/nickname.h"
@@ -143,7 +144,8 @@ bool PeerBook::Add(KnownPeer peer) {
   peer.addresses = Fitting(peer.addresses, ShowableAddress);
   peer.acceptedNames = Fitting(peer.acceptedNames, ShowableNickname);
   const auto place = static_cast<std::ptrdiff_t>(
-      std::ranges::upper_bound(peers_, peer.last, {}, &KnownPeer::last) - peers_.begin());
+      std::ranges::upper_bound(peers_, peer.last, std::less<>(), &KnownPeer::last) -
+      peers_.begin());
   peers_.insert(peers_.begin() + place, std::move(peer));
   readings_.insert(readings_.begin() + place, std::vector<ReadName>());
   Changed(peers_[static_cast<std::size_t>(place)]);

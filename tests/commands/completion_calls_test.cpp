@@ -29,8 +29,7 @@ TEST_F(CompletionCallsTest, SaysWhoAnsweredThere) {
 
 TEST_F(CompletionCallsTest, TheGreekWordCallsToo) {
   pane.Type(u"/κλήση ");
-  EXPECT_THAT(Rows(),
-              ElementsAre(u"/κλήση bob.example.org 4000", u"/κλήση 192.0.2.7 80"));
+  EXPECT_THAT(Rows(), ElementsAre(u"/κλήση bob.example.org 4000", u"/κλήση 192.0.2.7 80"));
 }
 
 TEST_F(CompletionCallsTest, KeepsThoseThatBeginWithWhatIsTyped) {

@@ -64,11 +64,13 @@ void CodeWidget::paintEvent(QPaintEvent*) {
   const int all = module * (code_.side + 2 * kQuietModules);
   // In the screen's own pixels, so that no edge is blurred.
   painter.scale(1 / ratio, 1 / ratio);
-  painter.translate((pixels - all) / 2, (pixels - all) / 2);
+  const int border = (pixels - all) / 2;
+  painter.translate(border, border);
   painter.fillRect(0, 0, all, all, Qt::white);
   for (int row = 0; row < code_.side; ++row) {
     for (int column = 0; column < code_.side; ++column) {
-      if (!code_.isDark[static_cast<std::size_t>(row * code_.side + column)]) continue;
+      const int index = row * code_.side + column;
+      if (!code_.isDark[static_cast<std::size_t>(index)]) continue;
       painter.fillRect((column + kQuietModules) * module, (row + kQuietModules) * module, module,
                        module, Qt::black);
     }

@@ -5,11 +5,14 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 namespace verlume::qt {
 namespace {
 
-constexpr std::string_view kPurpose{"verlume-safety-1", 17};  // with its NUL
+using std::string_view_literals::operator""sv;
+
+constexpr std::string_view kPurpose = "verlume-safety-1\0"sv;
 // So many that it takes time to look for a key with the same digits.
 constexpr int kRounds = 5200;
 constexpr std::size_t kGroups = 6;  // of each key

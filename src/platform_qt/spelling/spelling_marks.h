@@ -56,8 +56,8 @@ class SpellingMarks : public QObject {
   // What is still to be looked at: positions in the document, from the first to the last.
   int from_ = 0;
   int to_ = -1;
-  // Behind what was typed last; none once the caret has left that word. No QTextCursor: one that goes
-  // while a document is being cleared leaves the document with a pointer to it.
+  // Behind what was typed last; none once the caret has left that word. No QTextCursor: one that
+  // goes while a document is being cleared leaves the document with a pointer to it.
   std::optional<int> typed_;
   QTimer nextTurn_;
 };

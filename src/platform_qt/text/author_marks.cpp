@@ -80,12 +80,13 @@ bool IsHollow(Author author) {
 }
 
 void DrawHollowMark(QPainter& painter, const QRectF& place) {
-  constexpr qreal kLine = 1.5;
-  constexpr qreal kWidth = 6;
-  const QRectF bar(place.center().x() - kWidth / 2, place.top() + 1, kWidth, place.height() - 2);
+  constexpr qreal kOutline = 1.5;
+  constexpr qreal kBarWidth = 6;
+  const QRectF bar(place.center().x() - kBarWidth / 2, place.top() + 1, kBarWidth,
+                   place.height() - 2);
   QPainterPath outline;
   outline.addRect(bar);
-  outline.addRect(bar.adjusted(kLine, kLine, -kLine, -kLine));
+  outline.addRect(bar.adjusted(kOutline, kOutline, -kOutline, -kOutline));
   painter.drawPath(outline);  // filled between the two
 }
 

@@ -70,7 +70,7 @@ void MissingScripts::NoteChange(int position, int removed, int added) {
   for (; block.isValid() && block.position() <= position + added; block = block.next()) Mark(block);
 }
 
-void MissingScripts::Mark(QTextBlock block) {
+void MissingScripts::Mark(const QTextBlock& block) {
   QTextLayout& layout = *block.layout();
   // Formats of text that is being composed have places of their own.
   if (!layout.preeditAreaText().isEmpty()) return;

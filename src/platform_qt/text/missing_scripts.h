@@ -30,7 +30,7 @@ class MissingScripts : public QObject {
 
  private:
   void NoteChange(int position, int removed, int added);
-  void Mark(QTextBlock block);
+  void Mark(const QTextBlock& block);
   void NoteUnsure(const QTextBlock& block);
   void RunTurn();
   void MarkNext();

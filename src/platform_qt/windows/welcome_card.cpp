@@ -9,7 +9,7 @@
 namespace verlume::qt {
 namespace {
 
-constexpr int kCardSpace = 14;       // pixels, inside the card and at least around it
+constexpr int kCardSpace = 14;   // pixels, inside the card and at least around it
 constexpr int kUsualWidth = 60;  // of a line of the text, in characters of usual width
 
 QLabel* NewCardLabel(QWidget* parent, const char* name) {
