@@ -29,7 +29,8 @@ Every line keeps its sender's font, size, colour and style. Everything can
 be done from the menus and with typed commands, in English and in Greek.
 Dialogues can be saved, logged and searched.
 .
-The conversation is not encrypted: over a network that is not trusted, call
-through a tunnel.")
+Two copies talk in private by themselves: nobody between them can read or
+change what they say, and a lock tells so. With another program the
+conversation is not encrypted.")
 
 include(CPack)
