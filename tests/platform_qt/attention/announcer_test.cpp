@@ -9,7 +9,8 @@ namespace verlume::qt {
 namespace {
 
 TEST(AnnouncerTest, WhileNobodyListensNothingIsDone) {
-  if (QAccessible::isActive()) GTEST_SKIP() << "an assistive tool listens on this desktop";
+  QAccessible::setActive(false);
+  ASSERT_FALSE(QAccessible::isActive());
   QWidget window;
   window.show();
   Announcer announcer(&window);
