@@ -1,16 +1,13 @@
 #include "platform_qt/privacy/own_key.h"
 
-#include <fcntl.h>
 #include <openssl/crypto.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <QSslSocket>
-#include <cerrno>
 
 #include "platform/run_time_failure.h"
+#include "platform_qt/os/files.h"
+#include "platform_qt/os/open_file.h"
 #include "platform_qt/system/file_replacement.h"
-#include "platform_qt/system/file_system_posix.h"
 
 namespace verlume::qt {
 namespace {
@@ -18,12 +15,6 @@ namespace {
 // A key takes some 250 bytes.
 constexpr std::size_t kLongestFile = 64 << 10;
 constexpr int kMostSetAside = 100;
-
-// Whether there is anything at the path, even a link to nothing.
-bool IsTaken(const std::string& path) {
-  struct stat found;
-  return ::lstat(path.c_str(), &found) == 0 || errno != ENOENT;
-}
 
 // Keeps secrets out of memory that is given away.
 class Secret {
@@ -54,10 +45,8 @@ OwnKey OwnKeyFile::Replace() {
 }
 
 OwnKey OwnKeyFile::Read() try {
-  OpenFile file(path_, O_RDONLY);
-  struct stat found;
-  constexpr mode_t kOthers = S_IRWXG | S_IRWXO;
-  if (Find(path_, found) && (found.st_mode & kOthers) != 0) file.SetPermissions(kOwnerOnly);
+  OpenFile file(path_, Opening::ToRead);
+  file.LetOnlyOwnerIn();
   const Secret pem(file.ReadStart(kLongestFile));
   pair_ = ReadKeyPair(pem.Text());
   return pair_ ? OwnKey::Ready : OwnKey::Unreadable;
@@ -69,7 +58,7 @@ OwnKey OwnKeyFile::Make() try {
   const Secret pem(MakeSecretKey());
   auto pair = ReadKeyPair(pem.Text());
   if (!pair) return OwnKey::Unavailable;
-  FileReplacement file(FolderOf(path_), kOwnerOnly);
+  FileReplacement file(FolderOf(path_), Readers::OwnerOnly);
   file.File().Write(pem.Text());
   file.TakePlaceOf(path_);
   pair_ = std::move(pair);
@@ -81,7 +70,7 @@ OwnKey OwnKeyFile::Make() try {
 bool OwnKeyFile::SetAside() {
   for (int number = 1; number <= kMostSetAside; ++number) {
     const std::string name = path_ + ".bad" + (number > 1 ? std::to_string(number) : "");
-    if (!IsTaken(name)) return ::rename(path_.c_str(), name.c_str()) == 0;
+    if (!IsTaken(name)) return TryToRename(path_, name);
   }
   return false;
 }

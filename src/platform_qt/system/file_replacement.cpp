@@ -1,54 +1,40 @@
 #include "platform_qt/system/file_replacement.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cstdio>
-
 #include "platform/run_time_failure.h"
+#include "platform_qt/os/files.h"
 
 namespace verlume::qt {
 namespace {
 
-constexpr int kNewFile = O_WRONLY | O_CREAT | O_EXCL;
-
 // False while another copy of the program uses this name.
 bool RemoveRemnant(const std::string& path) {
-  if (struct stat found; ::lstat(path.c_str(), &found) != 0) return true;
+  if (!IsTaken(path)) return true;
   try {
-    OpenFile remnant(path, O_RDONLY | O_NOFOLLOW);
-    return remnant.TryToLock() && ::unlink(path.c_str()) == 0;
+    OpenFile remnant(path, Opening::ToReadNoLink);
+    return remnant.TryToLock() && TryToRemove(path);
   } catch (const RunTimeFailure&) {
     return false;
   }
 }
 
-// Makes the new name itself survive a crash, if the system can.
-void FlushFolder(const std::string& folder) {
-  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  ::fsync(descriptor);
-  ::close(descriptor);
-}
-
 }  // namespace
 
-FileReplacement::FileReplacement(const std::string& folder, mode_t mode)
+FileReplacement::FileReplacement(const std::string& folder, Readers readers)
     : path_(folder + "/.verlume.new") {
-  if (OpenUnderCommonName(mode)) return;
-  path_ = folder + "/.verlume-" + std::to_string(::getpid()) + ".new";
-  ::unlink(path_.c_str());
-  file_.emplace(path_, kNewFile, mode);
+  if (OpenUnderCommonName(readers)) return;
+  path_ = folder + "/.verlume-" + ProcessNumber() + ".new";
+  TryToRemove(path_);
+  file_.emplace(path_, Opening::ToMake, readers);
 }
 
 FileReplacement::~FileReplacement() {
-  if (file_ && !hasTakenPlace_) ::unlink(path_.c_str());
+  if (file_ && !hasTakenPlace_) TryToRemove(path_);
 }
 
 // A failure that another copy did not cause happens again with the other name, and is thrown there.
-bool FileReplacement::OpenUnderCommonName(mode_t mode) try {
+bool FileReplacement::OpenUnderCommonName(Readers readers) try {
   if (!RemoveRemnant(path_)) return false;
-  file_.emplace(path_, kNewFile, mode);
+  file_.emplace(path_, Opening::ToMake, readers);
   // Another copy may have taken the file for a leftover before it was locked.
   if (file_->TryToLock()) return true;
   file_.reset();
@@ -60,10 +46,9 @@ bool FileReplacement::OpenUnderCommonName(mode_t mode) try {
 void FileReplacement::TakePlaceOf(const std::string& path) {
   file_->Flush();
   // The file stays open, and so locked, until it has its final name.
-  if (::rename(path_.c_str(), path.c_str()) != 0) ThrowErrno(path);
+  MoveInto(path_, path);
   hasTakenPlace_ = true;
   file_.reset();
-  FlushFolder(FolderOf(path));
 }
 
 }  // namespace verlume::qt

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "platform_qt/system/file_system_posix.h"
+#include "platform_qt/os/open_file.h"
 
 namespace verlume::qt {
 
@@ -17,7 +17,7 @@ namespace verlume::qt {
 // locked, this copy uses a name of its own.
 class FileReplacement {
  public:
-  explicit FileReplacement(const std::string& folder, mode_t mode = kUsual);
+  explicit FileReplacement(const std::string& folder, Readers readers = Readers::Usual);
   ~FileReplacement();
   FileReplacement(const FileReplacement&) = delete;
   FileReplacement& operator=(const FileReplacement&) = delete;
@@ -28,7 +28,7 @@ class FileReplacement {
   void TakePlaceOf(const std::string& path);
 
  private:
-  bool OpenUnderCommonName(mode_t mode);
+  bool OpenUnderCommonName(Readers readers);
 
   std::string path_;
   std::optional<OpenFile> file_;

@@ -1,5 +1,5 @@
-// Files and folders of a POSIX system. File names are UTF-8; a path that is not valid UTF-16 or
-// contains a NUL names no file.
+// Files and folders of the system. File names are UTF-8 where they are bytes; a path that is not
+// valid UTF-16 or contains a NUL names no file.
 #pragma once
 
 #include "platform/file_system.h"

@@ -1,0 +1,43 @@
+// What the system knows of files, each system in a file of its own. Paths are bytes: UTF-8 on
+// Windows, whatever the user's files are called elsewhere.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace verlume::qt {
+
+enum class FileKind { Nothing, File, Folder, Other };
+
+// What is at a path, at the end of links. Never fails.
+FileKind KindOf(const std::string& path);
+// True if there is anything at the path, even a link to nothing.
+bool IsTaken(const std::string& path);
+// The folder that contains the path.
+std::string FolderOf(const std::string& path);
+
+// The following throw a RunTimeFailure.
+
+// The size of an ordinary file in bytes.
+std::uint64_t FileSize(const std::string& path);
+// Throws unless this user may write to what is there.
+void CheckWritable(const std::string& path);
+// The path of the actual file: the path itself or, if it is a link, the end of the links, which
+// need not exist.
+std::string EndOfLinks(const std::string& path);
+// The names of the ordinary files in a folder, in its own order.
+std::vector<std::string> FilesIn(const std::string& folder);
+void RemoveFile(const std::string& path);
+// Gives a file another path in the same folder, in one step; what was there is gone. The new name
+// has survived a crash when this returns, if the system can.
+void MoveInto(const std::string& from, const std::string& to);
+
+// These never throw, and are false if it has not worked.
+bool TryToRemove(const std::string& path) noexcept;
+bool TryToRename(const std::string& from, const std::string& to) noexcept;
+
+// The number of this process.
+std::string ProcessNumber();
+
+}  // namespace verlume::qt
