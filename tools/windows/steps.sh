@@ -77,7 +77,7 @@ step() {
     for version in $(source_versions "$2"); do
       # shellcheck disable=SC2086 # No patches is no word.
       build_once "$1" "$2" "$version" $patches && return
-      echo "$1 $version${patches:+, without Debian\'s patches,} cannot be fetched." >&2
+      echo "$1 $version${patches:+ without patches} cannot be fetched." >&2
     done
   done
   echo "Debian's archive does not have the source of $1." >&2
