@@ -23,7 +23,11 @@ endif()
 include(CheckPIESupported)
 check_pie_supported()
 add_compile_options(-fstack-protector-strong -fstack-clash-protection)
-add_link_options(-Wl,-z,relro,-z,now)
+if(WIN32)
+  add_link_options(-Wl,--dynamicbase,--nxcompat,--high-entropy-va)
+else()
+  add_link_options(-Wl,-z,relro,-z,now)
+endif()
 if(NOT VERLUME_SANITIZE AND NOT VERLUME_THREAD_SANITIZE AND NOT VERLUME_FUZZ)  # those look closer
   add_compile_options($<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE>
                       $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
