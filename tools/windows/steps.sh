@@ -4,6 +4,7 @@
 windows_cache=${XDG_CACHE_HOME:-$HOME/.cache}/verlume-windows
 # What the libraries for Windows are installed into; the toolchain file lies there too.
 windows_root=$windows_cache/root
+toolchain=$windows_root/toolchain.cmake
 jobs=${JOBS:-$(nproc)}
 mkdir -p "$windows_cache"/{sources,build,logs,stamps} "$windows_root"
 
@@ -15,6 +16,7 @@ as_root() {
 # Adds Debian's archive of sources to apt's if none is known yet, and reads what is in it now.
 know_sources() {
   local list=/etc/apt/sources.list.d/verlume-sources.sources codename
+  # shellcheck disable=SC2016 # $(URI) is apt's.
   if [ -z "$(apt-get indextargets --format '$(URI)' 'Created-By: Sources')" ]; then
     codename=$(. /etc/os-release && echo "$VERSION_CODENAME")
     echo "Adding $list"
