@@ -8,6 +8,9 @@
 namespace verlume::qt {
 namespace {
 
+// MinGW's headers do not have it.
+constexpr DWORD kDiskQuotaExceeded = 1295;
+
 FailureNumber FailureOf(DWORD error, const std::string& path) {
   switch (error) {
     case ERROR_FILE_NOT_FOUND:
@@ -22,7 +25,7 @@ FailureNumber FailureOf(DWORD error, const std::string& path) {
       return FailureNumber::PathNotFound;
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
-    case ERROR_NOT_ENOUGH_QUOTA:
+    case kDiskQuotaExceeded:
     case ERROR_FILE_TOO_LARGE:
       return FailureNumber::DiskFull;
     // Windows gives this error for a folder that is to be opened or replaced as well.

@@ -7,6 +7,7 @@
 #include "platform/run_time_failure.h"
 #include "platform_qt/convert/text.h"
 #include "platform_qt/os/files.h"
+#include "platform_qt/os/machine.h"
 #include "platform_qt/os/open_file.h"
 #include "platform_qt/system/file_replacement.h"
 #include "richtext/code_pages.h"
@@ -122,6 +123,10 @@ void QtFileSystem::AppendText(std::u16string_view path, std::u16string_view text
 
 void QtFileSystem::Delete(std::u16string_view path) {
   RemoveFile(NameOf(path));
+}
+
+char16_t QtFileSystem::Separator() const {
+  return PathSeparator();
 }
 
 }  // namespace verlume::qt

@@ -24,7 +24,7 @@ class QtFileSystem : public FileSystem {
   void ReplaceBytes(std::u16string_view path, std::string_view bytes, Readers readers) override;
   void AppendText(std::u16string_view path, std::u16string_view text) override;
   void Delete(std::u16string_view path) override;
-  char16_t Separator() const override { return u'/'; }
+  char16_t Separator() const override;
 };
 
 }  // namespace verlume::qt

@@ -66,7 +66,6 @@ class QtApplication : public QObject, public Application {
 
 class QtSystemTools : public SystemTools {
  public:
-  // There is no registry here.
   std::optional<std::u16string> LocalMachineText(std::u16string_view key,
                                                  std::u16string_view value) const override;
   bool StartProgram(std::u16string_view path) override;

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "platform_qt/convert/text.h"
-#include "platform_qt/system/free_memory.h"
+#include "platform_qt/os/machine.h"
 #include "platform_qt/text/look_count.h"
 #include "platform_qt/text/open_direction.h"
 #include "platform_qt/text/paragraph_author.h"

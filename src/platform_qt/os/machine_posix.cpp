@@ -1,4 +1,4 @@
-#include "platform_qt/system/free_memory.h"
+#include "platform_qt/os/machine.h"
 
 #include <cstdlib>
 #if defined(__GLIBC__)
@@ -6,6 +6,14 @@
 #endif
 
 namespace verlume::qt {
+
+char16_t PathSeparator() {
+  return u'/';
+}
+
+std::optional<std::u16string> RegistryText(std::u16string_view, std::u16string_view) {
+  return std::nullopt;
+}
 
 void GiveBackFreeMemory() {
 #if defined(__GLIBC__)

@@ -1,0 +1,22 @@
+// What the system knows of the machine, each system in a file of its own. Nothing here fails.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace verlume::qt {
+
+// The character between the parts of a path.
+char16_t PathSeparator();
+
+// A text of the registry of Windows, below HKEY_LOCAL_MACHINE; none elsewhere, and none if there is
+// no such key or value, or if it is no text.
+std::optional<std::u16string> RegistryText(std::u16string_view key, std::u16string_view value);
+
+// Gives back to the system what has been freed piece by piece, which stays with the process
+// otherwise. Takes some milliseconds per hundred megabytes; does nothing where the system has no
+// such function.
+void GiveBackFreeMemory();
+
+}  // namespace verlume::qt
