@@ -22,10 +22,13 @@ endif()
 # instead. tests/hardening_check.cmake looks at the binary.
 include(CheckPIESupported)
 check_pie_supported()
-add_compile_options(-fstack-protector-strong -fstack-clash-protection)
+add_compile_options(-fstack-protector-strong)
 if(WIN32)
+  # Every large frame touches each of its pages there anyway, and MinGW's compiler fails over
+  # -fstack-clash-protection.
   add_link_options(-Wl,--dynamicbase,--nxcompat,--high-entropy-va)
 else()
+  add_compile_options(-fstack-clash-protection)
   add_link_options(-Wl,-z,relro,-z,now)
 endif()
 if(NOT VERLUME_SANITIZE AND NOT VERLUME_THREAD_SANITIZE AND NOT VERLUME_FUZZ)  # those look closer
