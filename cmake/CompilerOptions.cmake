@@ -26,7 +26,8 @@ add_compile_options(-fstack-protector-strong)
 if(WIN32)
   # Every large frame touches each of its pages there anyway, and MinGW's compiler fails over
   # -fstack-clash-protection.
-  add_link_options(-Wl,--dynamicbase,--nxcompat,--high-entropy-va)
+  # The first: for the library that the checks of the stack call.
+  add_link_options(-fstack-protector-strong -Wl,--dynamicbase,--nxcompat,--high-entropy-va)
 else()
   add_compile_options(-fstack-clash-protection)
   add_link_options(-Wl,-z,relro,-z,now)
