@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 
 #include "platform/run_time_failure.h"
@@ -21,6 +22,19 @@ bool RemoveRemnant(const std::string& path) {
   } catch (const RunTimeFailure&) {
     return false;
   }
+}
+
+// False if the new name is taken.
+bool RenameToFree(const std::string& from, const std::string& to) {
+  const auto rename = [&](unsigned flags) {
+    return ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags) == 0;
+  };
+  if (rename(RENAME_NOREPLACE)) return true;
+  if (errno == EEXIST) return false;
+  // Some file systems cannot tell.
+  const bool cannotTell = errno == EINVAL || errno == ENOSYS;
+  if (!cannotTell || !rename(0)) ThrowErrno(to);
+  return true;
 }
 
 // Makes the new name itself survive a crash, if the system can.
@@ -61,6 +75,17 @@ void FileReplacement::TakePlaceOf(const std::string& path) {
   file_->Flush();
   // The file stays open, and so locked, until it has its final name.
   if (::rename(path_.c_str(), path.c_str()) != 0) ThrowErrno(path);
+  Finish(path);
+}
+
+bool FileReplacement::TakeFreePlace(const std::string& path) {
+  file_->Flush();
+  if (!RenameToFree(path_, path)) return false;
+  Finish(path);
+  return true;
+}
+
+void FileReplacement::Finish(const std::string& path) {
   hasTakenPlace_ = true;
   file_.reset();
   FlushFolder(FolderOf(path));
