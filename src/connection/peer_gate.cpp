@@ -96,9 +96,11 @@ void PeerGate::cmdKeyGoOn_Click() {
     const StopReason reason = stop.verdict.stop;
     const bool isAboutAddress =
         reason == StopReason::OtherKeyAtAddress || reason == StopReason::ClearAtAddress;
-    // The place is settled; what is about the name is asked by itself.
+    // The place is settled; what is about the name is asked by itself, unless the user has just
+    // read the same about the same person.
     const PeerVerdict rest = isAboutAddress ? Judge(stop.name, {}) : PeerVerdict();
-    if (rest.stop == StopReason::None) {
+    const bool isSaid = rest.stop == StopReason::ClearForName && rest.known == stop.verdict.known;
+    if (rest.stop == StopReason::None || isSaid) {
       LetIn(stop);
     } else {
       Ask({.verdict = rest, .name = stop.name, .atHandshake = stop.atHandshake});
