@@ -1,13 +1,12 @@
 #include "platform_qt/net/connection.h"
 
-#include <fcntl.h>
-
 #include <QTimer>
 #include <utility>
 
 #include "platform_qt/net/clear_road.h"
 #include "platform_qt/net/private_road.h"
 #include "platform_qt/net/socket_options.h"
+#include "platform_qt/os/tcp.h"
 #include "richtext/code_pages.h"
 #include "stream/tail.h"
 #include "stream/utf8_text.h"
@@ -85,15 +84,15 @@ void Connection::GoClear(std::string heard, std::string_view nickname) {
 // TLS gets the connection under a socket that has never seen a byte in clear.
 void Connection::GoPrivate(Greetings greetings) {
   CheckThread();
-  const int descriptor = ::fcntl(static_cast<int>(socket_->socketDescriptor()), F_DUPFD_CLOEXEC, 0);
-  if (descriptor < 0) return Fail(PrivacyFailure::Broken);
+  const SocketNumber socket = DuplicateSocket(socket_->socketDescriptor());
+  if (socket == kNoSocket) return Fail(PrivacyFailure::Broken);
   socket_->disconnect();
   socket_->abort();
   socket_->deleteLater();
   socket_ = nullptr;
   Enter(Privacy::Becoming);
   TakeRoad(std::make_unique<PrivateRoad>(
-      descriptor, terms_, std::move(greetings), RoadEvents(),
+      socket, terms_, std::move(greetings), RoadEvents(),
       PrivateRoad::Proved{.onKnown =
                               [this](const PublicKey& key, std::string_view name) {
                                 Enter(Privacy::Private);
