@@ -13,12 +13,10 @@
 namespace verlume::qt {
 namespace {
 
-Descriptor Connect(const HttpUrl& url, in_addr_t local, const WaitLimit& limit) {
+Descriptor Connect(const HttpUrl& url, const WaitLimit& limit) {
   Descriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-  const sockaddr_in from = SocketAddress(local, 0);
   const sockaddr_in to = SocketAddress(url.host, url.port);
   const int number = socket.Number();
-  if (::bind(number, reinterpret_cast<const sockaddr*>(&from), sizeof from) != 0) return {};
   if (::connect(number, reinterpret_cast<const sockaddr*>(&to), sizeof to) == 0) return socket;
   if (errno != EINPROGRESS || !limit.Await(number, POLLOUT)) return {};
   int error = 0;
@@ -59,8 +57,8 @@ HttpExchange ReadAnswer(int socket, const WaitLimit& limit) {
 
 }  // namespace
 
-HttpExchange AskHttp(const HttpQuestion& question, in_addr_t local, const WaitLimit& limit) {
-  const Descriptor socket = Connect(question.url, local, limit);
+HttpExchange AskHttp(const HttpQuestion& question, const WaitLimit& limit) {
+  const Descriptor socket = Connect(question.url, limit);
   if (!socket.IsOpen()) return {};
   std::string text = question.method + " " + question.url.path + " HTTP/1.1\r\n";
   text += "Host: " + Ipv4Text(question.url.host) + ":" + std::to_string(question.url.port) + "\r\n";

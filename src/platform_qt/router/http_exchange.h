@@ -1,8 +1,6 @@
 // One question to a router's web server, and its answer.
 #pragma once
 
-#include <netinet/in.h>
-
 #include <optional>
 #include <string>
 
@@ -24,8 +22,8 @@ struct HttpExchange {
   std::optional<HttpAnswer> answer;  // nothing if that was none, too long or too slow
 };
 
-// Sends from the address `local` and reads until the answer is complete or the limit is over.
-// Nothing is redirected, and no name is looked up.
-HttpExchange AskHttp(const HttpQuestion& question, in_addr_t local, const WaitLimit& limit);
+// Asks, and reads until the answer is complete or the limit is over. Nothing is redirected, and no
+// name is looked up.
+HttpExchange AskHttp(const HttpQuestion& question, const WaitLimit& limit);
 
 }  // namespace verlume::qt

@@ -47,8 +47,8 @@ IgdAnswer ReadAnswer(const HttpAnswer& http) {
   return answer;
 }
 
-IgdAnswer Ask(const IgdService& service, in_addr_t local, const std::string& action,
-              Arguments arguments, const WaitLimit& limit) {
+IgdAnswer Ask(const IgdService& service, const std::string& action, Arguments arguments,
+              const WaitLimit& limit) {
   constexpr std::chrono::seconds kLongest{4};
   const HttpQuestion question = {
       .method = "POST",
@@ -56,7 +56,7 @@ IgdAnswer Ask(const IgdService& service, in_addr_t local, const std::string& act
       .fields = "Content-Type: text/xml; charset=\"utf-8\"\r\nSOAPAction: \"" + service.type + "#" +
                 action + "\"\r\n",
       .body = SoapText(service.type, action, arguments)};
-  const HttpExchange exchange = AskHttp(question, local, limit.Within(kLongest));
+  const HttpExchange exchange = AskHttp(question, limit.Within(kLongest));
   return exchange.answer ? ReadAnswer(*exchange.answer) : IgdAnswer();
 }
 
@@ -73,13 +73,13 @@ std::string IgdAnswer::Value(const std::string& name) const {
   return value == values.end() ? "" : value->second;
 }
 
-IgdAnswer AskOuterAddress(const IgdService& service, in_addr_t local, const WaitLimit& limit) {
-  return Ask(service, local, "GetExternalIPAddress", {}, limit);
+IgdAnswer AskOuterAddress(const IgdService& service, const WaitLimit& limit) {
+  return Ask(service, "GetExternalIPAddress", {}, limit);
 }
 
 IgdAnswer AddMapping(const IgdMapping& mapping, long lease, const WaitLimit& limit) {
   const std::string port = std::to_string(mapping.port);
-  return Ask(mapping.service, mapping.local, "AddPortMapping",
+  return Ask(mapping.service, "AddPortMapping",
              {{"NewRemoteHost", ""},
               {"NewExternalPort", port},
               {"NewProtocol", "TCP"},
@@ -92,7 +92,7 @@ IgdAnswer AddMapping(const IgdMapping& mapping, long lease, const WaitLimit& lim
 }
 
 IgdAnswer DeleteMapping(const IgdMapping& mapping, const WaitLimit& limit) {
-  return Ask(mapping.service, mapping.local, "DeletePortMapping",
+  return Ask(mapping.service, "DeletePortMapping",
              {{"NewRemoteHost", ""},
               {"NewExternalPort", std::to_string(mapping.port)},
               {"NewProtocol", "TCP"}},
@@ -100,7 +100,7 @@ IgdAnswer DeleteMapping(const IgdMapping& mapping, const WaitLimit& limit) {
 }
 
 PortEntry AskPortEntry(const IgdMapping& mapping, const WaitLimit& limit) {
-  const IgdAnswer answer = Ask(mapping.service, mapping.local, "GetSpecificPortMappingEntry",
+  const IgdAnswer answer = Ask(mapping.service, "GetSpecificPortMappingEntry",
                                {{"NewRemoteHost", ""},
                                 {"NewExternalPort", std::to_string(mapping.port)},
                                 {"NewProtocol", "TCP"}},

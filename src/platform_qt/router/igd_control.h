@@ -34,7 +34,7 @@ struct IgdMapping {
   std::uint16_t port = 0;
 };
 
-IgdAnswer AskOuterAddress(const IgdService& service, in_addr_t local, const WaitLimit& limit);
+IgdAnswer AskOuterAddress(const IgdService& service, const WaitLimit& limit);
 // For `lease` seconds; 0 is without end.
 IgdAnswer AddMapping(const IgdMapping& mapping, long lease, const WaitLimit& limit);
 IgdAnswer DeleteMapping(const IgdMapping& mapping, const WaitLimit& limit);

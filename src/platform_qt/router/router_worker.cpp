@@ -19,10 +19,10 @@ RouterWorker::RouterWorker(std::unique_ptr<PortAsker> asker, const RouterTimes& 
     : asker_(std::move(asker)),
       times_(times),
       onAnswer_(std::move(onAnswer)),
-      wake_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
-      thread_([this] { Run(); }) {}
+      wake_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
 
 RouterWorker::~RouterWorker() {
+  if (!thread_.joinable()) return;
   BeginEnd();
   thread_.join();
 }
@@ -34,9 +34,19 @@ void RouterWorker::BeginEnd() {
 }
 
 void RouterWorker::Wish(const RouterWish& wish) {
-  const std::lock_guard lock(mutex_);
-  wish_ = wish;
-  ::eventfd_write(wake_.Number(), 1);
+  const bool wantsAnswer = wish.port != 0 || wish.wantsAddress;
+  if (!wake_.IsOpen()) {  // there are no descriptors left
+    RouterReport silence;
+    silence.state = RouterState::Silent;
+    if (wantsAnswer) onAnswer_(wish.number, silence);
+    return;
+  }
+  {
+    const std::lock_guard lock(mutex_);
+    wish_ = wish;
+    ::eventfd_write(wake_.Number(), 1);
+  }
+  if (wantsAnswer && !thread_.joinable()) thread_ = std::thread([this] { Run(); });
 }
 
 RouterWish RouterWorker::TakeWish() {

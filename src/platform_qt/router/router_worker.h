@@ -31,8 +31,8 @@ struct RouterWish {
 
 class RouterWorker {
  public:
-  // `onAnswer` is raised on the worker's thread, with the number of the wish that it answers; more
-  // than once for a port.
+  // `onAnswer` is raised on the worker's thread, which begins with the first wish, with the number
+  // of the wish that it answers; more than once for a port. It may be raised from inside Wish.
   using OnAnswer = std::function<void(int number, const RouterReport& report)>;
 
   RouterWorker(std::unique_ptr<PortAsker> asker, const RouterTimes& times, OnAnswer onAnswer);

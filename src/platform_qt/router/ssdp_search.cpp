@@ -87,7 +87,7 @@ SsdpFindings SearchGateway(in_addr_t gateway, in_addr_t local, const WaitLimit& 
     while (findings.locations.empty() && part.Await(socket.Number(), POLLIN)) {
       ReadAnswers(socket.Number(), gateway, findings);
     }
-    if (!findings.locations.empty()) break;
+    if (findings.hasAnswered) break;
   }
   // A router has several descriptions at times: they come together.
   const WaitLimit rest = limit.Within(200ms);

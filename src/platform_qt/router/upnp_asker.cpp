@@ -13,12 +13,11 @@ namespace {
 constexpr const char* kConflict = "718";
 constexpr const char* kOnlyWithoutEnd = "725";
 
-std::vector<IgdService> ServicesAt(const HttpUrl& location, in_addr_t local,
-                                   const WaitLimit& limit) {
+std::vector<IgdService> ServicesAt(const HttpUrl& location, const WaitLimit& limit) {
   constexpr std::chrono::seconds kLongest{4};
   constexpr int kOk = 200;
   const HttpQuestion question = {.method = "GET", .url = location, .fields = "", .body = ""};
-  const HttpExchange exchange = AskHttp(question, local, limit.Within(kLongest));
+  const HttpExchange exchange = AskHttp(question, limit.Within(kLongest));
   if (!exchange.answer || exchange.answer->status != kOk) return {};
   return ReadIgdDescription(exchange.answer->body, location);
 }
@@ -47,8 +46,8 @@ UpnpAsker::Look UpnpAsker::LookAt(const Gateway& gateway, const WaitLimit& limit
   const SsdpFindings findings = SearchGateway(gateway.address, gateway.local, limit);
   look.hasAnswered = findings.hasAnswered;
   for (const HttpUrl& location : findings.locations) {
-    for (IgdService& service : ServicesAt(location, gateway.local, limit)) {
-      Candidate candidate = {service, AskOuterAddress(service, gateway.local, limit)};
+    for (IgdService& service : ServicesAt(location, limit)) {
+      Candidate candidate = {service, AskOuterAddress(service, limit)};
       const bool isConnected = HasOuterAddress(candidate.address);
       if (isConnected || !look.candidate) look.candidate = std::move(candidate);
       if (isConnected) return look;
