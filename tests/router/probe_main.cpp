@@ -21,7 +21,9 @@ namespace {
 using namespace verlume;
 
 bool Print(const char* name, const RouterReport& report) {
-  const auto text = [](const std::u16string& from) { return std::string(from.begin(), from.end()); };
+  const auto text = [](const std::u16string& from) {
+    return std::string(from.begin(), from.end());
+  };
   const bool isMapped = report.state == RouterState::Mapped;
   std::printf("%s: %s, %s port %d %s\n", name, isMapped ? "mapped" : "not mapped",
               text(report.outerAddress).c_str(), report.outerPort, text(report.reason).c_str());

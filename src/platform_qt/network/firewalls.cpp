@@ -14,8 +14,9 @@ namespace {
 // itself would have to be asked by D-Bus, where an answer may take as long as it likes.
 bool IsServiceRunning(const std::string& root, const std::string& service) {
   for (const char* tree : {"/sys/fs/cgroup", "/sys/fs/cgroup/systemd"}) {
-    const std::string group = root + tree + "/system.slice/" + service;
-    if (!ReadSmallFile(group + "/cgroup.procs").empty()) return true;
+    std::string processes = root;
+    processes.append(tree).append("/system.slice/").append(service).append("/cgroup.procs");
+    if (!ReadSmallFile(processes).empty()) return true;
   }
   return false;
 }

@@ -96,12 +96,12 @@ PortAnswer UpnpAsker::Map(std::uint16_t port, std::chrono::seconds lease, const 
   return best;
 }
 
-PortAnswer UpnpAsker::MapAt(const Candidate& candidate, IgdMapping mapping,
+PortAnswer UpnpAsker::MapAt(const Candidate& candidate, const IgdMapping& mapping,
                             std::chrono::seconds lease, const WaitLimit& limit) {
   // This machine had another address before: then its own mapping would be in the way.
-  const bool isAnothers = claim_ && claim_->service.control == mapping.service.control &&
-                          claim_->local != mapping.local;
-  if (isAnothers) GiveBack(limit);
+  const bool hasMoved = claim_ && claim_->service.control == mapping.service.control &&
+                        claim_->local != mapping.local;
+  if (hasMoved) GiveBack(limit);
   // Some routers would take the port away from whoever has it.
   if (AskPortEntry(mapping, limit).owner == PortOwner::Another) return {Refusal(kConflict), {}};
   if (limit.IsOver()) return {Only(RouterState::Nonsense), {}};

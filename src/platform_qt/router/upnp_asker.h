@@ -28,8 +28,8 @@ class UpnpAsker : public PortAsker {
   };
   static Look LookAt(const Gateway& gateway, const WaitLimit& limit);
   static RouterReport AddressReport(const Candidate& candidate);
-  PortAnswer MapAt(const Candidate& candidate, IgdMapping mapping, std::chrono::seconds lease,
-                   const WaitLimit& limit);
+  PortAnswer MapAt(const Candidate& candidate, const IgdMapping& mapping,
+                   std::chrono::seconds lease, const WaitLimit& limit);
 
   std::optional<IgdMapping> claim_;  // what was asked for, granted or not
 };
