@@ -25,7 +25,7 @@ class QtSenderTest : public testing::Test {
  protected:
   void SetUp() override {
     socket.onAcknowledged = [this] { waitingWhenAcknowledged.push_back(socket.LinesWaiting()); };
-    socket.onUndelivered = [this](std::size_t lines) {
+    socket.onUndelivered = [this](std::size_t lines, ConnectionNumber) {
       undelivered.push_back(lines);
       closesBefore = closes;
     };
