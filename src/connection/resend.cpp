@@ -7,18 +7,33 @@
 #include "shell/said_line.h"
 
 namespace verlume {
+namespace {
 
-// A failure is reported in a box, and ends the conversation.
+constexpr int kLinesInATurn = 10;
+
+}  // namespace
+
+// The window stays usable meanwhile, so that anything can happen between two turns.
 void Resend::cmdResend_Click() {
   if (!IsOffered()) return;
-  // A copy: a box lets another conversation begin.
+  state_.HidesResend = true;
+  ShowResendBar(state_, platform_);
+  const ConnectionNumber connection = platform_.sckControl.CurrentConnection();
   const PeerTrace peer = state_.Undelivered.Current();
-  while (state_.IsConnected && !state_.PeerStops && state_.Undelivered.Current() == peer) {
+  const auto goesOn = [&] {
+    return state_.IsConnected && !state_.PeerStops &&
+           platform_.sckControl.CurrentConnection() == connection;
+  };
+  for (int sent = 1; goesOn(); ++sent) {
     const std::optional<std::u16string> line = state_.Undelivered.TakeFirstFor(peer);
     if (!line) break;
     SendLine(*line);
+    if (sent % kLinesInATurn == 0) platform_.application.YieldToEvents();
   }
-  Leave();
+  if (platform_.application.HasEnded()) return;
+  // If the user is asked about the peer, the rest is offered afterwards.
+  state_.HidesResend = false;
+  ShowResendBar(state_, platform_);
 }
 
 void Resend::SendLine(std::u16string_view line) {

@@ -17,8 +17,8 @@ class Resend {
 
   // Sends the lines that are kept for the peer of this conversation, in the order in which they
   // were said. Each is a line of this conversation from then on, in the pane and in the log, and
-  // waits to be acknowledged. What is half typed stays. If the conversation ends meanwhile, the
-  // rest is kept.
+  // waits to be acknowledged. What is half typed stays. Events are handled between the lines; if
+  // the conversation ends meanwhile, the rest is kept.
   void cmdResend_Click();
   // Forgets them.
   void cmdResendDrop_Click();

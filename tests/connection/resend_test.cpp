@@ -23,6 +23,11 @@ class ResendTest : public testing::Test {
     const fake::FakeAgainBar& bar = side.platform.window.againBar;
     return bar.fraAgain.visible ? bar.lblAgain.caption : std::u16string();
   }
+  static std::u16string LinesFrom10To24() {
+    std::u16string lines;
+    for (int i = 10; i < 25; ++i) lines += u"\n<Ann>line " + DecimalText(i);
+    return lines;
+  }
   void Send(ProgramCopy& side) {
     side.platform.window.resendBar.cmdResend.Click();
     network.RunUntilIdle();
@@ -326,6 +331,35 @@ TEST_F(ResendTest, AHostileNicknameIsTextAndALongLineIsCut) {
   Call(ann, bob);
   EXPECT_THAT(Offer(ann), BeginsWith(u"1 line was not delivered to <b>%3</b>: xxx"));
   EXPECT_LT(Offer(ann).size(), 150u);
+}
+
+// The user hangs up, or hangs up and talks to Bob again, while the program sends.
+TEST_F(ResendTest, WhatIsNotSentYetWhenTheConversationEndsIsKept) {
+  for (const bool callsAgain : {false, true}) {
+    Call(ann, bob);
+    network.Cut();
+    for (int i = 0; i < 25; ++i) ann.Enter(u"line " + DecimalText(i));
+    bob.Enter(u"/CLOSE");
+    network.RunUntilIdle();
+    bob.Enter(u"/CLEARDIALOGUE");
+    Call(ann, bob);
+    ann.platform.application.onYield = [&] {
+      ann.platform.application.onYield = nullptr;
+      network.RunUntilIdle();
+      bob.Enter(u"/CLOSE");
+      network.RunUntilIdle();
+      if (callsAgain) Call(ann, bob);
+    };
+    Send(ann);
+    EXPECT_EQ(ann.program.State().IsConnected, callsAgain);
+    if (!callsAgain) Call(ann, bob);
+    EXPECT_EQ(Offer(ann), u"15 lines were not delivered to Bob: line 10");
+    EXPECT_THAT(bob.Dialogue(), EndsIn(u"<Ann>line 9"));
+    Send(ann);
+    EXPECT_THAT(bob.Dialogue(), EndsIn(u"<Ann>line 9" + LinesFrom10To24()));
+    bob.Enter(u"/CLOSE");
+    network.RunUntilIdle();
+  }
 }
 
 TEST_F(ResendTest, OfTooManyTheLastAreSent) {
