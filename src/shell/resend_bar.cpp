@@ -68,7 +68,7 @@ std::vector<FixedText> ResendBarTexts(const ResendBar& bar) {
     return [&button](std::u16string_view text) { button.SetToolTip(text); };
   };
   return {
-      {caption(bar.cmdResend), {u"Send them", u"Αποστολή"}},
+      {caption(bar.cmdResend), {u"Send them", u"Να σταλούν"}},
       {toolTip(bar.cmdResend),
        {u"Send what was not delivered now, in the order in which it was written. Some of it may "
         u"have arrived after all: its receipt was not confirmed.",

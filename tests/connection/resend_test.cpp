@@ -315,7 +315,7 @@ TEST_F(ResendTest, SpeaksGreek) {
   EXPECT_EQ(AgainText(ann), u"Η σύνδεση με Bob έληξε. 3 γραμμές δεν παραδόθηκαν.");
   Call(ann, bob);
   EXPECT_EQ(Offer(ann), u"3 γραμμές δεν παραδόθηκαν προς Bob: first words");
-  EXPECT_EQ(BarOf(ann).cmdResend.caption, u"Αποστολή");
+  EXPECT_EQ(BarOf(ann).cmdResend.caption, u"Να σταλούν");
   ann.Enter(u"/ENGLISH");
   EXPECT_EQ(BarOf(ann).cmdResend.caption, u"Send them");
   EXPECT_EQ(Offer(ann), u"3 lines were not delivered to Bob: first words");

@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QShortcut>
+#include <algorithm>
 
 namespace verlume::qt {
 namespace {
@@ -21,12 +22,13 @@ BarFrame::BarFrame(QWidget* area, const char* name, const char* text,
                    std::initializer_list<const char*> buttons)
     : FloatingFrame(area, name) {
   QAccessible::installFactory(&BarAlertOf);  // which the second time does nothing
-  auto* label = new ElidedLabel(this);
-  label->setObjectName(QLatin1String(text));
+  text_ = new ElidedLabel(this);
+  text_->setObjectName(QLatin1String(text));
+  text_->setWordWrap(true);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(kGap, kEdge, kEdge, kEdge);
   row->setSpacing(kGap);
-  row->addWidget(label, 1);
+  row->addWidget(text_, 1);
   for (const char* button : buttons) row->addWidget(NewFloatingButton(this, button));
   auto* escape = new QShortcut(Qt::Key_Escape, this);
   escape->setContext(Qt::WidgetWithChildrenShortcut);
@@ -34,8 +36,13 @@ BarFrame::BarFrame(QWidget* area, const char* name, const char* text,
 }
 
 QRect BarFrame::PlaceAt(const QRect& pane) const {
-  const int height = sizeHint().height();
-  if (minimumSizeHint().width() > pane.width() || height > pane.top()) return {};
+  const int room = pane.width() - minimumSizeHint().width();  // for the text
+  int height = sizeHint().height();
+  if (text_->sizeHint().width() > room) {
+    const QMargins edges = contentsMargins() + kEdge;
+    height = std::max(height, 2 * text_->fontMetrics().height() + edges.top() + edges.bottom());
+  }
+  if (room < 0 || height > pane.top()) return {};
   return {pane.left(), pane.top() - height, pane.width(), height};
 }
 

@@ -7,6 +7,7 @@
 
 namespace verlume::qt {
 
+// A text that is too long for one line is shown in two, and what does not fit there in a tool tip.
 // Escape in it presses the last button, which closes it. For assistive tools it is an alert: they
 // read its name out when it appears, although it takes no focus.
 class BarFrame : public FloatingFrame {
@@ -16,6 +17,9 @@ class BarFrame : public FloatingFrame {
 
  protected:
   QRect PlaceAt(const QRect& pane) const override;
+
+ private:
+  ElidedLabel* text_;
 };
 
 }  // namespace verlume::qt

@@ -59,13 +59,27 @@ TEST_F(QtResendBarTest, HasRoomForItsTextInASmallWindowInBothLanguages) {
     Speak(isGreek);
     QApplication::processEvents();
     ASSERT_TRUE(frame->isVisible());
-    EXPECT_GE(Named("lblResend")->width(), 200);
+    EXPECT_GE(Named("lblResend")->width(), 190);
+    EXPECT_GE(Named("lblResend")->height(), 2 * form.fontMetrics().height());
+    EXPECT_EQ(frame->geometry().bottom() + 1, Named("rtbCommands")->geometry().top());
     for (const char* name : {"cmdResend", "cmdResendDrop", "cmdResendClose"}) {
       const auto* button = form.findChild<QPushButton*>(QLatin1String(name));
       EXPECT_GE(button->width(), button->sizeHint().width()) << name;
       EXPECT_TRUE(frame->rect().contains(button->geometry())) << name;
     }
   }
+}
+
+TEST_F(QtResendBarTest, ATextThatFitsTakesOneLine) {
+  form.resize(640, 480);
+  bar.fraResend.SetVisible(true);
+  QApplication::processEvents();
+  const int high = frame->height();
+  bar.lblResend.SetCaption(u"1 line");
+  QApplication::processEvents();
+  EXPECT_LT(Named("lblResend")->height(), 2 * form.fontMetrics().height());
+  EXPECT_LT(frame->height(), high);
+  EXPECT_EQ(frame->geometry().bottom() + 1, Named("rtbCommands")->geometry().top());
 }
 
 TEST_F(QtResendBarTest, EscapeInItPressesClose) {
