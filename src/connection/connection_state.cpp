@@ -2,6 +2,7 @@
 
 #include "records/log_file.h"
 #include "shell/delivery.h"
+#include "shell/resend_bar.h"
 #include "shell/status_panel.h"
 #include "shell/welcome_card.h"
 
@@ -51,6 +52,7 @@ void ResetConnection(AppState& state, Platform& platform) {
   state.LinesWaiting = 0;
   state.LinesSaid = 0;
   ShowDelivery(state, frmMain);
+  ShowResendBar(state, platform);
   ShowWelcomeCard(state, platform);
 }
 

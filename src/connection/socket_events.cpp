@@ -109,7 +109,11 @@ void SocketEvents::sckControl_Close() {
       (wasCall ? ExplainFailedCall : ExplainFailedWait)(state_, platform_);
       return;
     }
-    if (isConversation) OfferAgain(state_, platform_);
+    if (isConversation) {
+      // If onUndelivered has told of none, there may be lines that came too late.
+      state_.Undelivered.Lose(platform_.sckControl.CurrentConnection(), 0);
+      OfferAgain(state_, platform_);
+    }
     SetStatus(status_texts::kClosedByPeer, state_.RemoteAddress, state_.RemotePort);
     if (isConversation) AddDialogueRule(state_, platform_, rule_texts::kConnectionLost);
     log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());

@@ -40,6 +40,16 @@ struct AgainBar {
   Button& cmdAgainClose;
 };
 
+// The bar above the command pane while the peer can get what was not delivered before. Escape in it
+// presses cmdResendClose.
+struct ResendBar {
+  FloatingPanel& fraResend;
+  Label& lblResend;
+  Button& cmdResend;
+  Button& cmdResendDrop;
+  Button& cmdResendClose;
+};
+
 // The bar above the command pane when another key than before has come: the conversation waits for
 // the user. It is shown even where there is little room. lblKey wraps. What is typed goes on into
 // the command pane and never answers it: its buttons are pressed by mouse, by Alt and their letter,

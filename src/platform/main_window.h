@@ -124,6 +124,7 @@ struct MainWindow {
   NewLinesButton newLines;
   WelcomeCard welcomeCard;
   AgainBar againBar;
+  ResendBar resendBar;
   KeyBar keyBar;
   // Floats beside the command pane while it has a caption, and is then the pane's description.
   Label& lblHint;
@@ -248,6 +249,7 @@ MainWindow MainWindowOf(Controls& controls) {
       .newLines = {.fraNewLines = controls.fraNewLines, .cmdNewLines = controls.cmdNewLines},
       .welcomeCard = controls.welcomeCard.View(),
       .againBar = controls.againBar.View(),
+      .resendBar = controls.resendBar.View(),
       .keyBar = controls.keyBar.View(),
       .lblHint = controls.lblHint,
       .spelling = controls.spelling,

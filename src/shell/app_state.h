@@ -14,6 +14,7 @@
 #include "shell/called_hosts.h"
 #include "shell/text_pair.h"
 #include "shell/text_style.h"
+#include "shell/undelivered.h"
 
 namespace verlume {
 
@@ -52,6 +53,8 @@ struct AppState {
   std::size_t LinesSaid = 0;       // lines of the user, sent over this connection
   bool HasCalled = false;    // this side made the call of the last conversation, or of the current
   bool OffersAgain = false;  // to call or wait again (shell/again_bar.h)
+  UndeliveredLines Undelivered;  // what they said, to be sent to the same peers later
+  bool HidesResend = false;  // the user has closed the bar that offers that, in this conversation
   std::vector<CalledHost> CalledHosts;  // newest first
   FilledPair ConnectionNote;            // why the last call or wait has failed, and what to do next
   std::vector<std::u16string> TurnedAway;  // addresses whose calls are rejected without asking

@@ -6,6 +6,7 @@
 #include "shell/language_texts.h"
 #include "shell/lines_below.h"
 #include "shell/private_texts.h"
+#include "shell/resend_bar.h"
 #include "shell/setting_names.h"
 #include "shell/settings_reader.h"
 #include "shell/status_panel.h"
@@ -23,6 +24,7 @@ void Language::ApplyLanguage() {
     for (const auto& [set, text] : PanelTexts(frmMain)) set(text.In(isGreek));
     for (const auto& [set, text] : WelcomeCardTexts(frmMain.welcomeCard)) set(text.In(isGreek));
     for (const auto& [set, text] : AgainBarTexts(frmMain.againBar)) set(text.In(isGreek));
+    for (const auto& [set, text] : ResendBarTexts(frmMain.resendBar)) set(text.In(isGreek));
     for (const auto& [set, text] : PrivateTexts(frmMain)) set(text.In(isGreek));
     for (const auto& [set, text] : PeopleWindowTexts(platform_.frmPeople)) set(text.In(isGreek));
     for (const auto& [set, text] : VerifyWindowTexts(platform_.frmVerify)) set(text.In(isGreek));
@@ -30,6 +32,7 @@ void Language::ApplyLanguage() {
     ShowDelivery(state_, frmMain);
     ShowWelcomeCard(state_, platform_);
     ShowAgainBar(state_, platform_);
+    ShowResendBar(state_, platform_);
     ShowCalledHosts(state_, platform_);
     ShowLinesBelow(state_, frmMain);
     ExplainRemoteNickname(state_, frmMain);

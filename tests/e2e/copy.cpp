@@ -74,7 +74,11 @@ Copy::Copy(const QString& nickname, bool isGreek) {
     settings.close();
   }
   program_.setProcessChannelMode(QProcess::ForwardedChannels);
-  program_.start(folder.filePath("verlume"), QStringList());
+  Restart();
+}
+
+void Copy::Restart() {
+  program_.start(folder_.filePath("verlume"), QStringList());
   WaitUntil([this] { return !(window_ = FindWindow("Verlume")).isEmpty(); });
 }
 

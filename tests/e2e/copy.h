@@ -60,6 +60,8 @@ class Copy {
   // Clicks on the close button in the window's title bar.
   void ClickCloseBox();
   void Kill();  // at once, without an orderly end
+  // Starts the program again in its folder, after its end.
+  void Restart();
   bool HasEnded() { return program_.state() == QProcess::NotRunning; }
   qint64 Process() const { return program_.processId(); }
   bool WaitForEnd() { return program_.waitForFinished(10000); }

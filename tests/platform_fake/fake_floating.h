@@ -55,6 +55,16 @@ struct FakeAgainBar {
   AgainBar View() { return {fraAgain, lblAgain, cmdAgain, cmdAgainClose}; }
 };
 
+struct FakeResendBar {
+  FakeFloatingPanel fraResend;
+  FakeLabel lblResend;
+  FakeButton cmdResend;
+  FakeButton cmdResendDrop;
+  FakeButton cmdResendClose;
+
+  ResendBar View() { return {fraResend, lblResend, cmdResend, cmdResendDrop, cmdResendClose}; }
+};
+
 struct FakeKeyBar {
   FakeFloatingPanel fraKey;
   FakeLabel lblKey;

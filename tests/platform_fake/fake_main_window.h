@@ -90,6 +90,7 @@ struct FakeMainWindow {
   FakeButton cmdNewLines;
   FakeWelcomeCard welcomeCard;
   FakeAgainBar againBar;
+  FakeResendBar resendBar;
   FakeKeyBar keyBar;
   FakeLabel lblHint;
   FakeSpellChecker spelling;

@@ -61,6 +61,7 @@ void FakeSocket::Connect() {
     const auto listener = network_.listeners_.find(remotePort_);
     if (listener == network_.listeners_.end()) return FailCall(CallFailure::Refused);
     state_ = SocketState::Connected;
+    ++connection_;
     peer_ = listener->second;
     remoteHostIP_ = peer_->localIP;
     privacy.Connected();
@@ -96,6 +97,7 @@ void FakeSocket::Accept(std::int64_t requestId) {
   remotePort_ = caller->localPort_;
   caller->peer_ = this;
   state_ = SocketState::Connected;
+  ++connection_;
   isCaller_ = false;
   hasSent_ = false;
   privacy.Begin();
@@ -140,7 +142,7 @@ void FakeSocket::Close() {
   }
   LoseWaiting();
   privacy.End();
-  if (undelivered_ > 0) {
+  if (!undelivered_.empty()) {
     network_.events_.push_back([this] {
       if (network_.sockets_.contains(this)) RaiseUndelivered();
     });
@@ -167,14 +169,18 @@ void FakeSocket::LosePeer() {
   if (onClose) onClose();
 }
 
-void FakeSocket::SendData(std::u16string_view text, TextKind kind) {
-  if (state_ != SocketState::Connected) return;
+bool FakeSocket::SendData(std::u16string_view text, TextKind kind) {
+  if (state_ != SocketState::Connected) return false;
   sent.emplace_back(text);
   const bool isFirst = !std::exchange(hasSent_, true) && !isCaller_;
   const bool isHeld = privacy.IsHeld() && !isFirst;
   const Text next{sent.back(), kind};
-  if (network_.isCut_ || isHeld) return waiting_.push_back(next);
-  Deliver(next);
+  if (network_.isCut_ || isHeld) {
+    waiting_.push_back(next);
+  } else {
+    Deliver(next);
+  }
+  return true;
 }
 
 void FakeSocket::Deliver(const Text& next) {
@@ -210,7 +216,7 @@ void FakeSocket::DeliverWaiting() {
 }
 
 void FakeSocket::LoseWaiting() {
-  undelivered_ += LinesWaiting();
+  if (const std::size_t lines = LinesWaiting(); lines > 0) undelivered_[connection_] += lines;
   waiting_.clear();
   untaken_.clear();
 }
@@ -224,8 +230,9 @@ void FakeSocket::NoteTaken() {
 }
 
 void FakeSocket::RaiseUndelivered() {
-  const std::size_t lines = std::exchange(undelivered_, 0);
-  if (lines > 0 && onUndelivered) onUndelivered(lines);
+  for (const auto& [connection, lines] : std::exchange(undelivered_, {})) {
+    if (onUndelivered) onUndelivered(lines, connection);
+  }
 }
 
 void FakeSocket::FinishSending() {

@@ -68,8 +68,9 @@ class FakeSocket : public Socket {
   void Accept(std::int64_t requestId) override;
   void Reject(std::int64_t requestId) override;
   void Close() override;
-  void SendData(std::u16string_view text, TextKind kind) override;
+  bool SendData(std::u16string_view text, TextKind kind) override;
   std::size_t LinesWaiting() const override;
+  ConnectionNumber CurrentConnection() const override { return connection_; }
   void FinishSending() override;
   std::u16string GetData() override;
   void PauseArrivals() override { arePaused_ = true; }
@@ -126,7 +127,8 @@ class FakeSocket : public Socket {
   bool hasSent_ = false;               // over this connection
   bool isCaller_ = false;
   std::deque<TextKind> untaken_;  // in private: sent, and not taken in by the peer's program
-  std::size_t undelivered_ = 0;   // lines of ended connections, not raised yet
+  std::map<ConnectionNumber, std::size_t> undelivered_;  // lines, not raised yet
+  ConnectionNumber connection_ = 0;
   std::deque<Arrival> arrivals_;
   std::u16string arrival_;
   bool arePaused_ = false;       // the arrivals

@@ -78,6 +78,11 @@ void Collect(ShownTexts& texts, const fake::FakeAgainBar& bar) {
   Collect(texts, bar.cmdAgain);
   Collect(texts, bar.cmdAgainClose);
 }
+void Collect(ShownTexts& texts, const fake::FakeResendBar& bar) {
+  Collect(texts, bar.cmdResend);
+  Collect(texts, bar.cmdResendDrop);
+  Collect(texts, bar.cmdResendClose);
+}
 void Collect(ShownTexts& texts, const fake::FakeKeyBar& bar) {
   Collect(texts, bar.cmdKeyGoOn);
   Collect(texts, bar.cmdKeyHangUp);
@@ -112,14 +117,15 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
                mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands,
                rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult,
                cmdFindClose, fraCompletions, lstCompletions, fraNewLines, cmdNewLines, welcomeCard,
-               againBar, keyBar, lblHint, spelling, cmdSend, chkBold, chkItalics, chkUnderline,
-               lblColor, lblStatus, prgStatus, lblWaiting, lblLock, fraPanel, lblCurrentDateTime,
-               lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname,
-               lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
-               lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
-               lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
-               lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
-               shpStatus, lblCopyright, picCopyright, frmMain] = mainWindow;
+               againBar, resendBar, keyBar, lblHint, spelling, cmdSend, chkBold, chkItalics,
+               chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, lblLock, fraPanel,
+               lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
+               lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
+               lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
+               lblChatDurationCaption, lblLocalPortCaption, lblLocalNicknameCaption,
+               lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
+               lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright, frmMain] =
+      mainWindow;
   (void)frmMain;
   ShownTexts texts;
   const auto collect = [&texts](const auto&... elements) { (Collect(texts, elements), ...); };
@@ -137,15 +143,15 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
           mnuPrivateNever, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
           mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote,
           fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose,
-          fraCompletions, lstCompletions, fraNewLines, cmdNewLines, welcomeCard, againBar, keyBar,
-          lblHint, spelling, cmdSend, chkBold, chkItalics, chkUnderline, lblColor, lblStatus,
-          prgStatus, lblWaiting, lblLock, fraPanel, lblCurrentDateTime, lblChatStartDateTime,
-          lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
-          lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
-          lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalPortCaption,
-          lblLocalNicknameCaption, lblRemotePortCaption, lblRemoteNicknameCaption,
-          lblBytesSentCaption, lblBytesReceivedCaption, picShape, shpStatus, lblCopyright,
-          picCopyright);
+          fraCompletions, lstCompletions, fraNewLines, cmdNewLines, welcomeCard, againBar,
+          resendBar, keyBar, lblHint, spelling, cmdSend, chkBold, chkItalics, chkUnderline,
+          lblColor, lblStatus, prgStatus, lblWaiting, lblLock, fraPanel, lblCurrentDateTime,
+          lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname,
+          lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
+          lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
+          lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
+          lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
+          shpStatus, lblCopyright, picCopyright);
   return texts;
 }
 

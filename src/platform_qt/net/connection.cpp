@@ -20,10 +20,11 @@ constexpr std::chrono::seconds kClosingLimit = Connection::kSendingLimit + std::
 }  // namespace
 
 Connection::Connection(QTcpSocket* socket, QThread& network, std::chrono::milliseconds timeout,
-                       Events events, PrivacyTerms terms)
+                       Events events, PrivacyTerms terms, ConnectionNumber number)
     : timeout_(timeout),
       events_(std::move(events)),
       terms_(std::move(terms)),
+      number_(number),
       isOpen_(socket->state() == QAbstractSocket::ConnectedState),
       isAdmitted_(terms_.offer == PrivacyOffer::Never),
       socket_(socket),

@@ -11,6 +11,7 @@
 #include "platform_qt/windows/find_bar.h"
 #include "platform_qt/windows/key_bar.h"
 #include "platform_qt/windows/main_window_form.h"
+#include "platform_qt/windows/resend_bar.h"
 #include "platform_qt/windows/welcome_card.h"
 #include "platform_qt/windows/window.h"
 
@@ -121,6 +122,7 @@ class QtMainWindow {
 
   QtWelcomeCard welcomeCard{form_.centralWidget()};
   QtAgainBar againBar{form_.centralWidget()};
+  QtResendBar resendBar{form_.centralWidget()};
   QtKeyBar keyBar{form_.centralWidget()};
 
   QtButton cmdSend{form_.Find<QPushButton>("cmdSend")};

@@ -50,6 +50,7 @@ Program::Program(Platform& platform)
                    .statusPanel = statusPanel_,
                    .wire = wire_}),
       peerGate_(state_, platform, errors_, people_, wire_, [this] { connection_.HangUp(); }),
+      resend_(state_, platform, wire_, dialogue_),
       privateMenu_(state_, platform, errors_, settings_),
       peopleList_(state_, platform, errors_, people_),
       verification_(state_, platform, errors_, people_),
@@ -290,6 +291,10 @@ void Program::BindFloating() {
   card.cmdCardHelp.onClick = click(frmMain.mnuHelpDetailed);
   On(frmMain.againBar.cmdAgain.onClick, connection_, &ConnectionActions::cmdAgain_Click);
   On(frmMain.againBar.cmdAgainClose.onClick, connection_, &ConnectionActions::cmdAgainClose_Click);
+  const ResendBar& resend = frmMain.resendBar;
+  On(resend.cmdResend.onClick, resend_, &Resend::cmdResend_Click);
+  On(resend.cmdResendDrop.onClick, resend_, &Resend::cmdResendDrop_Click);
+  On(resend.cmdResendClose.onClick, resend_, &Resend::cmdResendClose_Click);
 }
 
 void Program::BindSocket() {

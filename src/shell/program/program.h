@@ -15,6 +15,7 @@
 #include "connection/connection_state.h"
 #include "connection/peer_gate.h"
 #include "connection/private_menu.h"
+#include "connection/resend.h"
 #include "connection/socket_events.h"
 #include "connection/wire_protocol.h"
 #include "macros/macro_editor.h"
@@ -90,6 +91,7 @@ class Program {
   WireProtocol wire_;
   ConnectionActions connection_;
   PeerGate peerGate_;
+  Resend resend_;
   PrivateMenuChoice privateMenu_;
   PeopleList peopleList_;
   Verification verification_;
