@@ -8,8 +8,10 @@
 #include "platform/links.h"
 #include "platform/macro_window.h"
 #include "platform/main_window.h"
+#include "platform/network.h"
 #include "platform/people_window.h"
 #include "platform/privacy.h"
+#include "platform/router.h"
 #include "platform/socket.h"
 #include "platform/system.h"
 #include "platform/verify_window.h"
@@ -24,6 +26,8 @@ struct Platform {
   VerifyWindow& frmVerify;
   Socket& sckControl;
   PeerPrivacy& privacy;
+  Router& router;
+  Network& network;
   Dialogs& dialogs;
   CommonDialog& dlgControl;
   FileSystem& files;

@@ -23,6 +23,8 @@ QtPlatform::QtPlatform()
           .frmVerify = verify_.View(),
           .sckControl = socket_,
           .privacy = socket_.ConnectionPrivacy(),
+          .router = router_,
+          .network = network_,
           .dialogs = dialogs_,
           .dlgControl = commonDialog_,
           .files = files_,

@@ -79,6 +79,8 @@ class AssistiveToolsTest : public testing::Test {
                     .frmVerify = fake.verify.frmVerify,
                     .sckControl = fake.socket,
                     .privacy = fake.socket.privacy,
+                    .router = fake.router,
+                    .network = fake.addresses,
                     .dialogs = fake.dialogs,
                     .dlgControl = fake.commonDialog,
                     .files = fake.files,

@@ -127,6 +127,8 @@ class CallersFixture : public testing::Test {
                        fake.verify.frmVerify,
                        socket,
                        fake.socket.privacy,
+                       fake.router,
+                       fake.addresses,
                        fake.dialogs,
                        fake.commonDialog,
                        fake.files,

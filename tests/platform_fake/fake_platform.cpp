@@ -14,6 +14,8 @@ FakePlatform::FakePlatform(FakeNetwork& network)
           .frmVerify = verify.frmVerify,
           .sckControl = socket,
           .privacy = socket.privacy,
+          .router = router,
+          .network = addresses,
           .dialogs = dialogs,
           .dlgControl = commonDialog,
           .files = files,

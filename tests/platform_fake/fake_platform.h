@@ -9,6 +9,7 @@
 #include "platform_fake/fake_macro_window.h"
 #include "platform_fake/fake_main_window.h"
 #include "platform_fake/fake_people_window.h"
+#include "platform_fake/fake_router.h"
 #include "platform_fake/fake_socket.h"
 #include "platform_fake/fake_system.h"
 #include "platform_fake/fake_verify_window.h"
@@ -27,6 +28,8 @@ struct FakePlatform {
   FakePeopleWindow people;
   FakeVerifyWindow verify;
   FakeSocket socket;
+  FakeRouter router;
+  FakeAddresses addresses;
   FakeDialogs dialogs;
   FakeCommonDialog commonDialog;
   FakeClock clock;
