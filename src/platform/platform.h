@@ -10,6 +10,7 @@
 #include "platform/main_window.h"
 #include "platform/people_window.h"
 #include "platform/privacy.h"
+#include "platform/reach_window.h"
 #include "platform/socket.h"
 #include "platform/system.h"
 #include "platform/verify_window.h"
@@ -22,6 +23,7 @@ struct Platform {
   MacroWindow& frmMacros;
   PeopleWindow& frmPeople;
   VerifyWindow& frmVerify;
+  ReachWindow& frmReach;
   Socket& sckControl;
   PeerPrivacy& privacy;
   Dialogs& dialogs;
