@@ -77,6 +77,8 @@ struct MainWindow {
   MenuEntry& mnuCommInvite;
   MenuEntry& mnuCommVerify;
   MenuEntry& mnuCommPeople;
+  MenuEntry& mnuCommReach;
+  MenuEntry& mnuCommAskRouter;
 
   Menu& mnuFormat;
   MenuEntry& mnuFormatFontBold;
@@ -125,6 +127,7 @@ struct MainWindow {
   WelcomeCard welcomeCard;
   AgainBar againBar;
   KeyBar keyBar;
+  RouterBar routerBar;
   // Floats beside the command pane while it has a caption, and is then the pane's description.
   Label& lblHint;
   SpellChecker& spelling;  // of the command pane
@@ -193,6 +196,8 @@ MainWindow MainWindowOf(Controls& controls) {
       .mnuCommInvite = controls.mnuCommInvite,
       .mnuCommVerify = controls.mnuCommVerify,
       .mnuCommPeople = controls.mnuCommPeople,
+      .mnuCommReach = controls.mnuCommReach,
+      .mnuCommAskRouter = controls.mnuCommAskRouter,
       .mnuFormat = controls.mnuFormat,
       .mnuFormatFontBold = controls.mnuFormatFontBold,
       .mnuFormatFontItalics = controls.mnuFormatFontItalics,
@@ -249,6 +254,7 @@ MainWindow MainWindowOf(Controls& controls) {
       .welcomeCard = controls.welcomeCard.View(),
       .againBar = controls.againBar.View(),
       .keyBar = controls.keyBar.View(),
+      .routerBar = controls.routerBar.View(),
       .lblHint = controls.lblHint,
       .spelling = controls.spelling,
       .cmdSend = controls.cmdSend,

@@ -11,6 +11,7 @@
 #include "platform/network.h"
 #include "platform/people_window.h"
 #include "platform/privacy.h"
+#include "platform/reach_window.h"
 #include "platform/router.h"
 #include "platform/socket.h"
 #include "platform/system.h"
@@ -24,6 +25,7 @@ struct Platform {
   MacroWindow& frmMacros;
   PeopleWindow& frmPeople;
   VerifyWindow& frmVerify;
+  ReachWindow& frmReach;
   Socket& sckControl;
   PeerPrivacy& privacy;
   Router& router;

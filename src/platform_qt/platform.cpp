@@ -21,6 +21,7 @@ QtPlatform::QtPlatform()
           .frmMacros = macros_.View(),
           .frmPeople = people_.View(),
           .frmVerify = verify_.View(),
+          .frmReach = reach_.View(),
           .sckControl = socket_,
           .privacy = socket_.ConnectionPrivacy(),
           .router = router_,

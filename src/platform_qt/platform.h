@@ -18,6 +18,7 @@
 #include "platform_qt/windows/macro_window.h"
 #include "platform_qt/windows/main_window.h"
 #include "platform_qt/windows/people_window.h"
+#include "platform_qt/windows/reach_window.h"
 #include "platform_qt/windows/verify_window.h"
 #include "platform_qt/windows/window_memory.h"
 
@@ -54,6 +55,7 @@ class QtPlatform {
   QtMacroWindow macros_{&window_.form(), files_};
   QtPeopleWindow people_{&window_.form()};
   QtVerifyWindow verify_{&window_.form()};
+  QtReachWindow reach_{&window_.form()};
   QtWindowMemory windowMemory_{
       &window_.form(), window_.View(),
       QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};

@@ -77,6 +77,7 @@ class AssistiveToolsTest : public testing::Test {
                     .frmMacros = fake.macros.frmMacros,
                     .frmPeople = fake.people.frmPeople,
                     .frmVerify = fake.verify.frmVerify,
+                    .frmReach = fake.reach.frmReach,
                     .sckControl = fake.socket,
                     .privacy = fake.socket.privacy,
                     .router = fake.router,

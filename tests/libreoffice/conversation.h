@@ -50,6 +50,7 @@ class Conversation {
                         fakes_.macros.frmMacros,
                         fakes_.people.frmPeople,
                         fakes_.verify.frmVerify,
+                        fakes_.reach.frmReach,
                         fakes_.socket,
                         fakes_.socket.privacy,
                         fakes_.dialogs,

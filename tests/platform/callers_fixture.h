@@ -125,6 +125,7 @@ class CallersFixture : public testing::Test {
                        fake.macros.frmMacros,
                        fake.people.frmPeople,
                        fake.verify.frmVerify,
+                       fake.reach.frmReach,
                        socket,
                        fake.socket.privacy,
                        fake.router,

@@ -34,6 +34,8 @@ struct FakeMainWindow {
   FakeMenuEntry mnuCommInvite;
   FakeMenuEntry mnuCommVerify;
   FakeMenuEntry mnuCommPeople;
+  FakeMenuEntry mnuCommReach;
+  FakeMenuEntry mnuCommAskRouter;
   FakeMenu mnuFormat;
   FakeMenuEntry mnuFormatFontBold;
   FakeMenuEntry mnuFormatFontItalics;
@@ -91,6 +93,7 @@ struct FakeMainWindow {
   FakeWelcomeCard welcomeCard;
   FakeAgainBar againBar;
   FakeKeyBar keyBar;
+  FakeRouterBar routerBar;
   FakeLabel lblHint;
   FakeSpellChecker spelling;
   FakeButton cmdSend;

@@ -12,6 +12,7 @@ FakePlatform::FakePlatform(FakeNetwork& network)
           .frmMacros = macros.frmMacros,
           .frmPeople = people.frmPeople,
           .frmVerify = verify.frmVerify,
+          .frmReach = reach.frmReach,
           .sckControl = socket,
           .privacy = socket.privacy,
           .router = router,

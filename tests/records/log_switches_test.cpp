@@ -120,6 +120,7 @@ TEST_F(LogFolderTest, ConversationThatBeginsDuringTheDialogKeepsItsFolder) {
                        fake.macros.frmMacros,
                        fake.people.frmPeople,
                        fake.verify.frmVerify,
+                       fake.reach.frmReach,
                        fake.socket,
                        fake.socket.privacy,
                        fake.dialogs,

@@ -18,6 +18,8 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   form_.PlacePane(rtbCommands.widget(), "rtbCommands");
   againBar.frame->Follow(rtbCommands.widget());
   keyBar.frame->Follow(rtbCommands.widget());
+  routerBar.frame->Follow(rtbCommands.widget());
+  routerBar.frame->StayBelow(keyBar.frame);
   form_.PlaceCompletionList(rtbCommands.widget());
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
   rtbRemote.widget()->hide();
@@ -40,6 +42,9 @@ QtMainWindow::QtMainWindow(FileSystem& files)
       chkBold.widget(),
       chkItalics.widget(),
       chkUnderline.widget(),
+      routerBar.cmdRouterYes.widget(),
+      routerBar.cmdRouterNo.widget(),
+      routerBar.cmdRouterClose.widget(),
       keyBar.cmdKeyGoOn.widget(),
       keyBar.cmdKeyHangUp.widget(),
       rtbCommands.widget(),

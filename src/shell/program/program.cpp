@@ -92,6 +92,7 @@ Program::Program(Platform& platform)
   BindContextHelp(platform.frmMain);
   BindContextHelp(platform.frmPeople);
   BindContextHelp(platform.frmVerify);
+  BindContextHelp(platform.frmReach);
 }
 
 Program::~Program() = default;

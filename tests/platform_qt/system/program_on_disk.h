@@ -105,6 +105,7 @@ class BasicProgramOnDisk {
   fake::FakeMacroWindow macros{disk};
   fake::FakePeopleWindow people;
   fake::FakeVerifyWindow verify;
+  fake::FakeReachWindow reach;
   fake::FakeSocket socket;
   fake::FakeDialogs dialogs;
   fake::FakeCommonDialog commonDialog;
@@ -121,6 +122,7 @@ class BasicProgramOnDisk {
                        macros.frmMacros,
                        people.frmPeople,
                        verify.frmVerify,
+                       reach.frmReach,
                        socket,
                        socket.privacy,
                        dialogs,

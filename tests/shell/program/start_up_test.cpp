@@ -198,6 +198,7 @@ TEST_F(StartUpTest, ALongHostNameIsCutToANickname) {
                     fake.macros.frmMacros,
                     fake.people.frmPeople,
                     fake.verify.frmVerify,
+                    fake.reach.frmReach,
                     socket,
                     socket.privacy,
                     fake.dialogs,
