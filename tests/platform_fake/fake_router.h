@@ -17,7 +17,7 @@ class FakeRouter : public Router {
   void MapPort(std::int32_t port) override {
     asked.push_back(port);
     port_ = port;
-    for (auto& [language, report] : reports_) report.state = RouterState::Asking;
+    for (auto& [language, report] : reports_) report = {RouterState::Asking, u"", 0, u""};
   }
   void AskAddress() override {
     if (port_ == 0) ++timesAskedForAddress;

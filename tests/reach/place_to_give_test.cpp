@@ -4,6 +4,8 @@
 
 #include <ostream>
 
+#include "reach/reach_samples.h"
+
 namespace verlume {
 
 void PrintTo(const PlaceToCall& place, std::ostream* out) {
@@ -12,14 +14,8 @@ void PrintTo(const PlaceToCall& place, std::ostream* out) {
 
 namespace {
 
-const NetworkAddress kLoopback = {u"127.0.0.1", u"lo"};
-const NetworkAddress kPrivate = {u"192.168.1.5", u"eth0"};
-const NetworkAddress kPublic = {u"81.2.69.142", u"eth0"};
-const NetworkAddress kGlobal = {u"2a02:587::1", u"eth0"};
-const NetworkAddress kTemporary = {u"2a02:587::77", u"eth0", true};
-const NetworkAddress kUnique = {u"fd00::1", u"eth0"};
-const NetworkAddress kLinkLocal = {u"fe80::1", u"eth0"};
-const NetworkAddress kTunnel = {u"2002:5102:458e::1", u"sit0"};
+using namespace samples;
+
 const RouterVerdict kPasses = {.finding = RouterFinding::Passes, .place = {u"81.2.69.160", 4001}};
 
 PlaceToCall Place(const std::vector<NetworkAddress>& addresses, const RouterVerdict& router = {},

@@ -4,6 +4,8 @@
 
 #include <ostream>
 
+#include "reach/reach_samples.h"
+
 namespace verlume {
 
 void PrintTo(const RouterVerdict& verdict, std::ostream* out) {
@@ -15,13 +17,8 @@ namespace {
 
 using enum RouterFinding;
 
-RouterReport Mapped(std::u16string_view address, std::int32_t port) {
-  return {RouterState::Mapped, std::u16string(address), port, u""};
-}
-
-RouterReport In(RouterState state, std::u16string_view reason = {}) {
-  return {state, u"", 0, std::u16string(reason)};
-}
+using samples::In;
+using samples::Mapped;
 
 RouterVerdict Both(const RouterReport& upnp, const RouterReport& natPmp) {
   return VerdictOn(upnp, natPmp, 4000);
