@@ -37,6 +37,10 @@ constexpr TextPair kGiveIPv6 = {
     u"Δώστε στην άλλη πλευρά την παρακάτω διεύθυνση ή μια πρόσκληση. Χρειάζεται και εκείνη IPv6. "
     u"Αν η κλήση δεν φτάνει, επιτρέψτε στις ρυθμίσεις του δρομολογητή τις κλήσεις IPv6 προς τη "
     u"θύρα TCP %1."};
+// %1 and %2 the place at which the router passes calls on
+constexpr TextPair kOrByIPv4 = {
+    u" Who has no IPv6 can call %1, port %2.",
+    u" Όποιος δεν έχει IPv6 μπορεί να καλέσει τη διεύθυνση %1, θύρα %2."};
 constexpr TextPair kWaitOnAnotherPort = {
     u"Cancel, and wait on another port: callers cannot name the one that the router has given.",
     u"Ακυρώστε και περιμένετε σε άλλη θύρα: όσοι καλούν δεν μπορούν να ορίσουν αυτήν που έδωσε ο "
@@ -148,10 +152,15 @@ Advice AdviceOn(const ReachFacts& facts) {
 std::u16string AdviceText(const ReachFacts& facts, bool isGreek) {
   const Firewall* firewall = FirewallOn(facts.firewalls);
   const std::u16string name = firewall ? ShownWords(firewall->name) : std::u16string();
-  return TextOf(AdviceOn(facts))
-      .Fill(isGreek,
-            {DecimalText(facts.port), AddressBehindRouter(facts), facts.router.place.host, name,
-             firewall ? HowToOpen(firewall->name, facts.port, isGreek) : std::u16string()});
+  const Advice advice = AdviceOn(facts);
+  std::u16string text = TextOf(advice).Fill(
+      isGreek, {DecimalText(facts.port), AddressBehindRouter(facts), facts.router.place.host, name,
+                firewall ? HowToOpen(firewall->name, facts.port, isGreek) : std::u16string()});
+  const PlaceToCall& passed = facts.router.place;
+  if (advice == Advice::GiveIPv6 && facts.router.finding == RouterFinding::Passes) {
+    text += kOrByIPv4.Fill(isGreek, {passed.host, DecimalText(passed.port)});
+  }
+  return text;
 }
 
 }  // namespace verlume

@@ -31,6 +31,11 @@ RouterFinding FindingAt(const RouterReport& report) {
   }
 }
 
+// It was asked for nothing else.
+bool HasToldAddress(const RouterReport& report) {
+  return report.state == RouterState::NotAsked && !report.outerAddress.empty();
+}
+
 bool HasPlace(const RouterVerdict& verdict) {
   return !verdict.place.host.empty();
 }
@@ -69,6 +74,7 @@ RouterVerdict VerdictOn(const RouterReport& report) {
 }
 
 RouterVerdict VerdictOn(const RouterReport& upnp, const RouterReport& natPmp, std::int32_t asked) {
+  if (asked == 0 && (HasToldAddress(upnp) || HasToldAddress(natPmp))) return {};
   const RouterVerdict one = VerdictOn(upnp);
   const RouterVerdict other = VerdictOn(natPmp);
   if (HasPlace(one) && HasPlace(other)) {

@@ -39,7 +39,8 @@ struct RouterVerdict {
 
 RouterVerdict VerdictOn(const RouterReport& report);
 
-// What both languages say together. Of two ports at one address, the one that was asked for.
+// What both languages say together. Of two ports at one address, the one that was asked for. If no
+// port was asked for (0), an answer in one language is enough: NotAsked.
 RouterVerdict VerdictOn(const RouterReport& upnp, const RouterReport& natPmp, std::int32_t asked);
 RouterVerdict VerdictOn(const Router& router);
 

@@ -20,7 +20,9 @@ class FakeRouter : public Router {
     for (auto& [language, report] : reports_) report = {RouterState::Asking, u"", 0, u""};
   }
   void AskAddress() override {
-    if (port_ == 0) ++timesAskedForAddress;
+    if (port_ != 0) return;
+    ++timesAskedForAddress;
+    for (auto& [language, report] : reports_) report = {RouterState::Asking, u"", 0, u""};
   }
   void Release() override {
     if (port_ != 0) ++timesReleased;

@@ -111,6 +111,15 @@ TEST(AdviceTest, ForwardingNamesPortAndAddress) {
             std::u16string::npos);
 }
 
+TEST(AdviceTest, BesidesIPv6TheRouterMayPassCallsOn) {
+  ReachFacts facts = WaitingAt(kGlobal);
+  EXPECT_EQ(AdviceText(facts, false).find(u"81.2.69.160"), std::u16string::npos);
+  facts.router = {.finding = RouterFinding::Passes, .place = {kOuter, 4001}};
+  EXPECT_TRUE(AdviceText(facts, false)
+                  .ends_with(u"Who has no IPv6 can call 81.2.69.160, port "
+                             u"4001."));
+}
+
 TEST(AdviceTest, TheFirewallIsOpenedByACommand) {
   EXPECT_EQ(AdviceText(WithFirewall(WaitingAt(kGlobal)), false),
             u"Open TCP port 4000 in the firewall ufw. In a terminal: sudo ufw allow 4000/tcp");

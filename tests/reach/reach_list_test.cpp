@@ -119,6 +119,7 @@ TEST_F(ReachListTest, OnceAllowedTheRouterIsAskedForItsAddress) {
   Allow();
   Open([this] {
     EXPECT_EQ(router.timesAskedForAddress, 1);
+    EXPECT_EQ(window.lblReachRouter.caption, u"It is being asked…");
     RouterReport report = In(RouterState::NotAsked);
     report.outerAddress = u"100.64.0.7";
     router.Say(RouterLanguage::Upnp, report);

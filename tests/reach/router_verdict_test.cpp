@@ -82,6 +82,16 @@ TEST(RouterVerdictTest, WhileOneIsStillAskedARefusalIsNotTheLastWord) {
   EXPECT_EQ(Both(In(RouterState::NotAsked), In(RouterState::Silent)).finding, Silent);
 }
 
+TEST(RouterVerdictTest, OneToldAddressIsEnoughWhenNoPortIsAskedFor) {
+  RouterReport told = In(RouterState::NotAsked);
+  told.outerAddress = u"81.2.69.160";
+  for (const RouterState other : {RouterState::Asking, RouterState::Silent}) {
+    EXPECT_EQ(VerdictOn(told, In(other), 0).finding, NotAsked);
+    EXPECT_EQ(VerdictOn(In(other), told, 0).finding, NotAsked);
+    EXPECT_NE(VerdictOn(told, In(other), 4000).finding, NotAsked);
+  }
+}
+
 TEST(RouterVerdictTest, OfTwoPortsTheOneThatWasAskedFor) {
   const RouterReport same = Mapped(u"81.2.69.160", 4000);
   const RouterReport another = Mapped(u"81.2.69.160", 4001);
