@@ -24,6 +24,8 @@ QtPlatform::QtPlatform()
           .frmReach = reach_.View(),
           .sckControl = socket_,
           .privacy = socket_.ConnectionPrivacy(),
+          .router = router_,
+          .network = network_,
           .dialogs = dialogs_,
           .dlgControl = commonDialog_,
           .files = files_,

@@ -9,6 +9,7 @@
 #include "platform_qt/dialogs/dialogs.h"
 #include "platform_qt/help/help_viewer.h"
 #include "platform_qt/net/socket.h"
+#include "platform_qt/router_stand_in.h"
 #include "platform_qt/system/clipboard.h"
 #include "platform_qt/system/file_system.h"
 #include "platform_qt/system/link_opener.h"
@@ -60,6 +61,8 @@ class QtPlatform {
       QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};
   QtSocket socket_{stream::ArrivalAssembler::kTimeout,
                    QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.key").toStdString()};
+  RouterStandIn router_;
+  NetworkStandIn network_;
   QtDialogs dialogs_{&window_.form()};
   QtCommonDialog commonDialog_{&window_.form()};
   QtAttention attention_{&window_.form()};

@@ -80,6 +80,8 @@ class AssistiveToolsTest : public testing::Test {
                     .frmReach = fake.reach.frmReach,
                     .sckControl = fake.socket,
                     .privacy = fake.socket.privacy,
+                    .router = fake.router,
+                    .network = fake.addresses,
                     .dialogs = fake.dialogs,
                     .dlgControl = fake.commonDialog,
                     .files = fake.files,

@@ -53,6 +53,8 @@ class Conversation {
                         fakes_.reach.frmReach,
                         fakes_.socket,
                         fakes_.socket.privacy,
+                        fakes_.router,
+                        fakes_.addresses,
                         fakes_.dialogs,
                         fakes_.commonDialog,
                         fakes_.files,

@@ -128,6 +128,8 @@ class CallersFixture : public testing::Test {
                        fake.reach.frmReach,
                        socket,
                        fake.socket.privacy,
+                       fake.router,
+                       fake.addresses,
                        fake.dialogs,
                        fake.commonDialog,
                        fake.files,

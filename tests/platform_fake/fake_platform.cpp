@@ -15,6 +15,8 @@ FakePlatform::FakePlatform(FakeNetwork& network)
           .frmReach = reach.frmReach,
           .sckControl = socket,
           .privacy = socket.privacy,
+          .router = router,
+          .network = addresses,
           .dialogs = dialogs,
           .dlgControl = commonDialog,
           .files = files,
