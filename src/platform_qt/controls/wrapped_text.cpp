@@ -32,12 +32,31 @@ WrappedText::WrappedText(QWidget* parent) : QTextEdit(parent) {
   setSizePolicy(policy);
 }
 
-int WrappedText::heightForWidth(int width) const {
+void WrappedText::ShowText(const QString& text) {
+  if (text == toPlainText()) return;
+  setPlainText(text);
+  AllowScrollBar();
+  updateGeometry();
+}
+
+int WrappedText::HeightOfAll(int width) const {
   const std::unique_ptr<QTextDocument> measured(document()->clone());
   measured->setTextWidth(width);
-  const int needed = static_cast<int>(std::ceil(measured->size().height()));
-  const int line = fontMetrics().lineSpacing();
-  return std::clamp(needed, line, line * kMostLines);
+  return static_cast<int>(std::ceil(measured->size().height()));
+}
+
+int WrappedText::heightForWidth(int width) const {
+  return std::clamp(HeightOfAll(width), fontMetrics().lineSpacing(), MostHeight());
+}
+
+void WrappedText::resizeEvent(QResizeEvent* event) {
+  AllowScrollBar();
+  QTextEdit::resizeEvent(event);
+}
+
+void WrappedText::AllowScrollBar() {
+  const bool isNeeded = HeightOfAll(width()) > MostHeight();
+  setVerticalScrollBarPolicy(isNeeded ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
 }
 
 QSize WrappedText::sizeHint() const {
@@ -50,10 +69,7 @@ QSize WrappedText::minimumSizeHint() const {
 }
 
 void QtWrappedText::SetCaption(std::u16string_view text) {
-  const QString caption = ToQt(text);
-  if (caption == widget_->toPlainText()) return;
-  widget_->setPlainText(caption);
-  widget_->updateGeometry();
+  widget_->ShowText(ToQt(text));
 }
 
 void QtWrappedText::SetBackColor(Color color) {

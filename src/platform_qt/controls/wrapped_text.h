@@ -15,10 +15,23 @@ class WrappedText : public QTextEdit {
 
   explicit WrappedText(QWidget* parent);
 
+  // Does nothing if it is shown already: what is selected stays so.
+  void ShowText(const QString& text);
+
   bool hasHeightForWidth() const override { return true; }
   int heightForWidth(int width) const override;
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  int HeightOfAll(int width) const;
+  int MostHeight() const { return fontMetrics().lineSpacing() * kMostLines; }
+  // A scroll bar that came while the height is still another would take the room of words, which
+  // would then need it.
+  void AllowScrollBar();
 };
 
 class QtWrappedText : public QtControl<Label, WrappedText> {
