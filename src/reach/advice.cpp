@@ -110,7 +110,7 @@ bool IsOnlyOnProvidersNetwork(const std::vector<NetworkAddress>& addresses) {
 }
 
 // Somebody can come as far as to this computer.
-Advice AdviceAtTheDoor(const ReachFacts& facts) {
+Advice AdviceWhenReached(const ReachFacts& facts) {
   if (FirewallOn(facts.firewalls)) return Advice::OpenFirewall;
   const auto address = IpAddressIn(facts.place.host);
   return address && !IsIPv4(*address) ? Advice::GiveIPv6 : Advice::GivePlace;
@@ -122,7 +122,7 @@ Advice AdviceOnRouter(const ReachFacts& facts) {
     case RouterFinding::Asking:
       return Advice::WaitForRouter;
     case RouterFinding::Passes:
-      return AdviceAtTheDoor(facts);
+      return AdviceWhenReached(facts);
     case RouterFinding::PassesHighPort:
       return Advice::WaitOnAnotherPort;
     case RouterFinding::BehindProvider:
@@ -144,7 +144,7 @@ Advice AdviceOn(const ReachFacts& facts) {
   const auto isGiven = [&facts](const NetworkAddress& each) {
     return each.text == facts.place.host && ScopeOf(each.text) == AddressScope::Anyone;
   };
-  if (std::ranges::any_of(facts.addresses, isGiven)) return AdviceAtTheDoor(facts);
+  if (std::ranges::any_of(facts.addresses, isGiven)) return AdviceWhenReached(facts);
   if (IsOnlyOnProvidersNetwork(facts.addresses)) return Advice::OtherSideWaits;
   return facts.choice == RouterChoice::Yes ? AdviceOnRouter(facts) : Advice::AllowRouter;
 }

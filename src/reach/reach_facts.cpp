@@ -35,10 +35,11 @@ ReachFacts FactsOf(const AppState& state, const Platform& platform,
 }
 
 bool IsOnNetwork(const std::vector<NetworkAddress>& addresses) {
+  // Every interface that is up has an IPv6 address of its link; an IPv4 one can be called.
   return std::ranges::any_of(addresses, [](const NetworkAddress& each) {
-    const AddressScope scope = ScopeOf(each.text);
-    return scope != AddressScope::NoAddress && scope != AddressScope::ThisComputer &&
-           scope != AddressScope::ThisLink;
+    const auto address = IpAddressIn(each.text);
+    if (!address || ScopeOf(*address) == AddressScope::ThisComputer) return false;
+    return IsIPv4(*address) || ScopeOf(*address) != AddressScope::ThisLink;
   });
 }
 

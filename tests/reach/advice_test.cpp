@@ -45,6 +45,8 @@ TEST(AdviceTest, EachCaseHasOne) {
   using enum RouterFinding;
   ReachFacts offline = Waiting(Passes);
   offline.addresses = {kLoopback, kLinkLocal};
+  ReachFacts onCable = Waiting(Asking);
+  onCable.addresses = {kLoopback, {u"169.254.7.7", u"eth0"}};
   ReachFacts idle = Waiting(NotAsked);
   idle.isListening = false;
   ReachFacts talking = idle;
@@ -62,6 +64,7 @@ TEST(AdviceTest, EachCaseHasOne) {
     Advice advice;
   } const samples[] = {
       {"offline", offline, Advice::FindNetwork},
+      {"on a cable", onCable, Advice::WaitForRouter},
       {"talking", talking, Advice::EndConversation},
       {"idle", idle, Advice::WaitFirst},
       {"idle, with firewall", WithFirewall(idle), Advice::WaitFirst},

@@ -71,8 +71,8 @@ TEST_F(ReachListTest, WhileWaitingTheAddressAndTheInvitationCanBeCopied) {
 }
 
 TEST_F(ReachListTest, WithoutPrivateConversationsThereIsNoInvitation) {
-  ann.platform.window.mnuPrivateNever.Click();
   Wait();
+  ann.platform.window.mnuPrivateNever.Click();
   Open([this] {
     EXPECT_TRUE(window.cmdReachCopyAddress.enabled);
     EXPECT_FALSE(window.cmdReachCopyInvitation.enabled);
