@@ -11,7 +11,7 @@
 namespace verlume {
 
 // From the best, of what is known while a call is waited for at `port`: an IPv6 address that anyone
-// can reach, such an IPv4 address, what the router passes on, `ownAddress`, which the socket names.
+// can reach, such an IPv4 address, what the router passes on, `ownAddress`, which the panel shows.
 // A temporary address is given only if there is no other.
 PlaceToCall PlaceToGive(const std::vector<NetworkAddress>& addresses, const RouterVerdict& router,
                         std::u16string_view ownAddress, std::int32_t port);

@@ -73,7 +73,7 @@ void PortKeeper::ShowState() {
 void PortKeeper::ShowPlace() {
   if (state_.IsWaiting) {
     state_.Place = PlaceToGive(platform_.network.Addresses(), VerdictOn(platform_.router),
-                               platform_.sckControl.LocalIP(), state_.LocalPort);
+                               state_.LocalAddress, state_.LocalPort);
   }
   ShowOuterAddress(state_, platform_);
   ShowWelcomeCard(state_, platform_);

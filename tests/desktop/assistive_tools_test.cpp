@@ -129,6 +129,7 @@ TEST_F(AssistiveToolsTest, AnotherValueIsToldOnce) {
 }
 
 TEST_F(AssistiveToolsTest, StateChangesAndThePeersLinesAreReadOutOnce) {
+  window.View().mnuCommAskRouter.Click();  // else the wait asks whether it may
   Enter(u"/WAIT 4000");
   Tick();
   fake.dialogs.answers.push_back(Answer::Yes);
