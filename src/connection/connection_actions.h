@@ -19,6 +19,7 @@
 #include "connection/wire_protocol.h"
 #include "people/invitation.h"
 #include "platform/platform.h"
+#include "reach/port_keeper.h"
 #include "records/dialogue_log.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
@@ -36,6 +37,7 @@ class ConnectionActions {
     DialogueLog& log;
     StatusPanel& statusPanel;
     WireProtocol& wire;
+    PortKeeper& port;
   };
 
   ConnectionActions(AppState& state, Platform& platform, ErrorReport& errors,

@@ -1,5 +1,6 @@
 #include "connection/connection_state.h"
 
+#include "reach/port_keeper.h"
 #include "records/log_file.h"
 #include "shell/delivery.h"
 #include "shell/resend_bar.h"
@@ -44,6 +45,7 @@ void ResetConnection(AppState& state, Platform& platform) {
   frmMain.lblRemotePort.SetCaption(u"");
   ShowLamp(state, frmMain);
   platform.sckControl.Close();
+  EndBeingCalled(state, platform);
   if (state.PeerStops) platform.sckControl.ResumeArrivals();
   EndStop(state, platform);
   frmMain.lblLock.SetCaption(u"");

@@ -15,8 +15,7 @@ void ConnectionActions::mnuCommInvite_Click() {
     const bool isListening = StateOf(state_) == ConnectionState::Waiting &&
                              platform_.sckControl.State() == SocketState::Listening;
     if (!key || !isListening) return tell(In(texts::kWaitFirst));
-    const std::u16string text =
-        InvitationText({state_.LocalAddress, platform_.sckControl.LocalPort(), *key});
+    const std::u16string text = InvitationText({state_.Place.host, state_.Place.port, *key});
     platform_.clipboard.SetText(text);
     tell(texts::kCopied.Fill(state_.IsGreek, {text}));
   });

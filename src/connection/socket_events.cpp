@@ -8,6 +8,7 @@
 #include "connection/connection_texts.h"
 #include "connection/rule_texts.h"
 #include "connection/status_texts.h"
+#include "reach/router_bar.h"
 #include "shell/again_bar.h"
 #include "shell/delivery.h"
 #include "shell/dialogue_rule.h"
@@ -44,6 +45,7 @@ void SocketEvents::AcceptCaller(std::int64_t requestId) {
   platform_.sckControl.Close();
   ForgetRemoteNickname();
   platform_.sckControl.Accept(requestId);
+  WithdrawRouterBar(state_, platform_);
   ShowWelcomeCard(state_, platform_);
   isSilent_ = true;
   silence_ = 0;

@@ -61,4 +61,15 @@ struct KeyBar {
   Button& cmdKeyHangUp;  // the default button
 };
 
+// The bar above the command pane that asks whether the router may be asked to pass calls on.
+// lblRouter wraps. The bar takes no focus, and keyBar goes before it. Escape in it presses
+// cmdRouterClose.
+struct RouterBar {
+  FloatingPanel& fraRouter;
+  Label& lblRouter;
+  Button& cmdRouterYes;
+  Button& cmdRouterNo;
+  Button& cmdRouterClose;
+};
+
 }  // namespace verlume

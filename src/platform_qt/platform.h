@@ -9,6 +9,7 @@
 #include "platform_qt/dialogs/dialogs.h"
 #include "platform_qt/help/help_viewer.h"
 #include "platform_qt/net/socket.h"
+#include "platform_qt/router_stand_in.h"
 #include "platform_qt/system/clipboard.h"
 #include "platform_qt/system/file_system.h"
 #include "platform_qt/system/link_opener.h"
@@ -17,6 +18,7 @@
 #include "platform_qt/windows/macro_window.h"
 #include "platform_qt/windows/main_window.h"
 #include "platform_qt/windows/people_window.h"
+#include "platform_qt/windows/reach_window.h"
 #include "platform_qt/windows/verify_window.h"
 #include "platform_qt/windows/window_memory.h"
 
@@ -53,11 +55,14 @@ class QtPlatform {
   QtMacroWindow macros_{&window_.form(), files_};
   QtPeopleWindow people_{&window_.form()};
   QtVerifyWindow verify_{&window_.form()};
+  QtReachWindow reach_{&window_.form()};
   QtWindowMemory windowMemory_{
       &window_.form(), window_.View(),
       QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};
   QtSocket socket_{stream::ArrivalAssembler::kTimeout,
                    QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.key").toStdString()};
+  RouterStandIn router_;
+  NetworkStandIn network_;
   QtDialogs dialogs_{&window_.form()};
   QtCommonDialog commonDialog_{&window_.form()};
   QtAttention attention_{&window_.form()};

@@ -12,6 +12,7 @@
 
 #include "platform/privacy.h"
 #include "shell/called_hosts.h"
+#include "shell/place_to_call.h"
 #include "shell/text_pair.h"
 #include "shell/text_style.h"
 #include "shell/undelivered.h"
@@ -19,6 +20,9 @@
 namespace verlume {
 
 inline constexpr int kHistoryCapacity = 50;
+// Whether the router may be asked to pass calls on.
+enum class RouterChoice { NotYet, Yes, No };
+
 inline constexpr std::size_t kNicknameLimit = 32;  // characters
 
 struct AppState {
@@ -58,6 +62,11 @@ struct AppState {
   std::vector<CalledHost> CalledHosts;  // newest first
   FilledPair ConnectionNote;            // why the last call or wait has failed, and what to do next
   std::vector<std::u16string> TurnedAway;  // addresses whose calls are rejected without asking
+
+  // Being called.
+  RouterChoice AskRouter = RouterChoice::NotYet;
+  bool AsksAboutRouter = false;  // a bar asks for that choice (reach/router_bar.h)
+  PlaceToCall Place;             // to give to whoever is to call; of the last wait, none when Idle
 
   // Private conversations.
   PrivacyOffer Offer = PrivacyOffer::WhenPossible;

@@ -6,6 +6,7 @@
 #include "shell/language_texts.h"
 #include "shell/lines_below.h"
 #include "shell/private_texts.h"
+#include "shell/reach_texts.h"
 #include "shell/resend_bar.h"
 #include "shell/setting_names.h"
 #include "shell/settings_reader.h"
@@ -28,6 +29,8 @@ void Language::ApplyLanguage() {
     for (const auto& [set, text] : PrivateTexts(frmMain)) set(text.In(isGreek));
     for (const auto& [set, text] : PeopleWindowTexts(platform_.frmPeople)) set(text.In(isGreek));
     for (const auto& [set, text] : VerifyWindowTexts(platform_.frmVerify)) set(text.In(isGreek));
+    for (const auto& [set, text] : ReachTexts(frmMain)) set(text.In(isGreek));
+    for (const auto& [set, text] : ReachWindowTexts(platform_.frmReach)) set(text.In(isGreek));
     ShowLamp(state_, frmMain);
     ShowDelivery(state_, frmMain);
     ShowWelcomeCard(state_, platform_);

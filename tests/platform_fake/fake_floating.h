@@ -74,4 +74,14 @@ struct FakeKeyBar {
   KeyBar View() { return {fraKey, lblKey, cmdKeyGoOn, cmdKeyHangUp}; }
 };
 
+struct FakeRouterBar {
+  FakeFloatingPanel fraRouter;
+  FakeLabel lblRouter;
+  FakeButton cmdRouterYes;
+  FakeButton cmdRouterNo;
+  FakeButton cmdRouterClose;
+
+  RouterBar View() { return {fraRouter, lblRouter, cmdRouterYes, cmdRouterNo, cmdRouterClose}; }
+};
+
 }  // namespace verlume::fake

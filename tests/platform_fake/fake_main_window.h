@@ -34,6 +34,8 @@ struct FakeMainWindow {
   FakeMenuEntry mnuCommInvite;
   FakeMenuEntry mnuCommVerify;
   FakeMenuEntry mnuCommPeople;
+  FakeMenuEntry mnuCommReach;
+  FakeMenuEntry mnuCommAskRouter;
   FakeMenu mnuFormat;
   FakeMenuEntry mnuFormatFontBold;
   FakeMenuEntry mnuFormatFontItalics;
@@ -92,6 +94,7 @@ struct FakeMainWindow {
   FakeAgainBar againBar;
   FakeResendBar resendBar;
   FakeKeyBar keyBar;
+  FakeRouterBar routerBar;
   FakeLabel lblHint;
   FakeSpellChecker spelling;
   FakeButton cmdSend;

@@ -87,6 +87,11 @@ void Collect(ShownTexts& texts, const fake::FakeKeyBar& bar) {
   Collect(texts, bar.cmdKeyGoOn);
   Collect(texts, bar.cmdKeyHangUp);
 }
+void Collect(ShownTexts& texts, const fake::FakeRouterBar& bar) {
+  Collect(texts, bar.cmdRouterYes);
+  Collect(texts, bar.cmdRouterNo);
+  Collect(texts, bar.cmdRouterClose);
+}
 void Collect(ShownTexts& texts, const fake::FakeLockLabel& lock) {
   texts.push_back({"caption", lock.caption});
   Collect<LockLabel>(texts, lock);
@@ -104,54 +109,54 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
   const auto& [window, freeSizer1, tmrTimer, mnuFile, mnuFileMacrosFolder, mnuFileLogFolder,
                mnuFileLogRecord, mnuFileLogOpen, mnuFileLogSaveAs, mnuFileExit, mnuComm,
                mnuCommWait, mnuCommCall, mnuCommCancel, mnuCommClose, mnuCommRefresh,
-               mnuCommCallAgain, mnuCommInvite, mnuCommVerify, mnuCommPeople, mnuFormat,
-               mnuFormatFontBold, mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize,
-               mnuFormatFontColor, mnuFormatFontSettings, mnuFormatBackcolorCommands,
-               mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro,
-               mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue,
-               mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate, mnuToolsTime,
-               mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuAttention,
-               mnuAttentionLines, mnuAttentionText, mnuAttentionSound, mnuAttentionCount,
-               mnuToolsCheckSpelling, mnuPrivate, mnuPrivateWhenPossible, mnuPrivateOnly,
-               mnuPrivateNever, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
-               mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands,
-               rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult,
-               cmdFindClose, fraCompletions, lstCompletions, fraNewLines, cmdNewLines, welcomeCard,
-               againBar, resendBar, keyBar, lblHint, spelling, cmdSend, chkBold, chkItalics,
-               chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, lblLock, fraPanel,
-               lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
-               lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
-               lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
-               lblChatDurationCaption, lblLocalPortCaption, lblLocalNicknameCaption,
-               lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
-               lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright, frmMain] =
-      mainWindow;
+               mnuCommCallAgain, mnuCommInvite, mnuCommVerify, mnuCommPeople, mnuCommReach,
+               mnuCommAskRouter, mnuFormat, mnuFormatFontBold, mnuFormatFontItalics,
+               mnuFormatFontUnderline, mnuFormatFontSize, mnuFormatFontColor, mnuFormatFontSettings,
+               mnuFormatBackcolorCommands, mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick,
+               mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
+               mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
+               mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
+               mnuAttention, mnuAttentionLines, mnuAttentionText, mnuAttentionSound,
+               mnuAttentionCount, mnuToolsCheckSpelling, mnuPrivate, mnuPrivateWhenPossible,
+               mnuPrivateOnly, mnuPrivateNever, mnuView, mnuViewStatusPanel, mnuViewZoomIn,
+               mnuViewZoomOut, mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData,
+               rtbCommands, rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext,
+               lblFindResult, cmdFindClose, fraCompletions, lstCompletions, fraNewLines,
+               cmdNewLines, welcomeCard, againBar, resendBar, keyBar, routerBar, lblHint, spelling,
+               cmdSend, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus,
+               lblWaiting, lblLock, fraPanel, lblCurrentDateTime, lblChatStartDateTime,
+               lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP,
+               lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
+               lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
+               lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
+               lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
+               shpStatus, lblCopyright, picCopyright, frmMain] = mainWindow;
   (void)frmMain;
   ShownTexts texts;
   const auto collect = [&texts](const auto&... elements) { (Collect(texts, elements), ...); };
   collect(window, freeSizer1, tmrTimer, mnuFile, mnuFileMacrosFolder, mnuFileLogFolder,
           mnuFileLogRecord, mnuFileLogOpen, mnuFileLogSaveAs, mnuFileExit, mnuComm, mnuCommWait,
           mnuCommCall, mnuCommCancel, mnuCommClose, mnuCommRefresh, mnuCommCallAgain, mnuCommInvite,
-          mnuCommVerify, mnuCommPeople, mnuFormat, mnuFormatFontBold, mnuFormatFontItalics,
-          mnuFormatFontUnderline, mnuFormatFontSize, mnuFormatFontColor, mnuFormatFontSettings,
-          mnuFormatBackcolorCommands, mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick,
-          mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
-          mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
-          mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
-          mnuAttention, mnuAttentionLines, mnuAttentionText, mnuAttentionSound, mnuAttentionCount,
-          mnuToolsCheckSpelling, mnuPrivate, mnuPrivateWhenPossible, mnuPrivateOnly,
-          mnuPrivateNever, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
-          mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote,
-          fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose,
-          fraCompletions, lstCompletions, fraNewLines, cmdNewLines, welcomeCard, againBar,
-          resendBar, keyBar, lblHint, spelling, cmdSend, chkBold, chkItalics, chkUnderline,
-          lblColor, lblStatus, prgStatus, lblWaiting, lblLock, fraPanel, lblCurrentDateTime,
-          lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname,
-          lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
-          lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
-          lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
-          lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
-          shpStatus, lblCopyright, picCopyright);
+          mnuCommVerify, mnuCommPeople, mnuCommReach, mnuCommAskRouter, mnuFormat,
+          mnuFormatFontBold, mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize,
+          mnuFormatFontColor, mnuFormatFontSettings, mnuFormatBackcolorCommands,
+          mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros,
+          mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue, mnuToolsClearCommands,
+          mnuToolsClearHistory, mnuToolsDate, mnuToolsTime, mnuToolsAlwaysOnTop,
+          mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuAttention, mnuAttentionLines,
+          mnuAttentionText, mnuAttentionSound, mnuAttentionCount, mnuToolsCheckSpelling, mnuPrivate,
+          mnuPrivateWhenPossible, mnuPrivateOnly, mnuPrivateNever, mnuView, mnuViewStatusPanel,
+          mnuViewZoomIn, mnuViewZoomOut, mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout,
+          rtbData, rtbCommands, rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext,
+          lblFindResult, cmdFindClose, fraCompletions, lstCompletions, fraNewLines, cmdNewLines,
+          welcomeCard, againBar, resendBar, keyBar, routerBar, lblHint, spelling, cmdSend, chkBold,
+          chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, lblLock, fraPanel,
+          lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
+          lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
+          lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
+          lblChatDurationCaption, lblLocalPortCaption, lblLocalNicknameCaption,
+          lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
+          lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright);
   return texts;
 }
 

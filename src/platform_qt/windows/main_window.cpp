@@ -19,6 +19,8 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   againBar.frame->Follow(rtbCommands.widget());
   resendBar.frame->Follow(rtbCommands.widget());
   keyBar.frame->Follow(rtbCommands.widget());
+  routerBar.frame->Follow(rtbCommands.widget());
+  routerBar.frame->StayBelow(keyBar.frame);
   form_.PlaceCompletionList(rtbCommands.widget());
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
   rtbRemote.widget()->hide();
@@ -41,6 +43,9 @@ QtMainWindow::QtMainWindow(FileSystem& files)
                                 chkBold.widget(),
                                 chkItalics.widget(),
                                 chkUnderline.widget(),
+                                routerBar.cmdRouterYes.widget(),
+                                routerBar.cmdRouterNo.widget(),
+                                routerBar.cmdRouterClose.widget(),
                                 keyBar.cmdKeyGoOn.widget(),
                                 keyBar.cmdKeyHangUp.widget(),
                                 rtbCommands.widget(),

@@ -43,12 +43,15 @@ Program::Program(Platform& platform)
              .onConversation = [this] { RememberAnswer(state_, platform_, settings_); },
              .mayBegin = [this](std::u16string_view name) { return peerGate_.MayBegin(name); },
              .onNickname = [this] { peerGate_.ShowLock(); }}),
+      port_(state_, platform, errors_, settings_),
+      reachList_(state_, platform, errors_),
       connection_(state_, platform, errors_,
                   {.settings = settings_,
                    .dialogue = dialogue_,
                    .log = log_,
                    .statusPanel = statusPanel_,
-                   .wire = wire_}),
+                   .wire = wire_,
+                   .port = port_}),
       peerGate_(state_, platform, errors_, people_, wire_, [this] { connection_.HangUp(); }),
       resend_(state_, platform, wire_, dialogue_),
       privateMenu_(state_, platform, errors_, settings_),
@@ -90,9 +93,11 @@ Program::Program(Platform& platform)
   BindSocket();
   BindAttention();
   BindPrivacy();
+  BindReach();
   BindContextHelp(platform.frmMain);
   BindContextHelp(platform.frmPeople);
   BindContextHelp(platform.frmVerify);
+  BindContextHelp(platform.frmReach);
 }
 
 Program::~Program() = default;
@@ -135,6 +140,7 @@ void Program::BindWindow() {
     statusPanel_.tmrTimer_Timer();
     socketEvents_.tmrTimer_Timer();
     alerts_.tmrTimer_Timer();
+    reachList_.Refresh();
   };
 }
 
@@ -322,6 +328,8 @@ void Program::BindPrivacy() {
   language_.onApplied = [this] {
     peerGate_.ShowLock();
     peerGate_.ShowBar();
+    port_.ShowState();
+    reachList_.Refresh();
   };
   MainWindow& frmMain = platform_.frmMain;
   On(frmMain.keyBar.cmdKeyGoOn.onClick, peerGate_, &PeerGate::cmdKeyGoOn_Click);
@@ -351,6 +359,28 @@ void Program::BindPeople() {
   On(frmVerify.cmdVerifyCopy.onClick, verification_, &Verification::cmdVerifyCopy_Click);
   On(frmVerify.cmdVerifyMatch.onClick, verification_, &Verification::cmdVerifyMatch_Click);
   On(frmVerify.cmdVerifyClose.onClick, verification_, &Verification::cmdVerifyClose_Click);
+}
+
+void Program::BindReach() {
+  platform_.router.onReport = [this] {
+    port_.router_Report();
+    reachList_.Refresh();
+  };
+  platform_.network.onChange = [this] {
+    port_.network_Change();
+    reachList_.Refresh();
+  };
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.routerBar.cmdRouterYes.onClick, port_, &PortKeeper::cmdRouterYes_Click);
+  On(frmMain.routerBar.cmdRouterNo.onClick, port_, &PortKeeper::cmdRouterNo_Click);
+  On(frmMain.routerBar.cmdRouterClose.onClick, port_, &PortKeeper::cmdRouterClose_Click);
+  On(frmMain.mnuCommAskRouter.onClick, port_, &PortKeeper::mnuCommAskRouter_Click);
+  On(frmMain.mnuCommReach.onClick, reachList_, &ReachList::mnuCommReach_Click);
+  const ReachWindow& frmReach = platform_.frmReach;
+  On(frmReach.cmdReachAgain.onClick, reachList_, &ReachList::cmdReachAgain_Click);
+  On(frmReach.cmdReachCopyAddress.onClick, reachList_, &ReachList::cmdReachCopyAddress_Click);
+  On(frmReach.cmdReachCopyInvitation.onClick, reachList_, &ReachList::cmdReachCopyInvitation_Click);
+  On(frmReach.cmdReachClose.onClick, reachList_, &ReachList::cmdReachClose_Click);
 }
 
 void Program::BindAttention() {

@@ -26,6 +26,8 @@
 #include "people/people_list.h"
 #include "people/verification.h"
 #include "platform/platform.h"
+#include "reach/port_keeper.h"
+#include "reach/reach_list.h"
 #include "records/dialogue_files.h"
 #include "records/dialogue_log.h"
 #include "shell/about_box.h"
@@ -72,6 +74,7 @@ class Program {
   void BindAttention();
   void BindPrivacy();
   void BindPeople();
+  void BindReach();
 
   Platform& platform_;
   AppState state_;
@@ -89,6 +92,8 @@ class Program {
   Dialogue dialogue_;
   People people_;
   WireProtocol wire_;
+  PortKeeper port_;
+  ReachList reachList_;
   ConnectionActions connection_;
   PeerGate peerGate_;
   Resend resend_;
