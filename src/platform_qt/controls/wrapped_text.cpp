@@ -33,7 +33,8 @@ WrappedText::WrappedText(QWidget* parent) : QTextEdit(parent) {
 }
 
 void WrappedText::ShowText(const QString& text) {
-  if (text == toPlainText()) return;
+  if (text == shown_) return;
+  shown_ = text;
   setPlainText(text);
   AllowScrollBar();
   updateGeometry();
