@@ -123,6 +123,8 @@ TEST_F(LogFolderTest, ConversationThatBeginsDuringTheDialogKeepsItsFolder) {
                        fake.reach.frmReach,
                        fake.socket,
                        fake.socket.privacy,
+                       fake.router,
+                       fake.addresses,
                        fake.dialogs,
                        dialog,
                        fake.files,

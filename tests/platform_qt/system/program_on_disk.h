@@ -107,6 +107,8 @@ class BasicProgramOnDisk {
   fake::FakeVerifyWindow verify;
   fake::FakeReachWindow reach;
   fake::FakeSocket socket;
+  fake::FakeRouter router;
+  fake::FakeAddresses addresses;
   fake::FakeDialogs dialogs;
   fake::FakeCommonDialog commonDialog;
   fake::FakeClock clock;
@@ -125,6 +127,8 @@ class BasicProgramOnDisk {
                        reach.frmReach,
                        socket,
                        socket.privacy,
+                       router,
+                       addresses,
                        dialogs,
                        commonDialog,
                        disk,

@@ -201,6 +201,8 @@ TEST_F(StartUpTest, ALongHostNameIsCutToANickname) {
                     fake.reach.frmReach,
                     socket,
                     socket.privacy,
+                    fake.router,
+                    fake.addresses,
                     fake.dialogs,
                     fake.commonDialog,
                     fake.files,
