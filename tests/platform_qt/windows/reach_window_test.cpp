@@ -139,6 +139,12 @@ TEST_F(QtReachWindowTest, TextsAreSelectedAndCopiedByTheKeyboard) {
   });
 }
 
+TEST_F(QtReachWindowTest, AnAddressThatIsMissingIsNotAskedFor) {
+  EXPECT_EQ(form.txtReachAddress->placeholderText(), "");
+  const QAccessibleInterface* field = QAccessible::queryAccessibleInterface(form.txtReachAddress);
+  EXPECT_EQ(field->text(QAccessible::Name), "Address to give");
+}
+
 TEST_F(QtReachWindowTest, NothingInItCanBeTyped) {
   ShowAnd([this] {
     for (QWidget* text :
