@@ -16,7 +16,6 @@ constexpr int kUsualColumns = 40;  // average characters
 WrappedText::WrappedText(QWidget* parent) : QTextEdit(parent) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  setTabChangesFocus(true);
   setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -33,7 +32,8 @@ WrappedText::WrappedText(QWidget* parent) : QTextEdit(parent) {
 }
 
 void WrappedText::ShowText(const QString& text) {
-  if (text == toPlainText()) return;
+  if (text == shown_) return;
+  shown_ = text;
   setPlainText(text);
   AllowScrollBar();
   updateGeometry();

@@ -17,6 +17,7 @@ class WrappedText : public QTextEdit {
 
   // Does nothing if it is shown already: what is selected stays so.
   void ShowText(const QString& text);
+  const QString& ShownText() const { return shown_; }
 
   bool hasHeightForWidth() const override { return true; }
   int heightForWidth(int width) const override;
@@ -32,6 +33,8 @@ class WrappedText : public QTextEdit {
   // A scroll bar that came while the height is still another would take the room of words, which
   // would then need it.
   void AllowScrollBar();
+
+  QString shown_;  // as it was given: the document has other line ends
 };
 
 class QtWrappedText : public QtControl<Label, WrappedText> {
@@ -39,7 +42,7 @@ class QtWrappedText : public QtControl<Label, WrappedText> {
   using QtControl::QtControl;
 
   void SetCaption(std::u16string_view text) override;
-  std::u16string Caption() const override { return FromQt(widget_->toPlainText()); }
+  std::u16string Caption() const override { return FromQt(widget_->ShownText()); }
   void SetTag(std::u16string_view text) override { tag_ = text; }
   std::u16string Tag() const override { return tag_; }
   void SetBackColor(Color color) override;

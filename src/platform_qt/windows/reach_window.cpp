@@ -9,7 +9,7 @@
 namespace verlume::qt {
 namespace {
 
-constexpr int kReachColumns = 80;  // the table's width, in average characters
+constexpr int kReachColumns = 96;  // the table's width, in average characters
 constexpr int kReachRows = 6;
 
 }  // namespace

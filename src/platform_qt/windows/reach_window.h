@@ -38,6 +38,13 @@ class ReachForm : public ModalForm {
   QLayout* NewButtonRow();
 };
 
+// A field that only shows: empty, it does not invite to fill it in.
+class QtShownField : public QtTextField {
+ public:
+  using QtTextField::QtTextField;
+  void SetAccessibleName(std::u16string_view name) override { QtControl::SetAccessibleName(name); }
+};
+
 class QtReachWindow {
  public:
   explicit QtReachWindow(QWidget* mainWindow);
@@ -58,7 +65,7 @@ class QtReachWindow {
   QtLabel lblReachAdviceCaption{form_.lblReachAdviceCaption};
   QtWrappedText lblReachAdvice{form_.lblReachAdvice};
   QtLabel lblReachAddressCaption{form_.lblReachAddressCaption};
-  QtTextField txtReachAddress{form_.txtReachAddress};
+  QtShownField txtReachAddress{form_.txtReachAddress};
   QtButton cmdReachCopyAddress{form_.cmdReachCopyAddress};
   QtButton cmdReachCopyInvitation{form_.cmdReachCopyInvitation};
   QtButton cmdReachAgain{form_.cmdReachAgain};
