@@ -7,7 +7,7 @@ namespace verlume::qt {
 // A child of its socket, which is one of the server.
 Visitor::Visitor(QLocalSocket& socket, VisitorHost& host)
     : QObject(&socket), socket_(socket), host_(host) {
-  socket.setReadBufferSize(kLongestRequest + 1);
+  socket.setReadBufferSize(kLongestRequest);
   connect(&socket, &QLocalSocket::readyRead, this, &Visitor::Read);
   connect(&socket, &QLocalSocket::disconnected, this, &Visitor::Leave);
   patience_.setSingleShot(true);
@@ -27,10 +27,10 @@ void Visitor::Read() {
 }
 
 void Visitor::ReadRequest() {
-  request_ += socket_.read(kLongestRequest + 1 - request_.size());
+  // A longer one never ends, and is left when the patience does.
+  request_ += socket_.read(kLongestRequest - request_.size());
   const qsizetype end = request_.indexOf('\0');
   const qsizetype secondEnd = end < 0 ? end : request_.indexOf('\0', end + 1);
-  if (request_.size() > kLongestRequest) return Leave();
   if (secondEnd < 0) return;
   const QByteArray task = request_.mid(end + 1, secondEnd - end - 1);
   const bool isWhole = secondEnd == request_.size() - 1 && IsActivationToken(request_.first(end));

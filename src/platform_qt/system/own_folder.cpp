@@ -21,8 +21,7 @@ bool MakeOwnFolder(const QString& path) {
 std::optional<QString> OwnFolder(std::u16string_view path) {
   const QString written = ToQt(path);
   // A name that is no text could not be opened again.
-  if (written.isEmpty() || written.contains(QChar(0)) || !written.isValidUtf16() ||
-      written.contains(QChar::ReplacementCharacter))
+  if (written.isEmpty() || !written.isValidUtf16() || written.contains(QChar::ReplacementCharacter))
     return std::nullopt;
   const QString absolute = QDir::cleanPath(QFileInfo(written).absoluteFilePath());
   if (!MakeOwnFolder(absolute)) return std::nullopt;

@@ -53,9 +53,8 @@ std::optional<StartTask> HandedOver(std::string_view text) {
   const auto arguments = LinesOf(text.substr(kHeader.size()));
   if (!arguments) return std::nullopt;
   CommandLine read = ReadCommandLine(*arguments, false);
-  const bool isTask =
-      !read.status && read.folder.empty() && read.task.kind != StartTask::Kind::None;
-  if (!isTask || HandOverText(read.task) != text) return std::nullopt;
+  // Also no task, and whatever HandOverText would not write.
+  if (read.status || HandOverText(read.task) != text) return std::nullopt;
   return std::move(read.task);
 }
 

@@ -33,7 +33,11 @@ class CopiesFixture : public testing::Test {
     copy.Serve({.understands = [](std::string_view text) { return text.starts_with("task"); },
                 .comeToFront = [this](const QByteArray& token) { tokens.push_back(token); },
                 .isInFront = [this] { return isInFront; },
-                .isFree = [this] { return isFree; },
+                .isFree =
+                    [this] {
+                      ++timesAsked;
+                      return isFree;
+                    },
                 .perform = [this](std::string_view text) { tasks.emplace_back(text); }});
   }
   // As another process would, which waits for the answer.
@@ -53,6 +57,7 @@ class CopiesFixture : public testing::Test {
   QTemporaryDir runtime;
   QTemporaryDir settings;
   bool isFree = true;
+  int timesAsked = 0;  // whether it is free
   bool isInFront = true;
   std::vector<std::string> tasks;
   std::vector<QByteArray> tokens;

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLocalServer>
 
 #include "platform_qt/copies/copies_fixture.h"
 #include "platform_qt/system/unprivileged.h"
@@ -74,6 +75,7 @@ TEST_F(Copies, ATaskWaitsUntilTheProgramIsFree) {
   Serve(first);
   EXPECT_TRUE(HandOverFromElsewhere("task 1"));
   EXPECT_TRUE(HandOverFromElsewhere("task 2"));
+  EXPECT_TRUE(WaitFor([this] { return timesAsked >= 3; }));
   EXPECT_TRUE(tasks.empty());
   isFree = true;
   EXPECT_TRUE(WaitFor([this] { return tasks.size() == 2; }));
@@ -150,22 +152,43 @@ TEST_F(Copies, AFolderInWhichOthersMayWriteIsNoMeetingPlace) {
   }
 }
 
-TEST_F(Copies, AServerOfAnotherUserIsToldNothing) {
-  if (::geteuid() != 0) return;  // only an administrator can be two users here
-  ASSERT_EQ(::chmod(runtime.path().toUtf8().constData(), 0755), 0);
+// Only an administrator can be two users here.
+TEST_F(Copies, AnotherUserIsNotListenedTo) {
+  if (::geteuid() != 0) return;
   FirstCopy first(Place());
   Serve(first);
+  ASSERT_EQ(::chmod(runtime.path().toUtf8().constData(), 0755), 0);
   ASSERT_EQ(::chmod(Place().server.toUtf8().constData(), 0777), 0);
-  const MeetingPlace place = Place();
-  bool isTaken = true;
+  const QString server = Place().server;
+  QLocalSocket stranger;
   {
     const Unprivileged user;
-    isTaken = HandOver(place, "task", {});
+    stranger.connectToServer(server);
+    ASSERT_TRUE(stranger.waitForConnected(5000));
   }
-  EXPECT_FALSE(isTaken);
-  EXPECT_TRUE(HandOverFromElsewhere("task 2"));
-  EXPECT_TRUE(WaitFor([this] { return !tasks.empty(); }));
-  EXPECT_EQ(tasks, std::vector<std::string>{"task 2"});
+  stranger.write(QByteArray("\0task\0", 6));
+  bool isAnswered = false;
+  EXPECT_TRUE(WaitFor([&] {
+    isAnswered = isAnswered || stranger.bytesAvailable() > 0;
+    return stranger.state() == QLocalSocket::UnconnectedState;
+  }));
+  EXPECT_FALSE(isAnswered);
+}
+
+TEST_F(Copies, AServerOfAnotherUserIsToldNothing) {
+  if (::geteuid() != 0) return;
+  ASSERT_EQ(::chmod(runtime.path().toUtf8().constData(), 0777), 0);
+  const QString path = runtime.filePath("impostor");
+  QLocalServer impostor;
+  {
+    const Unprivileged user;
+    ASSERT_TRUE(impostor.listen(path));
+  }
+  EXPECT_FALSE(HandOver({path + ".lock", path}, "task", {}));
+  ASSERT_TRUE(impostor.waitForNewConnection(5000));
+  QLocalSocket* visitor = impostor.nextPendingConnection();
+  EXPECT_TRUE(WaitFor([&] { return visitor->state() == QLocalSocket::UnconnectedState; }));
+  EXPECT_EQ(visitor->readAll(), "");
 }
 
 TEST(ActivationToken, IsShortPrintableAscii) {
