@@ -46,6 +46,15 @@ TEST_F(HostileVisitors, WhoDoesNotConfirmIsLeftAndNothingIsDone) {
   EXPECT_TRUE(tasks.empty());
 }
 
+TEST_F(HostileVisitors, WhoSaysNoHasNothingDone) {
+  const auto visitor = Visit();
+  visitor->write(QByteArray("\0task\0", 6));
+  EXPECT_TRUE(WaitFor([&] { return visitor->bytesAvailable() > 0; }));
+  visitor->write("n");
+  EXPECT_TRUE(HasBeenLeft(*visitor));
+  EXPECT_TRUE(tokens.empty());
+}
+
 TEST_F(HostileVisitors, WhoLeavesBeforeTheAnswerHasNothingDone) {
   const auto visitor = Visit();
   visitor->write(QByteArray("\0task\0", 6));
