@@ -34,10 +34,11 @@ void ConnectionActions::OpenInvitation(std::u16string_view text) {
     const auto invitation = InvitationIn(text);
     if (!invitation) return TellOfWrongInvitation();
     const std::u16string port = DecimalText(invitation->port);
-    if (!UserAgrees(texts::kAskToCall.Fill(state_.IsGreek, {invitation->host, port}),
-                    texts::kTitle)) {
-      return;
-    }
+    // It may come while the user types: no letter may answer.
+    Message question = Question(texts::kAskToCall.Fill(state_.IsGreek, {invitation->host, port}),
+                                In(texts::kTitle), Answer::No);
+    question.unexpected = true;
+    if (platform_.dialogs.ShowMessage(question) != Answer::Yes) return;
     const std::u16string line = u"/CALL " + InvitationText(*invitation);
     RunKeepingDraft(Procedure::CallRemote, line, [this, &line] { CallRemote(line); });
   });

@@ -1,15 +1,18 @@
 // The whole Qt platform, in one object. It must outlive the program.
 #pragma once
 
+#include <QByteArray>
 #include <QDir>
 
 #include "platform/platform.h"
 #include "platform_qt/attention/attention.h"
 #include "platform_qt/dialogs/common_dialog.h"
+#include "platform_qt/dialogs/desktop_dialogs.h"
 #include "platform_qt/dialogs/dialogs.h"
 #include "platform_qt/help/help_viewer.h"
 #include "platform_qt/net/socket.h"
-#include "platform_qt/router_stand_in.h"
+#include "platform_qt/network/network.h"
+#include "platform_qt/router/router.h"
 #include "platform_qt/system/clipboard.h"
 #include "platform_qt/system/file_system.h"
 #include "platform_qt/system/link_opener.h"
@@ -29,7 +32,8 @@ void PrepareApplication();
 
 class QtPlatform {
  public:
-  QtPlatform();
+  // The settings lie in `ownFolder`; "" for the usual one.
+  explicit QtPlatform(const QString& ownFolder = {});
   QtPlatform(const QtPlatform&) = delete;
   QtPlatform& operator=(const QtPlatform&) = delete;
 
@@ -37,6 +41,14 @@ class QtPlatform {
 
   // Runs the event loop until the program ends; returns the exit status of the process.
   int Run() { return application_.Run(); }
+
+  // For a task that another start of the program brings. `token` is what the desktop gave to that
+  // start; the desktop decides whether the window may come before those of other programs, or is
+  // flagged.
+  void ComeToFront(const QByteArray& token);
+  bool IsInFront() const;
+  // Whether the window is there, and no box, menu or handler waits in it.
+  bool IsFree();
 
   // Whether destroying the QApplication would have to wait for a host name lookup of the system.
   bool IsLookingUp() const { return socket_.IsLookingUp(); }
@@ -61,10 +73,12 @@ class QtPlatform {
       QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};
   QtSocket socket_{stream::ArrivalAssembler::kTimeout,
                    QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.key").toStdString()};
-  RouterStandIn router_;
-  NetworkStandIn network_;
+  QtRouter router_;
+  QtNetwork network_;
   QtDialogs dialogs_{&window_.form()};
-  QtCommonDialog commonDialog_{&window_.form()};
+  QtCommonDialog commonDialog_{
+      &window_.form(),
+      [this] { return DesktopSpeaks(dialogs_.IsGreek(), QLocale::system().uiLanguages()); }};
   QtAttention attention_{&window_.form()};
 
   Platform view_;

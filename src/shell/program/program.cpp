@@ -102,8 +102,8 @@ Program::Program(Platform& platform)
 
 Program::~Program() = default;
 
-void Program::Start(std::u16string_view invitation) {
-  invitation_ = invitation;
+void Program::Start(const StartTask& task) {
+  task_ = task;
   startUp_.Form_Load();
   privateMenu_.Start();
   attentionSwitches_.ShowState();
@@ -113,6 +113,20 @@ void Program::Start(std::u16string_view invitation) {
   people_.Start();
   spelling_.Start();
   platform_.frmMain.window.Show();
+}
+
+void Program::Do(const StartTask& task) {
+  if (platform_.application.HasEnded()) return;
+  switch (task.kind) {
+    case StartTask::Kind::None:
+      break;
+    case StartTask::Kind::Wait:
+      return connection_.WaitFromMenu(task.port);
+    case StartTask::Kind::Call:
+      return connection_.CallFromMenu({task.text, task.port, {}});
+    case StartTask::Kind::OpenInvitation:
+      return connection_.OpenInvitation(task.text);
+  }
 }
 
 // Any error ends the chat: its log is closed, and the status line no longer shows it.
@@ -131,10 +145,7 @@ void Program::BindWindow() {
   On(frmMain.window.onUnload, shutDown_, &ShutDown::Form_Unload);
   frmMain.freeSizer1.onPostLayout = [this] {
     startUp_.freeSizer1_PostLayout();
-    const std::u16string invitation = std::exchange(invitation_, {});
-    if (!invitation.empty() && !platform_.application.HasEnded()) {
-      connection_.OpenInvitation(invitation);
-    }
+    Do(std::exchange(task_, {}));
   };
   frmMain.tmrTimer.onTimer = [this] {
     statusPanel_.tmrTimer_Timer();

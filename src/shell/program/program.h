@@ -40,6 +40,7 @@
 #include "shell/program/shut_down.h"
 #include "shell/program/start_up.h"
 #include "shell/settings.h"
+#include "shell/start/start_task.h"
 #include "shell/status_panel.h"
 #include "shell/view.h"
 #include "shell/window_behaviour.h"
@@ -55,9 +56,11 @@ class Program {
   Program& operator=(const Program&) = delete;
 
   // Loads the main window, shows it and starts the clock; from then on the program waits for
-  // events. An invitation from outside ("" for none) is opened when the window has been laid out;
-  // another text is ignored.
-  void Start(std::u16string_view invitation = {});
+  // events. The task is done when the window has been laid out.
+  void Start(const StartTask& task = {});
+
+  // Does at once what another start of the program was asked to do.
+  void Do(const StartTask& task);
 
   const AppState& State() const { return state_; }
 
@@ -116,7 +119,7 @@ class Program {
   AttentionSwitches attentionSwitches_;
   StartUp startUp_;
   ShutDown shutDown_;
-  std::u16string invitation_;  // from outside, until it is opened
+  StartTask task_;  // until it is done
 };
 
 }  // namespace verlume
