@@ -5,9 +5,10 @@ cmake_minimum_required(VERSION 3.25)
 
 set(ground richtext platform stream spelling)
 # On the ground stand, beside each other, the logic and what makes the platform real.
-set(logic ${ground} shell people records macros/store commands/dialogue connection commands macros
-  shell/program)
-set(platform_qt ${ground} platform_qt/os platform_qt/convert platform_qt/system platform_qt/privacy platform_qt/net
+set(logic ${ground} shell people reach records macros/store commands/dialogue connection commands
+  macros shell/start shell/program)
+set(platform_qt ${ground} platform_qt/os platform_qt/convert platform_qt/system platform_qt/copies
+  platform_qt/privacy platform_qt/net platform_qt/fonts platform_qt/network platform_qt/router
   platform_qt/controls platform_qt/dialogs platform_qt/text platform_qt/spelling platform_qt/help platform_qt/attention
   platform_qt/windows platform_qt)
 

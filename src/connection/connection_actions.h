@@ -19,6 +19,7 @@
 #include "connection/wire_protocol.h"
 #include "people/invitation.h"
 #include "platform/platform.h"
+#include "reach/port_keeper.h"
 #include "records/dialogue_log.h"
 #include "shell/app_state.h"
 #include "shell/error_report.h"
@@ -36,6 +37,7 @@ class ConnectionActions {
     DialogueLog& log;
     StatusPanel& statusPanel;
     WireProtocol& wire;
+    PortKeeper& port;
   };
 
   ConnectionActions(AppState& state, Platform& platform, ErrorReport& errors,
@@ -55,6 +57,9 @@ class ConnectionActions {
   // An invitation from outside the program: asks before it calls. Does nothing if the text does not
   // look like one.
   void OpenInvitation(std::u16string_view text);
+  // Run an action as if the user had typed the whole line. What is half typed stays.
+  void CallFromMenu(const CalledHost& called);
+  void WaitFromMenu(std::int32_t port);
   // Asks, unless Idle, whether the program may end, and sets AppState::ExitConfirmed.
   void ConfirmExit();
 
@@ -90,10 +95,6 @@ class ConnectionActions {
   // half typed in the command pane stays there.
   void RunKeepingDraft(Procedure procedure, std::u16string_view commandWord,
                        const std::function<void()>& action);
-
-  // Run an action as if the user had typed the whole line.
-  void CallFromMenu(const CalledHost& called);
-  void WaitFromMenu(std::int32_t port);
 
   // Refuses while Connected, asks while Waiting or Calling. Returns the current state if it may be
   // left, else none.

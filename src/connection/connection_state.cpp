@@ -1,7 +1,9 @@
 #include "connection/connection_state.h"
 
+#include "reach/port_keeper.h"
 #include "records/log_file.h"
 #include "shell/delivery.h"
+#include "shell/resend_bar.h"
 #include "shell/status_panel.h"
 #include "shell/welcome_card.h"
 
@@ -43,6 +45,7 @@ void ResetConnection(AppState& state, Platform& platform) {
   frmMain.lblRemotePort.SetCaption(u"");
   ShowLamp(state, frmMain);
   platform.sckControl.Close();
+  EndBeingCalled(state, platform);
   if (state.PeerStops) platform.sckControl.ResumeArrivals();
   EndStop(state, platform);
   frmMain.lblLock.SetCaption(u"");
@@ -51,6 +54,7 @@ void ResetConnection(AppState& state, Platform& platform) {
   state.LinesWaiting = 0;
   state.LinesSaid = 0;
   ShowDelivery(state, frmMain);
+  ShowResendBar(state, platform);
   ShowWelcomeCard(state, platform);
 }
 

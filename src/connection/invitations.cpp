@@ -15,8 +15,7 @@ void ConnectionActions::mnuCommInvite_Click() {
     const bool isListening = StateOf(state_) == ConnectionState::Waiting &&
                              platform_.sckControl.State() == SocketState::Listening;
     if (!key || !isListening) return tell(In(texts::kWaitFirst));
-    const std::u16string text =
-        InvitationText({state_.LocalAddress, platform_.sckControl.LocalPort(), *key});
+    const std::u16string text = InvitationText({state_.Place.host, state_.Place.port, *key});
     platform_.clipboard.SetText(text);
     tell(texts::kCopied.Fill(state_.IsGreek, {text}));
   });
@@ -35,10 +34,11 @@ void ConnectionActions::OpenInvitation(std::u16string_view text) {
     const auto invitation = InvitationIn(text);
     if (!invitation) return TellOfWrongInvitation();
     const std::u16string port = DecimalText(invitation->port);
-    if (!UserAgrees(texts::kAskToCall.Fill(state_.IsGreek, {invitation->host, port}),
-                    texts::kTitle)) {
-      return;
-    }
+    // It may come while the user types: no letter may answer.
+    Message question = Question(texts::kAskToCall.Fill(state_.IsGreek, {invitation->host, port}),
+                                In(texts::kTitle), Answer::No);
+    question.unexpected = true;
+    if (platform_.dialogs.ShowMessage(question) != Answer::Yes) return;
     const std::u16string line = u"/CALL " + InvitationText(*invitation);
     RunKeepingDraft(Procedure::CallRemote, line, [this, &line] { CallRemote(line); });
   });

@@ -5,19 +5,12 @@
 
 #include "connection/connection_state.h"
 #include "connection/peer_gate_texts.h"
+#include "shell/called_hosts.h"
 #include "shell/nickname.h"
-#include "shell/trim.h"
+#include "shell/resend_bar.h"
 
 namespace verlume {
 namespace {
-
-// Names of hosts are the same in any case.
-std::u16string SmallAscii(std::u16string text) {
-  for (char16_t& c : text) {
-    if (c >= u'A' && c <= u'Z') c = static_cast<char16_t>(c + 32);
-  }
-  return text;
-}
 
 Acquaintance AcquaintanceOf(const KnownPeer* peer, bool wasKnown) {
   if (peer && peer->isVerified) return Acquaintance::Verified;
@@ -38,8 +31,7 @@ PeerGate::PeerGate(AppState& state, Platform& platform, ErrorReport& errors, Peo
 
 std::u16string PeerGate::CalledPlace() const {
   if (StateOf(state_) != ConnectionState::Calling) return {};
-  return SmallAscii(std::u16string(Trim(state_.RemoteHost))) + u' ' +
-         DecimalText(state_.RemotePort);
+  return verlume::CalledPlace(state_);
 }
 
 PeerVerdict PeerGate::Judge(std::u16string_view name, std::u16string_view called) const {
@@ -83,6 +75,7 @@ void PeerGate::Ask(Stop stop) {
   state_.PeerStops = true;
   // Before AdmitPeer nothing arrives anyway.
   if (stop_.atHandshake) platform_.sckControl.PauseArrivals();
+  ShowResendBar(state_, platform_);
   ShowBar();
   platform_.attention.Announce(platform_.frmMain.keyBar.lblKey.Caption());
   platform_.frmMain.window.FlagForAttention();
@@ -96,10 +89,13 @@ void PeerGate::cmdKeyGoOn_Click() {
     const StopReason reason = stop.verdict.stop;
     const bool isAboutAddress =
         reason == StopReason::OtherKeyAtAddress || reason == StopReason::ClearAtAddress;
-    // The place is settled; what is about the name is asked by itself.
+    // The place is settled; what is about the name is asked by itself, unless the user has just
+    // read the same about the same person.
     const PeerVerdict rest = isAboutAddress ? Judge(stop.name, {}) : PeerVerdict();
-    if (rest.stop == StopReason::None) {
+    const bool isSaid = rest.stop == StopReason::ClearForName && rest.known == stop.verdict.known;
+    if (rest.stop == StopReason::None || isSaid) {
       LetIn(stop);
+      ShowResendBar(state_, platform_);
     } else {
       Ask({.verdict = rest, .name = stop.name, .atHandshake = stop.atHandshake});
     }

@@ -8,6 +8,7 @@
 #include "connection/connection_texts.h"
 #include "connection/rule_texts.h"
 #include "connection/status_texts.h"
+#include "reach/router_bar.h"
 #include "shell/again_bar.h"
 #include "shell/delivery.h"
 #include "shell/dialogue_rule.h"
@@ -44,6 +45,7 @@ void SocketEvents::AcceptCaller(std::int64_t requestId) {
   platform_.sckControl.Close();
   ForgetRemoteNickname();
   platform_.sckControl.Accept(requestId);
+  WithdrawRouterBar(state_, platform_);
   ShowWelcomeCard(state_, platform_);
   isSilent_ = true;
   silence_ = 0;
@@ -109,7 +111,11 @@ void SocketEvents::sckControl_Close() {
       (wasCall ? ExplainFailedCall : ExplainFailedWait)(state_, platform_);
       return;
     }
-    if (isConversation) OfferAgain(state_, platform_);
+    if (isConversation) {
+      // If onUndelivered has told of none, there may be lines that came too late.
+      state_.Undelivered.Lose(platform_.sckControl.CurrentConnection(), 0);
+      OfferAgain(state_, platform_);
+    }
     SetStatus(status_texts::kClosedByPeer, state_.RemoteAddress, state_.RemotePort);
     if (isConversation) AddDialogueRule(state_, platform_, rule_texts::kConnectionLost);
     log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());

@@ -5,7 +5,6 @@
 #include "connection/connection_texts.h"
 #include "connection/port_number.h"
 #include "connection/status_texts.h"
-#include "shell/welcome_card.h"
 
 namespace verlume {
 
@@ -41,7 +40,7 @@ void ConnectionActions::WaitForCall(std::u16string_view commandLine) {
     platform_.frmMain.lblLocalPort.SetCaption(portInUse);
     EnterState(state_, ConnectionState::Waiting);
     ShowLamp(state_, platform_.frmMain);
-    ShowWelcomeCard(state_, platform_);
+    with_.port.WaitBegins();
     // Last: if this line cannot be written, the error report ends the wait.
     WriteOutgoingText();
   });

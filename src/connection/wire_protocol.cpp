@@ -10,11 +10,13 @@
 #include "platform/protocol_marker.h"
 #include "platform/run_time_failure.h"
 #include "records/log_file.h"
+#include "shell/called_hosts.h"
 #include "shell/delivery.h"
 #include "shell/dialogue_rule.h"
 #include "shell/language_texts.h"
 #include "shell/maker_texts.h"
 #include "shell/nickname.h"
+#include "shell/resend_bar.h"
 #include "shell/welcome_card.h"
 #include "shell/who_is_who.h"
 
@@ -61,8 +63,11 @@ std::u16string BuildProtocolMarker() {
 
 bool WireProtocol::SendToPeer(std::u16string_view text, TextKind kind) {
   return errors_.Guard(Procedure::SendToPeer, [&] {
-    if (platform_.sckControl.State() != SocketState::Connected) return;
-    platform_.sckControl.SendData(text, kind);
+    const bool isSent = platform_.sckControl.SendData(text, kind);
+    // A conversation that has broken unnoticed goes on for the user.
+    const bool isSaid = kind == TextKind::Line && (isSent || state_.IsConnected);
+    if (isSaid) state_.Undelivered.Add(platform_.sckControl.CurrentConnection(), text, isSent);
+    if (!isSent) return;
     ShowLinesWaiting();
     AddToCounter(platform_.frmMain.lblBytesSent, text.size(), platform_.locale);
   });
@@ -85,7 +90,7 @@ void WireProtocol::SendNickname() {
 void WireProtocol::SendActionLine(std::u16string_view rtf) {
   std::u16string message = state_.ProtocolMarker + kActionLine;
   message += rtf;
-  SendToPeer(message, TextKind::Line);
+  SendLine(message);
 }
 
 void WireProtocol::OnDataArrival(std::u16string_view data) {
@@ -129,11 +134,17 @@ void WireProtocol::TellNickname() {
 }
 
 void WireProtocol::ShowLinesWaiting() {
-  state_.LinesWaiting = platform_.sckControl.LinesWaiting();
+  const Socket& socket = platform_.sckControl;
+  state_.LinesWaiting = socket.LinesWaiting();
+  // Of a connection that has ended the number says nothing. It may end between the two questions.
+  if (socket.State() == SocketState::Connected) {
+    state_.Undelivered.Keep(socket.CurrentConnection(), state_.LinesWaiting);
+  }
   ShowDelivery(state_, platform_.frmMain);
 }
 
-void WireProtocol::OnUndelivered(std::size_t lines) {
+void WireProtocol::OnUndelivered(std::size_t lines, ConnectionNumber connection) {
+  state_.Undelivered.Lose(connection, lines);
   const ConnectionState on = StateOf(state_);
   // If the connection has just broken, the socket is closed but the state is not Idle yet.
   const bool isBroken =
@@ -149,6 +160,8 @@ void WireProtocol::OnUndelivered(std::size_t lines) {
     with_.log.AppendConnectionLine(text);
   } else {
     with_.log.AppendToClosedLog(text);
+    state_.HidesResend = false;
+    ShowResendBar(state_, platform_);
   }
 }
 
@@ -169,9 +182,11 @@ void WireProtocol::OnConfirm(std::u16string_view data) {
   // make as many files as it likes.
   if (isNewConversation) {
     NameLog();
+    state_.HidesResend = false;
     AddDialogueRule(state_, platform_, rule_texts::kConnected);
     if (with_.onConversation) with_.onConversation();
   }
+  OfferUndelivered();
   state_.LogOpen = true;
   with_.log.AppendConnectionLine(status);
   SayWhoIsWho({});
@@ -180,7 +195,19 @@ void WireProtocol::OnConfirm(std::u16string_view data) {
 void WireProtocol::OnNickname(std::u16string_view data) {
   const std::u16string before = WhoIsWho(state_);
   TakeNickname(data);
+  if (StateOf(state_) == ConnectionState::Connected) OfferUndelivered();
   SayWhoIsWho(before);
+}
+
+// The nickname is known, by which a peer in clear is recognised.
+void WireProtocol::OfferUndelivered() {
+  const std::optional<Peer> peer = platform_.privacy.CurrentPeer();
+  state_.Undelivered.Meet(platform_.sckControl.CurrentConnection(),
+                          {.key = peer ? peer->key : std::nullopt,
+                           .called = state_.HasCalled ? CalledPlace(state_) : std::u16string(),
+                           .address = state_.RemoteAddress,
+                           .nickname = state_.RemoteNickname});
+  ShowResendBar(state_, platform_);
 }
 
 void WireProtocol::SayWhoIsWho(std::u16string_view before) {

@@ -47,7 +47,10 @@ class WireProtocol {
   void SendStart();                              // "S", right after accepting a call
   void SendNickname();                           // "N"
   void SendActionLine(std::u16string_view rtf);  // "M"
-  void SendChatLine(std::u16string_view rtf) { SendToPeer(rtf, TextKind::Line); }
+  void SendChatLine(std::u16string_view rtf) { SendLine(rtf); }
+  // A line as it crosses the wire: of one of the two kinds. It is kept until the peer has got it
+  // (AppState::Undelivered).
+  void SendLine(std::u16string_view line) { SendToPeer(line, TextKind::Line); }
 
   // Takes one arrival, which is one message, and counts it in lblBytesReceived. The message is part
   // of the handshake, or the peer's new nickname, or a line for the dialogue. Throws RunTimeFailure
@@ -66,8 +69,9 @@ class WireProtocol {
   // Shows how many lines the peer's machine has not acknowledged yet.
   void ShowLinesWaiting();
   // A connection ended before these lines were delivered: says so in the tool tip of the status
-  // line and in the log of that conversation, even if the next one has begun.
-  void OnUndelivered(std::size_t lines);
+  // line and in the log of that conversation, even if the next one has begun. They are offered for
+  // sending when the same peer is there.
+  void OnUndelivered(std::size_t lines, ConnectionNumber connection);
 
  private:
   // Whether the handshake may go on; keeps it if not.
@@ -81,6 +85,7 @@ class WireProtocol {
   // Names the log of a new conversation after the peer.
   void NameLog();
   void TakeNickname(std::u16string_view data);
+  void OfferUndelivered();
   void WriteRemoteLine(std::u16string_view text, Sender sender);
   bool SendWithNickname(char16_t kind);
 

@@ -72,8 +72,8 @@ std::u16string WordsOfLock(const LockState& state, bool isGreek) {
 LockPicture PictureOfLock(const LockState& state) {
   switch (state.privacy) {
     case Privacy::Private:
-      return state.acquaintance == Acquaintance::Verified ? LockPicture::Verified
-                                                          : LockPicture::Closed;
+      if (state.acquaintance == Acquaintance::Verified) return LockPicture::Verified;
+      return state.isAnotherKnown ? LockPicture::Doubtful : LockPicture::Closed;
     case Privacy::Clear:
       return state.isAnotherKnown ? LockPicture::Warning : LockPicture::Open;
     default:

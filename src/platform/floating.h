@@ -40,6 +40,16 @@ struct AgainBar {
   Button& cmdAgainClose;
 };
 
+// The bar above the command pane while the peer can get what was not delivered before. Escape in it
+// presses cmdResendClose.
+struct ResendBar {
+  FloatingPanel& fraResend;
+  Label& lblResend;
+  Button& cmdResend;
+  Button& cmdResendDrop;
+  Button& cmdResendClose;
+};
+
 // The bar above the command pane when another key than before has come: the conversation waits for
 // the user. It is shown even where there is little room. lblKey wraps. What is typed goes on into
 // the command pane and never answers it: its buttons are pressed by mouse, by Alt and their letter,
@@ -49,6 +59,17 @@ struct KeyBar {
   Label& lblKey;
   Button& cmdKeyGoOn;
   Button& cmdKeyHangUp;  // the default button
+};
+
+// The bar above the command pane that asks whether the router may be asked to pass calls on.
+// lblRouter wraps. The bar takes no focus, and keyBar goes before it. Escape in it presses
+// cmdRouterClose.
+struct RouterBar {
+  FloatingPanel& fraRouter;
+  Label& lblRouter;
+  Button& cmdRouterYes;
+  Button& cmdRouterNo;
+  Button& cmdRouterClose;
 };
 
 }  // namespace verlume

@@ -8,6 +8,7 @@ namespace verlume {
 enum class LockPicture {
   Becoming,  // a lock with dots
   Closed,    // private
+  Doubtful,  // a closed lock with an exclamation mark: private, perhaps not with whom it seems
   Verified,  // a closed lock with a tick
   Open,      // not private
   Warning,   // an open lock with an exclamation mark

@@ -77,6 +77,8 @@ struct MainWindow {
   MenuEntry& mnuCommInvite;
   MenuEntry& mnuCommVerify;
   MenuEntry& mnuCommPeople;
+  MenuEntry& mnuCommReach;
+  MenuEntry& mnuCommAskRouter;
 
   Menu& mnuFormat;
   MenuEntry& mnuFormatFontBold;
@@ -124,7 +126,9 @@ struct MainWindow {
   NewLinesButton newLines;
   WelcomeCard welcomeCard;
   AgainBar againBar;
+  ResendBar resendBar;
   KeyBar keyBar;
+  RouterBar routerBar;
   // Floats beside the command pane while it has a caption, and is then the pane's description.
   Label& lblHint;
   SpellChecker& spelling;  // of the command pane
@@ -193,6 +197,8 @@ MainWindow MainWindowOf(Controls& controls) {
       .mnuCommInvite = controls.mnuCommInvite,
       .mnuCommVerify = controls.mnuCommVerify,
       .mnuCommPeople = controls.mnuCommPeople,
+      .mnuCommReach = controls.mnuCommReach,
+      .mnuCommAskRouter = controls.mnuCommAskRouter,
       .mnuFormat = controls.mnuFormat,
       .mnuFormatFontBold = controls.mnuFormatFontBold,
       .mnuFormatFontItalics = controls.mnuFormatFontItalics,
@@ -248,7 +254,9 @@ MainWindow MainWindowOf(Controls& controls) {
       .newLines = {.fraNewLines = controls.fraNewLines, .cmdNewLines = controls.cmdNewLines},
       .welcomeCard = controls.welcomeCard.View(),
       .againBar = controls.againBar.View(),
+      .resendBar = controls.resendBar.View(),
       .keyBar = controls.keyBar.View(),
+      .routerBar = controls.routerBar.View(),
       .lblHint = controls.lblHint,
       .spelling = controls.spelling,
       .cmdSend = controls.cmdSend,

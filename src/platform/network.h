@@ -12,6 +12,8 @@ struct NetworkAddress {
   std::u16string interfaceName;  // "eth0"
   // An IPv6 address that the system replaces after some hours, so that nobody is followed by it.
   bool isTemporary = false;
+
+  bool operator==(const NetworkAddress&) const = default;
 };
 
 // A firewall that can be asked.

@@ -8,8 +8,11 @@
 #include "platform/links.h"
 #include "platform/macro_window.h"
 #include "platform/main_window.h"
+#include "platform/network.h"
 #include "platform/people_window.h"
 #include "platform/privacy.h"
+#include "platform/reach_window.h"
+#include "platform/router.h"
 #include "platform/socket.h"
 #include "platform/system.h"
 #include "platform/verify_window.h"
@@ -22,8 +25,11 @@ struct Platform {
   MacroWindow& frmMacros;
   PeopleWindow& frmPeople;
   VerifyWindow& frmVerify;
+  ReachWindow& frmReach;
   Socket& sckControl;
   PeerPrivacy& privacy;
+  Router& router;
+  Network& network;
   Dialogs& dialogs;
   CommonDialog& dlgControl;
   FileSystem& files;

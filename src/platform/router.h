@@ -21,12 +21,15 @@ enum class RouterState {
   Nonsense,  // what answered makes no sense
 };
 
-// What the router said in one language. The texts are as it sent them, at most 200 characters each.
+// What the router said in one language. The texts are as it sent them, at most 200 characters each;
+// what would steer the text around them is U+FFFD.
 struct RouterReport {
   RouterState state = RouterState::NotAsked;
   std::u16string outerAddress;  // "" if it has not said
   std::int32_t outerPort = 0;   // only when Mapped; may be another than was asked for
-  std::u16string reason;        // only when Refused: its own words or number
+  std::u16string reason;        // only when Refused: its own number, and words if it has some
+
+  bool operator==(const RouterReport&) const = default;
 };
 
 class Router {
@@ -34,20 +37,23 @@ class Router {
   virtual ~Router() = default;
 
   // Asks the router in both languages to pass calls at `port` on to this machine, and keeps asking
-  // before its promise runs out, until Release. Asking for the same port again asks anew at once;
-  // for another port, the first one is given back.
+  // before its promise runs out, or in case it has changed its mind, until Release. Both reports
+  // are Asking now. Asking for the same port again asks anew at once; for another port, the first
+  // one is given back.
   virtual void MapPort(std::int32_t port) = 0;
-  // Asks for its outer address only; changes nothing on the router. Does nothing while a port is
-  // asked for.
+  // Asks for its outer address only; changes nothing on the router. Both reports are Asking now,
+  // and NotAsked again when the address has come. Does nothing while a port is asked for.
   virtual void AskAddress() = 0;
-  // Gives the port back. Harmless without one. What is not given back when the program ends, within
-  // 2 s of trying, runs out by itself within the hour.
+  // Gives the port back, and forgets what the router has said: both reports are NotAsked now.
+  // Harmless without a port. The end of the program gives it back, too, and tries so for 2 s; then
+  // it runs out by itself within the hour, unless the router knows no limit.
   virtual void Release() = 0;
   // The port that is asked for, 0 for none.
   virtual std::int32_t Port() const = 0;
   virtual RouterReport Report(RouterLanguage language) const = 0;
 
-  // A report is another. Raised on the user-interface thread, never from inside an operation.
+  // The router has said something else than before. Raised on the user-interface thread, never from
+  // inside an operation.
   std::function<void()> onReport;
 };
 

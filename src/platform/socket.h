@@ -22,6 +22,9 @@ enum class TextKind { Line, Signal };
 // time, no way leads to it.
 enum class CallFailure { None, UnknownHost, Refused, Silent, Unreachable, Other };
 
+// Tells one connection from another.
+using ConnectionNumber = std::uint64_t;
+
 // The greatest port that callers can name: they keep it in 16 bits with a sign.
 inline constexpr std::int32_t kGreatestNameablePort = 32767;
 
@@ -66,10 +69,12 @@ class Socket {
 
   // Queues a text and returns at once. Texts are sent in the order of the calls, each when the
   // peer's machine has acknowledged those before it, so that none arrives joined with another.
-  // Ignored unless Connected.
-  virtual void SendData(std::u16string_view text, TextKind kind) = 0;
+  // False, and ignored, unless Connected.
+  virtual bool SendData(std::u16string_view text, TextKind kind) = 0;
   // How many lines of this connection the peer's machine has not acknowledged; 0 unless Connected.
   virtual std::size_t LinesWaiting() const = 0;
+  // Of the current connection, or else of the last one; 0 before the first.
+  virtual ConnectionNumber CurrentConnection() const = 0;
   // Waits until connections that were closed have sent what is queued: until it is acknowledged, or
   // for 2 s. Raises onUndelivered itself.
   virtual void FinishSending() = 0;
@@ -91,9 +96,9 @@ class Socket {
   std::function<void(std::int32_t bytesTotal)> onDataArrival;
   // The peer's machine has acknowledged lines: LinesWaiting is less than it was.
   std::function<void()> onAcknowledged;
-  // A connection has ended, and the peer's machine has not acknowledged the last `lines` lines sent
-  // over it. Raised right before onClose, or up to 3 s after Close.
-  std::function<void(std::size_t lines)> onUndelivered;
+  // This connection has ended, and the peer's machine has not acknowledged the last `lines` lines
+  // sent over it. Raised right before onClose, or up to 3 s after Close.
+  std::function<void(std::size_t lines, ConnectionNumber connection)> onUndelivered;
   // The peer closed the connection, it broke, or the call could not be made. Everything that had
   // arrived has been raised before.
   std::function<void()> onClose;

@@ -43,8 +43,9 @@ class Application {
   virtual ~Application() = default;
   // The folder of the executable, without a trailing separator.
   virtual std::u16string ProgramFolder() const = 0;
-  // The folder of the settings file: the program's folder, or the user's configuration folder if
-  // that one is not writable. It exists.
+  // The folder of the settings file: the one that the user named at the start, or the program's
+  // folder, or the user's configuration folder if the program is installed or its folder is not
+  // writable. It exists.
   virtual std::u16string SettingsFolder() const = 0;
   // The folder of the help files: the program's folder, or the installed data folder.
   virtual std::u16string HelpFolder() const = 0;

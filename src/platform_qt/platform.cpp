@@ -14,15 +14,19 @@ void PrepareApplication() {
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
-QtPlatform::QtPlatform()
-    : view_{
+QtPlatform::QtPlatform(const QString& ownFolder)
+    : application_(QCoreApplication::applicationDirPath(), ownFolder),
+      view_{
           .frmMain = window_.View(),
           .frmAbout = about_.View(),
           .frmMacros = macros_.View(),
           .frmPeople = people_.View(),
           .frmVerify = verify_.View(),
+          .frmReach = reach_.View(),
           .sckControl = socket_,
           .privacy = socket_.ConnectionPrivacy(),
+          .router = router_,
+          .network = network_,
           .dialogs = dialogs_,
           .dlgControl = commonDialog_,
           .files = files_,
@@ -39,6 +43,27 @@ QtPlatform::QtPlatform()
   // The program yields while it handles a key. A box that opened then would keep that key waiting
   // until it is answered, and the key would come after what is typed meanwhile.
   socket_.HoldRequestsWhile([this] { return application_.IsYielding(); });
+}
+
+void QtPlatform::ComeToFront(const QByteArray& token) {
+  constexpr const char* kToken = "XDG_ACTIVATION_TOKEN";  // where Qt looks for it
+  MainForm& form = window_.form();
+  if (!token.isEmpty()) qputenv(kToken, token);
+  form.setWindowState(form.windowState() & ~Qt::WindowMinimized);
+  form.raise();
+  form.activateWindow();
+  qunsetenv(kToken);
+  QApplication::alert(&form);
+}
+
+bool QtPlatform::IsInFront() const {
+  return QGuiApplication::applicationState() == Qt::ApplicationActive;
+}
+
+bool QtPlatform::IsFree() {
+  return !application_.HasEnded() && !application_.IsYielding() &&
+         !QApplication::activeModalWidget() && !QApplication::activePopupWidget() &&
+         window_.form().isVisible();
 }
 
 }  // namespace verlume::qt

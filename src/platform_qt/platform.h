@@ -1,14 +1,18 @@
 // The whole Qt platform, in one object. It must outlive the program.
 #pragma once
 
+#include <QByteArray>
 #include <QDir>
 
 #include "platform/platform.h"
 #include "platform_qt/attention/attention.h"
 #include "platform_qt/dialogs/common_dialog.h"
+#include "platform_qt/dialogs/desktop_dialogs.h"
 #include "platform_qt/dialogs/dialogs.h"
 #include "platform_qt/help/help_viewer.h"
 #include "platform_qt/net/socket.h"
+#include "platform_qt/network/network.h"
+#include "platform_qt/router/router.h"
 #include "platform_qt/system/clipboard.h"
 #include "platform_qt/system/file_system.h"
 #include "platform_qt/system/link_opener.h"
@@ -17,6 +21,7 @@
 #include "platform_qt/windows/macro_window.h"
 #include "platform_qt/windows/main_window.h"
 #include "platform_qt/windows/people_window.h"
+#include "platform_qt/windows/reach_window.h"
 #include "platform_qt/windows/verify_window.h"
 #include "platform_qt/windows/window_memory.h"
 
@@ -27,7 +32,8 @@ void PrepareApplication();
 
 class QtPlatform {
  public:
-  QtPlatform();
+  // The settings lie in `ownFolder`; "" for the usual one.
+  explicit QtPlatform(const QString& ownFolder = {});
   QtPlatform(const QtPlatform&) = delete;
   QtPlatform& operator=(const QtPlatform&) = delete;
 
@@ -35,6 +41,14 @@ class QtPlatform {
 
   // Runs the event loop until the program ends; returns the exit status of the process.
   int Run() { return application_.Run(); }
+
+  // For a task that another start of the program brings. `token` is what the desktop gave to that
+  // start; the desktop decides whether the window may come before those of other programs, or is
+  // flagged.
+  void ComeToFront(const QByteArray& token);
+  bool IsInFront() const;
+  // Whether the window is there, and no box, menu or handler waits in it.
+  bool IsFree();
 
   // Whether destroying the QApplication would have to wait for a host name lookup of the system.
   bool IsLookingUp() const { return socket_.IsLookingUp(); }
@@ -53,13 +67,18 @@ class QtPlatform {
   QtMacroWindow macros_{&window_.form(), files_};
   QtPeopleWindow people_{&window_.form()};
   QtVerifyWindow verify_{&window_.form()};
+  QtReachWindow reach_{&window_.form()};
   QtWindowMemory windowMemory_{
       &window_.form(), window_.View(),
       QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.window")};
   QtSocket socket_{stream::ArrivalAssembler::kTimeout,
                    QDir(ToQt(application_.SettingsFolder())).filePath("Verlume.key").toStdString()};
+  QtRouter router_;
+  QtNetwork network_;
   QtDialogs dialogs_{&window_.form()};
-  QtCommonDialog commonDialog_{&window_.form()};
+  QtCommonDialog commonDialog_{
+      &window_.form(),
+      [this] { return DesktopSpeaks(dialogs_.IsGreek(), QLocale::system().uiLanguages()); }};
   QtAttention attention_{&window_.form()};
 
   Platform view_;

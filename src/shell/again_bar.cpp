@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "shell/delivery.h"
+
 namespace verlume {
 namespace {
 
@@ -35,8 +37,10 @@ void ShowAgainBar(const AppState& state, const Platform& platform) {
   const AgainBar& bar = platform.frmMain.againBar;
   const bool isGreek = state.IsGreek;
   const bool hasNickname = !state.RemoteNickname.empty();
-  const std::u16string text =
+  std::u16string text =
       kHasEnded.Fill(isGreek, {hasNickname ? state.RemoteNickname : state.RemoteAddress});
+  const std::size_t lost = state.Undelivered.CountFor(state.Undelivered.Current());
+  if (lost > 0) text += u" " + UndeliveredText(lost, isGreek);
   bar.lblAgain.SetCaption(text);
   bar.fraAgain.SetAccessibleName(text);
   bar.cmdAgain.SetCaption((state.HasCalled ? kCallAgain : kWaitAgain).In(isGreek));

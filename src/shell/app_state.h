@@ -12,12 +12,17 @@
 
 #include "platform/privacy.h"
 #include "shell/called_hosts.h"
+#include "shell/place_to_call.h"
 #include "shell/text_pair.h"
 #include "shell/text_style.h"
+#include "shell/undelivered.h"
 
 namespace verlume {
 
 inline constexpr int kHistoryCapacity = 50;
+// Whether the router may be asked to pass calls on.
+enum class RouterChoice { NotYet, Yes, No };
+
 inline constexpr std::size_t kNicknameLimit = 32;  // characters
 
 struct AppState {
@@ -52,9 +57,16 @@ struct AppState {
   std::size_t LinesSaid = 0;       // lines of the user, sent over this connection
   bool HasCalled = false;    // this side made the call of the last conversation, or of the current
   bool OffersAgain = false;  // to call or wait again (shell/again_bar.h)
+  UndeliveredLines Undelivered;  // what they said, to be sent to the same peers later
+  bool HidesResend = false;  // the user has closed the bar that offers that, in this conversation
   std::vector<CalledHost> CalledHosts;  // newest first
   FilledPair ConnectionNote;            // why the last call or wait has failed, and what to do next
   std::vector<std::u16string> TurnedAway;  // addresses whose calls are rejected without asking
+
+  // Being called.
+  RouterChoice AskRouter = RouterChoice::NotYet;
+  bool AsksAboutRouter = false;  // a bar asks for that choice (reach/router_bar.h)
+  PlaceToCall Place;             // to give to whoever is to call; of the last wait, none when Idle
 
   // Private conversations.
   PrivacyOffer Offer = PrivacyOffer::WhenPossible;

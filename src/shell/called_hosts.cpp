@@ -87,6 +87,15 @@ void WriteCalledHosts(const AppState& state, Settings& settings, std::size_t cou
 
 }  // namespace
 
+std::u16string CalledPlace(const AppState& state) {
+  std::u16string place =
+      CallParameters({std::u16string(Trim(state.RemoteHost)), state.RemotePort, {}});
+  for (char16_t& c : place) {
+    if (c >= u'A' && c <= u'Z') c = static_cast<char16_t>(c + 32);
+  }
+  return place;
+}
+
 std::u16string CallParameters(const CalledHost& called) {
   return called.host + u' ' + DecimalText(called.port);
 }

@@ -28,6 +28,10 @@ std::u16string CalledHostText(const CalledHost& called);
 // What "/CALL" is followed by: "host port".
 std::u16string CallParameters(const CalledHost& called);
 
+// The same of the call that AppState tells of, with ASCII letters small, as names of hosts are the
+// same in any case.
+std::u16string CalledPlace(const AppState& state);
+
 // At start-up. Shows them in the menu.
 void ReadCalledHosts(AppState& state, const Platform& platform, const Settings& settings);
 // A call to AppState's RemoteHost and RemotePort begins: it is the newest of them. A host that a

@@ -10,7 +10,7 @@ std::optional<std::u16string> ChooseFolder(Platform& platform, std::u16string_vi
                                            std::u16string_view suggestion) {
   const std::u16string initialFolder = FolderExists(platform.files, current)
                                            ? std::u16string(current)
-                                           : platform.application.ProgramFolder();
+                                           : platform.application.SettingsFolder();
   try {
     return platform.dlgControl.ChooseFolder(title, initialFolder, suggestion);
   } catch (const RunTimeFailure& failure) {

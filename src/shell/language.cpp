@@ -6,6 +6,8 @@
 #include "shell/language_texts.h"
 #include "shell/lines_below.h"
 #include "shell/private_texts.h"
+#include "shell/reach_texts.h"
+#include "shell/resend_bar.h"
 #include "shell/setting_names.h"
 #include "shell/settings_reader.h"
 #include "shell/status_panel.h"
@@ -23,13 +25,17 @@ void Language::ApplyLanguage() {
     for (const auto& [set, text] : PanelTexts(frmMain)) set(text.In(isGreek));
     for (const auto& [set, text] : WelcomeCardTexts(frmMain.welcomeCard)) set(text.In(isGreek));
     for (const auto& [set, text] : AgainBarTexts(frmMain.againBar)) set(text.In(isGreek));
+    for (const auto& [set, text] : ResendBarTexts(frmMain.resendBar)) set(text.In(isGreek));
     for (const auto& [set, text] : PrivateTexts(frmMain)) set(text.In(isGreek));
     for (const auto& [set, text] : PeopleWindowTexts(platform_.frmPeople)) set(text.In(isGreek));
     for (const auto& [set, text] : VerifyWindowTexts(platform_.frmVerify)) set(text.In(isGreek));
+    for (const auto& [set, text] : ReachTexts(frmMain)) set(text.In(isGreek));
+    for (const auto& [set, text] : ReachWindowTexts(platform_.frmReach)) set(text.In(isGreek));
     ShowLamp(state_, frmMain);
     ShowDelivery(state_, frmMain);
     ShowWelcomeCard(state_, platform_);
     ShowAgainBar(state_, platform_);
+    ShowResendBar(state_, platform_);
     ShowCalledHosts(state_, platform_);
     ShowLinesBelow(state_, frmMain);
     ExplainRemoteNickname(state_, frmMain);

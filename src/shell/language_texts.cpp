@@ -34,7 +34,7 @@ std::vector<PanelValue> PanelValues(const MainWindow& frmMain) {
        {u"Duration", u"Διάρκεια"},
        &frmMain.lblChatDurationCaption,
        {u"Duration", u"Διάρκεια"}},
-      {frmMain.lblLocalIP, {u"Local address", u"Τοπική διεύθυνση"}},
+      {frmMain.lblLocalIP, kLocalAddressToolTip},
       {frmMain.lblLocalPort,
        {u"Local port", u"Τοπική θύρα"},
        &frmMain.lblLocalPortCaption,

@@ -20,6 +20,9 @@ inline constexpr TextPair kMainWindowTitle = {u"Verlume", u"Verlume"};
 // The tool tip of lblStatus; shell/delivery.h may add to it.
 inline constexpr TextPair kStatusToolTip = {u"Status", u"Κατάσταση"};
 
+// The tool tip of lblLocalIP; reach/outer_address.h may add to it.
+inline constexpr TextPair kLocalAddressToolTip = {u"Local address", u"Τοπική διεύθυνση"};
+
 // The tool tip of lblRemoteNickname; shell/who_is_who.h may add to it.
 inline constexpr TextPair kRemoteNicknameToolTip = {u"Remote nickname", u"Απομακρυσμένο ψευδώνυμο"};
 

@@ -69,6 +69,8 @@ enum class Procedure : int {
   mnuPrivate_Click = 292,
   PeopleWindow = 293,
   VerifyWindow = 294,
+  RouterPort = 295,  // the port that the router passes on, and the bar that asks about it
+  ReachWindow = 296,
 };
 
 }  // namespace verlume

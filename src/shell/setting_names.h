@@ -29,6 +29,7 @@ inline constexpr std::u16string_view kNotifyText = u"NotifyText";
 inline constexpr std::u16string_view kNotifySound = u"NotifySound";
 inline constexpr std::u16string_view kNotifyCount = u"NotifyCount";
 inline constexpr std::u16string_view kPrivateConversations = u"PrivateConversations";
+inline constexpr std::u16string_view kAskRouter = u"AskRouter";
 // Of FontLocal.
 inline constexpr std::u16string_view kFontName = u"Name";
 inline constexpr std::u16string_view kFontBold = u"Bold";

@@ -106,6 +106,14 @@ PrivacyOffer OfferOf(Value value) {
   return PrivacyOffer::WhenPossible;
 }
 
+// What is none of the numbers counts as missing.
+RouterChoice RouterChoiceOf(Value value) {
+  for (const RouterChoice choice : {RouterChoice::Yes, RouterChoice::No}) {
+    if (value && *value == RouterChoiceText(choice)) return choice;
+  }
+  return RouterChoice::NotYet;
+}
+
 struct Key {
   std::u16string_view section;
   std::u16string_view key;
@@ -204,6 +212,11 @@ constexpr Key kKeys[] = {
        to.state.Offer = OfferOf(value);
        ShowOffer(to.state, to.frmMain);
      }},
+    {setting_section::kGeneral, setting_key::kAskRouter, 20, kNull, CheckText,
+     [](Value value, Target to) {
+       to.state.AskRouter = RouterChoiceOf(value);
+       ShowRouterChoice(to.state, to.frmMain);
+     }},
 };
 
 // The value of a key in the file.
@@ -246,6 +259,16 @@ void SetSettingDefaults(AppState& state, const MainWindow& frmMain) {
   frmMain.rtbData.SetMostParagraphs(kDefaultMostParagraphs);
   state.Offer = PrivacyOffer::WhenPossible;
   ShowOffer(state, frmMain);
+  state.AskRouter = RouterChoice::NotYet;
+  ShowRouterChoice(state, frmMain);
+}
+
+std::u16string RouterChoiceText(RouterChoice choice) {
+  return DecimalText(static_cast<int>(choice));
+}
+
+void ShowRouterChoice(const AppState& state, const MainWindow& frmMain) {
+  frmMain.mnuCommAskRouter.SetChecked(state.AskRouter == RouterChoice::Yes);
 }
 
 std::u16string_view OfferText(PrivacyOffer offer) {

@@ -35,6 +35,10 @@ bool AllValuesAreValid(const Settings& settings);
 std::u16string_view OfferText(PrivacyOffer offer);
 void ShowOffer(const AppState& state, const MainWindow& frmMain);
 
+// Whether the router may be asked for the port, in the same way.
+std::u16string RouterChoiceText(RouterChoice choice);
+void ShowRouterChoice(const AppState& state, const MainWindow& frmMain);
+
 // The language and the local font as they are written into the file.
 std::u16string_view LanguageText(const AppState& state);
 std::vector<Settings::KeyValue> FontSettings(const AppState& state);

@@ -16,7 +16,7 @@ constexpr TextPair kWaitingForFriend = {
     u"Περιμένετε κλήση στη θύρα %1. Δώστε στον φίλο σας αυτήν τη διεύθυνση και τη θύρα."};
 // %1 LocalAddress
 constexpr TextPair kAddress = {u"Your address: %1", u"Η διεύθυνσή σας: %1"};
-// %1 LocalAddress, %2 LocalPort
+// %1 and %2 the place to give to others
 constexpr TextPair kAddressAndPort = {u"Your address: %1, port %2",
                                       u"Η διεύθυνσή σας: %1, θύρα %2"};
 
@@ -47,8 +47,9 @@ void ShowIdle(const AppState& state, const WelcomeCard& card) {
 void ShowWait(const AppState& state, const WelcomeCard& card) {
   const std::u16string port = DecimalText(state.LocalPort);
   card.lblCard.SetCaption(kWaitingForFriend.Fill(state.IsGreek, {port}));
-  card.lblCardAddress.SetCaption(kAddressAndPort.Fill(state.IsGreek, {state.LocalAddress, port}));
-  card.cmdCardCopy.SetTextToCopy(HostAndPort(state.LocalAddress, port));
+  const std::u16string given = DecimalText(state.Place.port);
+  card.lblCardAddress.SetCaption(kAddressAndPort.Fill(state.IsGreek, {state.Place.host, given}));
+  card.cmdCardCopy.SetTextToCopy(HostAndPort(state.Place.host, given));
 }
 
 }  // namespace

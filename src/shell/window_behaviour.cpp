@@ -78,4 +78,13 @@ void BindContextHelp(const VerifyWindow& frmVerify) {
                    &frmVerify.cmdVerifyClose});
 }
 
+void BindContextHelp(const ReachWindow& frmReach) {
+  BindContextHelp({&frmReach.lstReachAddresses, &frmReach.lblReachRouterCaption,
+                   &frmReach.lblReachRouter, &frmReach.lblReachFirewallCaption,
+                   &frmReach.lblReachFirewall, &frmReach.lblReachAdviceCaption,
+                   &frmReach.lblReachAdvice, &frmReach.lblReachAddressCaption,
+                   &frmReach.cmdReachCopyAddress, &frmReach.cmdReachCopyInvitation,
+                   &frmReach.cmdReachAgain, &frmReach.cmdReachClose});
+}
+
 }  // namespace verlume

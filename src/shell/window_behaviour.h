@@ -34,5 +34,6 @@ void BindContextHelp(const MainWindow& frmMain);
 // The same for all that is in the window but the text field, which has a menu of its own.
 void BindContextHelp(const PeopleWindow& frmPeople);
 void BindContextHelp(const VerifyWindow& frmVerify);
+void BindContextHelp(const ReachWindow& frmReach);
 
 }  // namespace verlume

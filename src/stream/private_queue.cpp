@@ -23,17 +23,19 @@ std::optional<std::string> PrivateQueue::TakeFrame() {
   begun_ += body.size();
   if (body.size() < rest.size()) return WriteFrame(FrameKind::TextPart, body);
   std::string frame = WriteFrame(FrameKind::Text, body);
-  sent_.push_back(texts_.front().kind);
+  ++sent_;
+  if (texts_.front().kind == TextKind::Line) sentLines_.push_back(sent_);
   texts_.pop_front();
   begun_ = 0;
   return frame;
 }
 
 bool PrivateQueue::Acknowledge(std::uint64_t texts) {
-  if (texts < acknowledged_ || texts - acknowledged_ > sent_.size()) return false;
-  for (; acknowledged_ < texts; ++acknowledged_) {
-    if (sent_.front() == TextKind::Line) --linesWaiting_;
-    sent_.pop_front();
+  if (texts < acknowledged_ || texts > sent_) return false;
+  acknowledged_ = texts;
+  while (!sentLines_.empty() && sentLines_.front() <= acknowledged_) {
+    sentLines_.pop_front();
+    --linesWaiting_;
   }
   return true;
 }

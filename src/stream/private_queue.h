@@ -27,7 +27,7 @@ class PrivateQueue {
   // Every text is taken.
   bool IsEmpty() const { return texts_.empty(); }
   // Every text is acknowledged.
-  bool IsDone() const { return texts_.empty() && sent_.empty(); }
+  bool IsDone() const { return texts_.empty() && sent_ == acknowledged_; }
   // How many lines are not acknowledged, sent or queued.
   std::size_t LinesWaiting() const { return linesWaiting_; }
 
@@ -41,8 +41,12 @@ class PrivateQueue {
 
   std::deque<Text> texts_;
   std::size_t begun_ = 0;  // how much of the first text is taken, in bytes
-  std::deque<TextKind> sent_;
+  // Of all since the beginning.
+  std::uint64_t sent_ = 0;
   std::uint64_t acknowledged_ = 0;
+  // Which of the sent texts are lines that are not acknowledged, counted from 1. A peer that asks
+  // for signals and never acknowledges them costs no memory.
+  std::deque<std::uint64_t> sentLines_;
   std::size_t linesWaiting_ = 0;
 };
 

@@ -50,6 +50,7 @@ class TypingSide : public testing::Test {
   Dialogue dialogue{state, fake.platform, errors, settings, log};
   WireProtocol wire{
       state, fake.platform, errors, {.dialogue = dialogue, .log = log, .statusPanel = statusPanel}};
+  PortKeeper port{state, fake.platform, errors, settings};
   ConnectionActions connection{state,
                                fake.platform,
                                errors,
@@ -57,7 +58,8 @@ class TypingSide : public testing::Test {
                                 .dialogue = dialogue,
                                 .log = log,
                                 .statusPanel = statusPanel,
-                                .wire = wire}};
+                                .wire = wire,
+                                .port = port}};
   CommandHistory history{state, fake.platform, errors};
   TextFormat textFormat{state, fake.platform, errors, settings, dialogue};
   CommandInterpreter interpreter{state,

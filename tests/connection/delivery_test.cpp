@@ -34,13 +34,13 @@ class DeliveryTest : public testing::Test, protected fake::TwoSides {
     bob.state.Nickname = u"Carol";
     const auto tell = std::exchange(alice.fake.socket.onUndelivered, nullptr);
     std::size_t lost = 0;
-    alice.fake.socket.onUndelivered = [&](std::size_t lines) { lost = lines; };
+    alice.fake.socket.onUndelivered = [&](std::size_t lines, ConnectionNumber) { lost = lines; };
     network.RunUntilIdle();  // Bob learns of the end
     Connect();
     alice.fake.socket.onUndelivered = tell;
     ASSERT_EQ(alice.State(), ConnectionState::Connected);
     ASSERT_GT(lost, 0u);
-    tell(lost);
+    tell(lost, 1);
   }
   // A second connection, in which the caller never receives the start.
   void SendBeforeTheHandshake() {

@@ -132,7 +132,7 @@ class InvitationFromOutsideTest : public InvitationsTest {
     carol.files.MakeFolder(u"/macros");
     carol.files.ReplaceText(u"/verlume/Verlume.ini",
                             u"[General]\r\nMacrosfolder=/macros/\r\nNickname=Carol\r\n");
-    program.Start(invitation);
+    program.Start({StartTask::Kind::OpenInvitation, std::u16string(invitation), 0});
     EXPECT_TRUE(carol.dialogs.messages.empty()) << "not before the window is there";
     carol.dialogs.answers = {answer};
     carol.window.freeSizer1.onPostLayout();
@@ -148,6 +148,7 @@ TEST_F(InvitationFromOutsideTest, AsksBeforeItCalls) {
   ASSERT_EQ(carol.dialogs.messages.size(), 1u);
   EXPECT_TRUE(carol.dialogs.messages[0].text.starts_with(
       u"An invitation was opened. Do you want to call the computer 192.0.2.1 on port 4000?"));
+  EXPECT_TRUE(carol.dialogs.messages[0].unexpected) << "what is being typed does not answer";
   EXPECT_EQ(carol.dialogs.messages[0].defaultAnswer, Answer::No);
   EXPECT_TRUE(program.State().IsConnected);
   EXPECT_EQ(carol.window.lblLock.caption, u"Private, by invitation");

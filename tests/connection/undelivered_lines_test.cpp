@@ -66,7 +66,7 @@ TEST_F(UndeliveredLinesTest, LinesOfTheNextConversationAreNotMeant) {
   network.RunUntilIdle();
   Connect();
   AliceSays(3);
-  tell(1);
+  tell(1, 1);
   EXPECT_THAT(Authors(), ElementsAre(kSent, kNotDelivered, kSent, kSent, kSent));
 }
 

@@ -77,8 +77,11 @@ class AssistiveToolsTest : public testing::Test {
                     .frmMacros = fake.macros.frmMacros,
                     .frmPeople = fake.people.frmPeople,
                     .frmVerify = fake.verify.frmVerify,
+                    .frmReach = fake.reach.frmReach,
                     .sckControl = fake.socket,
                     .privacy = fake.socket.privacy,
+                    .router = fake.router,
+                    .network = fake.addresses,
                     .dialogs = fake.dialogs,
                     .dlgControl = fake.commonDialog,
                     .files = fake.files,
@@ -126,6 +129,7 @@ TEST_F(AssistiveToolsTest, AnotherValueIsToldOnce) {
 }
 
 TEST_F(AssistiveToolsTest, StateChangesAndThePeersLinesAreReadOutOnce) {
+  window.View().mnuCommAskRouter.Click();  // else the wait asks whether it may
   Enter(u"/WAIT 4000");
   Tick();
   fake.dialogs.answers.push_back(Answer::Yes);

@@ -73,8 +73,16 @@ Copy::Copy(const QString& nickname, bool isGreek) {
                        .toUtf8());
     settings.close();
   }
+  // What a copy that is killed leaves behind goes with the folder.
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("XDG_RUNTIME_DIR", folder_.path());
+  program_.setProcessEnvironment(environment);
   program_.setProcessChannelMode(QProcess::ForwardedChannels);
-  program_.start(folder.filePath("verlume"), QStringList());
+  Restart();
+}
+
+void Copy::Restart() {
+  program_.start(folder_.filePath("verlume"), QStringList());
   WaitUntil([this] { return !(window_ = FindWindow("Verlume")).isEmpty(); });
 }
 
@@ -160,6 +168,17 @@ void Copy::ClickCloseBox() {
   constexpr int kFromTheRight = 8;
   constexpr int kAboveTheWindow = 10;
   ClickAtPixel(Size().width() - kFromTheRight, -kAboveTheWindow);
+}
+
+std::optional<int> Copy::StartAgain(const QStringList& arguments) const {
+  QProcess again;
+  again.setProcessEnvironment(program_.processEnvironment());
+  again.setProcessChannelMode(QProcess::ForwardedChannels);
+  again.start(folder_.filePath("verlume"), arguments);
+  if (again.waitForFinished(15000)) return again.exitCode();
+  again.kill();
+  again.waitForFinished(5000);
+  return std::nullopt;
 }
 
 void Copy::Kill() {

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QTemporaryDir>
 #include <functional>
+#include <optional>
 
 namespace verlume::e2e {
 
@@ -59,7 +60,11 @@ class Copy {
   const QString& Window() const { return window_; }
   // Clicks on the close button in the window's title bar.
   void ClickCloseBox();
+  // Starts the program once more in the same folder; the exit status, none if it does not end.
+  std::optional<int> StartAgain(const QStringList& arguments) const;
   void Kill();  // at once, without an orderly end
+  // Starts the program again in its folder, after its end.
+  void Restart();
   bool HasEnded() { return program_.state() == QProcess::NotRunning; }
   qint64 Process() const { return program_.processId(); }
   bool WaitForEnd() { return program_.waitForFinished(10000); }

@@ -36,8 +36,9 @@ class LinkModel {
 
   // Delays every delivery until then.
   void StallUntil(Time until) { stalledUntil_ = until; }
-  // Loses the frames under way and all later ones.
+  // Loses the frames under way and all later ones, until Mend.
   void Cut();
+  void Mend() { isCut_ = false; }
 
   std::int64_t Added() const { return added_; }
   std::int64_t Lost() const { return lost_; }

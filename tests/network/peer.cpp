@@ -31,6 +31,11 @@ SelectionFormat Emphasis() {
   return format;
 }
 
+// What a bar says; "" while it is not there.
+QString TextOf(const FloatingPanel& bar, const Label& text) {
+  return bar.Visible() ? qt::ToQt(text.Caption()) : QString();
+}
+
 Play PlayOf(const QStringList& words) {
   return {.side = words[1][0].unicode(),
           .seed = words[2].toULongLong(),
@@ -66,6 +71,8 @@ void Peer::ReadOrders() {
 void Peer::Obey(const QString& order) {
   if (order.startsWith("enter ")) {
     work_.push_back([this, line = order.mid(6)] { Enter(line); });
+  } else if (order.startsWith("click ")) {
+    work_.push_back([this, name = order.mid(6)] { Click(name); });
   } else {
     for (const Step& step : StepsOf(PlayOf(order.split(' ')))) {
       work_.push_back([this, step] { Do(step); });
@@ -90,7 +97,8 @@ void Peer::Do(const Step& step) {
   RichTextBox& pane = platform_.frmMain.rtbCommands;
   switch (step.kind) {
     case StepKind::Bare:
-      return platform_.sckControl.SendData(step.text, TextKind::Line);
+      platform_.sckControl.SendData(step.text, TextKind::Line);
+      return;
     case StepKind::Plain:
       return Enter(qt::ToQt(step.text));
     case StepKind::Action:
@@ -112,6 +120,10 @@ void Peer::Enter(const QString& text) {
   PressEnter();
 }
 
+void Peer::Click(const QString& button) {
+  commands_->window()->findChild<QPushButton*>(button)->click();
+}
+
 void Peer::PressEnter() {
   QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
   QApplication::sendEvent(commands_, &press);
@@ -127,6 +139,8 @@ void Peer::Look() {
   const MainWindow& frmMain = platform_.frmMain;
   ReportChange("lamp", QString::number(frmMain.shpStatus.FillColor()), lamp_);
   ReportChange("tip", qt::ToQt(frmMain.lblStatus.ToolTip()), toolTip_);
+  ReportChange("again", TextOf(frmMain.againBar.fraAgain, frmMain.againBar.lblAgain), again_);
+  ReportChange("resend", TextOf(frmMain.resendBar.fraResend, frmMain.resendBar.lblResend), resend_);
   ReportChange("waiting", qt::ToQt(frmMain.lblWaiting.Caption()), waiting_);
   // Last, so that a reader of the new status knows all the others too, except the lines.
   ReportChange("status", qt::ToQt(frmMain.lblStatus.Caption()), status_);

@@ -1,12 +1,12 @@
 // The program with a simulated user, who carries out orders from standard input and reports on
 // standard output what the window shows, one line each.
 //
-// Orders: "enter TEXT" types a line and presses Enter; "play SIDE SEED STEPS LONGEST LONG_LINES"
-// plays a script (script.h) as fast as it can; the end of the input ends the program. A call is
-// accepted, every other box is dismissed.
-// Reports: "ready"; "line TEXT" for each line of the dialogue pane; "lamp COLOUR", "waiting TEXT",
-// "tip TEXT" (of the status line) and "status TEXT" whenever they change; "box TEXT"; "played" at
-// a script's end.
+// Orders: "enter TEXT" types a line and presses Enter; "click NAME" presses a button; "play SIDE
+// SEED STEPS LONGEST LONG_LINES" plays a script (script.h) as fast as it can; the end of the input
+// ends the program. A call is accepted, every other box is dismissed. Reports: "ready"; "line TEXT"
+// for each line of the dialogue pane; "lamp COLOUR", "waiting TEXT", "tip TEXT" (of the status
+// line), "again TEXT" and "resend TEXT" (of the bars) and "status TEXT" whenever they change; "box
+// TEXT"; "played" at a script's end.
 #pragma once
 
 #include <QByteArray>
@@ -32,6 +32,7 @@ class Peer : public QObject {
   void DoNext();
   void Do(const Step& step);
   void Enter(const QString& text);
+  void Click(const QString& button);
   void PressEnter();
   void Look();
   void ReportLines();
@@ -56,6 +57,8 @@ class Peer : public QObject {
   QString lamp_;
   QString toolTip_;
   QString waiting_;
+  QString again_;
+  QString resend_;
 };
 
 }  // namespace verlume::network

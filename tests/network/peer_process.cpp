@@ -124,6 +124,8 @@ void PeerProcess::Take(const QString& what, const QString& text) {
   if (what == "lamp") lamp_ = text;
   if (what == "tip") toolTip_ = text;
   if (what == "waiting") waitingSoFar_.append(waiting_ = text);
+  if (what == "again") again_ = text;
+  if (what == "resend") resend_ = text;
   if (what == "box") boxes_.append(text);
   const bool isOwn = text.startsWith('<' + QString(side_)) || text.startsWith(' ' + QString(side_));
   if (what == "line" && !isOwn) lines_.append(text);

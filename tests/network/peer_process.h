@@ -29,6 +29,7 @@ class PeerProcess {
   ~PeerProcess();
 
   void Enter(const QString& line) { Order("enter " + line); }
+  void Click(const QString& button) { Order("click " + button); }
   void Start(const Play& play);
 
   bool IsReady() const { return isReady_; }
@@ -38,6 +39,9 @@ class PeerProcess {
   const QString& Lamp() const { return lamp_; }
   const QString& StatusToolTip() const { return toolTip_; }
   const QString& Waiting() const { return waiting_; }
+  // What the bars say; "" while they are not there.
+  const QString& AgainBar() const { return again_; }
+  const QString& ResendBar() const { return resend_; }
   // Every text that the label for waiting lines has shown, in order.
   const QStringList& WaitingSoFar() const { return waitingSoFar_; }
   const QStringList& Boxes() const { return boxes_; }
@@ -61,6 +65,8 @@ class PeerProcess {
   QString lamp_;
   QString toolTip_;
   QString waiting_;
+  QString again_;
+  QString resend_;
   QStringList waitingSoFar_;
   QStringList boxes_;
   QStringList lines_;

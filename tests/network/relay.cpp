@@ -28,6 +28,11 @@ void Relay::Stall(Time duration) {
   for (Direction& direction : directions_) direction.model.StallUntil(Now() + duration);
 }
 
+void Relay::Mend() {
+  const std::lock_guard lock(mutex_);
+  for (Direction& direction : directions_) direction.model.Mend();
+}
+
 void Relay::Cut() {
   const std::lock_guard lock(mutex_);
   for (Direction& direction : directions_) direction.model.Cut();

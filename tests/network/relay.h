@@ -20,8 +20,9 @@ class Relay {
 
   // For that long both directions deliver nothing; then they deliver what has waited.
   void Stall(Time duration);
-  // Both directions lose everything from now on.
+  // Both directions lose everything until Mend.
   void Cut();
+  void Mend();
 
   // How much it carried and lost, as text for people.
   std::string Account();

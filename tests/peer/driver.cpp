@@ -69,7 +69,7 @@ void Driver::TellEvents() {
   socket_.onConnect = [] { Tell(QStringLiteral("connect")); };
   socket_.onDataArrival = [this](std::int32_t) { TellArrival(); };
   socket_.onAcknowledged = [] { Tell(QStringLiteral("acknowledged")); };
-  socket_.onUndelivered = [](std::size_t lines) {
+  socket_.onUndelivered = [](std::size_t lines, ConnectionNumber) {
     Tell(QStringLiteral("undelivered %1").arg(lines));
   };
   socket_.onClose = [this] { Tell(QStringLiteral("closed ") + Name(privacy_.LastFailure())); };

@@ -71,6 +71,22 @@ class Keys(AttackCase):
     def test_somebody_elses_certificate(self):
         self.in_both_roles(lambda role: self.refused(role, show(borrowed)))
 
+    def test_an_earlier_session_proves_nothing(self):
+        """The client of TLS asks to go on with its last session, which would need no key."""
+        context = any_context(MALLORY)
+        attacker, road = self.talks_privately(
+            CALLER, lambda attacker: attacker.tails().handshake(context))
+        session = attacker.tls.connection.get_session()
+        self.finish(road)
+        attacker = self.attacker(CALLER).tails()
+        attacker.tls = tls.TlsWire(attacker.wire, context, server=False)
+        attacker.tls.connection.set_session(session)
+        attacker.tls.handshake()
+        self.assertEqual(0, tls.lib.SSL_session_reused(attacker.tls.connection._ssl))
+        road = attacker.connect()
+        self.victim.wait_until_connected()
+        self.finish(road)
+
     def test_older_tls(self):
         def older(own):
             made = any_context(own)

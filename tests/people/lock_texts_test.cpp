@@ -75,12 +75,14 @@ TEST_F(LockTextsTest, ThePictureSaysItToo) {
   EXPECT_EQ(PictureOfLock(lock), LockPicture::Becoming);
   lock.privacy = Privacy::Private;
   EXPECT_EQ(PictureOfLock(lock), LockPicture::Closed);
+  lock.isAnotherKnown = true;
+  EXPECT_EQ(PictureOfLock(lock), LockPicture::Doubtful);
   lock.acquaintance = Acquaintance::Verified;
   EXPECT_EQ(PictureOfLock(lock), LockPicture::Verified);
   lock.privacy = Privacy::Clear;
-  EXPECT_EQ(PictureOfLock(lock), LockPicture::Open);
-  lock.isAnotherKnown = true;
   EXPECT_EQ(PictureOfLock(lock), LockPicture::Warning);
+  lock.isAnotherKnown = false;
+  EXPECT_EQ(PictureOfLock(lock), LockPicture::Open);
 }
 
 }  // namespace

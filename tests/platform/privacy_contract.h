@@ -35,7 +35,7 @@ struct PrivacyUser : SocketUser {
       textsBeforeKnown = texts.size();
       if (admits) privacy.AdmitPeer();
     };
-    socket.onUndelivered = [this](std::size_t lines) { undelivered += lines; };
+    socket.onUndelivered = [this](std::size_t lines, ConnectionNumber) { undelivered += lines; };
     socket.onDataArrival = [this](std::int32_t) {
       texts.push_back(socket.GetData());
       if (texts.back().starts_with(GreetingOf(u'S', u"").substr(0, kMarkerLength + 1))) {

@@ -167,16 +167,16 @@ TYPED_TEST_P(SocketContract, CharactersOutsideTheCodePageArriveAsQuestionMarks) 
 }
 
 TYPED_TEST_P(SocketContract, NothingIsSentUnlessConnected) {
-  this->caller.socket.SendData(u"lost", TextKind::Line);
+  EXPECT_FALSE(this->caller.socket.SendData(u"lost", TextKind::Line));
   this->Listen();
-  this->callee.socket.SendData(u"lost", TextKind::Line);
+  EXPECT_FALSE(this->callee.socket.SendData(u"lost", TextKind::Line));
   this->Call(this->caller);
-  this->caller.socket.SendData(u"lost", TextKind::Line);
+  EXPECT_FALSE(this->caller.socket.SendData(u"lost", TextKind::Line));
   ASSERT_TRUE(this->world.Wait([&] { return this->callee.requests.size() == 1; }));
-  this->callee.socket.SendData(u"lost", TextKind::Line);
+  EXPECT_FALSE(this->callee.socket.SendData(u"lost", TextKind::Line));
   this->Answer();
   ASSERT_TRUE(this->world.Wait([&] { return this->caller.connects == 1; }));
-  this->caller.socket.SendData(u"a", TextKind::Line);
+  EXPECT_TRUE(this->caller.socket.SendData(u"a", TextKind::Line));
   this->callee.socket.SendData(u"b", TextKind::Line);
   EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"a"; }));
   EXPECT_TRUE(this->world.Wait([&] { return this->caller.Received() == u"b"; }));
@@ -371,6 +371,25 @@ TYPED_TEST_P(SocketContract, ClosingTwiceIsHarmlessAndTheSocketServesAgain) {
   EXPECT_TRUE(this->world.Wait([&] { return this->callee.Received() == u"again"; }));
 }
 
+TYPED_TEST_P(SocketContract, EachConnectionHasANumberOfItsOwn) {
+  for (SocketUser* user : {&this->caller, &this->callee}) {
+    EXPECT_EQ(user->socket.CurrentConnection(), 0u);
+  }
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  const ConnectionNumber callers = this->caller.socket.CurrentConnection();
+  const ConnectionNumber callees = this->callee.socket.CurrentConnection();
+  EXPECT_GT(callers, 0u);
+  EXPECT_GT(callees, 0u);
+  this->callee.socket.Close();
+  ASSERT_TRUE(this->WaitForClose(this->caller));
+  EXPECT_EQ(this->caller.socket.CurrentConnection(), callers) << "it was the last";
+  this->caller.connects = 0;
+  this->callee.requests.clear();
+  ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
+  EXPECT_GT(this->caller.socket.CurrentConnection(), callers);
+  EXPECT_GT(this->callee.socket.CurrentConnection(), callees);
+}
+
 TYPED_TEST_P(SocketContract, PausedArrivalsAndTheCloseBehindThemWaitInOrder) {
   ASSERT_NO_FATAL_FAILURE(this->ConnectBoth());
   this->callee.socket.PauseArrivals();
@@ -464,8 +483,9 @@ REGISTER_TYPED_TEST_SUITE_P(
     WordsSentOnAnsweringStillArriveWhenTheCalleeClosesAtOnce, ACallThatNobodyTakesCloses,
     ACallToAnUnknownNameClosesAndSaysSo, TheReasonOfAFailedCallStaysUntilTheNextCall,
     ACancelledCallRaisesNothing, ClosingInsideAnEventEndsTheEvents,
-    ClosingTwiceIsHarmlessAndTheSocketServesAgain, PausedArrivalsAndTheCloseBehindThemWaitInOrder,
-    PausingInsideAnArrivalHoldsTheNextOneBack, APausedSocketStillSends,
-    APauseHoldsForTheNextConnectionToo, ClosingDropsPausedArrivals, SidesMayChangeTheirRoles);
+    ClosingTwiceIsHarmlessAndTheSocketServesAgain, EachConnectionHasANumberOfItsOwn,
+    PausedArrivalsAndTheCloseBehindThemWaitInOrder, PausingInsideAnArrivalHoldsTheNextOneBack,
+    APausedSocketStillSends, APauseHoldsForTheNextConnectionToo, ClosingDropsPausedArrivals,
+    SidesMayChangeTheirRoles);
 
 }  // namespace verlume

@@ -55,6 +55,16 @@ struct FakeAgainBar {
   AgainBar View() { return {fraAgain, lblAgain, cmdAgain, cmdAgainClose}; }
 };
 
+struct FakeResendBar {
+  FakeFloatingPanel fraResend;
+  FakeLabel lblResend;
+  FakeButton cmdResend;
+  FakeButton cmdResendDrop;
+  FakeButton cmdResendClose;
+
+  ResendBar View() { return {fraResend, lblResend, cmdResend, cmdResendDrop, cmdResendClose}; }
+};
+
 struct FakeKeyBar {
   FakeFloatingPanel fraKey;
   FakeLabel lblKey;
@@ -62,6 +72,16 @@ struct FakeKeyBar {
   FakeButton cmdKeyHangUp;
 
   KeyBar View() { return {fraKey, lblKey, cmdKeyGoOn, cmdKeyHangUp}; }
+};
+
+struct FakeRouterBar {
+  FakeFloatingPanel fraRouter;
+  FakeLabel lblRouter;
+  FakeButton cmdRouterYes;
+  FakeButton cmdRouterNo;
+  FakeButton cmdRouterClose;
+
+  RouterBar View() { return {fraRouter, lblRouter, cmdRouterYes, cmdRouterNo, cmdRouterClose}; }
 };
 
 }  // namespace verlume::fake

@@ -34,6 +34,8 @@ struct FakeMainWindow {
   FakeMenuEntry mnuCommInvite;
   FakeMenuEntry mnuCommVerify;
   FakeMenuEntry mnuCommPeople;
+  FakeMenuEntry mnuCommReach;
+  FakeMenuEntry mnuCommAskRouter;
   FakeMenu mnuFormat;
   FakeMenuEntry mnuFormatFontBold;
   FakeMenuEntry mnuFormatFontItalics;
@@ -90,7 +92,9 @@ struct FakeMainWindow {
   FakeButton cmdNewLines;
   FakeWelcomeCard welcomeCard;
   FakeAgainBar againBar;
+  FakeResendBar resendBar;
   FakeKeyBar keyBar;
+  FakeRouterBar routerBar;
   FakeLabel lblHint;
   FakeSpellChecker spelling;
   FakeButton cmdSend;

@@ -9,6 +9,8 @@
 #include "platform_fake/fake_macro_window.h"
 #include "platform_fake/fake_main_window.h"
 #include "platform_fake/fake_people_window.h"
+#include "platform_fake/fake_reach_window.h"
+#include "platform_fake/fake_router.h"
 #include "platform_fake/fake_socket.h"
 #include "platform_fake/fake_system.h"
 #include "platform_fake/fake_verify_window.h"
@@ -26,7 +28,10 @@ struct FakePlatform {
   FakeMacroWindow macros;
   FakePeopleWindow people;
   FakeVerifyWindow verify;
+  FakeReachWindow reach;
   FakeSocket socket;
+  FakeRouter router;
+  FakeAddresses addresses;
   FakeDialogs dialogs;
   FakeCommonDialog commonDialog;
   FakeClock clock;

@@ -68,7 +68,7 @@ void FakePrivacy::SettleByArrival(std::u16string_view text) {
 
 void FakePrivacy::SettleInClear(std::u16string_view text) {
   Enter(Privacy::Clear);
-  if (offerNow_ == PrivacyOffer::Only && !isReady_) return Fail(PrivacyFailure::NoKey);
+  if (LacksKey()) return Fail(PrivacyFailure::NoKey);
   if (offerNow_ == PrivacyOffer::Only || expectedKey) return Fail(PrivacyFailure::NotOffered);
   KnowPeer({std::nullopt, NameIn(text)});
 }

@@ -51,6 +51,8 @@ class FakePrivacy : public PeerPrivacy {
  private:
   friend class FakeSocket;
 
+  // It has to be private, and there is no key to show.
+  bool LacksKey() const { return offerNow_ == PrivacyOffer::Only && !isReady_; }
   bool CanBePrivate() const { return offerNow_ != PrivacyOffer::Never && isReady_; }
   void Begin();      // a call, or a connection that is accepted
   void Connected();  // it is made

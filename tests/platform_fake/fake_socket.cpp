@@ -55,11 +55,13 @@ void FakeSocket::Connect() {
   localPort_ = network_.nextPort_++;
   privacy.Begin();
   Post([this] {
+    if (privacy.LacksKey()) return privacy.Fail(PrivacyFailure::NoKey);
     if (network_.fails) return FailCall(*network_.fails);
     if (remoteHost.ends_with(u".invalid")) return FailCall(CallFailure::UnknownHost);
     const auto listener = network_.listeners_.find(remotePort_);
     if (listener == network_.listeners_.end()) return FailCall(CallFailure::Refused);
     state_ = SocketState::Connected;
+    ++connection_;
     peer_ = listener->second;
     remoteHostIP_ = peer_->localIP;
     privacy.Connected();
@@ -95,11 +97,12 @@ void FakeSocket::Accept(std::int64_t requestId) {
   remotePort_ = caller->localPort_;
   caller->peer_ = this;
   state_ = SocketState::Connected;
+  ++connection_;
   isCaller_ = false;
   hasSent_ = false;
   privacy.Begin();
   Post([this] { privacy.Connected(); });
-  for (const std::u16string& text : std::exchange(caller->early_, {})) Arrive(text);
+  for (const std::u16string& text : std::exchange(caller->early_, {})) Arrive({text});
 }
 
 void FakeSocket::Reject(std::int64_t requestId) {
@@ -128,6 +131,8 @@ void FakeSocket::Close() {
     }
   }
   if (FakeSocket* peer = std::exchange(peer_, nullptr)) {
+    // What is on its way is still taken in.
+    if (!peer->arePaused_ && !peer->privacy.IsHeld()) untaken_.clear();
     std::erase(peer->callers_, this);
     if (peer->pending_ == this) peer->pending_ = nullptr;
     if (peer->peer_ == this) {
@@ -137,7 +142,7 @@ void FakeSocket::Close() {
   }
   LoseWaiting();
   privacy.End();
-  if (undelivered_ > 0) {
+  if (!undelivered_.empty()) {
     network_.events_.push_back([this] {
       if (network_.sockets_.contains(this)) RaiseUndelivered();
     });
@@ -164,22 +169,30 @@ void FakeSocket::LosePeer() {
   if (onClose) onClose();
 }
 
-void FakeSocket::SendData(std::u16string_view text, TextKind kind) {
-  if (state_ != SocketState::Connected) return;
+bool FakeSocket::SendData(std::u16string_view text, TextKind kind) {
+  if (state_ != SocketState::Connected) return false;
   sent.emplace_back(text);
   const bool isFirst = !std::exchange(hasSent_, true) && !isCaller_;
   const bool isHeld = privacy.IsHeld() && !isFirst;
-  if (network_.isCut_ || isHeld) return waiting_.push_back({sent.back(), kind});
-  Deliver(sent.back());
+  const Text next{sent.back(), kind};
+  if (network_.isCut_ || isHeld) {
+    waiting_.push_back(next);
+  } else {
+    Deliver(next);
+  }
+  return true;
 }
 
-void FakeSocket::Deliver(const std::u16string& text) {
+void FakeSocket::Deliver(const Text& next) {
+  const std::u16string& text = next.text;
   // In private no character is lost.
   const bool isWhole = peer_ && privacy.CanBePrivate() && peer_->privacy.CanBePrivate();
   const std::u16string received =
       isWhole ? text : richtext::DecodeGreek(richtext::EncodeGreek(text));
   if (peer_ && peer_->peer_ == this) {
-    peer_->Arrive(received);
+    const bool isCounted = privacy.State() == Privacy::Private;
+    if (isCounted) untaken_.push_back(next.kind);
+    peer_->Arrive({received, isCounted});
   } else {
     early_.push_back(received);
   }
@@ -188,13 +201,14 @@ void FakeSocket::Deliver(const std::u16string& text) {
 std::size_t FakeSocket::LinesWaiting() const {
   const auto lines = std::count_if(waiting_.begin(), waiting_.end(),
                                    [](const Text& text) { return text.kind == TextKind::Line; });
-  return static_cast<std::size_t>(lines);
+  const auto untaken = std::count(untaken_.begin(), untaken_.end(), TextKind::Line);
+  return static_cast<std::size_t>(lines + untaken);
 }
 
 void FakeSocket::DeliverWaiting() {
   for (const Text& text : std::exchange(waiting_, {})) {
-    Deliver(text.text);
-    if (text.kind != TextKind::Line) continue;
+    Deliver(text);
+    if (text.kind != TextKind::Line || privacy.State() == Privacy::Private) continue;
     Post([this] {
       if (onAcknowledged) onAcknowledged();
     });
@@ -202,37 +216,48 @@ void FakeSocket::DeliverWaiting() {
 }
 
 void FakeSocket::LoseWaiting() {
-  undelivered_ += LinesWaiting();
+  if (const std::size_t lines = LinesWaiting(); lines > 0) undelivered_[connection_] += lines;
   waiting_.clear();
+  untaken_.clear();
+}
+
+// In private the peer's program has taken in the next text.
+void FakeSocket::NoteTaken() {
+  if (untaken_.empty()) return;
+  const TextKind kind = untaken_.front();
+  untaken_.pop_front();
+  if (kind == TextKind::Line && onAcknowledged) onAcknowledged();
 }
 
 void FakeSocket::RaiseUndelivered() {
-  const std::size_t lines = std::exchange(undelivered_, 0);
-  if (lines > 0 && onUndelivered) onUndelivered(lines);
+  for (const auto& [connection, lines] : std::exchange(undelivered_, {})) {
+    if (onUndelivered) onUndelivered(lines, connection);
+  }
 }
 
 void FakeSocket::FinishSending() {
   RaiseUndelivered();
 }
 
-void FakeSocket::Arrive(std::u16string text) {
-  arrivals_.push_back(std::move(text));
+void FakeSocket::Arrive(Arrival arrival) {
+  arrivals_.push_back(std::move(arrival));
   Post([this] { DeliverArrival(); });
 }
 
 void FakeSocket::Receive(std::u16string text) {
   if (state_ != SocketState::Connected) return;
-  arrivals_.push_back(std::move(text));
+  arrivals_.push_back({std::move(text)});
   DeliverArrival();
 }
 
 void FakeSocket::DeliverArrival() {
   if (arrivals_.empty()) return;
-  privacy.SettleByArrival(arrivals_.front());
+  privacy.SettleByArrival(arrivals_.front().text);
   if (arePaused_ || privacy.IsHeld() || arrivals_.empty()) return;
   arrival_.clear();
   do {
-    arrival_ += arrivals_.front();
+    arrival_ += arrivals_.front().text;
+    if (arrivals_.front().isCounted && peer_) peer_->Post([peer = peer_] { peer->NoteTaken(); });
     arrivals_.pop_front();
   } while (network_.joinArrivals && !arrivals_.empty());
   if (onDataArrival) onDataArrival(static_cast<std::int32_t>(arrival_.size()));

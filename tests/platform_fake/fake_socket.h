@@ -68,8 +68,9 @@ class FakeSocket : public Socket {
   void Accept(std::int64_t requestId) override;
   void Reject(std::int64_t requestId) override;
   void Close() override;
-  void SendData(std::u16string_view text, TextKind kind) override;
+  bool SendData(std::u16string_view text, TextKind kind) override;
   std::size_t LinesWaiting() const override;
+  ConnectionNumber CurrentConnection() const override { return connection_; }
   void FinishSending() override;
   std::u16string GetData() override;
   void PauseArrivals() override { arePaused_ = true; }
@@ -91,13 +92,18 @@ class FakeSocket : public Socket {
     std::u16string text;
     TextKind kind;
   };
+  struct Arrival {
+    std::u16string text;
+    bool isCounted = false;  // the sender waits until it is taken in
+  };
 
-  void Deliver(const std::u16string& text);
+  void Deliver(const Text& text);
   void DeliverWaiting();
   void LoseWaiting();
   void RaiseUndelivered();
   void Post(std::function<void()> event);
-  void Arrive(std::u16string text);
+  void Arrive(Arrival arrival);
+  void NoteTaken();
   void DeliverArrival();
   void LosePeer();
   void FailCall(CallFailure failure);
@@ -120,8 +126,10 @@ class FakeSocket : public Socket {
   std::deque<Text> waiting_;           // while the network is cut, or the peer is not let in
   bool hasSent_ = false;               // over this connection
   bool isCaller_ = false;
-  std::size_t undelivered_ = 0;  // lines of ended connections, not raised yet
-  std::deque<std::u16string> arrivals_;
+  std::deque<TextKind> untaken_;  // in private: sent, and not taken in by the peer's program
+  std::map<ConnectionNumber, std::size_t> undelivered_;  // lines, not raised yet
+  ConnectionNumber connection_ = 0;
+  std::deque<Arrival> arrivals_;
   std::u16string arrival_;
   bool arePaused_ = false;       // the arrivals
   bool isCloseWaiting_ = false;  // while paused

@@ -78,9 +78,19 @@ void Collect(ShownTexts& texts, const fake::FakeAgainBar& bar) {
   Collect(texts, bar.cmdAgain);
   Collect(texts, bar.cmdAgainClose);
 }
+void Collect(ShownTexts& texts, const fake::FakeResendBar& bar) {
+  Collect(texts, bar.cmdResend);
+  Collect(texts, bar.cmdResendDrop);
+  Collect(texts, bar.cmdResendClose);
+}
 void Collect(ShownTexts& texts, const fake::FakeKeyBar& bar) {
   Collect(texts, bar.cmdKeyGoOn);
   Collect(texts, bar.cmdKeyHangUp);
+}
+void Collect(ShownTexts& texts, const fake::FakeRouterBar& bar) {
+  Collect(texts, bar.cmdRouterYes);
+  Collect(texts, bar.cmdRouterNo);
+  Collect(texts, bar.cmdRouterClose);
 }
 void Collect(ShownTexts& texts, const fake::FakeLockLabel& lock) {
   texts.push_back({"caption", lock.caption});
@@ -99,23 +109,24 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
   const auto& [window, freeSizer1, tmrTimer, mnuFile, mnuFileMacrosFolder, mnuFileLogFolder,
                mnuFileLogRecord, mnuFileLogOpen, mnuFileLogSaveAs, mnuFileExit, mnuComm,
                mnuCommWait, mnuCommCall, mnuCommCancel, mnuCommClose, mnuCommRefresh,
-               mnuCommCallAgain, mnuCommInvite, mnuCommVerify, mnuCommPeople, mnuFormat,
-               mnuFormatFontBold, mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize,
-               mnuFormatFontColor, mnuFormatFontSettings, mnuFormatBackcolorCommands,
-               mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro,
-               mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue,
-               mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate, mnuToolsTime,
-               mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuAttention,
-               mnuAttentionLines, mnuAttentionText, mnuAttentionSound, mnuAttentionCount,
-               mnuToolsCheckSpelling, mnuPrivate, mnuPrivateWhenPossible, mnuPrivateOnly,
-               mnuPrivateNever, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
-               mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands,
-               rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult,
-               cmdFindClose, fraCompletions, lstCompletions, fraNewLines, cmdNewLines, welcomeCard,
-               againBar, keyBar, lblHint, spelling, cmdSend, chkBold, chkItalics, chkUnderline,
-               lblColor, lblStatus, prgStatus, lblWaiting, lblLock, fraPanel, lblCurrentDateTime,
-               lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname,
-               lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
+               mnuCommCallAgain, mnuCommInvite, mnuCommVerify, mnuCommPeople, mnuCommReach,
+               mnuCommAskRouter, mnuFormat, mnuFormatFontBold, mnuFormatFontItalics,
+               mnuFormatFontUnderline, mnuFormatFontSize, mnuFormatFontColor, mnuFormatFontSettings,
+               mnuFormatBackcolorCommands, mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick,
+               mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
+               mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
+               mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
+               mnuAttention, mnuAttentionLines, mnuAttentionText, mnuAttentionSound,
+               mnuAttentionCount, mnuToolsCheckSpelling, mnuPrivate, mnuPrivateWhenPossible,
+               mnuPrivateOnly, mnuPrivateNever, mnuView, mnuViewStatusPanel, mnuViewZoomIn,
+               mnuViewZoomOut, mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData,
+               rtbCommands, rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext,
+               lblFindResult, cmdFindClose, fraCompletions, lstCompletions, fraNewLines,
+               cmdNewLines, welcomeCard, againBar, resendBar, keyBar, routerBar, lblHint, spelling,
+               cmdSend, chkBold, chkItalics, chkUnderline, lblColor, lblStatus, prgStatus,
+               lblWaiting, lblLock, fraPanel, lblCurrentDateTime, lblChatStartDateTime,
+               lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP,
+               lblRemotePort, lblRemoteNickname, lblBytesSent, lblBytesReceived,
                lblCurrentDateTimeCaption, lblChatStartDateTimeCaption, lblChatDurationCaption,
                lblLocalPortCaption, lblLocalNicknameCaption, lblRemotePortCaption,
                lblRemoteNicknameCaption, lblBytesSentCaption, lblBytesReceivedCaption, picShape,
@@ -126,26 +137,26 @@ ShownTexts AllTexts(const fake::FakeMainWindow& mainWindow) {
   collect(window, freeSizer1, tmrTimer, mnuFile, mnuFileMacrosFolder, mnuFileLogFolder,
           mnuFileLogRecord, mnuFileLogOpen, mnuFileLogSaveAs, mnuFileExit, mnuComm, mnuCommWait,
           mnuCommCall, mnuCommCancel, mnuCommClose, mnuCommRefresh, mnuCommCallAgain, mnuCommInvite,
-          mnuCommVerify, mnuCommPeople, mnuFormat, mnuFormatFontBold, mnuFormatFontItalics,
-          mnuFormatFontUnderline, mnuFormatFontSize, mnuFormatFontColor, mnuFormatFontSettings,
-          mnuFormatBackcolorCommands, mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick,
-          mnuToolsSaveMacro, mnuToolsEditMacros, mnuToolsFind, mnuToolsCompletions,
-          mnuToolsClearDialogue, mnuToolsClearCommands, mnuToolsClearHistory, mnuToolsDate,
-          mnuToolsTime, mnuToolsAlwaysOnTop, mnuToolsLanguageEnglish, mnuToolsLanguageGreek,
-          mnuAttention, mnuAttentionLines, mnuAttentionText, mnuAttentionSound, mnuAttentionCount,
-          mnuToolsCheckSpelling, mnuPrivate, mnuPrivateWhenPossible, mnuPrivateOnly,
-          mnuPrivateNever, mnuView, mnuViewStatusPanel, mnuViewZoomIn, mnuViewZoomOut,
-          mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout, rtbData, rtbCommands, rtbRemote,
-          fraFind, txtFind, cmdFindPrevious, cmdFindNext, lblFindResult, cmdFindClose,
-          fraCompletions, lstCompletions, fraNewLines, cmdNewLines, welcomeCard, againBar, keyBar,
-          lblHint, spelling, cmdSend, chkBold, chkItalics, chkUnderline, lblColor, lblStatus,
-          prgStatus, lblWaiting, lblLock, fraPanel, lblCurrentDateTime, lblChatStartDateTime,
-          lblChatDuration, lblLocalIP, lblLocalPort, lblLocalNickname, lblRemoteIP, lblRemotePort,
-          lblRemoteNickname, lblBytesSent, lblBytesReceived, lblCurrentDateTimeCaption,
-          lblChatStartDateTimeCaption, lblChatDurationCaption, lblLocalPortCaption,
-          lblLocalNicknameCaption, lblRemotePortCaption, lblRemoteNicknameCaption,
-          lblBytesSentCaption, lblBytesReceivedCaption, picShape, shpStatus, lblCopyright,
-          picCopyright);
+          mnuCommVerify, mnuCommPeople, mnuCommReach, mnuCommAskRouter, mnuFormat,
+          mnuFormatFontBold, mnuFormatFontItalics, mnuFormatFontUnderline, mnuFormatFontSize,
+          mnuFormatFontColor, mnuFormatFontSettings, mnuFormatBackcolorCommands,
+          mnuFormatBackcolorDialogue, mnuTools, mnuToolsNick, mnuToolsSaveMacro, mnuToolsEditMacros,
+          mnuToolsFind, mnuToolsCompletions, mnuToolsClearDialogue, mnuToolsClearCommands,
+          mnuToolsClearHistory, mnuToolsDate, mnuToolsTime, mnuToolsAlwaysOnTop,
+          mnuToolsLanguageEnglish, mnuToolsLanguageGreek, mnuAttention, mnuAttentionLines,
+          mnuAttentionText, mnuAttentionSound, mnuAttentionCount, mnuToolsCheckSpelling, mnuPrivate,
+          mnuPrivateWhenPossible, mnuPrivateOnly, mnuPrivateNever, mnuView, mnuViewStatusPanel,
+          mnuViewZoomIn, mnuViewZoomOut, mnuViewZoomReset, mnuHelp, mnuHelpDetailed, mnuHelpAbout,
+          rtbData, rtbCommands, rtbRemote, fraFind, txtFind, cmdFindPrevious, cmdFindNext,
+          lblFindResult, cmdFindClose, fraCompletions, lstCompletions, fraNewLines, cmdNewLines,
+          welcomeCard, againBar, resendBar, keyBar, routerBar, lblHint, spelling, cmdSend, chkBold,
+          chkItalics, chkUnderline, lblColor, lblStatus, prgStatus, lblWaiting, lblLock, fraPanel,
+          lblCurrentDateTime, lblChatStartDateTime, lblChatDuration, lblLocalIP, lblLocalPort,
+          lblLocalNickname, lblRemoteIP, lblRemotePort, lblRemoteNickname, lblBytesSent,
+          lblBytesReceived, lblCurrentDateTimeCaption, lblChatStartDateTimeCaption,
+          lblChatDurationCaption, lblLocalPortCaption, lblLocalNicknameCaption,
+          lblRemotePortCaption, lblRemoteNicknameCaption, lblBytesSentCaption,
+          lblBytesReceivedCaption, picShape, shpStatus, lblCopyright, picCopyright);
   return texts;
 }
 

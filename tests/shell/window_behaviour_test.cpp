@@ -45,6 +45,7 @@ TEST_F(WindowBehaviourTest, AReleaseOfAnyOtherButtonThanTheLeftShowsContextHelp)
   BindContextHelp(window.frmMain);
   BindContextHelp(fake.people.frmPeople);
   BindContextHelp(fake.verify.frmVerify);
+  BindContextHelp(fake.reach.frmReach);
   const auto check = [](auto&... controls) {
     for (Control* control : std::initializer_list<Control*>{&controls...}) {
       ASSERT_TRUE(control->onMouseUp);
@@ -75,6 +76,11 @@ TEST_F(WindowBehaviourTest, AReleaseOfAnyOtherButtonThanTheLeftShowsContextHelp)
   fake::FakeVerifyWindow& verify = fake.verify;
   check(verify.lblVerifyWho, verify.lblVerifyDigits, verify.picVerifyCode, verify.lblVerifyMeaning,
         verify.cmdVerifyCopy, verify.cmdVerifyMatch, verify.cmdVerifyClose);
+  fake::FakeReachWindow& reach = fake.reach;
+  check(reach.lstReachAddresses, reach.lblReachRouterCaption, reach.lblReachRouter,
+        reach.lblReachFirewallCaption, reach.lblReachFirewall, reach.lblReachAdviceCaption,
+        reach.lblReachAdvice, reach.lblReachAddressCaption, reach.cmdReachCopyAddress,
+        reach.cmdReachCopyInvitation, reach.cmdReachAgain, reach.cmdReachClose);
 }
 
 }  // namespace

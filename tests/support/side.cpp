@@ -18,7 +18,9 @@ Side::Side(FakeNetwork& network, std::u16string_view nickname, std::u16string_vi
   fake.socket.onConnect = [this] { events.sckControl_Connect(); };
   fake.socket.onDataArrival = [this](std::int32_t total) { events.sckControl_DataArrival(total); };
   fake.socket.onAcknowledged = [this] { wire.ShowLinesWaiting(); };
-  fake.socket.onUndelivered = [this](std::size_t lines) { wire.OnUndelivered(lines); };
+  fake.socket.onUndelivered = [this](std::size_t lines, ConnectionNumber connection) {
+    wire.OnUndelivered(lines, connection);
+  };
   fake.socket.onClose = [this] { events.sckControl_Close(); };
   ResetConnection(state, fake.platform);
 }

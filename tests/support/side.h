@@ -61,6 +61,7 @@ struct Side {
       {.dialogue = dialogue, .log = log, .statusPanel = statusPanel, .onConversation = [this] {
          RememberAnswer(state, fake.platform, settings);
        }}};
+  PortKeeper port{state, fake.platform, errors, settings};
   ConnectionActions actions{state,
                             fake.platform,
                             errors,
@@ -68,7 +69,8 @@ struct Side {
                              .dialogue = dialogue,
                              .log = log,
                              .statusPanel = statusPanel,
-                             .wire = wire}};
+                             .wire = wire,
+                             .port = port}};
   SocketEvents events{state, fake.platform, errors, wire, log};
 
  private:

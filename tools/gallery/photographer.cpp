@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "private_scenes.h"
+#include "reach_scenes.h"
 
 namespace verlume::gallery {
 namespace {
@@ -115,10 +116,14 @@ void Photographer::AddScenes() {
   AddTyped(QStringLiteral("waiting"), QStringLiteral("/WAIT"));
   AddTyped(QStringLiteral("exit-while-waiting"), QStringLiteral("/EXIT"));
   AddTyped(QStringLiteral("call-while-waiting"), QStringLiteral("/CALL localhost 1"));
-  for (PrivateScene& scene : PrivateScenes(platform_, [this] {
-         QApplication::processEvents();
-         Take(main_, scene_);
-       })) {
+  const auto takeMain = [this] {
+    QApplication::processEvents();
+    Take(main_, scene_);
+  };
+  for (PrivateScene& scene : PrivateScenes(platform_, takeMain)) {
+    scenes_.push_back({scene.name, std::move(scene.enter)});
+  }
+  for (ReachScene& scene : ReachScenes(platform_, takeMain)) {
     scenes_.push_back({scene.name, std::move(scene.enter)});
   }
   AddCall();

@@ -10,6 +10,9 @@
 
 #include "platform_qt/controls/label_accessibility.h"
 #include "platform_qt/controls/tool_tip.h"
+#include "platform_qt/fonts/installed_scripts.h"
+#include "platform_qt/fonts/missing_parts.h"
+#include "platform_qt/fonts/turn.h"
 
 namespace verlume::qt {
 namespace {
@@ -33,12 +36,32 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   // Does nothing but the first time.
   QAccessible::installFactory(NewLabelInterface);
+  connect(&nextTurn_, &QTimer::timeout, this, [this] { RunTurn(); });
+}
+
+QString ElidedLabel::DrawnText() const {
+  const QString whole = OneParagraph(text());
+  if (!NeedsALook(whole)) return whole;
+  return WithBoxes(whole,
+                   [](QChar::Script script) { return InstalledScripts::Instance().Shows(script); });
+}
+
+void ElidedLabel::LookAtFonts() {
+  if (nextTurn_.isActive() || InstalledScripts::Instance().IsComplete()) return;
+  if (NeedsALook(text())) nextTurn_.start(kPauseBetweenTurns);
+}
+
+void ElidedLabel::RunTurn() {
+  InstalledScripts::Instance().RunTurn();
+  if (!InstalledScripts::Instance().IsComplete()) return;
+  nextTurn_.stop();
+  updateGeometry();
+  update();
 }
 
 QSize ElidedLabel::sizeHint() const {
   const int frame = 2 * frameWidth();
-  return {fontMetrics().horizontalAdvance(OneParagraph(text())) + frame,
-          minimumSizeHint().height()};
+  return {fontMetrics().horizontalAdvance(DrawnText()) + frame, minimumSizeHint().height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
@@ -47,7 +70,7 @@ QSize ElidedLabel::minimumSizeHint() const {
 
 QStringList ElidedLabel::VisibleLines(bool& cut) const {
   const QRect area = contentsRect();
-  const QString whole = OneParagraph(text());
+  const QString whole = DrawnText();
   const int room = wordWrap() ? std::max(1, area.height() / fontMetrics().height()) : 1;
   QStringList lines;
   QTextLayout layout(whole, font(), this);
@@ -69,6 +92,7 @@ QStringList ElidedLabel::VisibleLines(bool& cut) const {
 }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {
+  LookAtFonts();
   QPainter painter(this);
   drawFrame(&painter);
   bool cut = false;
@@ -94,7 +118,7 @@ bool ElidedLabel::event(QEvent* event) {
     VisibleLines(cut);
     if (cut) {
       const auto* help = static_cast<QHelpEvent*>(event);
-      QToolTip::showText(help->globalPos(), PlainToolTip(text()), this);
+      QToolTip::showText(help->globalPos(), PlainToolTip(DrawnText()), this);
       return true;
     }
   }

@@ -1,8 +1,10 @@
 // A label's widget: plain text, cut with an ellipsis if it does not fit. Without a tool tip of its
-// own, it shows a cut text in full as its tool tip.
+// own, it shows a cut text in full as its tool tip. Letters that no font of this computer shows are
+// drawn as boxes: a peer chooses some of the texts, and looking for fonts in vain takes long.
 #pragma once
 
 #include <QLabel>
+#include <QTimer>
 
 namespace verlume::qt {
 
@@ -20,11 +22,18 @@ class ElidedLabel : public QLabel {
  protected:
   void paintEvent(QPaintEvent* event) override;
   bool event(QEvent* event) override;
+  // Has the fonts looked at, in turns, if that takes to know how the text is drawn.
+  void LookAtFonts();
   // The lines as they are drawn; `cut` tells whether some of the text is missing.
   QStringList VisibleLines(bool& cut) const;
 
  private:
+  // One paragraph, and boxes for what cannot be drawn.
+  QString DrawnText() const;
+  void RunTurn();
+
   bool muted_ = false;
+  QTimer nextTurn_;
 };
 
 }  // namespace verlume::qt

@@ -15,7 +15,7 @@ constexpr qreal kMarkWidth = 0.1;
 
 QColor InkFor(LockPicture picture, const QPalette& palette) {
   const QColor text = palette.color(QPalette::WindowText);
-  if (picture != LockPicture::Warning) return text;
+  if (picture != LockPicture::Warning && picture != LockPicture::Doubtful) return text;
   const bool isDark = palette.color(QPalette::Window).lightnessF() < 0.5;
   return isDark ? QColor(0xFF, 0xA0, 0x7A) : QColor(0xB3, 0x3A, 0x00);
 }
@@ -39,6 +39,7 @@ void PaintMark(QPainter& painter, LockPicture picture) {
                                      middle + QPointF(0.2, -0.14)});
       return;
     case LockPicture::Warning:
+    case LockPicture::Doubtful:
       painter.drawLine(middle + QPointF(0, -0.16), middle + QPointF(0, 0.02));
       painter.drawPoint(middle + QPointF(0, 0.17));
       return;

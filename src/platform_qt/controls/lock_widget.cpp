@@ -58,6 +58,7 @@ void LockWidget::SetPicture(LockPicture picture) {
 }
 
 void LockWidget::paintEvent(QPaintEvent*) {
+  LookAtFonts();
   QPainter painter(this);
   bool cut = false;
   const QStringList lines = VisibleLines(cut);

@@ -1,8 +1,12 @@
 #include "platform_qt/controls/table_box.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScopedValueRollback>
+#include <QToolTip>
 #include <algorithm>
+
+#include "platform_qt/controls/tool_tip.h"
 
 namespace verlume::qt {
 namespace {
@@ -49,6 +53,21 @@ void TableWidget::FitColumns() {
 void TableWidget::resizeEvent(QResizeEvent* event) {
   QTreeWidget::resizeEvent(event);
   ShareRoom();
+}
+
+bool TableWidget::viewportEvent(QEvent* event) {
+  const bool asks = event->type() == QEvent::ToolTip;
+  if (asks && ShowCutText(static_cast<QHelpEvent*>(event)->pos())) return true;
+  return QTreeWidget::viewportEvent(event);
+}
+
+bool TableWidget::ShowCutText(const QPoint& place) const {
+  const QModelIndex cell = indexAt(place);
+  const QRect room = visualRect(cell);
+  if (!cell.isValid() || sizeHintForIndex(cell).width() <= room.width()) return false;
+  const QString text = PlainToolTip(cell.data().toString());
+  QToolTip::showText(viewport()->mapToGlobal(place), text, viewport(), room);
+  return true;
 }
 
 void TableWidget::mousePressEvent(QMouseEvent* event) {

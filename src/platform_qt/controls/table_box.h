@@ -9,7 +9,8 @@
 namespace verlume::qt {
 
 // A click beside the rows, or with Ctrl, does not remove the selection. Where the columns have no
-// room, the widest ones are cut; the last one has what is left.
+// room, the widest ones are cut; the last one has what is left. A text that is cut is shown in full
+// as a tool tip.
 class TableWidget : public QTreeWidget {
  public:
   explicit TableWidget(QWidget* parent);
@@ -19,12 +20,15 @@ class TableWidget : public QTreeWidget {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
 
  private:
   void ShareRoom();
+  // False if no text is cut there.
+  bool ShowCutText(const QPoint& place) const;
 
   std::vector<int> needs_;  // the widths that the columns need
 };

@@ -7,7 +7,6 @@
 
 #include "platform/run_time_failure.h"
 #include "platform_qt/convert/text.h"
-#include "platform_qt/dialogs/common_dialog_files.h"
 #include "platform_qt/dialogs/common_dialog_font.h"
 #include "platform_qt/dialogs/dialogs.h"
 #include "platform_qt/dialogs/folder_suggestion.h"
@@ -28,11 +27,11 @@ auto Ask(Dialog* dialog, Result result) {
   return result(*owned);
 }
 
-FileDialog* NewFileDialog(QWidget* owner, const FileChoice& start) {
-  auto* dialog = new FileDialog(owner, ToQt(start.title), start.initialFolder);
+FileDialog* NewFileDialog(QWidget* owner, const FileChoice& start, FileDialogs dialogs) {
+  auto* dialog = new FileDialog(owner, ToQt(start.title), start.initialFolder, dialogs);
   const QStringList filters = NameFilters(start.filter);
   if (!filters.isEmpty()) dialog->setNameFilters(filters);
-  dialog->setDefaultSuffix(ToQt(start.defaultExtension));
+  dialog->SetDefaultExtension(ToQt(start.defaultExtension));
   if (start.flags & dialog_flag::kPathMustExist) dialog->RequireFolder();
   return dialog;
 }
@@ -61,8 +60,12 @@ QString ProposedName(const FileChoice& start) {
 
 }  // namespace
 
+FileDialogs QtCommonDialog::FileDialogsInForce() const {
+  return desktopSpeaks_ && desktopSpeaks_() ? FileDialogs::Desktops : FileDialogs::Qts;
+}
+
 FileChoice QtCommonDialog::ShowOpen(const FileChoice& start) {
-  FileDialog* dialog = NewFileDialog(ParentOfBoxes(mainWindow_), start);
+  FileDialog* dialog = NewFileDialog(ParentOfBoxes(mainWindow_), start, FileDialogsInForce());
   dialog->setFileMode(QFileDialog::AnyFile);
   if (start.flags & dialog_flag::kFileMustExist) dialog->RequireFile();
   if (!start.fileName.empty()) dialog->selectFile(ToQt(start.fileName));
@@ -70,7 +73,7 @@ FileChoice QtCommonDialog::ShowOpen(const FileChoice& start) {
 }
 
 FileChoice QtCommonDialog::ShowSave(const FileChoice& start) {
-  FileDialog* dialog = NewFileDialog(ParentOfBoxes(mainWindow_), start);
+  FileDialog* dialog = NewFileDialog(ParentOfBoxes(mainWindow_), start, FileDialogsInForce());
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setFileMode(QFileDialog::AnyFile);
   dialog->setOption(QFileDialog::DontConfirmOverwrite,
@@ -83,7 +86,9 @@ FileChoice QtCommonDialog::ShowSave(const FileChoice& start) {
 std::u16string QtCommonDialog::ChooseFolder(std::u16string_view title,
                                             std::u16string_view initialFolder,
                                             std::u16string_view suggestion) {
-  auto* dialog = new FileDialog(ParentOfBoxes(mainWindow_), ToQt(title), initialFolder);
+  // The desktop's dialog could not offer the suggestion.
+  const FileDialogs dialogs = suggestion.empty() ? FileDialogsInForce() : FileDialogs::Qts;
+  auto* dialog = new FileDialog(ParentOfBoxes(mainWindow_), ToQt(title), initialFolder, dialogs);
   SuggestFolder(*dialog, FolderInDocuments(ToQt(suggestion)));
   dialog->setFileMode(QFileDialog::Directory);
   dialog->setOption(QFileDialog::ShowDirsOnly);

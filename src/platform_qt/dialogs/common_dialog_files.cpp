@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QTreeView>
 
@@ -46,14 +47,27 @@ QString FileTypes::type(const QFileInfo& info) const {
   return QCoreApplication::translate("QAbstractFileIconProvider", "%1 File").arg(suffix);
 }
 
-FileDialog::FileDialog(QWidget* owner, const QString& title, std::u16string_view initialFolder)
-    : QFileDialog(owner, title) {
+FileDialog::FileDialog(QWidget* owner, const QString& title, std::u16string_view initialFolder,
+                       FileDialogs dialogs)
+    : FileDialogBase(dialogs), QFileDialog(owner, title) {
   setObjectName(QStringLiteral("fileDialog"));
-  setOption(DontUseNativeDialog);
+  if (dialogs == FileDialogs::Qts) setOption(DontUseNativeDialog);
+  allowed.End();
   setIconProvider(&types);
   const QString folder = ToQt(initialFolder);
   if (!folder.isEmpty() && QFileInfo(folder).isDir()) setDirectory(folder);
-  FitColumns();
+  if (!IsDesktops()) FitColumns();
+}
+
+// Qt makes its own widgets only when the desktop has no dialog.
+bool FileDialog::IsDesktops() const {
+  return !findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+}
+
+// The desktop's dialog does not get the extension: it would not tell whether it has added it.
+void FileDialog::SetDefaultExtension(const QString& extension) {
+  extension_ = extension;
+  if (!IsDesktops()) setDefaultSuffix(extension);
 }
 
 // Qt's own widths cut the type and the date. Here the name gets what the other columns leave.
@@ -68,9 +82,45 @@ void FileDialog::FitColumns() {
 
 void FileDialog::accept() {
   const QString path = Path();
-  const QString refusal = path.isEmpty() ? QString() : RefusalOf(path);
+  const QString refusal = path.isEmpty() || IsDesktops() ? QString() : RefusalOf(path);
   if (refusal.isEmpty()) return QFileDialog::accept();
-  QMessageBox box(QMessageBox::Warning, windowTitle(), QString(), QMessageBox::Ok, this);
+  Tell(refusal);
+}
+
+// The desktop's dialog has closed when it accepts.
+int FileDialog::exec() {
+  const QPointer<FileDialog> alive = this;
+  for (;;) {
+    const int result = QFileDialog::exec();
+    if (!alive || result != Accepted || !IsDesktops()) return result;
+    const bool mayTake = MayTake(Path());
+    if (!alive || mayTake) return result;
+  }
+}
+
+bool FileDialog::MayTake(const QString& path) {
+  const QString refusal = path.isEmpty() ? QString() : RefusalOf(path);
+  if (!refusal.isEmpty()) {
+    Tell(refusal);
+    return false;
+  }
+  // The dialog has asked about the name that it returns.
+  const bool hasAsked = acceptMode() == AcceptOpen || testOption(DontConfirmOverwrite) ||
+                        path == selectedFiles().value(0);
+  if (hasAsked || !QFileInfo::exists(path)) return true;
+  // As QFileDialog asks itself.
+  QMessageBox box(QMessageBox::Warning, windowTitle(), QString(),
+                  QMessageBox::Yes | QMessageBox::No, parentWidget());
+  box.setTextFormat(Qt::PlainText);
+  box.setText(QFileDialog::tr("%1 already exists.\nDo you want to replace it?")
+                  .arg(QDir::toNativeSeparators(path)));
+  box.setDefaultButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
+void FileDialog::Tell(const QString& refusal) {
+  QMessageBox box(QMessageBox::Warning, windowTitle(), QString(), QMessageBox::Ok,
+                  IsDesktops() ? parentWidget() : this);
   box.setTextFormat(Qt::PlainText);
   box.setText(refusal);
   box.exec();
@@ -78,6 +128,7 @@ void FileDialog::accept() {
 
 QString FileDialog::Path() const {
   const QString path = selectedFiles().value(0);
+  if (IsDesktops()) return MeantFile(path, extension_, acceptMode() == AcceptOpen);
   const QString extension = u'.' + defaultSuffix();
   const auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   const bool wasTyped = !edit || edit->text().endsWith(extension, Qt::CaseInsensitive);

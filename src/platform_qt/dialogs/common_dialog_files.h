@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include "platform/dialogs.h"
+#include "platform_qt/dialogs/desktop_dialogs.h"
 
 namespace verlume::qt {
 
@@ -22,14 +23,24 @@ class FileTypes : public QFileIconProvider {
   QString type(const QFileInfo& info) const override;
 };
 
-// A base class, so that it outlives the threads of the dialog that use it.
-struct FileTypesHolder {
+enum class FileDialogs { Qts, Desktops };
+
+// A base class, so that it is there before the dialog and outlives its threads that use it.
+struct FileDialogBase {
+  explicit FileDialogBase(FileDialogs dialogs) : allowed(dialogs == FileDialogs::Desktops) {}
+
+  DesktopDialogsAllowed allowed;
   FileTypes types;
 };
 
-class FileDialog : private FileTypesHolder, public QFileDialog {
+class FileDialog : private FileDialogBase, public QFileDialog {
  public:
-  FileDialog(QWidget* owner, const QString& title, std::u16string_view initialFolder);
+  // Qt's dialog, or the desktop's where it has one. Both refuse the same, with the same boxes; the
+  // desktop's is closed meanwhile and shown again.
+  FileDialog(QWidget* owner, const QString& title, std::u16string_view initialFolder,
+             FileDialogs dialogs = FileDialogs::Qts);
+
+  void SetDefaultExtension(const QString& extension);
 
   // Refuses a name in a folder that does not exist.
   void RequireFolder() { requireFolder_ = true; }
@@ -43,14 +54,21 @@ class FileDialog : private FileTypesHolder, public QFileDialog {
   // If a file must exist, and does only without the extension, that file is meant.
   QString Path() const;
 
+  int exec() override;
+
  protected:
   void accept() override;
 
  private:
   void FitColumns();
+  bool IsDesktops() const;
+  // Asks the user what the desktop's dialog has not asked. False if the path is not to be taken.
+  bool MayTake(const QString& path);
+  void Tell(const QString& refusal);
   // The reason why the path may not be chosen; empty if it may.
   QString RefusalOf(const QString& path) const;
 
+  QString extension_;
   bool requireFolder_ = false;
   bool requireFile_ = false;
   bool refuseReadOnly_ = false;

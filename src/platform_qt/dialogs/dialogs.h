@@ -26,6 +26,7 @@ class QtDialogs : public Dialogs {
   explicit QtDialogs(QWidget* mainWindow);
 
   void SetLanguage(bool isGreek) override;
+  bool IsGreek() const { return isGreek_; }
   Answer ShowMessage(const Message& message) override;
   std::u16string AskText(std::u16string_view prompt, std::u16string_view title,
                          std::u16string_view defaultText) override;

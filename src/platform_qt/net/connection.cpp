@@ -1,13 +1,12 @@
 #include "platform_qt/net/connection.h"
 
-#include <fcntl.h>
-
 #include <QTimer>
 #include <utility>
 
 #include "platform_qt/net/clear_road.h"
 #include "platform_qt/net/private_road.h"
 #include "platform_qt/net/socket_options.h"
+#include "platform_qt/os/tcp.h"
 #include "richtext/code_pages.h"
 #include "stream/tail.h"
 #include "stream/utf8_text.h"
@@ -21,10 +20,11 @@ constexpr std::chrono::seconds kClosingLimit = Connection::kSendingLimit + std::
 }  // namespace
 
 Connection::Connection(QTcpSocket* socket, QThread& network, std::chrono::milliseconds timeout,
-                       Events events, PrivacyTerms terms)
+                       Events events, PrivacyTerms terms, ConnectionNumber number)
     : timeout_(timeout),
       events_(std::move(events)),
       terms_(std::move(terms)),
+      number_(number),
       isOpen_(socket->state() == QAbstractSocket::ConnectedState),
       isAdmitted_(terms_.offer == PrivacyOffer::Never),
       socket_(socket),
@@ -85,15 +85,15 @@ void Connection::GoClear(std::string heard, std::string_view nickname) {
 // TLS gets the connection under a socket that has never seen a byte in clear.
 void Connection::GoPrivate(Greetings greetings) {
   CheckThread();
-  const int descriptor = ::fcntl(static_cast<int>(socket_->socketDescriptor()), F_DUPFD_CLOEXEC, 0);
-  if (descriptor < 0) return Fail(PrivacyFailure::Broken);
+  const SocketNumber socket = DuplicateSocket(socket_->socketDescriptor());
+  if (socket == kNoSocket) return Fail(PrivacyFailure::Broken);
   socket_->disconnect();
   socket_->abort();
   socket_->deleteLater();
   socket_ = nullptr;
   Enter(Privacy::Becoming);
   TakeRoad(std::make_unique<PrivateRoad>(
-      descriptor, terms_, std::move(greetings), RoadEvents(),
+      socket, terms_, std::move(greetings), RoadEvents(),
       PrivateRoad::Proved{.onKnown =
                               [this](const PublicKey& key, std::string_view name) {
                                 Enter(Privacy::Private);

@@ -48,8 +48,10 @@ class Connection : public QObject {
   // Moves the socket, which has no parent, to the network thread. `timeout` is how long an
   // incomplete text waits for its next byte.
   Connection(QTcpSocket* socket, QThread& network, std::chrono::milliseconds timeout, Events events,
-             PrivacyTerms terms = {});
+             PrivacyTerms terms = {}, ConnectionNumber number = 0);
   ~Connection() override;
+
+  ConnectionNumber Number() const { return number_; }
 
   // Whether texts can be sent: the connection has not ended, as far as the system knows.
   bool IsOpen() const { return isOpen_; }
@@ -103,6 +105,7 @@ class Connection : public QObject {
   const std::chrono::milliseconds timeout_;
   const Events events_;
   const PrivacyTerms terms_;
+  const ConnectionNumber number_;
   std::atomic<bool> isOpen_;
   std::atomic<std::size_t> linesWaiting_ = 0;
   stream::ArrivalQueue arrivals_;

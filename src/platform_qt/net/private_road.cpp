@@ -1,8 +1,5 @@
 #include "platform_qt/net/private_road.h"
 
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <QCryptographicHash>
 #include <algorithm>
 #include <utility>
@@ -36,10 +33,10 @@ stream::Transcript TranscriptOf(const Greetings& greetings) {
 
 }  // namespace
 
-PrivateRoad::PrivateRoad(int descriptor, const PrivacyTerms& terms, Greetings greetings,
+PrivateRoad::PrivateRoad(SocketNumber socket, const PrivacyTerms& terms, Greetings greetings,
                          Events events, Proved proved)
     : Road(std::move(events)),
-      descriptor_(descriptor),
+      socket_(socket),
       terms_(terms),
       proved_(std::move(proved)),
       greetings_(std::move(greetings)),
@@ -63,8 +60,8 @@ PrivateRoad::PrivateRoad(int descriptor, const PrivacyTerms& terms, Greetings gr
 void PrivateRoad::Start() {
   CheckThread();
   proofLimit_.start(terms_.limits.proof);
-  if (!tls_.setSocketDescriptor(descriptor_)) {
-    ::close(descriptor_);
+  if (!tls_.setSocketDescriptor(socket_)) {
+    CloseSocket(socket_);
     return Break(PrivacyFailure::Broken);
   }
   tls_.setReadBufferSize(kReadSize);
@@ -238,7 +235,7 @@ void PrivateRoad::ShutDownSending() {
   if (at_ == At::Ended || isShut_ || BytesOnTheirWay() > 0) return;
   drain_.stop();
   isShut_ = true;
-  ::shutdown(static_cast<int>(tls_.socketDescriptor()), SHUT_WR);
+  EndSending(tls_.socketDescriptor());
   TellSendingEnded();
   // Both have said goodbye: there is nothing to wait for.
   if (hasPeerLeft_) End();

@@ -13,6 +13,7 @@
 #include "platform_qt/net/privacy_terms.h"
 #include "platform_qt/net/road.h"
 #include "platform_qt/net/settling_road.h"
+#include "platform_qt/os/tcp.h"
 #include "stream/frames.h"
 #include "stream/private_queue.h"
 #include "stream/text_count.h"
@@ -29,8 +30,8 @@ class PrivateRoad : public Road {
     std::function<void(PrivacyFailure failure)> onFailed;
   };
 
-  // Takes the descriptor over.
-  PrivateRoad(int descriptor, const PrivacyTerms& terms, Greetings greetings, Events events,
+  // Takes the socket over.
+  PrivateRoad(SocketNumber socket, const PrivacyTerms& terms, Greetings greetings, Events events,
               Proved proved);
 
   void Start() override;
@@ -69,7 +70,7 @@ class PrivateRoad : public Road {
   void End();
   void Stop();
 
-  const int descriptor_;
+  const SocketNumber socket_;
   const PrivacyTerms& terms_;
   const Proved proved_;
   const Greetings greetings_;

@@ -240,7 +240,7 @@ void QtSocket::StartConnection(QTcpSocket* socket, PrivacyTerms terms) {
       {post(&QtSocket::DeliverArrival), post(&QtSocket::RaiseAcknowledged), removeClosed,
        [this, generation = generation_](Privacy privacy) { PostPrivacy(privacy, generation); },
        post(&QtSocket::RaisePeerKnown)},
-      std::move(terms)));
+      std::move(terms), ++lastConnection_));
   state_ = SocketState::Connected;
 }
 
@@ -311,15 +311,15 @@ void QtSocket::GiveUpCall() {
 
 void QtSocket::EndConnection() {
   const ConnectionOwner ended = std::move(connection_);
-  const std::size_t undelivered = ended ? ended->LinesWaiting() : 0;
   if (ended) privacy_.OnFailed(ended->Failure());
   Close();
-  if (undelivered > 0) RaiseUndelivered(undelivered);
+  if (ended) RaiseUndelivered(*ended);
   if (onClose) onClose();
 }
 
-void QtSocket::RaiseUndelivered(std::size_t lines) {
-  if (onUndelivered) onUndelivered(lines);
+void QtSocket::RaiseUndelivered(const Connection& ended) {
+  const std::size_t lines = ended.LinesWaiting();
+  if (lines > 0 && onUndelivered) onUndelivered(lines, ended.Number());
 }
 
 void QtSocket::RaiseArrival(std::u16string arrival) {
@@ -358,9 +358,7 @@ void QtSocket::RemoveClosed() {
   const std::vector<ConnectionOwner> closed(std::make_move_iterator(first),
                                             std::make_move_iterator(closing_.end()));
   closing_.erase(first, closing_.end());
-  for (const ConnectionOwner& connection : closed) {
-    if (const std::size_t lines = connection->LinesWaiting(); lines > 0) RaiseUndelivered(lines);
-  }
+  for (const ConnectionOwner& connection : closed) RaiseUndelivered(*connection);
 }
 
 void QtSocket::AbortCaller() {
@@ -374,9 +372,10 @@ void QtSocket::Abort(QTcpSocket* socket) {
   socket->deleteLater();
 }
 
-void QtSocket::SendData(std::u16string_view text, TextKind kind) {
-  if (State() != SocketState::Connected) return;
+bool QtSocket::SendData(std::u16string_view text, TextKind kind) {
+  if (State() != SocketState::Connected) return false;
   connection_->Send(text, kind);
+  return true;
 }
 
 std::size_t QtSocket::LinesWaiting() const {

@@ -46,8 +46,9 @@ class QtSocket : public QObject, public Socket {
   void Accept(std::int64_t requestId) override;
   void Reject(std::int64_t requestId) override;
   void Close() override;
-  void SendData(std::u16string_view text, TextKind kind) override;
+  bool SendData(std::u16string_view text, TextKind kind) override;
   std::size_t LinesWaiting() const override;
+  ConnectionNumber CurrentConnection() const override { return lastConnection_; }
   void FinishSending() override;
   std::u16string GetData() override;
   void PauseArrivals() override { arrivalsPaused_ = true; }
@@ -95,7 +96,7 @@ class QtSocket : public QObject, public Socket {
   void RaisePeerKnown();
   void AdmitPeer();
   void RaiseAcknowledged();
-  void RaiseUndelivered(std::size_t lines);
+  void RaiseUndelivered(const Connection& ended);
   void DeliverArrival();
   // Ends a call that cannot be tried at all.
   void FailCall(CallFailure failure);
@@ -115,6 +116,7 @@ class QtSocket : public QObject, public Socket {
   std::vector<ConnectionOwner> closing_;
   Peer peer_;
   std::int64_t lastRequest_ = 0;
+  ConnectionNumber lastConnection_ = 0;
   int lookUps_ = 0;  // under way
   std::function<bool()> holdsRequests_;
 

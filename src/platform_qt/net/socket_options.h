@@ -13,8 +13,8 @@ void SetConnectionOptions(QTcpSocket& socket);
 // set after every read.
 void AcknowledgeAtOnce(QTcpSocket& socket);
 
-// How many of the bytes written to the socket the peer's machine has not acknowledged; 1 once the
-// connection has ended, because the system no longer knows.
+// How many of the bytes written to the socket the peer's machine has not acknowledged; at least 1
+// once the connection has ended, because the system no longer knows.
 qint64 Unacknowledged(const QTcpSocket& socket);
 
 }  // namespace verlume::qt

@@ -1,9 +1,8 @@
 #include "platform_qt/net/tcp_road.h"
 
-#include <sys/socket.h>
-
 #include <utility>
 
+#include "platform_qt/os/tcp.h"
 #include "richtext/code_pages.h"
 
 namespace verlume::qt {
@@ -42,7 +41,7 @@ void TcpRoad::Close() {
 void TcpRoad::ShutDownSending() {
   CheckThread();
   if (!sender_->IsDone()) return;
-  ::shutdown(static_cast<int>(socket_->socketDescriptor()), SHUT_WR);
+  EndSending(socket_->socketDescriptor());
   Tell().onSendingEnded();
 }
 

@@ -32,6 +32,8 @@ void RemoveFile(const std::string& path);
 // Gives a file another path in the same folder, in one step; what was there is gone. The new name
 // has survived a crash when this returns, if the system can.
 void MoveInto(const std::string& from, const std::string& to);
+// The same where nothing has the new path. False if something has: it stays as it is.
+[[nodiscard]] bool MoveIntoFree(const std::string& from, const std::string& to);
 
 // These never throw, and are false if it has not worked.
 bool TryToRemove(const std::string& path) noexcept;

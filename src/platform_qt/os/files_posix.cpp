@@ -26,6 +26,19 @@ void FlushFolder(const std::string& folder) {
   ::close(descriptor);
 }
 
+// False if the new name is taken.
+bool RenameToFree(const std::string& from, const std::string& to) {
+  const auto rename = [&](unsigned flags) {
+    return ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags) == 0;
+  };
+  if (rename(RENAME_NOREPLACE)) return true;
+  if (errno == EEXIST) return false;
+  // Some file systems cannot tell.
+  const bool cannotTell = errno == EINVAL || errno == ENOSYS;
+  if (!cannotTell || !rename(0)) ThrowErrno(to);
+  return true;
+}
+
 }  // namespace
 
 FileKind KindOf(const std::string& path) {
@@ -87,6 +100,12 @@ void RemoveFile(const std::string& path) {
 void MoveInto(const std::string& from, const std::string& to) {
   if (::rename(from.c_str(), to.c_str()) != 0) ThrowErrno(to);
   FlushFolder(FolderOf(to));
+}
+
+bool MoveIntoFree(const std::string& from, const std::string& to) {
+  if (!RenameToFree(from, to)) return false;
+  FlushFolder(FolderOf(to));
+  return true;
 }
 
 bool TryToRemove(const std::string& path) noexcept {

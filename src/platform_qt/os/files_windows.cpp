@@ -19,14 +19,12 @@ Handle Open(const std::string& path, DWORD access) {
 }
 
 // Programs that look at every new file (scanners, indexers) hold it open for a moment.
-bool MovePatiently(const std::wstring& from, const std::wstring& to) {
+bool MovePatiently(const std::wstring& from, const std::wstring& to,
+                   DWORD how = MOVEFILE_REPLACE_EXISTING) {
   constexpr int kTries = 20;
   constexpr DWORD kPauseMs = 25;
   for (int tries = 1;; ++tries) {
-    if (::MoveFileExW(from.c_str(), to.c_str(),
-                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-      return true;
-    }
+    if (::MoveFileExW(from.c_str(), to.c_str(), how | MOVEFILE_WRITE_THROUGH)) return true;
     const DWORD error = ::GetLastError();
     if (error != ERROR_SHARING_VIOLATION || tries == kTries) return false;
     ::Sleep(kPauseMs);
@@ -119,6 +117,13 @@ void RemoveFile(const std::string& path) {
 
 void MoveInto(const std::string& from, const std::string& to) {
   if (!MovePatiently(NativePath(from), NativePath(to))) ThrowLastError(to);
+}
+
+bool MoveIntoFree(const std::string& from, const std::string& to) {
+  if (MovePatiently(NativePath(from), NativePath(to), 0)) return true;
+  const DWORD error = ::GetLastError();
+  if (error == ERROR_ALREADY_EXISTS || error == ERROR_FILE_EXISTS) return false;
+  ThrowError(error, to);
 }
 
 bool TryToRemove(const std::string& path) noexcept try {

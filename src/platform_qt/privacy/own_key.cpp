@@ -60,7 +60,8 @@ OwnKey OwnKeyFile::Make() try {
   if (!pair) return OwnKey::Unavailable;
   FileReplacement file(FolderOf(path_), Readers::OwnerOnly);
   file.File().Write(pem.Text());
-  file.TakePlaceOf(path_);
+  // Another copy that was started in the same moment may have made one.
+  if (!file.TakeFreePlace(path_)) return Read();
   pair_ = std::move(pair);
   return OwnKey::Ready;
 } catch (const RunTimeFailure&) {

@@ -9,7 +9,7 @@
 
 #include "platform_qt/convert/text.h"
 #include "platform_qt/text/readable_shade.h"
-#include "platform_qt/text/turn.h"
+#include "platform_qt/fonts/turn.h"
 
 namespace verlume::qt {
 namespace {

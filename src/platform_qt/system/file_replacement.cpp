@@ -47,6 +47,17 @@ void FileReplacement::TakePlaceOf(const std::string& path) {
   file_->Flush();
   // The file stays open, and so locked, until it has its final name.
   MoveInto(path_, path);
+  Finish();
+}
+
+bool FileReplacement::TakeFreePlace(const std::string& path) {
+  file_->Flush();
+  if (!MoveIntoFree(path_, path)) return false;
+  Finish();
+  return true;
+}
+
+void FileReplacement::Finish() {
   hasTakenPlace_ = true;
   file_.reset();
 }

@@ -26,8 +26,11 @@ class FileReplacement {
   // Writes the content to the disk before renaming, so that a crash leaves the old content or the
   // new. The file cannot be written to afterwards.
   void TakePlaceOf(const std::string& path);
+  // The same where there is no old file. False if there is one by now: it stays as it is.
+  [[nodiscard]] bool TakeFreePlace(const std::string& path);
 
  private:
+  void Finish();
   bool OpenUnderCommonName(Readers readers);
 
   std::string path_;

@@ -36,8 +36,9 @@ class QtLocale : public Locale {
 class QtApplication : public QObject, public Application {
  public:
   QtApplication();
-  // For a program whose folder is not that of its executable.
-  explicit QtApplication(const QString& programFolder);
+  // For a program whose folder is not that of its executable, or whose settings lie in `ownFolder`,
+  // unless that is "".
+  explicit QtApplication(const QString& programFolder, const QString& ownFolder = {});
 
   std::u16string ProgramFolder() const override;
   std::u16string SettingsFolder() const override;
@@ -60,9 +61,13 @@ class QtApplication : public QObject, public Application {
 
  private:
   QString programFolder_;
+  QString ownFolder_;
   bool isYielding_ = false;
   bool hasEnded_ = false;
 };
+
+// The folder of the settings, as a QtApplication has it with that `ownFolder`.
+QString SettingsFolderFor(const QString& ownFolder);
 
 class QtSystemTools : public SystemTools {
  public:

@@ -50,17 +50,26 @@ bool ReachesHandlers(QEvent::Type type) {
 
 QtApplication::QtApplication() : QtApplication(QCoreApplication::applicationDirPath()) {}
 
-QtApplication::QtApplication(const QString& programFolder) : programFolder_(programFolder) {}
+QtApplication::QtApplication(const QString& programFolder, const QString& ownFolder)
+    : programFolder_(programFolder), ownFolder_(ownFolder) {}
 
 std::u16string QtApplication::ProgramFolder() const {
   return FromQt(programFolder_);
 }
 
 std::u16string QtApplication::SettingsFolder() const {
-  if (QFileInfo(programFolder_).isWritable()) return ProgramFolder();
+  if (!ownFolder_.isEmpty()) return FromQt(ownFolder_);
+  // Root may write beside an installed program, too.
+  const bool isInstalled = HelpFolder() != ProgramFolder();
+  if (!isInstalled && QFileInfo(programFolder_).isWritable()) return ProgramFolder();
   const QString own = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
   QDir().mkpath(own);
   return FromQt(own);
+}
+
+QString SettingsFolderFor(const QString& ownFolder) {
+  const QtApplication application(QCoreApplication::applicationDirPath(), ownFolder);
+  return ToQt(application.SettingsFolder());
 }
 
 std::u16string QtApplication::HelpFolder() const {

@@ -3,17 +3,11 @@
 #include <QElapsedTimer>
 #include <algorithm>
 
-#include "platform_qt/text/turn.h"
+#include "platform_qt/fonts/missing_parts.h"
+#include "platform_qt/fonts/turn.h"
 
 namespace verlume::qt {
 namespace {
-
-// The characters before this one are in scripts that every computer shows.
-constexpr char16_t kFirstToLookAt = 0x0530;
-
-bool NeedsALook(QStringView text) {
-  return std::any_of(text.begin(), text.end(), [](QChar c) { return c >= kFirstToLookAt; });
-}
 
 const QTextCharFormat& InNoOtherFont() {
   static const QTextCharFormat format = [] {
@@ -28,33 +22,11 @@ bool IsMark(const QTextLayout::FormatRange& range) {
   return range.format == InNoOtherFont();
 }
 
-}  // namespace
-
-// Qt looks for one font for all that follows a letter until one of another script, blanks and
-// digits too, and for what stands before the first letter.
-QList<QTextLayout::FormatRange> PartsInMissingScripts(
-    QStringView text, const std::function<bool(QChar::Script)>& shows) {
-  QList<QTextLayout::FormatRange> parts;
-  QChar::Script script = QChar::Script_Common;
-  bool isMissing = false;
-  for (qsizetype i = 0, next = 0; i < text.size(); i = next) {
-    next = i + 1;
-    char32_t c = text[i].unicode();
-    if (text[i].isHighSurrogate() && next < text.size() && text[next].isLowSurrogate()) {
-      c = QChar::surrogateToUcs4(text[i], text[next++]);
-    }
-    const QChar::Script own = QChar::script(c);
-    const bool isFirst = script <= QChar::Script_Common;
-    if (own > QChar::Script_Common && own != script && (isFirst || !QChar::isMark(c))) {
-      script = own;
-      isMissing = !shows(script);
-      const qsizetype start = isFirst ? 0 : i;
-      if (isMissing) parts.append({static_cast<int>(start), 0, InNoOtherFont()});
-    }
-    if (isMissing) parts.back().length = static_cast<int>(next) - parts.back().start;
-  }
-  return parts;
+QTextLayout::FormatRange MarkOf(const TextPart& part) {
+  return {static_cast<int>(part.start), static_cast<int>(part.length), InNoOtherFont()};
 }
+
+}  // namespace
 
 MissingScripts::MissingScripts(QTextDocument& document, InstalledScripts& installed)
     : document_(document), installed_(installed) {
@@ -77,8 +49,9 @@ void MissingScripts::Mark(const QTextBlock& block) {
   const QString text = block.text();
   const QList<QTextLayout::FormatRange> before = layout.formats();
   if (!NeedsALook(text) && before.isEmpty()) return;
-  QList<QTextLayout::FormatRange> formats = PartsInMissingScripts(
-      text, [this](QChar::Script script) { return installed_.Shows(script); });
+  QList<QTextLayout::FormatRange> formats;
+  const auto shows = [this](QChar::Script script) { return installed_.Shows(script); };
+  for (const TextPart& part : PartsInMissingScripts(text, shows)) formats.append(MarkOf(part));
   if (!installed_.IsComplete() && !formats.isEmpty()) NoteUnsure(block);
   if (formats.isEmpty() && std::none_of(before.begin(), before.end(), IsMark)) return;
   // The shades of the block are added again before it is painted.

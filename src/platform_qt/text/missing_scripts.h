@@ -8,16 +8,10 @@
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QTimer>
-#include <functional>
 
-#include "platform_qt/text/installed_scripts.h"
+#include "platform_qt/fonts/installed_scripts.h"
 
 namespace verlume::qt {
-
-// The parts of a block's text that Qt would look for other fonts for, in vain. `shows` tells
-// whether any font shows a script.
-QList<QTextLayout::FormatRange> PartsInMissingScripts(
-    QStringView text, const std::function<bool(QChar::Script)>& shows);
 
 // Until all fonts have been looked at, which begins with the first text that makes it necessary,
 // that text is shown as if no font had its letters. Looking at fonts, and afterwards at the text

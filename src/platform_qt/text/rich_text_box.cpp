@@ -20,7 +20,7 @@
 #include "platform_qt/text/text_reading.h"
 #include "platform_qt/text/text_update.h"
 #include "platform_qt/text/text_writing.h"
-#include "platform_qt/text/turn.h"
+#include "platform_qt/fonts/turn.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 

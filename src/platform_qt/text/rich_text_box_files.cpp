@@ -7,7 +7,7 @@
 #include "platform_qt/text/text_format.h"
 #include "platform_qt/text/text_limit.h"
 #include "platform_qt/text/text_loading.h"
-#include "platform_qt/text/turn.h"
+#include "platform_qt/fonts/turn.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 

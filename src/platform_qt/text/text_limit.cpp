@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform_qt/text/turn.h"
+#include "platform_qt/fonts/turn.h"
 
 namespace verlume::qt {
 namespace {

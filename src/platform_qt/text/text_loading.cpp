@@ -4,7 +4,7 @@
 #include <QScrollBar>
 #include <utility>
 
-#include "platform_qt/text/turn.h"
+#include "platform_qt/fonts/turn.h"
 
 namespace verlume::qt {
 namespace {

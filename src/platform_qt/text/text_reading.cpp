@@ -3,7 +3,7 @@
 #include <QElapsedTimer>
 #include <utility>
 
-#include "platform_qt/text/turn.h"
+#include "platform_qt/fonts/turn.h"
 
 namespace verlume::qt {
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "platform_qt/text/look_count.h"
-#include "platform_qt/text/turn.h"
+#include "platform_qt/fonts/turn.h"
 
 namespace verlume::qt {
 namespace {

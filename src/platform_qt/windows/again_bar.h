@@ -1,23 +1,14 @@
 // The bar above the command pane after a conversation that the user has not ended.
 #pragma once
 
-#include "platform_qt/windows/floating_frame.h"
+#include "platform_qt/windows/bar_frame.h"
 
 namespace verlume::qt {
 
-// Its controls have the names of AgainBar's members. Escape in it presses cmdAgainClose. For
-// assistive tools it is an alert: they read its name out when it appears, although it takes no
-// focus.
-class AgainFrame : public FloatingFrame {
- public:
-  explicit AgainFrame(QWidget* area);
-
- protected:
-  QRect PlaceAt(const QRect& pane) const override;
-};
-
+// Its controls have the names of AgainBar's members.
 struct QtAgainBar {
-  explicit QtAgainBar(QWidget* area) : frame(new AgainFrame(area)) {}
+  explicit QtAgainBar(QWidget* area)
+      : frame(new BarFrame(area, "fraAgain", "lblAgain", {"cmdAgain", "cmdAgainClose"})) {}
   AgainBar View() { return {fraAgain, lblAgain, cmdAgain, cmdAgainClose}; }
   // Puts its buttons into the Tab order behind a widget, and returns the last of them.
   QWidget* FollowInTabOrder(QWidget* before);
@@ -27,7 +18,7 @@ struct QtAgainBar {
     return frame->findChild<Widget*>(QLatin1String(name));
   }
 
-  AgainFrame* frame;
+  BarFrame* frame;
   QtFloatingPanel fraAgain{frame};
   QtLabel lblAgain{Find<QLabel>("lblAgain")};
   QtButton cmdAgain{Find<QPushButton>("cmdAgain")};

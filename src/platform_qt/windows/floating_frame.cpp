@@ -54,6 +54,7 @@ void FloatingFrame::Place() {
   if (!place.isEmpty()) {
     setGeometry(place);
     raise();
+    if (above_ && above_->isVisible()) stackUnder(above_);
   }
   setVisible(!place.isEmpty());
 }

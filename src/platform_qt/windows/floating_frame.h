@@ -18,6 +18,8 @@ class FloatingFrame : public QGroupBox {
 
   // The pane must have the same parent.
   void Follow(QWidget* pane);
+  // Another group at the same place, which covers this one while both are shown.
+  void StayBelow(QWidget* other) { above_ = other; }
   // Shows it wherever it has room, until it is no longer wanted.
   void SetWanted(bool wanted);
   bool IsWanted() const { return isWanted_; }
@@ -34,6 +36,7 @@ class FloatingFrame : public QGroupBox {
   void Place();
 
   QPointer<QWidget> pane_;
+  QPointer<QWidget> above_;
   bool isWanted_ = false;
 };
 

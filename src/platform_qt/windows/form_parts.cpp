@@ -14,6 +14,13 @@ QLabel* NewFormText(QWidget* form, const char* name) {
   return text;
 }
 
+QLabel* NewFormCaption(QWidget* form, const char* name) {
+  auto* caption = new QLabel(form);
+  caption->setObjectName(QLatin1String(name));
+  caption->setTextFormat(Qt::PlainText);
+  return caption;
+}
+
 QPushButton* NewFormButton(QWidget* form, const char* name) {
   auto* button = new QPushButton(form);
   button->setObjectName(QLatin1String(name));

@@ -9,6 +9,8 @@ namespace verlume::qt {
 // A plain text over as many lines as it needs, which can be selected and copied by mouse and
 // keyboard.
 QLabel* NewFormText(QWidget* form, const char* name);
+// A plain text in one line.
+QLabel* NewFormCaption(QWidget* form, const char* name);
 QPushButton* NewFormButton(QWidget* form, const char* name);
 
 }  // namespace verlume::qt

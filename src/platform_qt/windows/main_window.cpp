@@ -17,7 +17,10 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   welcomeCard.frame->Follow(rtbData.widget());
   form_.PlacePane(rtbCommands.widget(), "rtbCommands");
   againBar.frame->Follow(rtbCommands.widget());
+  resendBar.frame->Follow(rtbCommands.widget());
   keyBar.frame->Follow(rtbCommands.widget());
+  routerBar.frame->Follow(rtbCommands.widget());
+  routerBar.frame->StayBelow(keyBar.frame);
   form_.PlaceCompletionList(rtbCommands.widget());
   rtbRemote.widget()->setObjectName(QStringLiteral("rtbRemote"));
   rtbRemote.widget()->hide();
@@ -31,20 +34,23 @@ QtMainWindow::QtMainWindow(FileSystem& files)
   // Tab goes down the window as the eye does, and from its end to its beginning. It starts at the
   // command pane.
   QWidget::setTabOrder(rtbData.widget(), cmdNewLines.widget());
-  const QList<QWidget*> down = {
-      againBar.FollowInTabOrder(welcomeCard.FollowInTabOrder(cmdNewLines.widget())),
-      txtFind.widget(),
-      cmdFindPrevious.widget(),
-      cmdFindNext.widget(),
-      cmdFindClose.widget(),
-      chkBold.widget(),
-      chkItalics.widget(),
-      chkUnderline.widget(),
-      keyBar.cmdKeyGoOn.widget(),
-      keyBar.cmdKeyHangUp.widget(),
-      rtbCommands.widget(),
-      cmdSend.widget(),
-      lblLock.widget()};
+  const QList<QWidget*> down = {resendBar.FollowInTabOrder(againBar.FollowInTabOrder(
+                                    welcomeCard.FollowInTabOrder(cmdNewLines.widget()))),
+                                txtFind.widget(),
+                                cmdFindPrevious.widget(),
+                                cmdFindNext.widget(),
+                                cmdFindClose.widget(),
+                                chkBold.widget(),
+                                chkItalics.widget(),
+                                chkUnderline.widget(),
+                                routerBar.cmdRouterYes.widget(),
+                                routerBar.cmdRouterNo.widget(),
+                                routerBar.cmdRouterClose.widget(),
+                                keyBar.cmdKeyGoOn.widget(),
+                                keyBar.cmdKeyHangUp.widget(),
+                                rtbCommands.widget(),
+                                cmdSend.widget(),
+                                lblLock.widget()};
   for (qsizetype i = 1; i < down.size(); ++i) QWidget::setTabOrder(down[i - 1], down[i]);
   rtbCommands.widget()->setFocus();
 }

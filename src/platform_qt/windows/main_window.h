@@ -11,6 +11,8 @@
 #include "platform_qt/windows/find_bar.h"
 #include "platform_qt/windows/key_bar.h"
 #include "platform_qt/windows/main_window_form.h"
+#include "platform_qt/windows/resend_bar.h"
+#include "platform_qt/windows/router_bar.h"
 #include "platform_qt/windows/welcome_card.h"
 #include "platform_qt/windows/window.h"
 
@@ -52,6 +54,8 @@ class QtMainWindow {
   QtMenuEntry mnuCommInvite{form_.Find<QAction>("mnuCommInvite")};
   QtMenuEntry mnuCommVerify{form_.Find<QAction>("mnuCommVerify")};
   QtMenuEntry mnuCommPeople{form_.Find<QAction>("mnuCommPeople")};
+  QtMenuEntry mnuCommReach{form_.Find<QAction>("mnuCommReach")};
+  QtMenuEntry mnuCommAskRouter{form_.Find<QAction>("mnuCommAskRouter")};
 
   QtMenu mnuFormat{form_.Find<QMenu>("mnuFormat")};
   QtMenuEntry mnuFormatFontBold{form_.Find<QAction>("mnuFormatFontBold")};
@@ -121,7 +125,9 @@ class QtMainWindow {
 
   QtWelcomeCard welcomeCard{form_.centralWidget()};
   QtAgainBar againBar{form_.centralWidget()};
+  QtResendBar resendBar{form_.centralWidget()};
   QtKeyBar keyBar{form_.centralWidget()};
+  QtRouterBar routerBar{form_.centralWidget()};
 
   QtButton cmdSend{form_.Find<QPushButton>("cmdSend")};
   QtCheckBox chkBold{form_.Find<QCheckBox>("chkBold")};

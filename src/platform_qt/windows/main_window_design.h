@@ -124,6 +124,8 @@ inline constexpr auto kMainMenuDesign = std::to_array<MenuEntryDesign>({
     {"mnuComm", "mnuCommInvite", false, true},
     {"mnuComm", "mnuCommVerify"},
     {"mnuComm", "mnuCommPeople"},
+    {"mnuComm", "mnuCommReach", false, true},
+    {"mnuComm", "mnuCommAskRouter", true},
     {"mnuFormat", "mnuFormatFontBold", true, false, "Ctrl+B"},
     {"mnuFormat", "mnuFormatFontItalics", true, false, "Ctrl+I"},
     {"mnuFormat", "mnuFormatFontUnderline", true, false, "Ctrl+U"},

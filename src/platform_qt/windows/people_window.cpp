@@ -13,24 +13,17 @@ namespace {
 constexpr int kTableColumns = 96;  // the table's width, in average characters
 constexpr int kTableRows = 9;
 
-QLabel* NewCaption(QWidget* form, const char* name) {
-  auto* caption = new QLabel(form);
-  caption->setObjectName(QLatin1String(name));
-  caption->setTextFormat(Qt::PlainText);
-  return caption;
-}
-
 }  // namespace
 
 PeopleForm::PeopleForm(QWidget* mainWindow)
     : ModalForm(mainWindow),
-      lblPeopleNone(NewCaption(this, "lblPeopleNone")),
+      lblPeopleNone(NewFormCaption(this, "lblPeopleNone")),
       lstPeople(new TableWidget(this)),
       fraPerson(new QWidget(this)),
-      lblPeopleNameCaption(NewCaption(this, "lblPeopleNameCaption")),
+      lblPeopleNameCaption(NewFormCaption(this, "lblPeopleNameCaption")),
       txtPeopleName(new QLineEdit(this)),
       chkPeopleVerified(new QCheckBox(this)),
-      lblPeopleKeyCaption(NewCaption(this, "lblPeopleKeyCaption")),
+      lblPeopleKeyCaption(NewFormCaption(this, "lblPeopleKeyCaption")),
       lblPeopleKey(NewFormText(this, "lblPeopleKey")),
       cmdPeopleForget(NewFormButton(this, "cmdPeopleForget")),
       cmdPeopleClose(NewFormButton(this, "cmdPeopleClose")),

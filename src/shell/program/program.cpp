@@ -43,13 +43,17 @@ Program::Program(Platform& platform)
              .onConversation = [this] { RememberAnswer(state_, platform_, settings_); },
              .mayBegin = [this](std::u16string_view name) { return peerGate_.MayBegin(name); },
              .onNickname = [this] { peerGate_.ShowLock(); }}),
+      port_(state_, platform, errors_, settings_),
+      reachList_(state_, platform, errors_),
       connection_(state_, platform, errors_,
                   {.settings = settings_,
                    .dialogue = dialogue_,
                    .log = log_,
                    .statusPanel = statusPanel_,
-                   .wire = wire_}),
+                   .wire = wire_,
+                   .port = port_}),
       peerGate_(state_, platform, errors_, people_, wire_, [this] { connection_.HangUp(); }),
+      resend_(state_, platform, wire_, dialogue_),
       privateMenu_(state_, platform, errors_, settings_),
       peopleList_(state_, platform, errors_, people_),
       verification_(state_, platform, errors_, people_),
@@ -89,15 +93,17 @@ Program::Program(Platform& platform)
   BindSocket();
   BindAttention();
   BindPrivacy();
+  BindReach();
   BindContextHelp(platform.frmMain);
   BindContextHelp(platform.frmPeople);
   BindContextHelp(platform.frmVerify);
+  BindContextHelp(platform.frmReach);
 }
 
 Program::~Program() = default;
 
-void Program::Start(std::u16string_view invitation) {
-  invitation_ = invitation;
+void Program::Start(const StartTask& task) {
+  task_ = task;
   startUp_.Form_Load();
   privateMenu_.Start();
   attentionSwitches_.ShowState();
@@ -107,6 +113,20 @@ void Program::Start(std::u16string_view invitation) {
   people_.Start();
   spelling_.Start();
   platform_.frmMain.window.Show();
+}
+
+void Program::Do(const StartTask& task) {
+  if (platform_.application.HasEnded()) return;
+  switch (task.kind) {
+    case StartTask::Kind::None:
+      break;
+    case StartTask::Kind::Wait:
+      return connection_.WaitFromMenu(task.port);
+    case StartTask::Kind::Call:
+      return connection_.CallFromMenu({task.text, task.port, {}});
+    case StartTask::Kind::OpenInvitation:
+      return connection_.OpenInvitation(task.text);
+  }
 }
 
 // Any error ends the chat: its log is closed, and the status line no longer shows it.
@@ -125,15 +145,13 @@ void Program::BindWindow() {
   On(frmMain.window.onUnload, shutDown_, &ShutDown::Form_Unload);
   frmMain.freeSizer1.onPostLayout = [this] {
     startUp_.freeSizer1_PostLayout();
-    const std::u16string invitation = std::exchange(invitation_, {});
-    if (!invitation.empty() && !platform_.application.HasEnded()) {
-      connection_.OpenInvitation(invitation);
-    }
+    Do(std::exchange(task_, {}));
   };
   frmMain.tmrTimer.onTimer = [this] {
     statusPanel_.tmrTimer_Timer();
     socketEvents_.tmrTimer_Timer();
     alerts_.tmrTimer_Timer();
+    reachList_.Refresh();
   };
 }
 
@@ -290,6 +308,10 @@ void Program::BindFloating() {
   card.cmdCardHelp.onClick = click(frmMain.mnuHelpDetailed);
   On(frmMain.againBar.cmdAgain.onClick, connection_, &ConnectionActions::cmdAgain_Click);
   On(frmMain.againBar.cmdAgainClose.onClick, connection_, &ConnectionActions::cmdAgainClose_Click);
+  const ResendBar& resend = frmMain.resendBar;
+  On(resend.cmdResend.onClick, resend_, &Resend::cmdResend_Click);
+  On(resend.cmdResendDrop.onClick, resend_, &Resend::cmdResendDrop_Click);
+  On(resend.cmdResendClose.onClick, resend_, &Resend::cmdResendClose_Click);
 }
 
 void Program::BindSocket() {
@@ -317,6 +339,8 @@ void Program::BindPrivacy() {
   language_.onApplied = [this] {
     peerGate_.ShowLock();
     peerGate_.ShowBar();
+    port_.ShowState();
+    reachList_.Refresh();
   };
   MainWindow& frmMain = platform_.frmMain;
   On(frmMain.keyBar.cmdKeyGoOn.onClick, peerGate_, &PeerGate::cmdKeyGoOn_Click);
@@ -346,6 +370,28 @@ void Program::BindPeople() {
   On(frmVerify.cmdVerifyCopy.onClick, verification_, &Verification::cmdVerifyCopy_Click);
   On(frmVerify.cmdVerifyMatch.onClick, verification_, &Verification::cmdVerifyMatch_Click);
   On(frmVerify.cmdVerifyClose.onClick, verification_, &Verification::cmdVerifyClose_Click);
+}
+
+void Program::BindReach() {
+  platform_.router.onReport = [this] {
+    port_.router_Report();
+    reachList_.Refresh();
+  };
+  platform_.network.onChange = [this] {
+    port_.network_Change();
+    reachList_.Refresh();
+  };
+  MainWindow& frmMain = platform_.frmMain;
+  On(frmMain.routerBar.cmdRouterYes.onClick, port_, &PortKeeper::cmdRouterYes_Click);
+  On(frmMain.routerBar.cmdRouterNo.onClick, port_, &PortKeeper::cmdRouterNo_Click);
+  On(frmMain.routerBar.cmdRouterClose.onClick, port_, &PortKeeper::cmdRouterClose_Click);
+  On(frmMain.mnuCommAskRouter.onClick, port_, &PortKeeper::mnuCommAskRouter_Click);
+  On(frmMain.mnuCommReach.onClick, reachList_, &ReachList::mnuCommReach_Click);
+  const ReachWindow& frmReach = platform_.frmReach;
+  On(frmReach.cmdReachAgain.onClick, reachList_, &ReachList::cmdReachAgain_Click);
+  On(frmReach.cmdReachCopyAddress.onClick, reachList_, &ReachList::cmdReachCopyAddress_Click);
+  On(frmReach.cmdReachCopyInvitation.onClick, reachList_, &ReachList::cmdReachCopyInvitation_Click);
+  On(frmReach.cmdReachClose.onClick, reachList_, &ReachList::cmdReachClose_Click);
 }
 
 void Program::BindAttention() {

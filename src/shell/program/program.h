@@ -15,6 +15,7 @@
 #include "connection/connection_state.h"
 #include "connection/peer_gate.h"
 #include "connection/private_menu.h"
+#include "connection/resend.h"
 #include "connection/socket_events.h"
 #include "connection/wire_protocol.h"
 #include "macros/macro_editor.h"
@@ -25,6 +26,8 @@
 #include "people/people_list.h"
 #include "people/verification.h"
 #include "platform/platform.h"
+#include "reach/port_keeper.h"
+#include "reach/reach_list.h"
 #include "records/dialogue_files.h"
 #include "records/dialogue_log.h"
 #include "shell/about_box.h"
@@ -37,6 +40,7 @@
 #include "shell/program/shut_down.h"
 #include "shell/program/start_up.h"
 #include "shell/settings.h"
+#include "shell/start/start_task.h"
 #include "shell/status_panel.h"
 #include "shell/view.h"
 #include "shell/window_behaviour.h"
@@ -52,9 +56,11 @@ class Program {
   Program& operator=(const Program&) = delete;
 
   // Loads the main window, shows it and starts the clock; from then on the program waits for
-  // events. An invitation from outside ("" for none) is opened when the window has been laid out;
-  // another text is ignored.
-  void Start(std::u16string_view invitation = {});
+  // events. The task is done when the window has been laid out.
+  void Start(const StartTask& task = {});
+
+  // Does at once what another start of the program was asked to do.
+  void Do(const StartTask& task);
 
   const AppState& State() const { return state_; }
 
@@ -71,6 +77,7 @@ class Program {
   void BindAttention();
   void BindPrivacy();
   void BindPeople();
+  void BindReach();
 
   Platform& platform_;
   AppState state_;
@@ -88,8 +95,11 @@ class Program {
   Dialogue dialogue_;
   People people_;
   WireProtocol wire_;
+  PortKeeper port_;
+  ReachList reachList_;
   ConnectionActions connection_;
   PeerGate peerGate_;
+  Resend resend_;
   PrivateMenuChoice privateMenu_;
   PeopleList peopleList_;
   Verification verification_;
@@ -109,7 +119,7 @@ class Program {
   AttentionSwitches attentionSwitches_;
   StartUp startUp_;
   ShutDown shutDown_;
-  std::u16string invitation_;  // from outside, until it is opened
+  StartTask task_;  // until it is done
 };
 
 }  // namespace verlume

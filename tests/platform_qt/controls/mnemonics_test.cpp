@@ -11,6 +11,7 @@
 #include "platform_qt/windows/window_focus.h"
 #include "shell/language_texts.h"
 #include "shell/private_texts.h"
+#include "shell/reach_texts.h"
 
 namespace verlume::qt {
 namespace {
@@ -63,6 +64,7 @@ class MnemonicsTest : public testing::Test {
     for (const auto& [set, text] : MenuAndToolTipTexts(view)) set(text.In(isGreek));
     for (const auto& [set, text] : PanelTexts(view)) set(text.In(isGreek));
     for (const auto& [set, text] : PrivateTexts(view)) set(text.In(isGreek));
+    for (const auto& [set, text] : ReachTexts(view)) set(text.In(isGreek));
   }
 
   // The key of a text's mnemonic; fails the test if there is none, or an accented one.

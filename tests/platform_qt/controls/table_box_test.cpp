@@ -3,8 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
+
+#include "platform_qt/controls/tool_tip.h"
 
 namespace verlume::qt {
 namespace {
@@ -102,6 +107,21 @@ TEST_F(QtTableBoxTest, AssistiveToolsReadEveryCell) {
   EXPECT_EQ(all->tableInterface()->rowCount(), 3);
   EXPECT_EQ(all->tableInterface()->cellAt(2, 1)->text(QAccessible::Name), "May");
   EXPECT_EQ(all->tableInterface()->columnDescription(1), "Since");
+}
+
+TEST_F(QtTableBoxTest, ATextThatIsCutIsShownInFullAsAToolTip) {
+  const QString cut = QStringLiteral("<b>") + QString(100, u'w') + QStringLiteral("</b>");
+  table.SetRow(0, {FromQt(cut), u"March"});
+  const auto point = [this](int column) {
+    QTreeWidgetItem* row = widget.topLevelItem(0);
+    const QPoint place = widget.visualRect(widget.indexFromItem(row, column)).center();
+    QHelpEvent wish(QEvent::ToolTip, place, widget.viewport()->mapToGlobal(place));
+    QApplication::sendEvent(widget.viewport(), &wish);
+  };
+  point(0);
+  EXPECT_EQ(QToolTip::text(), PlainToolTip(cut));
+  point(1);
+  EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 10000));
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "platform_qt/windows/macro_window.h"
 #include "platform_qt/windows/main_window.h"
 #include "platform_qt/windows/people_window.h"
+#include "platform_qt/windows/reach_window.h"
 #include "platform_qt/windows/verify_window.h"
 
 namespace verlume::qt {
@@ -143,6 +144,13 @@ TEST_F(HelpFilesTest, ExplainEveryControlOfTheWindowsOfPrivateConversations) {
     EXPECT_EQ(NotExplained(*book, frmPeople.form()), "");
     EXPECT_EQ(NotExplained(*book, frmVerify.form()), "");
   }
+}
+
+TEST_F(HelpFilesTest, ExplainEveryControlOfTheWindowThatSaysWhoCanCall) {
+  const QtReachWindow frmReach(nullptr);
+  EXPECT_EQ(NamesToExplain(frmReach.form()).size(), 13);
+  EXPECT_EQ(NotExplained(english, frmReach.form()), "");
+  EXPECT_EQ(NotExplained(greek, frmReach.form()), "");
 }
 
 TEST_F(HelpFilesTest, ExplainEveryControlOfTheHelpWindow) {

@@ -32,7 +32,7 @@ class PrivacyTest : public testing::TestWithParam<stream::Role> {
       ++known;
       if (admits) privacy.AdmitPeer();
     };
-    socket.onUndelivered = [this](std::size_t lines) { undelivered += lines; };
+    socket.onUndelivered = [this](std::size_t lines, ConnectionNumber) { undelivered += lines; };
     EXPECT_EQ(privacy.PrepareOwnKey(), OwnKey::Ready);
   }
 

@@ -25,8 +25,9 @@ class QtSenderTest : public testing::Test {
  protected:
   void SetUp() override {
     socket.onAcknowledged = [this] { waitingWhenAcknowledged.push_back(socket.LinesWaiting()); };
-    socket.onUndelivered = [this](std::size_t lines) {
+    socket.onUndelivered = [this](std::size_t lines, ConnectionNumber connection) {
       undelivered.push_back(lines);
+      undeliveredOf = connection;
       closesBefore = closes;
     };
     socket.onClose = [this] { ++closes; };
@@ -63,6 +64,7 @@ class QtSenderTest : public testing::Test {
   QByteArray read;
   std::vector<std::size_t> waitingWhenAcknowledged;
   std::vector<std::size_t> undelivered;
+  ConnectionNumber undeliveredOf = 0;
   int closes = 0;
   int closesBefore = -1;
 };
@@ -121,6 +123,17 @@ TEST_F(QtSenderTest, AClosedConnectionRaisesUndeliveredForWhatItCouldNotSend) {
   ASSERT_TRUE(WaitFor([&] { return !undelivered.empty(); }));
   EXPECT_THAT(undelivered, ElementsAre(1));
   EXPECT_EQ(closes, 0);
+}
+
+TEST_F(QtSenderTest, WhatIsUndeliveredIsOfTheConnectionThatWasClosed) {
+  SendMoreThanFits();
+  const ConnectionNumber first = socket.CurrentConnection();
+  socket.Close();
+  socket.Connect();
+  ASSERT_TRUE(WaitFor([&] { return socket.State() == SocketState::Connected; }));
+  ASSERT_TRUE(WaitFor([&] { return !undelivered.empty(); }));
+  EXPECT_EQ(undeliveredOf, first);
+  EXPECT_NE(socket.CurrentConnection(), first);
 }
 
 TEST_F(QtSenderTest, AClosedConnectionStillSendsWhatIsQueued) {

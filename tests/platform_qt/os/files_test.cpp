@@ -75,6 +75,17 @@ TEST_F(FilesTest, AMovedFileReplacesTheOther) {
   EXPECT_THAT(FilesIn(folder.Path()), ElementsAre("old"));
 }
 
+TEST_F(FilesTest, AFileIsMovedToAFreePathOnlyIfItIsFree) {
+  const std::string from = Make(u8"new", "new");
+  const std::string to = Make(u8"old", "old");
+  EXPECT_FALSE(MoveIntoFree(from, to));
+  EXPECT_EQ(Content(to), "old");
+  EXPECT_TRUE(MoveIntoFree(from, folder.Path(u8"free")));
+  EXPECT_EQ(Content(folder.Path(u8"free")), "new");
+  EXPECT_FALSE(IsTaken(from));
+  EXPECT_THROW((void)MoveIntoFree(from, folder.Path(u8"other")), RunTimeFailure);
+}
+
 TEST_F(FilesTest, AFileCanBeMovedWhileItIsOpen) {
   const std::string to = Make(u8"old", "old");
   OpenFile file(folder.Path(u8"new"), Opening::ToMake);

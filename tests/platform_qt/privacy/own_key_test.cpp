@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <set>
 
 #include "platform_qt/privacy/certificates.h"
 
@@ -54,6 +56,40 @@ TEST_F(OwnKeyTest, TheKeyStaysTheSame) {
   OwnKeyFile later(Path());
   ASSERT_EQ(later.Prepare(), OwnKey::Ready);
   EXPECT_EQ(later.Pair()->fingerprint, own.Pair()->fingerprint);
+}
+
+// Each is a process of its own, as two copies of the program are.
+TEST_F(OwnKeyTest, CopiesThatAreStartedAtOnceHaveOneKey) {
+  constexpr int kCopies = 8;
+  int start[2];
+  int answers[2];
+  ASSERT_EQ(::pipe(start), 0);
+  ASSERT_EQ(::pipe(answers), 0);
+  for (int copy = 0; copy < kCopies; ++copy) {
+    if (::fork() != 0) continue;
+    ::close(start[1]);
+    char nothing;
+    [[maybe_unused]] const auto began = ::read(start[0], &nothing, 1);
+    const bool isReady = own.Prepare() == OwnKey::Ready;
+    const KeyFingerprint key = isReady ? own.Pair()->fingerprint : KeyFingerprint{};
+    [[maybe_unused]] const auto told = ::write(answers[1], key.data(), key.size());
+    ::_exit(0);
+  }
+  ::close(answers[1]);
+  ::close(start[1]);
+  std::set<KeyFingerprint> keys;
+  KeyFingerprint key;
+  int told = 0;
+  while (::read(answers[0], key.data(), key.size()) == ssize_t(key.size())) {
+    keys.insert(key);
+    ++told;
+  }
+  while (::wait(nullptr) > 0) continue;
+  ::close(answers[0]);
+  ::close(start[0]);
+  EXPECT_EQ(told, kCopies);
+  ASSERT_EQ(own.Prepare(), OwnKey::Ready);
+  EXPECT_EQ(keys, std::set<KeyFingerprint>{own.Pair()->fingerprint});
 }
 
 TEST_F(OwnKeyTest, AFileThatIsNoKeyIsNotReplaced) {

@@ -44,6 +44,21 @@ TEST_F(FileReplacementTest, ItStandsBesideTheFileUntilItTakesItsPlace) {
   EXPECT_EQ(Content("a"), "new");
 }
 
+TEST_F(FileReplacementTest, APlaceIsTakenOnlyIfItIsFree) {
+  {
+    FileReplacement first(Folder());
+    first.File().Write("first");
+    EXPECT_TRUE(first.TakeFreePlace(Path("a")));
+  }
+  {
+    FileReplacement second(Folder());
+    second.File().Write("second");
+    EXPECT_FALSE(second.TakeFreePlace(Path("a")));
+  }
+  EXPECT_EQ(Names(), QStringList{"a"});
+  EXPECT_EQ(Content("a"), "first");
+}
+
 TEST_F(FileReplacementTest, OneThatTakesNoPlaceGoes) {
   { FileReplacement(Folder()).File().Write("new"); }
   EXPECT_TRUE(Names().isEmpty());

@@ -105,7 +105,10 @@ class BasicProgramOnDisk {
   fake::FakeMacroWindow macros{disk};
   fake::FakePeopleWindow people;
   fake::FakeVerifyWindow verify;
+  fake::FakeReachWindow reach;
   fake::FakeSocket socket;
+  fake::FakeRouter router;
+  fake::FakeAddresses addresses;
   fake::FakeDialogs dialogs;
   fake::FakeCommonDialog commonDialog;
   fake::FakeClock clock;
@@ -121,8 +124,11 @@ class BasicProgramOnDisk {
                        macros.frmMacros,
                        people.frmPeople,
                        verify.frmVerify,
+                       reach.frmReach,
                        socket,
                        socket.privacy,
+                       router,
+                       addresses,
                        dialogs,
                        commonDialog,
                        disk,

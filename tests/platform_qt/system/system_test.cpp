@@ -158,6 +158,28 @@ TEST_F(QtApplicationFolders, SettingsLieInTheUsersFolderWhereTheProgramsIsNotWri
   EXPECT_TRUE(QDir(settings).exists());
 }
 
+// As root finds it, who may write everywhere.
+TEST_F(QtApplicationFolders, SettingsOfAnInstalledProgramLieInTheUsersFolder) {
+  const QTemporaryDir config;
+  const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+  qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
+  MakeHelp(Program() + "/../share/verlume");
+  const QString settings = ToQt(QtApplication(Program()).SettingsFolder());
+  MakeHelp(Program());
+  const QString beside = ToQt(QtApplication(Program()).SettingsFolder());
+  qputenv("XDG_CONFIG_HOME", before);
+  EXPECT_TRUE(settings.startsWith(config.path())) << settings.toStdString();
+  EXPECT_TRUE(QDir(settings).exists());
+  EXPECT_EQ(beside, Program()) << "a copied folder has its help beside it";
+}
+
+TEST_F(QtApplicationFolders, SettingsLieInTheFolderThatTheUserNames) {
+  const QTemporaryDir own;
+  EXPECT_EQ(QtApplication(Program(), own.path()).SettingsFolder(), FromQt(own.path()));
+  EXPECT_EQ(SettingsFolderFor(own.path()), own.path());
+  EXPECT_EQ(SettingsFolderFor({}), ToQt(QtApplication().SettingsFolder()));
+}
+
 TEST_F(QtApplicationFolders, HelpLiesInTheProgramsFolder) {
   MakeHelp(Program());
   MakeHelp(Program() + "/../share/verlume");

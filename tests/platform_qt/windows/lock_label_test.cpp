@@ -126,8 +126,8 @@ TEST_F(QtLockLabelTest, EveryPictureIsAnother) {
   lock.SetCaption(u"Private");
   std::vector<QImage> pictures;
   for (const LockPicture picture :
-       {LockPicture::Becoming, LockPicture::Closed, LockPicture::Verified, LockPicture::Open,
-        LockPicture::Warning}) {
+       {LockPicture::Becoming, LockPicture::Closed, LockPicture::Doubtful, LockPicture::Verified,
+        LockPicture::Open, LockPicture::Warning}) {
     lock.SetPicture(picture);
     EXPECT_EQ(lock.Picture(), picture);
     // Also for whoever sees no colours.

@@ -127,7 +127,7 @@ TEST_F(QtMainWindowTest, TheTickedEntriesAreCheckable) {
       "mnuToolsLanguageGreek",  "mnuViewStatusPanel",     "mnuAttentionLines",
       "mnuToolsCheckSpelling",  "mnuAttentionText",       "mnuAttentionSound",
       "mnuAttentionCount",      "mnuPrivateWhenPossible", "mnuPrivateOnly",
-      "mnuPrivateNever"};
+      "mnuPrivateNever",        "mnuCommAskRouter"};
   expected.sort();
   EXPECT_EQ(checkable, expected);
 }

@@ -2,21 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <QAccessible>
-#include <QTest>
-
-#include "platform_qt/dialogs/modal_driver.h"
-#include "platform_qt/windows/window_focus.h"
+#include "platform_qt/windows/modal_window_fixture.h"
 #include "shell/private_texts.h"
 
 namespace verlume::qt {
 namespace {
 
-class QtPeopleWindowTest : public testing::Test {
+class QtPeopleWindowTest : public ModalWindowTest<QtPeopleWindow> {
  protected:
   QtPeopleWindowTest() {
-    mainWindow.setGeometry(300, 200, 600, 500);
-    EXPECT_TRUE(ShowAndWait(mainWindow));
     SetLanguage(false);
     view.lstPeople.SetRows(
         {{u"Carol", u"Bob", u"3 November 2026", u"22 November 2026", u"Yes"},
@@ -31,46 +25,20 @@ class QtPeopleWindowTest : public testing::Test {
   void SetLanguage(bool isGreek) {
     for (const auto& [set, text] : PeopleWindowTexts(view)) set(text.In(isGreek));
   }
-  // The window has it once the window manager has made it the active one.
-  bool HasKeyboard() {
-    const bool has = QTest::qWaitFor([this] { return form.focusWidget() != nullptr; }, 10000);
-    EXPECT_TRUE(has);
-    return has;
-  }
-  // Shows the window, does the act and closes the window.
-  void ShowAnd(const std::function<void()>& act) {
-    const ModalDriver driver([&](QDialog&) {
-      if (HasKeyboard()) act();
-      view.window.Unload();
-    });
-    view.window.ShowModal();
-    EXPECT_FALSE(form.isVisible());
-  }
 
-  QWidget mainWindow;
-  QtPeopleWindow frmPeople{&mainWindow};
-  PeopleWindow& view = frmPeople.View();
-  PeopleForm& form = frmPeople.form();
   int forgets = 0;
 };
 
 TEST_F(QtPeopleWindowTest, EveryElementBearsItsName) {
   EXPECT_EQ(form.objectName(), "frmPeople");
-  for (const char* name : {"lblPeopleNone", "lstPeople", "fraPerson", "lblPeopleNameCaption",
-                           "txtPeopleName", "chkPeopleVerified", "lblPeopleKeyCaption",
-                           "lblPeopleKey", "cmdPeopleForget", "cmdPeopleClose"}) {
-    EXPECT_EQ(form.findChildren<QWidget*>(QLatin1String(name)).size(), 1) << name;
-  }
+  ExpectOneOfEach({"lblPeopleNone", "lstPeople", "fraPerson", "lblPeopleNameCaption",
+                   "txtPeopleName", "chkPeopleVerified", "lblPeopleKeyCaption", "lblPeopleKey",
+                   "cmdPeopleForget", "cmdPeopleClose"});
 }
 
 TEST_F(QtPeopleWindowTest, FocusStartsInTheTableAndTabGoesThroughThePerson) {
   ShowAnd([this] {
-    QStringList order;
-    for (int step = 0; step < 6; ++step) {
-      order.append(form.focusWidget()->objectName());
-      QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order.join(u' ').toStdString(),
+    EXPECT_EQ(TabOrder(6),
               "lstPeople txtPeopleName chkPeopleVerified lblPeopleKey cmdPeopleForget "
               "cmdPeopleClose");
   });
@@ -116,20 +84,7 @@ TEST_F(QtPeopleWindowTest, SaysInThePlaceOfTheTableThatThereIsNobody) {
 TEST_F(QtPeopleWindowTest, NothingIsCutInEitherLanguage) {
   for (const bool isGreek : {false, true}) {
     SetLanguage(isGreek);
-    ShowAnd([this] {
-      for (const QLabel* text : form.findChildren<QLabel*>()) {
-        if (!text->isVisible()) continue;
-        EXPECT_GE(text->height(), text->heightForWidth(text->width())) << text->objectName().data();
-        EXPECT_GE(text->width(), text->minimumSizeHint().width()) << text->objectName().data();
-      }
-      for (const QAbstractButton* button : form.findChildren<QAbstractButton*>()) {
-        if (button->objectName().startsWith(u"qt_")) continue;
-        EXPECT_GE(button->width(), button->sizeHint().width()) << button->objectName().data();
-        EXPECT_TRUE(button->text().contains(u'&')) << "a letter";
-      }
-      EXPECT_LE(form.frameGeometry().width(), 640);
-      EXPECT_LE(form.frameGeometry().height(), 480);
-    });
+    ShowAnd([this] { ExpectNothingIsCut(); });
   }
 }
 

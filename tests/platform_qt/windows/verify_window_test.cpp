@@ -4,10 +4,8 @@
 
 #include <QAccessible>
 #include <QClipboard>
-#include <QTest>
 
-#include "platform_qt/dialogs/modal_driver.h"
-#include "platform_qt/windows/window_focus.h"
+#include "platform_qt/windows/modal_window_fixture.h"
 #include "shell/private_texts.h"
 
 namespace verlume::qt {
@@ -17,11 +15,9 @@ constexpr const char16_t* kDigits = u"031415926535897932384626433832795028841971
 constexpr const char16_t* kInGroups =
     u"03141 59265 35897 93238\n46264 33832 79502 88419\n71693 99375 10582 09749";
 
-class QtVerifyWindowTest : public testing::Test {
+class QtVerifyWindowTest : public ModalWindowTest<QtVerifyWindow> {
  protected:
   QtVerifyWindowTest() {
-    mainWindow.setGeometry(300, 200, 600, 500);
-    EXPECT_TRUE(ShowAndWait(mainWindow));
     SetLanguage(false);
     view.lblVerifyWho.SetCaption(u"Carol (calls itself Bob)");
     view.lblVerifyDigits.SetDigits(kDigits);
@@ -35,36 +31,15 @@ class QtVerifyWindowTest : public testing::Test {
   void SetLanguage(bool isGreek) {
     for (const auto& [set, text] : VerifyWindowTexts(view)) set(text.In(isGreek));
   }
-  // The window has it once the window manager has made it the active one.
-  bool HasKeyboard() {
-    const bool has = QTest::qWaitFor([this] { return form.focusWidget() != nullptr; }, 10000);
-    EXPECT_TRUE(has);
-    return has;
-  }
-  // Shows the window, does the act and closes the window.
-  void ShowAnd(const std::function<void()>& act) {
-    const ModalDriver driver([&](QDialog&) {
-      if (HasKeyboard()) act();
-      view.window.Unload();
-    });
-    view.window.ShowModal();
-    EXPECT_FALSE(form.isVisible());
-  }
 
-  QWidget mainWindow;
-  QtVerifyWindow frmVerify{&mainWindow};
-  VerifyWindow& view = frmVerify.View();
-  VerifyForm& form = frmVerify.form();
   int matches = 0;
   int closes = 0;
 };
 
 TEST_F(QtVerifyWindowTest, EveryElementBearsItsName) {
   EXPECT_EQ(form.objectName(), "frmVerify");
-  for (const char* name : {"lblVerifyWho", "lblVerifyDigits", "picVerifyCode", "lblVerifyMeaning",
-                           "cmdVerifyCopy", "cmdVerifyMatch", "cmdVerifyClose"}) {
-    EXPECT_EQ(form.findChildren<QWidget*>(QLatin1String(name)).size(), 1) << name;
-  }
+  ExpectOneOfEach({"lblVerifyWho", "lblVerifyDigits", "picVerifyCode", "lblVerifyMeaning",
+                   "cmdVerifyCopy", "cmdVerifyMatch", "cmdVerifyClose"});
 }
 
 TEST_F(QtVerifyWindowTest, DigitsStandInThreeRowsOfFourGroups) {
@@ -112,12 +87,7 @@ TEST_F(QtVerifyWindowTest, EnterAndEscapeCloseAndNeverSayThatTheyMatch) {
 
 TEST_F(QtVerifyWindowTest, TabGoesFromTheDigitsToTheButtonsAndBack) {
   ShowAnd([this] {
-    QStringList order;
-    for (int step = 0; step < 5; ++step) {
-      order.append(form.focusWidget()->objectName());
-      QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order.join(u' ').toStdString(),
+    EXPECT_EQ(TabOrder(5),
               "lblVerifyDigits cmdVerifyCopy cmdVerifyMatch cmdVerifyClose lblVerifyDigits");
     form.cmdVerifyMatch->setFocus();
     QTest::keyClick(form.cmdVerifyMatch, Qt::Key_Space);
@@ -128,20 +98,7 @@ TEST_F(QtVerifyWindowTest, TabGoesFromTheDigitsToTheButtonsAndBack) {
 TEST_F(QtVerifyWindowTest, NothingIsCutInEitherLanguage) {
   for (const bool isGreek : {false, true}) {
     SetLanguage(isGreek);
-    ShowAnd([this] {
-      for (const QLabel* text : form.findChildren<QLabel*>()) {
-        EXPECT_TRUE(form.rect().contains(text->geometry())) << text->objectName().data();
-        EXPECT_GE(text->height(), text->heightForWidth(text->width())) << text->objectName().data();
-        EXPECT_GE(text->width(), text->minimumSizeHint().width());
-      }
-      for (const QPushButton* button : form.findChildren<QPushButton*>()) {
-        EXPECT_TRUE(form.rect().contains(button->geometry()));
-        EXPECT_GE(button->width(), button->sizeHint().width());
-        EXPECT_TRUE(button->text().contains(u'&')) << "a letter";
-      }
-      EXPECT_LE(form.frameGeometry().width(), 640);
-      EXPECT_LE(form.frameGeometry().height(), 480);
-    });
+    ShowAnd([this] { ExpectNothingIsCut(); });
   }
 }
 

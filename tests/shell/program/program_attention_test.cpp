@@ -24,6 +24,7 @@ class ProgramAttention : public testing::Test {
 };
 
 TEST_F(ProgramAttention, OnlyThePeersLinesAreAnnounced) {
+  bob.platform.window.mnuCommAskRouter.Click();  // else the wait asks whether it may
   told.listenedTo = true;
   Connect();
   ann.Enter(u"hello");

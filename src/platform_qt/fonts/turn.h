@@ -1,4 +1,4 @@
-// How long a text is inserted without a break before the window handles its events.
+// How long text or fonts are worked on without a break before the window handles its events.
 #pragma once
 
 #include <chrono>

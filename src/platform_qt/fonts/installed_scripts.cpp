@@ -1,4 +1,4 @@
-#include "platform_qt/text/installed_scripts.h"
+#include "platform_qt/fonts/installed_scripts.h"
 
 #include <QElapsedTimer>
 #include <QFontDatabase>
@@ -8,7 +8,7 @@
 #include <array>
 #include <vector>
 
-#include "platform_qt/text/turn.h"
+#include "platform_qt/fonts/turn.h"
 
 namespace verlume::qt {
 namespace {

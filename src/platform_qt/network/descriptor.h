@@ -1,0 +1,31 @@
+// A file descriptor that is closed by its owner's end.
+#pragma once
+
+#include <unistd.h>
+
+#include <utility>
+
+namespace verlume::qt {
+
+class Descriptor {
+ public:
+  Descriptor() = default;
+  // A negative number is none: what a system call that failed has returned.
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+
+  int Number() const { return number_; }
+  bool IsOpen() const { return number_ >= 0; }
+
+ private:
+  int number_ = -1;
+};
+
+}  // namespace verlume::qt

@@ -1,0 +1,30 @@
+// Asks routers by NAT-PMP (RFC 6886), with libnatpmp.
+#pragma once
+
+#include <netinet/in.h>
+
+#include <optional>
+
+#include "platform_qt/router/port_asker.h"
+
+namespace verlume::qt {
+
+class NatPmpAsker : public PortAsker {
+ public:
+  PortAnswer Map(std::uint16_t port, std::chrono::seconds lease, const WaitLimit& limit) override;
+  RouterReport AskAddress(const WaitLimit& limit) override;
+  void GiveBack(const WaitLimit& limit) override;
+
+ private:
+  struct Claim {
+    in_addr_t gateway = 0;
+    std::uint16_t port = 0;
+    std::uint16_t outerPort = 0;  // what was granted, or wanted
+  };
+  PortAnswer MapAt(in_addr_t gateway, std::uint16_t port, std::chrono::seconds lease,
+                   const WaitLimit& limit);
+
+  std::optional<Claim> claim_;
+};
+
+}  // namespace verlume::qt
