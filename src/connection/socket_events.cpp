@@ -95,6 +95,7 @@ void SocketEvents::sckControl_DataArrival(std::int32_t) {
 void SocketEvents::sckControl_Close() {
   errors_.Guard(Procedure::sckControl_Close, [this] {
     const PrivacyFailure failure = platform_.privacy.LastFailure();
+    const bool isGoodbye = platform_.privacy.HasPeerSaidGoodbye();
     platform_.sckControl.Close();
     const ConnectionState left = StateOf(state_);
     const std::u16string notPrivate = NotPrivateText();
@@ -117,7 +118,10 @@ void SocketEvents::sckControl_Close() {
       OfferAgain(state_, platform_);
     }
     SetStatus(status_texts::kClosedByPeer, state_.RemoteAddress, state_.RemotePort);
-    if (isConversation) AddDialogueRule(state_, platform_, rule_texts::kConnectionLost);
+    if (isConversation) {
+      AddDialogueRule(state_, platform_,
+                      isGoodbye ? rule_texts::kEndedByPeer : rule_texts::kConnectionLost);
+    }
     log_.AppendConnectionLine(platform_.frmMain.lblStatus.Caption());
     state_.LogOpen = false;
   });

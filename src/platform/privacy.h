@@ -86,6 +86,10 @@ class PeerPrivacy {
   virtual void AdmitPeer() = 0;
   // Why the last connection ended before its peer was known; None if it did not.
   virtual PrivacyFailure LastFailure() const = 0;
+  // While the socket raises onClose: whether the connection was private, and its peer has said that
+  // it ends it. Without that the line broke, or somebody has cut it. In clear nobody can know:
+  // false.
+  virtual bool HasPeerSaidGoodbye() const = 0;
   // Sixty digits, the same on both sides, which prove to two people who compare them that nobody is
   // between; "" unless Private. Takes some milliseconds.
   virtual std::u16string SafetyDigits() const = 0;

@@ -41,6 +41,20 @@ TEST_F(PrivateConversationTest, TwoProgramsTalkInPrivateWithoutAnyoneDoingAnythi
   EXPECT_EQ(ann.Privacy().State(), Privacy::Private);
 }
 
+TEST_F(PrivateConversationTest, ThePaneSaysWhetherTheOtherSideMeantTheEnd) {
+  const auto lastRule = [](const ProgramCopy& side) {
+    return side.platform.window.rtbData.rules.back()();
+  };
+  Connect();
+  Close();
+  EXPECT_EQ(lastRule(bob), u"The other side has ended the conversation, 09:05:30");
+  Connect();
+  ann.platform.socket.Break();
+  network.RunUntilIdle();
+  EXPECT_EQ(lastRule(ann), u"Connection lost, 09:05:30");
+  EXPECT_EQ(lastRule(bob), u"Connection lost, 09:05:30");
+}
+
 TEST_F(PrivateConversationTest, TheSecondTimeTheKeyIsKnown) {
   Connect();
   Close();

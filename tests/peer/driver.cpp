@@ -72,7 +72,10 @@ void Driver::TellEvents() {
   socket_.onUndelivered = [](std::size_t lines, ConnectionNumber) {
     Tell(QStringLiteral("undelivered %1").arg(lines));
   };
-  socket_.onClose = [this] { Tell(QStringLiteral("closed ") + Name(privacy_.LastFailure())); };
+  socket_.onClose = [this] {
+    if (privacy_.HasPeerSaidGoodbye()) Tell(QStringLiteral("goodbye"));
+    Tell(QStringLiteral("closed ") + Name(privacy_.LastFailure()));
+  };
   privacy_.onState = [this] { Tell(QStringLiteral("privacy ") + Name(privacy_.State())); };
   privacy_.onPeerKnown = [this] { TellPeer(); };
 }

@@ -127,6 +127,7 @@ class DriverVictim:
         self._connected = False
         self._lines = []
         self.undelivered = 0
+        self.heard_goodbye = False
         self.failure = None  # how the conversation has ended
 
     def _do(self, command):
@@ -157,6 +158,9 @@ class DriverVictim:
     def _accept(self):
         self._do("accept " + self._request)
         self._do("signal " + escaped(messages.named("S", "Victim")))
+
+    def _on_goodbye(self, _):
+        self.heard_goodbye = True
 
     def _on_known(self, peer):
         self._known, _, name = peer.partition(" ")

@@ -117,6 +117,16 @@ class Private(ProgramCase):
             peer.close()
             self.victim.wait_for_end()
             self.assertEqual(len(self.victim.lines()), 1)
+            self.assertTrue(self.victim.heard_goodbye)
+        self.in_both_roles(check)
+
+    def test_a_peer_that_is_cut_off_has_not_said_goodbye(self):
+        def check(role):
+            attacker, _ = self.talks_privately(role)
+            attacker.tls.finish()  # the end of TLS alone
+            attacker.close()
+            self.victim.wait_for_end()
+            self.assertFalse(self.victim.heard_goodbye)
         self.in_both_roles(check)
 
     def test_what_was_said_before_hanging_up_arrives(self):

@@ -35,6 +35,11 @@ struct PrivacyUser : SocketUser {
       textsBeforeKnown = texts.size();
       if (admits) privacy.AdmitPeer();
     };
+    socket.onClose = [this] {
+      ++closes;
+      textsBeforeClose = texts.size();
+      saidGoodbye = privacy.HasPeerSaidGoodbye();
+    };
     socket.onUndelivered = [this](std::size_t lines, ConnectionNumber) { undelivered += lines; };
     socket.onDataArrival = [this](std::int32_t) {
       texts.push_back(socket.GetData());
@@ -57,6 +62,7 @@ struct PrivacyUser : SocketUser {
   int known = 0;
   std::size_t textsBeforeKnown = 0;
   std::size_t undelivered = 0;
+  bool saidGoodbye = false;  // at the last onClose
 };
 
 template <class World>
@@ -203,7 +209,10 @@ TYPED_TEST_P(PrivacyContract, WithAPeerThatNeverIsPrivateItGoesInClear) {
     EXPECT_TRUE(this->caller.texts[0].starts_with(GreetingOf(u'S', u"Bob")));
     EXPECT_THAT(this->callee.texts, testing::ElementsAre(GreetingOf(u'C', u"Alice")));
     this->caller.socket.Close();
+    ASSERT_TRUE(this->WaitForClose(this->callee));
+    EXPECT_FALSE(this->callee.saidGoodbye) << "in clear nobody can know";
     this->callee.socket.Close();
+    this->callee.closes = 0;
   }
 }
 
@@ -331,6 +340,7 @@ TYPED_TEST_P(PrivacyContract, AClosedConversationStillDeliversWhatWaits) {
   EXPECT_EQ(this->caller.privacy.State(), Privacy::None);
   ASSERT_TRUE(this->WaitForClose(this->callee));
   EXPECT_EQ(this->callee.textsBeforeClose, 20u);
+  EXPECT_TRUE(this->callee.saidGoodbye);
   this->caller.socket.FinishSending();
   EXPECT_EQ(this->caller.undelivered, 0u);
   EXPECT_EQ(this->callee.undelivered, 0u);

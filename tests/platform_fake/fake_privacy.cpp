@@ -52,6 +52,7 @@ void FakePrivacy::End() {
   isOpen_ = isSettled_ = true;
   peer_.reset();
   state_ = Privacy::None;
+  hasPeerSaidGoodbye_ = false;
 }
 
 // The side that calls decides, as soon as the other has said what it can.

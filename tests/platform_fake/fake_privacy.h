@@ -26,6 +26,7 @@ class FakePrivacy : public PeerPrivacy {
   std::optional<Peer> CurrentPeer() const override { return peer_; }
   void AdmitPeer() override;
   PrivacyFailure LastFailure() const override { return failure_; }
+  bool HasPeerSaidGoodbye() const override { return hasPeerSaidGoodbye_; }
   std::u16string SafetyDigits() const override;
 
   // While provesKeys was false, a conversation stays at Becoming; now it goes on.
@@ -71,6 +72,7 @@ class FakePrivacy : public PeerPrivacy {
   Privacy state_ = Privacy::None;
   std::optional<Peer> peer_;
   PrivacyFailure failure_ = PrivacyFailure::None;
+  bool hasPeerSaidGoodbye_ = false;
 };
 
 }  // namespace verlume::fake

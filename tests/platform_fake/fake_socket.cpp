@@ -137,6 +137,7 @@ void FakeSocket::Close() {
     if (peer->pending_ == this) peer->pending_ = nullptr;
     if (peer->peer_ == this) {
       peer->peer_ = nullptr;
+      peer->isGoodbye_ = privacy.State() == Privacy::Private;
       peer->Post([peer] { peer->LosePeer(); });
     }
   }
@@ -152,6 +153,7 @@ void FakeSocket::Close() {
   arrivals_.clear();
   arrival_.clear();
   isCloseWaiting_ = false;
+  isGoodbye_ = false;
   ++generation_;
   if (request_ != 0) Post([this] { DropCaller(); });
 }
@@ -165,6 +167,7 @@ void FakeSocket::LosePeer() {
   privacy.End();
   isCloseWaiting_ = wasConnected && arePaused_;
   if (isCloseWaiting_) return;
+  privacy.hasPeerSaidGoodbye_ = std::exchange(isGoodbye_, false);
   RaiseUndelivered();
   if (onClose) onClose();
 }

@@ -80,6 +80,11 @@ class FakeSocket : public Socket {
   // A text arrives at once, without a peer that sends it. Does nothing unless connected.
   void Receive(std::u16string text);
 
+  // The line breaks: neither side says goodbye. Does nothing unless connected.
+  void Break() {
+    if (state_ == SocketState::Connected) DropConnection();
+  }
+
   FakePrivacy privacy;
   std::u16string remoteHost;
   std::u16string localIP = u"192.0.2.1";
@@ -133,6 +138,7 @@ class FakeSocket : public Socket {
   std::u16string arrival_;
   bool arePaused_ = false;       // the arrivals
   bool isCloseWaiting_ = false;  // while paused
+  bool isGoodbye_ = false;       // the peer has closed in private
   int generation_ = 0;           // events of an earlier connection are dropped
 };
 

@@ -101,6 +101,7 @@ void Connection::GoPrivate(Greetings greetings) {
                                                .name = stream::DecodeUtf8(name)},
                                       .key = key});
                               },
+                          .onGoodbye = [this] { hasPeerSaidGoodbye_ = true; },
                           .onFailed = [this](PrivacyFailure failure) { Fail(failure); }}));
 }
 

@@ -75,6 +75,8 @@ class Connection : public QObject {
   bool IsAdmitted() const { return isAdmitted_; }
   // Why the connection ended before its peer was known.
   PrivacyFailure Failure() const { return failure_; }
+  // The peer has said, in private, that it ends the conversation.
+  bool HasPeerSaidGoodbye() const { return hasPeerSaidGoodbye_; }
 
   // Sends what is queued, for kSendingLimit at most; then the peer gets another second to close.
   void Close();
@@ -116,6 +118,7 @@ class Connection : public QObject {
 
   std::atomic<bool> isPrivate_ = false;
   std::atomic<PrivacyFailure> failure_ = PrivacyFailure::None;
+  std::atomic<bool> hasPeerSaidGoodbye_ = false;
   std::atomic<bool> isAdmitted_;
   mutable std::mutex peerMutex_;
   std::optional<KnownPeer> peer_;

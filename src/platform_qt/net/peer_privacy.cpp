@@ -58,6 +58,7 @@ void QtPeerPrivacy::OnLeft() {
   state_ = Privacy::None;
   peer_.reset();
   peerKey_.clear();
+  hasPeerSaidGoodbye_ = false;
 }
 
 }  // namespace verlume::qt

@@ -28,6 +28,7 @@ class QtPeerPrivacy : public PeerPrivacy {
   std::optional<Peer> CurrentPeer() const override { return peer_; }
   void AdmitPeer() override;
   PrivacyFailure LastFailure() const override { return failure_; }
+  bool HasPeerSaidGoodbye() const override { return hasPeerSaidGoodbye_; }
   std::u16string SafetyDigits() const override;
 
   // How long things may take; for connections that begin from now on.
@@ -40,6 +41,7 @@ class QtPeerPrivacy : public PeerPrivacy {
   void OnState(Privacy state);
   void OnPeerKnown(Peer peer, PublicKey key);
   void OnFailed(PrivacyFailure failure) { failure_ = failure; }
+  void OnGoodbye(bool isSaid) { hasPeerSaidGoodbye_ = isSaid; }
   // The connection is over. Raises nothing: OnState follows.
   void OnLeft();
 
@@ -56,6 +58,7 @@ class QtPeerPrivacy : public PeerPrivacy {
   std::optional<Peer> peer_;
   PublicKey peerKey_;
   PrivacyFailure failure_ = PrivacyFailure::None;
+  bool hasPeerSaidGoodbye_ = false;
 };
 
 }  // namespace verlume::qt

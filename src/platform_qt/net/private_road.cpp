@@ -177,6 +177,7 @@ void PrivateRoad::TakeAcknowledgement(const Frame& frame) {
 // All that has come counts as taken in, so that nothing that will be shown is told as lost.
 void PrivateRoad::TakeGoodbye() {
   hasPeerLeft_ = true;
+  proved_.onGoodbye();
   if (isAdmitted_ && !isClosing_) count_.TakeInAll();
   if (isShut_) return End();
   if (!isClosing_) StartLeaving();

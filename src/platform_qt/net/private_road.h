@@ -26,7 +26,9 @@ class PrivateRoad : public Road {
   struct Proved {
     // Who the peer is.
     std::function<void(PublicKey key, std::string_view nickname)> onKnown;
-    // The connection has ended before that. The last thing the road does.
+    // The peer ends the conversation.
+    std::function<void()> onGoodbye;
+    // The connection has ended before onKnown. The last thing the road does.
     std::function<void(PrivacyFailure failure)> onFailed;
   };
 

@@ -313,6 +313,7 @@ void QtSocket::EndConnection() {
   const ConnectionOwner ended = std::move(connection_);
   if (ended) privacy_.OnFailed(ended->Failure());
   Close();
+  if (ended) privacy_.OnGoodbye(ended->HasPeerSaidGoodbye());
   if (ended) RaiseUndelivered(*ended);
   if (onClose) onClose();
 }
