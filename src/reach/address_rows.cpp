@@ -84,6 +84,7 @@ std::vector<TableBox::Row> AddressRows(const ReachFacts& facts, bool isGreek) {
   std::ranges::stable_sort(ranked, {}, &RankedRow::rank);
   if (ranked.size() > kMostRows) ranked.resize(kMostRows);
   std::vector<TableBox::Row> rows;
+  rows.reserve(ranked.size());
   for (RankedRow& each : ranked) rows.push_back(std::move(each.row));
   return rows;
 }

@@ -8,8 +8,8 @@
 #include <algorithm>
 
 #include "platform_qt/convert/text.h"
-#include "platform_qt/text/readable_shade.h"
 #include "platform_qt/fonts/turn.h"
+#include "platform_qt/text/readable_shade.h"
 
 namespace verlume::qt {
 namespace {

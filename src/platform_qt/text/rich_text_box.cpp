@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/fonts/turn.h"
 #include "platform_qt/os/machine.h"
 #include "platform_qt/text/look_count.h"
 #include "platform_qt/text/open_direction.h"
@@ -20,7 +21,6 @@
 #include "platform_qt/text/text_reading.h"
 #include "platform_qt/text/text_update.h"
 #include "platform_qt/text/text_writing.h"
-#include "platform_qt/fonts/turn.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 

@@ -2,12 +2,12 @@
 #include <future>
 #include <utility>
 
+#include "platform_qt/fonts/turn.h"
 #include "platform_qt/text/rich_text_box.h"
 #include "platform_qt/text/rich_text_widget.h"
 #include "platform_qt/text/text_format.h"
 #include "platform_qt/text/text_limit.h"
 #include "platform_qt/text/text_loading.h"
-#include "platform_qt/fonts/turn.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 

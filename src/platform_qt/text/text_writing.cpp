@@ -5,8 +5,8 @@
 #include <chrono>
 #include <utility>
 
-#include "platform_qt/text/look_count.h"
 #include "platform_qt/fonts/turn.h"
+#include "platform_qt/text/look_count.h"
 
 namespace verlume::qt {
 namespace {
