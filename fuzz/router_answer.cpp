@@ -1,17 +1,19 @@
 // What a router answers. The first byte says what the rest is: 'h' the answer of a web server,
 // which comes whole and by drops; 's' an answer to a search; 'd' a router's description of itself;
 // 'x' an answer to a request; 'u' an address and, behind a line end, what stands in its document;
-// 't' a text; 'r' the system's list of routes.
+// 't' a text; 'r' the system's list of routes; 'a' an answer by NAT-PMP to the question for the
+// address, 'p' one to the question for a port.
 #include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "fuzz/check.h"
-#include "platform_qt/network/default_gateways.h"
-#include "platform_qt/network/ipv4.h"
+#include "platform_qt/os/default_gateways_posix.h"
+#include "platform_qt/os/ipv4.h"
 #include "platform_qt/router/http_answer.h"
 #include "platform_qt/router/igd_description.h"
+#include "platform_qt/router/nat_pmp_message.h"
 #include "platform_qt/router/router_text.h"
 #include "platform_qt/router/ssdp_answer.h"
 
@@ -87,6 +89,21 @@ void CheckText(std::string_view bytes) {
   Check(outer.makesSense || outer.text.empty(), "nonsense is no address");
 }
 
+void CheckNatPmp(std::string_view bytes, NatPmpOperation wanted) {
+  const auto answer = ReadNatPmpAnswer(bytes, wanted);
+  if (!answer) return;
+  Check(answer->outcome != NatPmpOutcome::Silent, "what has come is not silence");
+  if (answer->outcome == NatPmpOutcome::Done) {
+    Check(answer->resultCode == 0, "a refusal grants nothing");
+    Check(bytes.size() >= (wanted == NatPmpOperation::MapTcpPort ? 16u : 12u),
+          "what grants something is whole");
+  } else {
+    Check(answer->outerAddress == kNoIpv4 && answer->outerPort == 0,
+          "nothing else grants anything");
+  }
+  ReadOuterAddress(Ipv4Text(answer->outerAddress));
+}
+
 }  // namespace
 }  // namespace verlume::fuzz
 
@@ -119,6 +136,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       break;
     case 'r':
       Check(DefaultGatewaysIn(rest).size() <= kMostGateways, "there are not many gateways");
+      break;
+    case 'a':
+      CheckNatPmp(rest, NatPmpOperation::OuterAddress);
+      break;
+    case 'p':
+      CheckNatPmp(rest, NatPmpOperation::MapTcpPort);
       break;
     default:
       break;

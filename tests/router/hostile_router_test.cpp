@@ -1,5 +1,6 @@
 // Routers, and machines that pass for one, that mean harm.
 #include <sys/resource.h>
+#include <sys/socket.h>
 
 #include <fstream>
 #include <tuple>

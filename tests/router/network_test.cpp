@@ -5,8 +5,8 @@
 #include <fstream>
 
 #include "network/interface_setup.h"
-#include "platform_qt/network/machine_addresses.h"
 #include "platform_qt/network/network.h"
+#include "platform_qt/os/machine_addresses.h"
 #include "router/home.h"
 
 namespace verlume::router {

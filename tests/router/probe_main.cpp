@@ -11,8 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "platform_qt/network/descriptor.h"
-#include "platform_qt/network/ipv4.h"
+#include "platform_qt/os/descriptor_posix.h"
 #include "platform_qt/router/router.h"
 #include "router/home.h"
 
@@ -33,8 +32,10 @@ bool Print(const char* name, const RouterReport& report) {
 
 // Within 20 s.
 bool IsCalled(std::uint16_t port) {
-  const qt::Descriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
-  const sockaddr_in place = qt::SocketAddress(INADDR_ANY, port);
+  const qt::OwnedDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  sockaddr_in place{};
+  place.sin_family = AF_INET;
+  place.sin_port = htons(port);
   if (::bind(socket.Number(), reinterpret_cast<const sockaddr*>(&place), sizeof place) != 0 ||
       ::listen(socket.Number(), 1) != 0) {
     return false;

@@ -1,63 +1,13 @@
 #include "platform_qt/network/address_watch.h"
 
-#include <linux/netlink.h>
-#include <linux/rtnetlink.h>
-#include <sys/socket.h>
-
-#include <array>
-#include <cerrno>
 #include <utility>
 
 namespace verlume::qt {
-namespace {
 
-int OpenAddressNews() {
-  const int kernel = ::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC | SOCK_NONBLOCK, NETLINK_ROUTE);
-  sockaddr_nl wanted{};
-  wanted.nl_family = AF_NETLINK;
-  wanted.nl_groups = RTMGRP_IPV4_IFADDR | RTMGRP_IPV6_IFADDR;
-  if (kernel >= 0 && ::bind(kernel, reinterpret_cast<sockaddr*>(&wanted), sizeof wanted) != 0) {
-    ::close(kernel);
-    return -1;
-  }
-  return kernel;
-}
-
-bool TellsOfGone(const nlmsghdr* message, std::size_t size) {
-  for (; NLMSG_OK(message, size); message = NLMSG_NEXT(message, size)) {
-    if (message->nlmsg_type == RTM_DELADDR) return true;
-  }
-  return false;
-}
-
-}  // namespace
-
-AddressWatch::AddressWatch(std::function<void(AddressNews)> onNews)
-    : onNews_(std::move(onNews)), kernel_(OpenAddressNews()) {
-  if (!kernel_.IsOpen()) return;
-  notifier_ = std::make_unique<QSocketNotifier>(kernel_.Number(), QSocketNotifier::Read);
-  QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { Read(); });
-}
-
-void AddressWatch::Read() {
-  AddressNews news = AddressNews::Touched;
-  // What comes faster than it is read is read with the next event.
-  constexpr int kMostAtOnce = 100;
-  for (int i = 0; i < kMostAtOnce; ++i) {
-    alignas(nlmsghdr) std::array<char, 8192> bytes{};
-    sockaddr_nl sender{};
-    socklen_t length = sizeof sender;
-    const ssize_t size = ::recvfrom(kernel_.Number(), bytes.data(), bytes.size(), 0,
-                                    reinterpret_cast<sockaddr*>(&sender), &length);
-    if (size < 0 && errno == ENOBUFS) news = AddressNews::Gone;  // some were lost
-    if (size <= 0) break;
-    const bool isFromKernel = sender.nl_pid == 0;
-    const auto* messages = reinterpret_cast<const nlmsghdr*>(bytes.data());
-    if (isFromKernel && TellsOfGone(messages, static_cast<std::size_t>(size))) {
-      news = AddressNews::Gone;
-    }
-  }
-  onNews_(news);
+AddressWatch::AddressWatch(std::function<void(AddressNews)> onNews) : onNews_(std::move(onNews)) {
+  if (feed_.Number() == kNoSocket) return;
+  notifier_ = std::make_unique<QSocketNotifier>(feed_.Number(), QSocketNotifier::Read);
+  QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { onNews_(feed_.Read()); });
 }
 
 }  // namespace verlume::qt

@@ -5,14 +5,9 @@
 #include <functional>
 #include <memory>
 
-#include "platform_qt/network/descriptor.h"
+#include "platform_qt/os/address_feed.h"
 
 namespace verlume::qt {
-
-enum class AddressNews {
-  Touched,  // maybe another address, maybe only another lifetime of one
-  Gone,     // an address was taken away, even if it is back by now
-};
 
 class AddressWatch {
  public:
@@ -21,10 +16,8 @@ class AddressWatch {
   explicit AddressWatch(std::function<void(AddressNews)> onNews);
 
  private:
-  void Read();
-
   const std::function<void(AddressNews)> onNews_;
-  Descriptor kernel_;
+  AddressFeed feed_;
   std::unique_ptr<QSocketNotifier> notifier_;
 };
 

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform_qt/network/firewalls.h"
-#include "platform_qt/network/machine_addresses.h"
+#include "platform_qt/os/firewalls.h"
+#include "platform_qt/os/machine_addresses.h"
 
 namespace verlume::qt {
 
@@ -22,7 +22,7 @@ std::vector<NetworkAddress> QtNetwork::Addresses() const {
 }
 
 std::vector<Firewall> QtNetwork::Firewalls() const {
-  return ReadFirewalls();
+  return MachineFirewalls();
 }
 
 void QtNetwork::RaiseLater(bool isSure) {

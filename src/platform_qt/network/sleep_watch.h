@@ -5,10 +5,9 @@
 #include <chrono>
 #include <functional>
 
-namespace verlume::qt {
+#include "platform_qt/os/machine.h"
 
-// How long the machine has slept since it was started.
-std::chrono::nanoseconds TimeAsleep();
+namespace verlume::qt {
 
 class SleepWatch {
  public:

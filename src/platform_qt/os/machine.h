@@ -1,6 +1,8 @@
 // What the system knows of the machine, each system in a file of its own. Nothing here fails.
 #pragma once
 
+#include <chrono>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +15,12 @@ char16_t PathSeparator();
 // A text of the registry of Windows, below HKEY_LOCAL_MACHINE; none elsewhere, and none if there is
 // no such key or value, or if it is no text.
 std::optional<std::u16string> RegistryText(std::u16string_view key, std::u16string_view value);
+
+// The same for a number (REG_DWORD).
+std::optional<std::uint32_t> RegistryNumber(std::u16string_view key, std::u16string_view value);
+
+// How long the machine has slept since it was started.
+std::chrono::nanoseconds TimeAsleep();
 
 // Gives back to the system what has been freed piece by piece, which stays with the process
 // otherwise. Takes some milliseconds per hundred megabytes; does nothing where the system has no

@@ -3,6 +3,8 @@
 #include <malloc.h>
 #include <windows.h>
 
+#include <algorithm>
+
 namespace verlume::qt {
 namespace {
 
@@ -31,6 +33,26 @@ std::optional<std::u16string> RegistryText(std::u16string_view key, std::u16stri
   // It ends with a NUL, which the size counts.
   text.resize(text.find(L'\0'));
   return std::u16string(text.begin(), text.end());
+}
+
+std::optional<std::uint32_t> RegistryNumber(std::u16string_view key, std::u16string_view value) {
+  DWORD number = 0;
+  DWORD size = sizeof number;
+  const LSTATUS status =
+      ::RegGetValueW(HKEY_LOCAL_MACHINE, Wide(key).c_str(), Wide(value).c_str(),
+                     RRF_RT_REG_DWORD | RRF_SUBKEY_WOW6464KEY, nullptr, &number, &size);
+  if (status != ERROR_SUCCESS) return std::nullopt;
+  return number;
+}
+
+// One clock goes on while the machine sleeps, the other does not. The first goes in steps of 16 ms.
+std::chrono::nanoseconds TimeAsleep() {
+  using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
+  ULONGLONG awake = 0;
+  ::QueryUnbiasedInterruptTime(&awake);
+  const std::chrono::nanoseconds all = std::chrono::milliseconds(::GetTickCount64());
+  return std::max<std::chrono::nanoseconds>(all - Ticks(static_cast<std::int64_t>(awake)),
+                                            std::chrono::nanoseconds(0));
 }
 
 void GiveBackFreeMemory() {

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <charconv>
 
-#include "platform_qt/network/ipv4.h"
-
 namespace verlume::qt {
 namespace {
 

@@ -1,17 +1,17 @@
 // Addresses of a router's own small web server.
 #pragma once
 
-#include <netinet/in.h>
-
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "platform_qt/os/ipv4.h"
+
 namespace verlume::qt {
 
 struct HttpUrl {
-  in_addr_t host = 0;
+  Ipv4 host = kNoIpv4;
   std::uint16_t port = 80;
   std::string path;  // begins with '/'; visible ASCII only
 

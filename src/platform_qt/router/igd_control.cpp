@@ -5,7 +5,6 @@
 #include <initializer_list>
 #include <utility>
 
-#include "platform_qt/network/ipv4.h"
 #include "platform_qt/router/http_exchange.h"
 
 namespace verlume::qt {

@@ -1,8 +1,6 @@
 // Asks a service of a router (UPnP) to do something.
 #pragma once
 
-#include <netinet/in.h>
-
 #include <string>
 #include <string_view>
 
@@ -30,7 +28,7 @@ struct IgdAnswer {
 // A port that a router passes on.
 struct IgdMapping {
   IgdService service;
-  in_addr_t local = 0;  // to whom
+  Ipv4 local = kNoIpv4;  // to whom
   std::uint16_t port = 0;
 };
 

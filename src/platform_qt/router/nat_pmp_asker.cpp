@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "platform_qt/network/ipv4.h"
 #include "platform_qt/router/nat_pmp_talk.h"
 #include "platform_qt/router/near_gateways.h"
 #include "platform_qt/router/router_text.h"
@@ -18,7 +17,7 @@ RouterReport Failure(const NatPmpAnswer& answer) {
   switch (answer.outcome) {
     case NatPmpOutcome::Refused:
       report.state = RouterState::Refused;
-      report.reason = RouterText(std::to_string(answer.response.resultcode));
+      report.reason = RouterText(std::to_string(answer.resultCode));
       break;
     case NatPmpOutcome::Silent:
       report.state = RouterState::Silent;
@@ -34,8 +33,7 @@ RouterReport Failure(const NatPmpAnswer& answer) {
 // NotAsked with the outer address, or why there is none.
 RouterReport AddressOf(const NatPmpAnswer& answer) {
   if (answer.outcome != NatPmpOutcome::Done) return Failure(answer);
-  const auto address = answer.response.pnu.publicaddress.addr.s_addr;
-  const OuterAddress outer = ReadOuterAddress(Ipv4Text(address));
+  const OuterAddress outer = ReadOuterAddress(Ipv4Text(answer.outerAddress));
   if (!outer.makesSense) return Failure(answer);
   RouterReport report;
   report.outerAddress = outer.text;
@@ -67,7 +65,7 @@ PortAnswer NatPmpAsker::Map(std::uint16_t port, std::chrono::seconds lease,
   return best;
 }
 
-PortAnswer NatPmpAsker::MapAt(in_addr_t gateway, std::uint16_t port, std::chrono::seconds lease,
+PortAnswer NatPmpAsker::MapAt(Ipv4 gateway, std::uint16_t port, std::chrono::seconds lease,
                               const WaitLimit& limit) {
   NatPmpTalk talk(gateway);
   RouterReport report = AddressOf(talk.AskAddress(limit));
@@ -77,15 +75,14 @@ PortAnswer NatPmpAsker::MapAt(in_addr_t gateway, std::uint16_t port, std::chrono
   if (!claim_ || claim_->gateway != gateway) claim_ = {gateway, port, port};
   const NatPmpAnswer answer = talk.AskForPort(port, claim_->outerPort, lease, limit);
   if (answer.outcome != NatPmpOutcome::Done) return {Failure(answer), {}};
-  const auto& mapping = answer.response.pnu.newportmapping;
-  if (mapping.privateport != port || mapping.mappedpublicport == 0 || mapping.lifetime == 0) {
+  if (answer.port != port || answer.outerPort == 0 || answer.lifetime.count() == 0) {
     return {Failure(answer), {}};
   }
-  claim_->outerPort = mapping.mappedpublicport;
+  claim_->outerPort = answer.outerPort;
   report.state = RouterState::Mapped;
-  report.outerPort = mapping.mappedpublicport;
+  report.outerPort = answer.outerPort;
   report.reason.clear();
-  return {report, std::min(std::chrono::seconds(mapping.lifetime), lease)};
+  return {report, std::min(answer.lifetime, lease)};
 }
 
 void NatPmpAsker::GiveBack(const WaitLimit& limit) {

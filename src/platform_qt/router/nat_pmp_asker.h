@@ -1,10 +1,9 @@
-// Asks routers by NAT-PMP (RFC 6886), with libnatpmp.
+// Asks routers by NAT-PMP (RFC 6886).
 #pragma once
-
-#include <netinet/in.h>
 
 #include <optional>
 
+#include "platform_qt/os/ipv4.h"
 #include "platform_qt/router/port_asker.h"
 
 namespace verlume::qt {
@@ -17,11 +16,11 @@ class NatPmpAsker : public PortAsker {
 
  private:
   struct Claim {
-    in_addr_t gateway = 0;
+    Ipv4 gateway = kNoIpv4;
     std::uint16_t port = 0;
     std::uint16_t outerPort = 0;  // what was granted, or wanted
   };
-  PortAnswer MapAt(in_addr_t gateway, std::uint16_t port, std::chrono::seconds lease,
+  PortAnswer MapAt(Ipv4 gateway, std::uint16_t port, std::chrono::seconds lease,
                    const WaitLimit& limit);
 
   std::optional<Claim> claim_;

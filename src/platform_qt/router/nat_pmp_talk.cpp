@@ -1,99 +1,66 @@
 #include "platform_qt/router/nat_pmp_talk.h"
 
-#include <poll.h>
-#include <sys/socket.h>
-
-#include <algorithm>
 #include <array>
+#include <optional>
+#include <string_view>
+#include <utility>
 
 namespace verlume::qt {
 namespace {
 
-constexpr std::size_t kAddressSize = 12;  // bytes of an answer
-constexpr std::size_t kPortSize = 16;
-constexpr std::size_t kRefusalSize = 8;
+constexpr std::chrono::milliseconds kFirstPatience{250};  // before it is asked again; then doubled
+constexpr std::chrono::milliseconds kLongest{3700};
 
-bool IsRefusal(int result) {
-  switch (result) {
-    case NATPMP_ERR_UNSUPPORTEDVERSION:
-    case NATPMP_ERR_UNSUPPORTEDOPCODE:
-    case NATPMP_ERR_UNDEFINEDERROR:
-    case NATPMP_ERR_NOTAUTHORIZED:
-    case NATPMP_ERR_NETWORKFAILURE:
-    case NATPMP_ERR_OUTOFRESOURCES:
-      return true;
-    default:
-      return false;
+OpenSocket ConnectTo(Ipv4 gateway) {
+  constexpr std::uint16_t kPort = 5351;
+  OpenSocket socket = OpenSocket::Datagrams();
+  const bool isConnected = socket.IsOpen() && socket.Connect({gateway, kPort}) == SocketStep::Done;
+  return isConnected ? std::move(socket) : OpenSocket();
+}
+
+// What came until the limit, or nothing. `isNonsense` becomes true if something came that is no
+// answer; it may not be the gateway's, so that more is waited for.
+std::optional<NatPmpAnswer> AwaitAnswer(const OpenSocket& socket, NatPmpOperation operation,
+                                        const WaitLimit& limit, bool& isNonsense) {
+  std::array<char, 64> bytes{};
+  while (limit.Await(socket.Number(), Readiness::Read)) {
+    const SocketBytes came = socket.Receive(bytes);
+    if (came.step == SocketStep::Later) continue;
+    if (came.step == SocketStep::Failed) return NatPmpAnswer();  // nobody listens there
+    const auto answer = ReadNatPmpAnswer(std::string_view(bytes.data(), came.size), operation);
+    if (!answer) continue;
+    if (answer->outcome != NatPmpOutcome::Nonsense) return answer;
+    isNonsense = true;
   }
+  return std::nullopt;
 }
 
 }  // namespace
 
-NatPmpTalk::NatPmpTalk(in_addr_t gateway) : isOpen_(::initnatpmp(&state_, 1, gateway) == 0) {}
+NatPmpTalk::NatPmpTalk(Ipv4 gateway) : socket_(ConnectTo(gateway)) {}
 
-NatPmpTalk::~NatPmpTalk() {
-  if (isOpen_) ::closenatpmp(&state_);
-}
-
-NatPmpAnswer NatPmpTalk::AskAddress(const WaitLimit& limit) {
-  if (!isOpen_) return {};
-  ::sendpublicaddressrequest(&state_);
-  return ReadAnswer(NATPMP_RESPTYPE_PUBLICADDRESS, kAddressSize, limit);
+NatPmpAnswer NatPmpTalk::AskAddress(const WaitLimit& limit) const {
+  return Ask(NatPmpAddressQuestion(), NatPmpOperation::OuterAddress, limit);
 }
 
 NatPmpAnswer NatPmpTalk::AskForPort(std::uint16_t port, std::uint16_t outerPort,
-                                    std::chrono::seconds lifetime, const WaitLimit& limit) {
-  if (!isOpen_) return {};
-  ::sendnewportmappingrequest(&state_, NATPMP_PROTOCOL_TCP, port, outerPort,
-                              static_cast<std::uint32_t>(lifetime.count()));
-  return ReadAnswer(NATPMP_RESPTYPE_TCPPORTMAPPING, kPortSize, limit);
+                                    std::chrono::seconds lifetime, const WaitLimit& limit) const {
+  return Ask(NatPmpPortQuestion(port, outerPort, lifetime), NatPmpOperation::MapTcpPort, limit);
 }
 
-// The library reads an answer of any length as if it were whole, and one to another question as if
-// it were wanted: so it is looked at before.
-bool NatPmpTalk::HasWantedAnswer(std::uint16_t type, std::size_t size, bool& isNonsense) const {
-  std::array<unsigned char, 64> bytes{};
-  const ssize_t got =
-      ::recv(state_.s, bytes.data(), bytes.size(), MSG_PEEK | MSG_TRUNC | MSG_DONTWAIT);
-  if (got < 0) return true;  // the library sees why
-  constexpr unsigned char kAnswer = 128;
-  const auto length = static_cast<std::size_t>(got);
-  const bool isNatPmp = length >= kRefusalSize && bytes[0] == 0;
-  const bool isRefused =
-      length >= kRefusalSize && (bytes[0] != 0 || bytes[2] != 0 || bytes[3] != 0);
-  if (isRefused) return true;
-  if (isNatPmp && bytes[1] == (kAnswer | type) && length >= size) return true;
-  // An answer to an earlier question has come late.
-  const bool isLate = isNatPmp && (bytes[1] & kAnswer) != 0 && bytes[1] != (kAnswer | type);
-  isNonsense |= !isLate;
-  return false;
-}
-
-NatPmpAnswer NatPmpTalk::ReadAnswer(std::uint16_t type, std::size_t size, const WaitLimit& limit) {
-  // The library asks again after 250 ms, 500 ms, 1 s and so on.
-  constexpr std::chrono::milliseconds kLongest{3700};
+NatPmpAnswer NatPmpTalk::Ask(const std::string& question, NatPmpOperation operation,
+                             const WaitLimit& limit) const {
+  if (!socket_.IsOpen()) return {};
   const WaitLimit whole = limit.Within(kLongest);
   bool isNonsense = false;
-  while (!whole.IsOver()) {
-    timeval untilRetry{};
-    ::getnatpmprequesttimeout(&state_, &untilRetry);
-    const auto wait =
-        std::chrono::milliseconds(untilRetry.tv_sec * 1000 + untilRetry.tv_usec / 1000 + 1);
-    const bool hasCome =
-        whole.Within(std::max(wait, std::chrono::milliseconds(1))).Await(state_.s, POLLIN);
-    if (hasCome && !HasWantedAnswer(type, size, isNonsense)) {
-      char byte = 0;
-      ::recv(state_.s, &byte, sizeof byte, MSG_DONTWAIT);
-      continue;
-    }
-    NatPmpAnswer answer;
-    const int result = ::readnatpmpresponseorretry(&state_, &answer.response);
-    if (result == NATPMP_TRYAGAIN) continue;
-    if (result == 0) answer.outcome = NatPmpOutcome::Done;
-    if (IsRefusal(result)) answer.outcome = NatPmpOutcome::Refused;
-    return answer;
+  for (auto patience = kFirstPatience; !whole.IsOver(); patience *= 2) {
+    socket_.Send(question);
+    const auto answer = AwaitAnswer(socket_, operation, whole.Within(patience), isNonsense);
+    if (answer) return *answer;
   }
-  return {isNonsense ? NatPmpOutcome::Nonsense : NatPmpOutcome::Silent, {}};
+  NatPmpAnswer none;
+  if (isNonsense) none.outcome = NatPmpOutcome::Nonsense;
+  return none;
 }
 
 }  // namespace verlume::qt

@@ -1,40 +1,30 @@
 // Questions to one gateway by NAT-PMP, and its answers.
 #pragma once
 
-#include <natpmp.h>
-
 #include <chrono>
 #include <cstdint>
+#include <string>
 
+#include "platform_qt/os/open_socket.h"
+#include "platform_qt/router/nat_pmp_message.h"
 #include "platform_qt/router/wait_limit.h"
 
 namespace verlume::qt {
 
-enum class NatPmpOutcome { Done, Refused, Silent, Nonsense };
-
-struct NatPmpAnswer {
-  NatPmpOutcome outcome = NatPmpOutcome::Silent;
-  natpmpresp_t response{};  // Done: all of it; Refused: its result code
-};
-
 class NatPmpTalk {
  public:
-  explicit NatPmpTalk(in_addr_t gateway);
-  ~NatPmpTalk();
-  NatPmpTalk(const NatPmpTalk&) = delete;
-  NatPmpTalk& operator=(const NatPmpTalk&) = delete;
+  explicit NatPmpTalk(Ipv4 gateway);
 
-  NatPmpAnswer AskAddress(const WaitLimit& limit);
+  NatPmpAnswer AskAddress(const WaitLimit& limit) const;
   // A lifetime of 0 gives the port back; then `outerPort` is 0, too.
   NatPmpAnswer AskForPort(std::uint16_t port, std::uint16_t outerPort,
-                          std::chrono::seconds lifetime, const WaitLimit& limit);
+                          std::chrono::seconds lifetime, const WaitLimit& limit) const;
 
  private:
-  NatPmpAnswer ReadAnswer(std::uint16_t type, std::size_t size, const WaitLimit& limit);
-  bool HasWantedAnswer(std::uint16_t type, std::size_t size, bool& isNonsense) const;
+  NatPmpAnswer Ask(const std::string& question, NatPmpOperation operation,
+                   const WaitLimit& limit) const;
 
-  natpmp_t state_{};
-  bool isOpen_;
+  OpenSocket socket_;  // hears the gateway alone
 };
 
 }  // namespace verlume::qt

@@ -1,28 +1,23 @@
 #include "platform_qt/router/near_gateways.h"
 
-#include <sys/socket.h>
-
 #include <optional>
 
-#include "platform_qt/network/default_gateways.h"
-#include "platform_qt/network/descriptor.h"
-#include "platform_qt/network/ipv4.h"
+#include "platform_qt/os/default_gateways.h"
+#include "platform_qt/os/open_socket.h"
 
 namespace verlume::qt {
 namespace {
 
 // The system chooses it when a datagram is to be sent; none is.
-std::optional<in_addr_t> LocalAddressTowards(in_addr_t gateway) {
-  const Descriptor socket(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0));
+std::optional<Ipv4> LocalAddressTowards(Ipv4 gateway) {
   constexpr std::uint16_t kAnyPort = 9;
-  const sockaddr_in to = SocketAddress(gateway, kAnyPort);
-  sockaddr_in local{};
-  socklen_t length = sizeof local;
-  if (::connect(socket.Number(), reinterpret_cast<const sockaddr*>(&to), sizeof to) != 0 ||
-      ::getsockname(socket.Number(), reinterpret_cast<sockaddr*>(&local), &length) != 0) {
+  const OpenSocket socket = OpenSocket::Datagrams();
+  if (!socket.IsOpen() || socket.Connect({gateway, kAnyPort}) != SocketStep::Done) {
     return std::nullopt;
   }
-  return local.sin_addr.s_addr;
+  const std::optional<Ipv4Place> local = socket.LocalPlace();
+  if (!local) return std::nullopt;
+  return local->address;
 }
 
 int Rank(RouterState state) {
@@ -45,7 +40,7 @@ int Rank(RouterState state) {
 
 std::vector<Gateway> NearGateways() {
   std::vector<Gateway> gateways;
-  for (const in_addr_t address : DefaultGateways()) {
+  for (const Ipv4 address : DefaultGateways()) {
     if (!IsOfOwnNetwork(address)) continue;
     const auto local = LocalAddressTowards(address);
     if (local && *local != address) gateways.push_back({address, *local});

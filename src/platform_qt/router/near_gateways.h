@@ -1,17 +1,16 @@
 // The routers that may be asked.
 #pragma once
 
-#include <netinet/in.h>
-
 #include <vector>
 
 #include "platform/router.h"
+#include "platform_qt/os/ipv4.h"
 
 namespace verlume::qt {
 
 struct Gateway {
-  in_addr_t address = 0;
-  in_addr_t local = 0;  // this machine's address on the gateway's network
+  Ipv4 address = kNoIpv4;
+  Ipv4 local = kNoIpv4;  // this machine's address on the gateway's network
 };
 
 // The gateways of the default routes that are on a network of somebody's own. Nobody else is asked

@@ -1,6 +1,6 @@
 #include "platform_qt/router/router_text.h"
 
-#include "platform_qt/network/ipv4.h"
+#include "platform_qt/os/ipv4.h"
 #include "stream/utf8_text.h"
 
 namespace verlume::qt {
@@ -37,7 +37,7 @@ OuterAddress ReadOuterAddress(std::string_view said) {
   if (said.empty()) return {true, u""};
   const auto address = ParseIpv4(said);
   if (!address) return {};
-  if (*address == INADDR_ANY) return {true, u""};
+  if (*address == kNoIpv4) return {true, u""};
   if (!IsOfOneMachine(*address)) return {};
   return {true, RouterText(Ipv4Text(*address))};
 }

@@ -1,8 +1,6 @@
 // What a router says, made fit to be shown.
 #pragma once
 
-#include <netinet/in.h>
-
 #include <optional>
 #include <string>
 #include <string_view>

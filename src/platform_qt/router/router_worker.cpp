@@ -1,8 +1,5 @@
 #include "platform_qt/router/router_worker.h"
 
-#include <poll.h>
-#include <sys/eventfd.h>
-
 #include <algorithm>
 #include <utility>
 
@@ -16,10 +13,7 @@ constexpr std::chrono::seconds kLongestGivingBack{2};
 
 RouterWorker::RouterWorker(std::unique_ptr<PortAsker> asker, const RouterTimes& times,
                            OnAnswer onAnswer)
-    : asker_(std::move(asker)),
-      times_(times),
-      onAnswer_(std::move(onAnswer)),
-      wake_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
+    : asker_(std::move(asker)), times_(times), onAnswer_(std::move(onAnswer)) {}
 
 RouterWorker::~RouterWorker() {
   if (!thread_.joinable()) return;
@@ -35,7 +29,7 @@ void RouterWorker::BeginEnd() {
 
 void RouterWorker::Wish(const RouterWish& wish) {
   const bool wantsAnswer = wish.port != 0 || wish.wantsAddress;
-  if (!wake_.IsOpen()) {  // there are no descriptors left
+  if (!wake_.IsOpen()) {  // the system has no more to give
     RouterReport silence;
     silence.state = RouterState::Silent;
     if (wantsAnswer) onAnswer_(wish.number, silence);
@@ -44,18 +38,16 @@ void RouterWorker::Wish(const RouterWish& wish) {
   {
     const std::lock_guard lock(mutex_);
     wish_ = wish;
-    ::eventfd_write(wake_.Number(), 1);
+    wake_.Ring();
   }
   if (wantsAnswer && !thread_.joinable()) thread_ = std::thread([this] { Run(); });
 }
 
 RouterWish RouterWorker::TakeWish() {
-  pollfd waiting{wake_.Number(), POLLIN, 0};
-  while (::poll(&waiting, 1, -1) <= 0) {
+  while (!WaitForSocket(wake_.Number(), Readiness::Read, kNoSocket, kWithoutEnd).isReady) {
   }
   const std::lock_guard lock(mutex_);
-  eventfd_t count = 0;
-  ::eventfd_read(wake_.Number(), &count);
+  wake_.Clear();
   return wish_;
 }
 
@@ -84,8 +76,7 @@ void RouterWorker::KeepAsking(const RouterWish& wish) {
     if (limit.IsInterrupted()) return;
     onAnswer_(wish.number, answer.report);
     const WaitLimit pause(TimeUntilNext(answer), wake_.Number());
-    constexpr int kNothing = -1;
-    pause.Await(kNothing, 0);
+    pause.AwaitEnd();
     if (pause.IsInterrupted()) return;
   }
 }

@@ -9,7 +9,7 @@
 #include <thread>
 
 #include "platform/router.h"
-#include "platform_qt/network/descriptor.h"
+#include "platform_qt/os/wake_up.h"
 #include "platform_qt/router/port_asker.h"
 
 namespace verlume::qt {
@@ -53,7 +53,7 @@ class RouterWorker {
   const std::unique_ptr<PortAsker> asker_;
   const RouterTimes times_;
   const OnAnswer onAnswer_;
-  const Descriptor wake_;  // readable when there is a new wish
+  const WakeUp wake_;  // rings when there is a new wish
   std::mutex mutex_;
   RouterWish wish_;
   std::thread thread_;

@@ -13,7 +13,7 @@ std::string SsdpQuestion(std::string_view host, std::string_view target) {
   return text;
 }
 
-std::optional<SsdpAnswer> ReadSsdpAnswer(std::string_view bytes, in_addr_t sender) {
+std::optional<SsdpAnswer> ReadSsdpAnswer(std::string_view bytes, Ipv4 sender) {
   constexpr int kOk = 200;
   if (HeadStatus(bytes) != kOk) return std::nullopt;
   SsdpAnswer answer;

@@ -1,8 +1,6 @@
 // Reads what a router answers to the question who passes calls on (SSDP).
 #pragma once
 
-#include <netinet/in.h>
-
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +21,6 @@ struct SsdpAnswer {
 };
 
 // Nothing if the bytes are no answer at all.
-std::optional<SsdpAnswer> ReadSsdpAnswer(std::string_view bytes, in_addr_t sender);
+std::optional<SsdpAnswer> ReadSsdpAnswer(std::string_view bytes, Ipv4 sender);
 
 }  // namespace verlume::qt

@@ -1,8 +1,7 @@
 // Looks for a gateway's description of itself.
 #pragma once
 
-#include <netinet/in.h>
-
+#include <cstddef>
 #include <vector>
 
 #include "platform_qt/router/http_url.h"
@@ -19,6 +18,6 @@ constexpr std::size_t kMostLocations = 4;
 
 // Asks the network and the gateway itself, from the address `local`, and listens to the gateway
 // alone.
-SsdpFindings SearchGateway(in_addr_t gateway, in_addr_t local, const WaitLimit& limit);
+SsdpFindings SearchGateway(Ipv4 gateway, Ipv4 local, const WaitLimit& limit);
 
 }  // namespace verlume::qt

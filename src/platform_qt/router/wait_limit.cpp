@@ -1,13 +1,10 @@
 #include "platform_qt/router/wait_limit.h"
 
-#include <poll.h>
-
 #include <algorithm>
-#include <array>
 
 namespace verlume::qt {
 
-WaitLimit::WaitLimit(std::chrono::milliseconds time, int interrupt)
+WaitLimit::WaitLimit(std::chrono::milliseconds time, SocketNumber interrupt)
     : WaitLimit(Clock::now() + time, interrupt) {}
 
 WaitLimit WaitLimit::Within(std::chrono::milliseconds time) const {
@@ -15,8 +12,8 @@ WaitLimit WaitLimit::Within(std::chrono::milliseconds time) const {
 }
 
 bool WaitLimit::IsInterrupted() const {
-  pollfd interrupt{interrupt_, POLLIN, 0};
-  return interrupt_ >= 0 && ::poll(&interrupt, 1, 0) > 0;
+  return interrupt_ != kNoSocket &&
+         WaitForSocket(kNoSocket, Readiness::Read, interrupt_, 0).isInterrupted;
 }
 
 bool WaitLimit::IsOver() const {
@@ -28,15 +25,17 @@ int WaitLimit::MillisecondsLeft() const {
   return static_cast<int>(std::clamp<std::chrono::milliseconds::rep>(left.count(), 0, 1 << 30));
 }
 
-bool WaitLimit::Await(int descriptor, short events) const {
-  // poll passes over a negative descriptor.
-  std::array<pollfd, 2> waiting = {{{descriptor, events, 0}, {interrupt_, POLLIN, 0}}};
+bool WaitLimit::Await(SocketNumber socket, Readiness wanted) const {
   while (const int left = MillisecondsLeft()) {
-    if (::poll(waiting.data(), waiting.size(), left) < 0) continue;  // a signal
-    if (waiting[1].revents != 0) return false;
-    if (waiting[0].revents != 0) return true;
+    const Waited waited = WaitForSocket(socket, wanted, interrupt_, left);
+    if (waited.isInterrupted) return false;
+    if (waited.isReady) return true;
   }
   return false;
+}
+
+void WaitLimit::AwaitEnd() const {
+  Await(kNoSocket, Readiness::Read);
 }
 
 }  // namespace verlume::qt

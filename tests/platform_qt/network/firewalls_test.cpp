@@ -1,4 +1,4 @@
-#include "platform_qt/network/firewalls.h"
+#include "platform_qt/os/firewalls_posix.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

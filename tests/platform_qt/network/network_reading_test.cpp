@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform_qt/network/default_gateways.h"
-#include "platform_qt/network/ipv4.h"
-#include "platform_qt/network/machine_addresses.h"
+#include "platform_qt/os/default_gateways_posix.h"
+#include "platform_qt/os/ipv4.h"
+#include "platform_qt/os/machine_addresses_posix.h"
 
 namespace verlume::qt {
 namespace {
@@ -17,7 +17,7 @@ constexpr char kRouteTitles[] =
 
 std::vector<std::string> GatewaysIn(const std::string& lines) {
   std::vector<std::string> texts;
-  for (const in_addr_t gateway : DefaultGatewaysIn(kRouteTitles + lines)) {
+  for (const Ipv4 gateway : DefaultGatewaysIn(kRouteTitles + lines)) {
     texts.push_back(Ipv4Text(gateway));
   }
   return texts;

@@ -23,6 +23,19 @@ TEST(MachineTest, WhatIsNoTextOrNotThereIsNone) {
   EXPECT_FALSE(RegistryText(std::u16string(1000, u'\\'), std::u16string(20'000, u'x')));
 }
 
+TEST(MachineTest, ANumberOfTheRegistryIsRead) {
+  EXPECT_GT(RegistryNumber(kWindows, u"CurrentMajorVersionNumber").value_or(0), 0u);
+  EXPECT_FALSE(RegistryNumber(kWindows, u"ProductName")) << "a text";
+  EXPECT_FALSE(RegistryNumber(kWindows, u"no such value"));
+}
+
+TEST(MachineTest, TheClocksAgreeWhileTheMachineIsAwake) {
+  using namespace std::chrono_literals;
+  const auto before = TimeAsleep();
+  EXPECT_GE(before, 0s);
+  EXPECT_LT(TimeAsleep() - before, 1s);
+}
+
 TEST(MachineTest, PathsHaveWindowsSeparator) {
   EXPECT_EQ(PathSeparator(), u'\\');
 }

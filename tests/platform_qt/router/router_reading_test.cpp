@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform_qt/network/ipv4.h"
+#include "platform_qt/os/ipv4.h"
 #include "platform_qt/router/igd_description.h"
 #include "platform_qt/router/router_text.h"
 #include "platform_qt/router/ssdp_answer.h"

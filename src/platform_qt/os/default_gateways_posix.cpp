@@ -1,22 +1,17 @@
-#include "platform_qt/network/default_gateways.h"
+#include "platform_qt/os/default_gateways_posix.h"
 
 #include <net/route.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <ios>
 #include <sstream>
 #include <string>
+#include <utility>
 
-#include "platform_qt/network/small_file.h"
+#include "platform_qt/os/small_file_posix.h"
 
 namespace verlume::qt {
 namespace {
-
-struct DefaultRoute {
-  std::uint32_t metric = 0;
-  in_addr_t gateway = 0;
-};
 
 // A line: device, destination, gateway, flags, references, uses, metric, mask and more. Addresses
 // and flags are hexadecimal, and an address is the number that it is in memory.
@@ -37,26 +32,18 @@ bool ReadDefaultRoute(const std::string& line, DefaultRoute& route) {
 
 }  // namespace
 
-std::vector<in_addr_t> DefaultGatewaysIn(std::string_view routes) {
+std::vector<Ipv4> DefaultGatewaysIn(std::string_view routes) {
   std::istringstream lines{std::string(routes)};
   std::vector<DefaultRoute> found;
   DefaultRoute route;
   for (std::string line; std::getline(lines, line);) {
     if (ReadDefaultRoute(line, route)) found.push_back(route);
   }
-  std::stable_sort(found.begin(), found.end(), [](const DefaultRoute& a, const DefaultRoute& b) {
-    return a.metric < b.metric;
-  });
-  std::vector<in_addr_t> gateways;
-  for (const DefaultRoute& each : found) {
-    const bool isKnown = std::count(gateways.begin(), gateways.end(), each.gateway) > 0;
-    if (!isKnown && gateways.size() < kMostGateways) gateways.push_back(each.gateway);
-  }
-  return gateways;
+  return PreferredGateways(std::move(found));
 }
 
 // Of the calling thread: it may be in another network than the process began in.
-std::vector<in_addr_t> DefaultGateways() {
+std::vector<Ipv4> DefaultGateways() {
   return DefaultGatewaysIn(ReadSmallFile("/proc/thread-self/net/route"));
 }
 

@@ -1,15 +1,15 @@
-#include "platform_qt/network/small_file.h"
+#include "platform_qt/os/small_file_posix.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform_qt/network/descriptor.h"
+#include "platform_qt/os/descriptor_posix.h"
 
 namespace verlume::qt {
 
 std::string ReadSmallFile(const std::string& path) {
-  const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+  const OwnedDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
   struct stat about {};
   if (!file.IsOpen() || ::fstat(file.Number(), &about) != 0 || !S_ISREG(about.st_mode)) return "";
   std::string text(kSmallFile, '\0');

@@ -1,4 +1,4 @@
-#include "platform_qt/network/machine_addresses.h"
+#include "platform_qt/os/machine_addresses_posix.h"
 
 #include <arpa/inet.h>
 #include <ifaddrs.h>
@@ -10,8 +10,9 @@
 #include <optional>
 #include <sstream>
 
-#include "platform_qt/convert/text.h"
-#include "platform_qt/network/small_file.h"
+#include "platform_qt/os/machine_addresses.h"
+#include "platform_qt/os/small_file_posix.h"
+#include "stream/utf8_text.h"
 
 namespace verlume::qt {
 namespace {
@@ -31,12 +32,12 @@ std::string HexOf(const in6_addr& address) {
 std::u16string AddressText(int family, const void* address) {
   std::array<char, INET6_ADDRSTRLEN> text{};
   ::inet_ntop(family, address, text.data(), text.size());
-  return FromQt(QString::fromLatin1(text.data()));
+  return stream::DecodeUtf8(text.data());
 }
 
 std::optional<NetworkAddress> AddressOf(const ifaddrs& entry, const Ipv6Marks& marks) {
   if (!entry.ifa_addr || !(entry.ifa_flags & IFF_UP)) return std::nullopt;
-  const std::u16string name = FromQt(QString::fromLocal8Bit(entry.ifa_name));
+  const std::u16string name = stream::DecodeUtf8(entry.ifa_name);
   if (entry.ifa_addr->sa_family == AF_INET) {
     const auto* address = reinterpret_cast<const sockaddr_in*>(entry.ifa_addr);
     return NetworkAddress{AddressText(AF_INET, &address->sin_addr), name, false};

@@ -1,11 +1,11 @@
-#include "platform_qt/network/firewalls.h"
+#include "platform_qt/os/firewalls_posix.h"
 
 #include <unistd.h>
 
 #include <algorithm>
 #include <sstream>
 
-#include "platform_qt/network/small_file.h"
+#include "platform_qt/os/small_file_posix.h"
 
 namespace verlume::qt {
 namespace {
@@ -55,6 +55,10 @@ std::vector<Firewall> ReadFirewalls(const std::string& root) {
     firewalls.push_back({u"firewalld", IsServiceRunning(root, "firewalld.service")});
   }
   return firewalls;
+}
+
+std::vector<Firewall> MachineFirewalls() {
+  return ReadFirewalls("");
 }
 
 }  // namespace verlume::qt

@@ -7,17 +7,17 @@
 
 namespace verlume::qt {
 
-class Descriptor {
+class OwnedDescriptor {
  public:
-  Descriptor() = default;
+  OwnedDescriptor() = default;
   // A negative number is none: what a system call that failed has returned.
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-  Descriptor& operator=(Descriptor&& other) noexcept {
+  explicit OwnedDescriptor(int number) : number_(number) {}
+  OwnedDescriptor(OwnedDescriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  OwnedDescriptor& operator=(OwnedDescriptor&& other) noexcept {
     std::swap(number_, other.number_);
     return *this;
   }
-  ~Descriptor() {
+  ~OwnedDescriptor() {
     if (number_ >= 0) ::close(number_);
   }
 
