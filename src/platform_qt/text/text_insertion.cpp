@@ -60,6 +60,8 @@ void TextInsertion::StartNext(FormattedText text) {
 
 void TextInsertion::EndOpenDirection() {
   cursor_.setKeepPositionOnInsert(false);
+  // What others wrote there has moved the anchor.
+  cursor_.clearSelection();
   EndDirection(cursor_);
   cursor_.setKeepPositionOnInsert(true);
 }

@@ -170,5 +170,19 @@ TEST(QtTextInsertion, TextWrittenBetweenPiecesStaysBehindThem) {
   EXPECT_EQ(shown.toPlainText(), "abcdef!");
 }
 
+TEST(QtTextInsertion, WhatOthersWroteMeanwhileStaysWhenADirectionIsEnded) {
+  QTextDocument document;
+  QTextCursor start(&document);
+  start.insertText(QStringLiteral("\u202Eopen"));
+  TextInsertion insertion(start, FormattedText());
+  QTextCursor other(&document);
+  other.movePosition(QTextCursor::End);
+  other.insertText(QStringLiteral("others"));
+  insertion.EndOpenDirection();
+  const QString text = document.toPlainText();
+  EXPECT_TRUE(text.endsWith(QStringLiteral("others")));
+  EXPECT_GT(text.size(), 11) << "the direction is ended";
+}
+
 }  // namespace
 }  // namespace verlume::qt
