@@ -292,6 +292,7 @@ void QtRichTextBox::WriteInTurns(richtext::Document document) {
   writings_.push_back(
       std::make_unique<TextWriting>(*view_, cursor, formats_, [this] { RaiseIfFinished(); }));
   writings_.back()->Add(std::move(document));
+  if (widget_->document()->isEmpty()) writings_.back()->Begin();
   if (!wasInserting && onInsertionStarted) onInsertionStarted();
 }
 

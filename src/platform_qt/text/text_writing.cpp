@@ -34,6 +34,11 @@ void TextWriting::Add(richtext::Document document) {
   nextTurn_.start(kPauseBetweenTurns);
 }
 
+void TextWriting::Begin() {
+  InsertStep();  // takes the first part
+  if (!insertion_.IsDone()) InsertStep();
+}
+
 void TextWriting::RunTurn() {
   QElapsedTimer turn;
   turn.start();

@@ -22,6 +22,8 @@ class TextWriting {
 
   // Adds a document behind what is left.
   void Add(richtext::Document document);
+  // Inserts the beginning at once, so that an empty box is not taken for one without text.
+  void Begin();
   // Whether text inserted at the position would stand directly behind all of this.
   bool EndsAt(int position) const { return insertion_.cursor().position() == position; }
   bool IsDone() const { return waiting_.empty() && insertion_.IsDone(); }
