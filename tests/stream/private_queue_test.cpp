@@ -1,20 +1,11 @@
 #include "stream/private_queue.h"
 
 #include <gtest/gtest.h>
-#include <malloc.h>
 
 #include "stream/frames.h"
 
-// Of AddressSanitizer, whose allocator mallinfo2 does not know.
-extern "C" [[gnu::weak]] std::size_t __sanitizer_get_current_allocated_bytes();
-
 namespace verlume::stream {
 namespace {
-
-std::size_t AllocatedBytes() {
-  return __sanitizer_get_current_allocated_bytes ? __sanitizer_get_current_allocated_bytes()
-                                                 : mallinfo2().uordblks;
-}
 
 using Bytes = std::optional<std::string>;
 
@@ -109,22 +100,6 @@ TEST_F(PrivateQueueTest, ASignalThatEqualsOneOnItsWayIsSent) {
   int frames = 0;
   while (queue.TakeFrame()) ++frames;
   EXPECT_EQ(frames, 3);
-}
-
-TEST_F(PrivateQueueTest, SignalsThatAreNeverAcknowledgedTakeNoMemory) {
-  constexpr std::uint64_t kSignals = 200'000;
-  const std::size_t before = AllocatedBytes();
-  for (std::uint64_t i = 0; i < kSignals; ++i) {
-    Add("name", TextKind::Signal);
-    ASSERT_TRUE(queue.TakeFrame());
-  }
-  EXPECT_LT(AllocatedBytes(), before + 10'000);
-  Add("line");
-  queue.TakeFrame();
-  EXPECT_TRUE(queue.Acknowledge(kSignals));
-  EXPECT_EQ(queue.LinesWaiting(), 1u);
-  EXPECT_TRUE(queue.Acknowledge(kSignals + 1));
-  EXPECT_TRUE(queue.IsDone());
 }
 
 }  // namespace

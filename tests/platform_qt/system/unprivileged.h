@@ -1,24 +1,19 @@
-// Tests of permissions must not run as administrator, who may do everything.
+// Tests of permissions must not run as administrator, who may do everything. Each system in a file
+// of its own.
 #pragma once
-
-#include <unistd.h>
 
 namespace verlume::qt {
 
 // If the tests run as administrator, takes on the rights of the user "nobody" for its lifetime.
+// Does nothing on Windows, where administrators keep to permissions too.
 class Unprivileged {
  public:
-  Unprivileged() {
-    if (::geteuid() == 0) isLowered_ = ::setresuid(kNobody, kNobody, 0) == 0;
-  }
-  ~Unprivileged() {
-    if (isLowered_ && ::setresuid(0, 0, 0) != 0) ::_exit(1);
-  }
+  Unprivileged();
+  ~Unprivileged();
   Unprivileged(const Unprivileged&) = delete;
   Unprivileged& operator=(const Unprivileged&) = delete;
 
  private:
-  static constexpr uid_t kNobody = 65534;
   bool isLowered_ = false;
 };
 
