@@ -17,6 +17,7 @@ prepare_wine() {
   [ ! -f "$WINEPREFIX/prepared" ] || return 0
   rm -rf "$WINEPREFIX"
   tools/virtual_display wineboot --init >/dev/null 2>&1
+  wine winecfg -v win10
   replace_font Arial 'Liberation Sans'
   replace_font 'Times New Roman' 'Liberation Serif'
   replace_font 'Courier New' 'Liberation Mono'
