@@ -1,5 +1,7 @@
-// Files and folders. Paths are absolute. Text is UTF-8; bytes that are not valid UTF-8 are read as
-// Windows-1253, and a byte order mark is not part of the text.
+// Files and folders. Paths are absolute. Text comes back as it was written, but for lone
+// surrogates, which become '?'. It is UTF-8 or, on Windows, in the system's code page if that has
+// all of it. Both are read, in the lines of one file, too; elsewhere bytes that are not valid UTF-8
+// are read as Windows-1253. A byte order mark is not part of the text.
 //
 // Failures are RunTimeFailures: 53 no such file, 61 disk full, 70 permission denied, 75 the path
 // cannot be used as a file (a folder, say), 76 no such folder.

@@ -15,5 +15,13 @@ struct FakeWorld {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(FakeFileSystem, FileSystemContract, FakeWorld);
 
+TEST(FakeFileSystemTest, TextIsUtf8AndOtherBytesAreReadAsGreek) {
+  FakeWorld world;
+  world.files.ReplaceText(u"/home/anna/a", u"α");
+  EXPECT_EQ(world.files.ReadBytes(u"/home/anna/a"), "\xCE\xB1");
+  world.files.ReplaceBytes(u"/home/anna/old", "\xE1\xE2\xE3");
+  EXPECT_EQ(world.files.ReadText(u"/home/anna/old"), u"αβγ");
+}
+
 }  // namespace
 }  // namespace verlume

@@ -87,6 +87,17 @@ class QtFileSystemTest : public testing::Test {
   QtFileSystem& files = world.files;
 };
 
+TEST_F(QtFileSystemTest, TextIsUtf8) {
+  files.ReplaceText(Path(u"a"), u"α");
+  files.AppendText(Path(u"a"), u"β");
+  EXPECT_EQ(files.ReadBytes(Path(u"a")), "\xCE\xB1\xCE\xB2");
+}
+
+TEST_F(QtFileSystemTest, BytesThatAreNoUtf8AreReadAsGreek) {
+  files.ReplaceBytes(Path(u"old"), "\xE1\xE2\xE3");
+  EXPECT_EQ(files.ReadText(Path(u"old")), u"αβγ");
+}
+
 TEST_F(QtFileSystemTest, ReplacingLeavesNothingBeside) {
   files.ReplaceText(Path(u"a"), u"old");
   files.ReplaceText(Path(u"a"), u"new");
