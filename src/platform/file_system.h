@@ -31,6 +31,10 @@ class FileSystem {
   virtual std::vector<std::u16string> ListFiles(std::u16string_view folder,
                                                 std::u16string_view extension) const = 0;
 
+  // Whether this system keeps the name ("NUL", "con.txt") for a device, in every folder. A path
+  // that ends in such a name is no file, and none can be made there (75).
+  virtual bool IsNameOfDevice(std::u16string_view name) const noexcept = 0;
+
   // The size of a file in bytes.
   virtual std::uint64_t SizeOf(std::u16string_view path) const = 0;
   virtual std::u16string ReadText(std::u16string_view path) const = 0;

@@ -80,6 +80,20 @@ TYPED_TEST_P(FileSystemContract, APathThatIsNoTextNamesNothing) {
   }
 }
 
+TYPED_TEST_P(FileSystemContract, OnlyTheNameOfADeviceIsKept) {
+  EXPECT_FALSE(this->files.IsNameOfDevice(u"console.txt"));
+  EXPECT_FALSE(this->files.IsNameOfDevice(u"Όνομα.txt"));
+  const std::u16string path = this->Path(u"con.txt");
+  if (this->files.IsNameOfDevice(u"con.txt")) {
+    this->ExpectFailure(FailureNumber::PathFileAccessError,
+                        [&] { this->files.ReplaceText(path, u"x"); });
+    EXPECT_FALSE(this->files.IsFile(path));
+  } else {
+    this->files.ReplaceText(path, u"x");
+    EXPECT_TRUE(this->files.IsFile(path));
+  }
+}
+
 TYPED_TEST_P(FileSystemContract, BytesComeBackAsTheyWereWritten) {
   const std::string bytes("\0\xFF\r\n\x1A", 5);
   this->files.ReplaceBytes(this->Path(u"b"), bytes);
@@ -169,8 +183,9 @@ TYPED_TEST_P(FileSystemContract, FoldersAreNoFiles) {
 REGISTER_TYPED_TEST_SUITE_P(FileSystemContract, TellsFilesFromFolders, TextComesBackAsItWasWritten,
                             ByteOrderMarkIsNoPartOfTheText,
                             LoneSurrogatesAreWrittenAsSomethingReadable,
-                            APathThatIsNoTextNamesNothing, BytesComeBackAsTheyWereWritten,
-                            ASizeIsTheNumberOfBytes, TheStartOfAFileIsItsFirstBytes,
+                            APathThatIsNoTextNamesNothing, OnlyTheNameOfADeviceIsKept,
+                            BytesComeBackAsTheyWereWritten, ASizeIsTheNumberOfBytes,
+                            TheStartOfAFileIsItsFirstBytes,
                             AppendingMakesTheFileAndKeepsWhatItHolds, DeletedFilesAreGone,
                             ListsTheOrdinaryFilesOfAnExtension, NothingIsListedOfWhatIsNoFolder,
                             MissingFilesAreNotFound, PathsThroughMissingFoldersAreNotFound,

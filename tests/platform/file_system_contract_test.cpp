@@ -13,7 +13,12 @@ struct FakeWorld {
   fake::FakeFileSystem files;
 };
 
+struct WorldWithDevices : FakeWorld {
+  WorldWithDevices() { files.hasDevices = true; }
+};
+
 INSTANTIATE_TYPED_TEST_SUITE_P(FakeFileSystem, FileSystemContract, FakeWorld);
+INSTANTIATE_TYPED_TEST_SUITE_P(FakeFileSystemWithDevices, FileSystemContract, WorldWithDevices);
 
 TEST(FakeFileSystemTest, TextIsUtf8AndOtherBytesAreReadAsGreek) {
   FakeWorld world;

@@ -55,6 +55,10 @@ bool QtFileSystem::IsFile(std::u16string_view path) const noexcept {
   return IsOfKind(path, FileKind::File);
 }
 
+bool QtFileSystem::IsNameOfDevice(std::u16string_view name) const noexcept {
+  return qt::IsNameOfDevice(name);
+}
+
 std::vector<std::u16string> QtFileSystem::ListFiles(std::u16string_view folder,
                                                     std::u16string_view extension) const {
   if (!IsFolder(folder)) throw RunTimeFailure(FailureNumber::PathNotFound);
