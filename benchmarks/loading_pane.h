@@ -13,6 +13,7 @@ class OneFile : public FileSystem {
  public:
   bool IsFolder(std::u16string_view) const noexcept override { return false; }
   bool IsFile(std::u16string_view) const noexcept override { return false; }
+  bool IsNameOfDevice(std::u16string_view) const noexcept override { return false; }
   std::vector<std::u16string> ListFiles(std::u16string_view, std::u16string_view) const override {
     return {};
   }

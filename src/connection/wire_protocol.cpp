@@ -241,7 +241,7 @@ void WireProtocol::TakeNickname(std::u16string_view data) {
 }
 
 void WireProtocol::NameLog() {
-  state_.LogFileStem = LogFileStemOf(state_.RemoteNickname);
+  state_.LogFileStem = LogFileStemOf(state_.RemoteNickname, platform_.files);
   state_.LogFile.clear();
 }
 

@@ -4,6 +4,16 @@
 #include "macros/store/macro_store.h"
 
 namespace verlume {
+namespace {
+
+// Why a macro cannot have the name; "" if it can.
+std::u16string RefusalOf(std::u16string_view name, const FileSystem& files, bool isGreek) {
+  if (!IsValidMacroName(name)) return std::u16string(macro_name_texts::kWrongName.In(isGreek));
+  if (!files.IsNameOfDevice(name)) return {};
+  return macro_name_texts::kNameOfDevice.Fill(isGreek, {name});
+}
+
+}  // namespace
 
 std::u16string AskMacroName(const AppState& state, Platform& platform, const TextPair& title,
                             std::u16string_view prompt, std::u16string_view proposed) {
@@ -12,9 +22,9 @@ std::u16string AskMacroName(const AppState& state, Platform& platform, const Tex
   std::u16string name(proposed);
   while (!platform.application.HasEnded()) {
     name = platform.dialogs.AskText(whole, title.In(isGreek), name);
-    if (name.empty() || IsValidMacroName(name)) return name;
-    platform.dialogs.ShowMessage(
-        Refusal(macro_name_texts::kWrongName.In(isGreek), title.In(isGreek)));
+    const std::u16string refusal = RefusalOf(name, platform.files, isGreek);
+    if (refusal.empty()) return name;
+    platform.dialogs.ShowMessage(Refusal(refusal, title.In(isGreek)));
   }
   return {};
 }

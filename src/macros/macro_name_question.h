@@ -10,7 +10,7 @@
 
 namespace verlume {
 
-// Asks until the user types a valid macro name, and says when a name is not valid. Proposes
+// Asks until the user types a valid macro name, and says why a name is not valid. Proposes
 // `proposed` first and then the last answer. Appends the characters to avoid to the prompt. Returns
 // "" when the user gives up or the program ends.
 std::u16string AskMacroName(const AppState& state, Platform& platform, const TextPair& title,

@@ -15,6 +15,8 @@ inline constexpr TextPair kAvoid = {
     u"  \\  /  :  *  ?  \"  <  >  |  .  και το κενό."};
 inline constexpr TextPair kWrongName = {u"The name you typed is incorrect.",
                                         u"Το όνομα που πληκτρολογήσατε είναι λανθασμένο."};
+inline constexpr TextPair kNameOfDevice = {u"Windows keeps the name '%1' for a device.",
+                                           u"Τα Windows κρατούν το όνομα «%1» για μία συσκευή."};
 inline constexpr TextPair kReplace = {
     u"A macro named '%1', already exists."
     u"\r\n\r\n"

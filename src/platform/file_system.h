@@ -1,5 +1,7 @@
-// Files and folders. Paths are absolute. Text is UTF-8; bytes that are not valid UTF-8 are read as
-// Windows-1253, and a byte order mark is not part of the text.
+// Files and folders. Paths are absolute. Text comes back as it was written, but for lone
+// surrogates, which become '?'. It is UTF-8 or, on Windows, in the system's code page if that has
+// all of it. Both are read, in the lines of one file, too; elsewhere bytes that are not valid UTF-8
+// are read as Windows-1253. A byte order mark is not part of the text.
 //
 // Failures are RunTimeFailures: 53 no such file, 61 disk full, 70 permission denied, 75 the path
 // cannot be used as a file (a folder, say), 76 no such folder.
@@ -28,6 +30,10 @@ class FileSystem {
   // letter case, in the order of the file system.
   virtual std::vector<std::u16string> ListFiles(std::u16string_view folder,
                                                 std::u16string_view extension) const = 0;
+
+  // Whether this system keeps the name ("NUL", "con.txt") for a device, in every folder. A path
+  // that ends in such a name is no file, and none can be made there (75).
+  virtual bool IsNameOfDevice(std::u16string_view name) const noexcept = 0;
 
   // The size of a file in bytes.
   virtual std::uint64_t SizeOf(std::u16string_view path) const = 0;

@@ -37,7 +37,7 @@ bool IsEmptyOrLog(std::u16string_view path, const FileSystem& files) try {
 
 }  // namespace
 
-std::u16string LogFileStemOf(std::u16string_view nickname) {
+std::u16string LogFileStemOf(std::u16string_view nickname, const FileSystem& files) {
   std::u16string stem;
   while (!nickname.empty()) {
     const std::u16string_view character = FirstCharacter(nickname);
@@ -46,6 +46,8 @@ std::u16string LogFileStemOf(std::u16string_view nickname) {
     nickname.remove_prefix(character.size());
   }
   if (stem.empty() || stem == u"." || stem == u"..") return u"_";
+  // A device has its name whatever stands behind the first dot.
+  if (files.IsNameOfDevice(stem)) stem.insert(std::min(stem.find(u'.'), stem.size()), u"_");
   return stem;
 }
 

@@ -10,9 +10,10 @@
 namespace verlume {
 
 // The nickname as a file name: each of \ / : * ? " < > | and each character that is not showable
-// becomes "_", and so do "", "." and "..". At most kNicknameLimit characters, so that the name with
-// its extension stays far below the 255 bytes that file systems allow.
-std::u16string LogFileStemOf(std::u16string_view nickname);
+// becomes "_", and so do "", "." and "..". The name of a device gets one: "CON_". At most
+// kNicknameLimit characters and that one, so that the name with its extension stays far below the
+// 255 bytes that file systems allow.
+std::u16string LogFileStemOf(std::u16string_view nickname, const FileSystem& files);
 
 // The path of the log file of the current conversation, or of the last one: AppState::LogFile or,
 // before its first line, where to look for a place for it; "" without a log folder.

@@ -4,7 +4,8 @@ namespace verlume {
 
 std::u16string WithTrailingSeparator(std::u16string_view path, char16_t separator) {
   std::u16string joined(path);
-  if (!path.ends_with(separator)) joined += separator;
+  const bool endsInSlash = separator == u'\\' && path.ends_with(u'/');
+  if (!path.ends_with(separator) && !endsInSlash) joined += separator;
   return joined;
 }
 

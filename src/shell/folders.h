@@ -8,7 +8,8 @@
 
 namespace verlume {
 
-// The path with the separator appended unless it ends in it already.
+// The path with the separator appended unless it ends in one already. Where that is `\`, `/` is one
+// as well.
 std::u16string WithTrailingSeparator(std::u16string_view path, char16_t separator);
 
 // True when the path is a directory; false for "". Never fails.

@@ -143,6 +143,29 @@ TEST_F(MacroSavingTest, WrongNameIsToldAndProposedAgain) {
   EXPECT_EQ(Saved(u"good"), u"Good morning");
 }
 
+TEST_F(MacroSavingTest, NameOfADeviceIsToldAndProposedAgain) {
+  fake.files.hasDevices = true;
+  fake.dialogs.typed = {u"CON", u"console"};
+  saving.SaveCommandPaneAsMacro();
+  state.IsGreek = true;
+  pane.SetText(u"text");
+  fake.dialogs.typed = {u"nul", u"kalo"};
+  saving.SaveCommandPaneAsMacro();
+  EXPECT_EQ(fake.dialogs.messages[0].text, u"Windows keeps the name 'CON' for a device.");
+  EXPECT_EQ(fake.dialogs.messages[0].title, u"Macro name");
+  EXPECT_EQ(fake.dialogs.messages[0].icon, MessageIcon::Stop);
+  EXPECT_EQ(fake.dialogs.messages[1].text, u"Τα Windows κρατούν το όνομα «nul» για μία συσκευή.");
+  EXPECT_EQ(fake.dialogs.asked[1].defaultText, u"CON");
+  EXPECT_EQ(Saved(u"console"), u"Good morning");
+}
+
+TEST_F(MacroSavingTest, WhereThereAreNoDevicesTheirNamesAreFree) {
+  fake.dialogs.typed = {u"CON"};
+  saving.SaveCommandPaneAsMacro();
+  EXPECT_EQ(fake.dialogs.messages.size(), 0u);
+  EXPECT_EQ(Saved(u"CON"), u"Good morning");
+}
+
 TEST_F(MacroSavingTest, ExistingMacroIsReplacedOnlyAfterYes) {
   fake.files.files[u"/macros/hello.rtf"] = "{\\rtf1 old}";
   fake.dialogs.typed = {u"hello", u"other"};

@@ -17,11 +17,21 @@ std::u16string_view FolderOf(std::u16string_view path) {
   return slash == 0 || slash == std::u16string_view::npos ? u"/" : path.substr(0, slash);
 }
 
+std::u16string_view NameOf(std::u16string_view path) {
+  return path.substr(path.rfind(u'/') + 1);
+}
+
+char16_t Lower(char16_t c) {
+  return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c;
+}
+
+bool IsSame(std::u16string_view one, std::u16string_view other) {
+  return std::ranges::equal(one, other, {}, Lower, Lower);
+}
+
 bool EndsIn(std::u16string_view name, std::u16string_view extension) {
-  const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
   return name.size() >= extension.size() &&
-         std::equal(extension.begin(), extension.end(), name.end() - extension.size(),
-                    [&](char16_t a, char16_t b) { return lower(a) == lower(b); });
+         IsSame(name.substr(name.size() - extension.size()), extension);
 }
 
 bool IsSurrogate(char16_t c) {
@@ -74,16 +84,18 @@ bool FakeFileSystem::IsFolder(std::u16string_view path) const noexcept {
 }
 
 bool FakeFileSystem::IsFile(std::u16string_view path) const noexcept {
-  return files.contains(Stored(path));
+  return !IsNameOfDevice(NameOf(path)) && files.contains(Stored(path));
+}
+
+bool FakeFileSystem::IsNameOfDevice(std::u16string_view name) const noexcept {
+  const std::u16string_view stem = name.substr(0, name.find(u'.'));
+  return hasDevices && (IsSame(stem, u"con") || IsSame(stem, u"nul"));
 }
 
 std::u16string_view FakeFileSystem::Stored(std::u16string_view path) const noexcept {
   if (!ignoresCase || files.contains(path)) return path;
-  const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
-  const auto same = std::find_if(files.begin(), files.end(), [&](const auto& file) {
-    return std::equal(path.begin(), path.end(), file.first.begin(), file.first.end(),
-                      [&](char16_t a, char16_t b) { return lower(a) == lower(b); });
-  });
+  const auto same = std::find_if(files.begin(), files.end(),
+                                 [&](const auto& file) { return IsSame(path, file.first); });
   return same != files.end() ? same->first : path;
 }
 
@@ -94,7 +106,7 @@ std::vector<std::u16string> FakeFileSystem::ListFiles(std::u16string_view folder
   std::vector<std::u16string> names;
   for (const auto& [path, bytes] : files) {
     if (FolderOf(path) == WithoutSeparator(folder) && EndsIn(path, extension)) {
-      names.push_back(path.substr(path.rfind(u'/') + 1));
+      names.emplace_back(NameOf(path));
     }
   }
   return names;
@@ -170,7 +182,8 @@ void FakeFileSystem::CheckWrite(std::u16string_view path) const {
 
 // Throws if there may not be a file with this path.
 void FakeFileSystem::CheckPath(std::u16string_view path) const {
-  if (!IsText(path) || IsFolder(path)) throw RunTimeFailure(FailureNumber::PathFileAccessError);
+  if (!IsText(path) || IsFolder(path) || IsNameOfDevice(NameOf(path)))
+    throw RunTimeFailure(FailureNumber::PathFileAccessError);
   if (!IsFolder(FolderOf(path))) throw RunTimeFailure(FailureNumber::PathNotFound);
 }
 

@@ -14,6 +14,7 @@ class FakeFileSystem : public FileSystem {
  public:
   bool IsFolder(std::u16string_view path) const noexcept override;
   bool IsFile(std::u16string_view path) const noexcept override;
+  bool IsNameOfDevice(std::u16string_view name) const noexcept override;
   std::vector<std::u16string> ListFiles(std::u16string_view folder,
                                         std::u16string_view extension) const override;
   std::uint64_t SizeOf(std::u16string_view path) const override;
@@ -38,6 +39,8 @@ class FakeFileSystem : public FileSystem {
   std::optional<FailureNumber> listingFails;
   // "A.rtf" and "a.rtf" are the same file, which keeps the name that it was created with.
   bool ignoresCase = false;
+  // "CON" and "NUL", in capitals or not and with any extension, are devices.
+  bool hasDevices = false;
   std::map<std::u16string, std::string, std::less<>> files;  // path -> bytes
 
  private:

@@ -8,37 +8,54 @@
 namespace verlume {
 namespace {
 
-TEST(LogFileStemTest, EachForbiddenCharacterBecomesAnUnderscore) {
-  EXPECT_EQ(LogFileStemOf(u"\\/:*?\"<>|"), u"_________");
-  EXPECT_EQ(LogFileStemOf(u"Νίκος. the 1st"), u"Νίκος. the 1st");
+class LogFileStemTest : public testing::Test {
+ protected:
+  std::u16string StemOf(std::u16string_view nickname) const {
+    return LogFileStemOf(nickname, files);
+  }
+
+  fake::FakeFileSystem files;
+};
+
+TEST_F(LogFileStemTest, EachForbiddenCharacterBecomesAnUnderscore) {
+  EXPECT_EQ(StemOf(u"\\/:*?\"<>|"), u"_________");
+  EXPECT_EQ(StemOf(u"Νίκος. the 1st"), u"Νίκος. the 1st");
 }
 
-TEST(LogFileStemTest, NicknamesThatDifferInForbiddenCharactersShareAStem) {
-  EXPECT_EQ(LogFileStemOf(u"a/b"), u"a_b");
-  EXPECT_EQ(LogFileStemOf(u"a:b"), u"a_b");
+TEST_F(LogFileStemTest, NicknamesThatDifferInForbiddenCharactersShareAStem) {
+  EXPECT_EQ(StemOf(u"a/b"), u"a_b");
+  EXPECT_EQ(StemOf(u"a:b"), u"a_b");
 }
 
-TEST(LogFileStemTest, ControlCharacterBecomesAnUnderscore) {
-  EXPECT_EQ(LogFileStemOf(std::u16string(u"a\0b\nc\u0085d", 7)), u"a_b_c_d");
+TEST_F(LogFileStemTest, ControlCharacterBecomesAnUnderscore) {
+  EXPECT_EQ(StemOf(std::u16string(u"a\0b\nc\u0085d", 7)), u"a_b_c_d");
 }
 
-TEST(LogFileStemTest, NothingAndTheNamesOfFoldersBecomeAName) {
-  EXPECT_EQ(LogFileStemOf(u""), u"_");
-  EXPECT_EQ(LogFileStemOf(u"."), u"_");
-  EXPECT_EQ(LogFileStemOf(u".."), u"_");
-  EXPECT_EQ(LogFileStemOf(u"..."), u"...");
+TEST_F(LogFileStemTest, NothingAndTheNamesOfFoldersBecomeAName) {
+  EXPECT_EQ(StemOf(u""), u"_");
+  EXPECT_EQ(StemOf(u"."), u"_");
+  EXPECT_EQ(StemOf(u".."), u"_");
+  EXPECT_EQ(StemOf(u"..."), u"...");
 }
 
-TEST(LogFileStemTest, WhatIsNotSeenBecomesAnUnderscore) {
-  EXPECT_EQ(LogFileStemOf(u"\u202Eb\u2028ob\u200F"), u"_b_ob_");
-  EXPECT_EQ(LogFileStemOf(u"a\xD83D"), u"a_");
+TEST_F(LogFileStemTest, WhatIsNotSeenBecomesAnUnderscore) {
+  EXPECT_EQ(StemOf(u"\u202Eb\u2028ob\u200F"), u"_b_ob_");
+  EXPECT_EQ(StemOf(u"a\xD83D"), u"a_");
 }
 
-TEST(LogFileStemTest, OverlongNicknameIsCutToWhatAFileNameHolds) {
+TEST_F(LogFileStemTest, OverlongNicknameIsCutToWhatAFileNameHolds) {
   const std::u16string longestOfOurs(32, u'€');
-  EXPECT_EQ(LogFileStemOf(longestOfOurs), longestOfOurs);
-  EXPECT_EQ(LogFileStemOf(std::u16string(4000, u'€')), longestOfOurs);
-  EXPECT_EQ(LogFileStemOf(std::u16string(31, u'b') + u"\U0001F600"), std::u16string(31, u'b'));
+  EXPECT_EQ(StemOf(longestOfOurs), longestOfOurs);
+  EXPECT_EQ(StemOf(std::u16string(4000, u'€')), longestOfOurs);
+  EXPECT_EQ(StemOf(std::u16string(31, u'b') + u"\U0001F600"), std::u16string(31, u'b'));
+}
+
+TEST_F(LogFileStemTest, NameOfADeviceIsChangedWhereThereAreSuch) {
+  EXPECT_EQ(StemOf(u"CON"), u"CON");
+  files.hasDevices = true;
+  EXPECT_EQ(StemOf(u"CON"), u"CON_");
+  EXPECT_EQ(StemOf(u"nul.of.Bob"), u"nul_.of.Bob");
+  EXPECT_EQ(StemOf(u"Conny"), u"Conny");
 }
 
 class FreeLogPathTest : public testing::Test {

@@ -11,6 +11,8 @@ TEST(FoldersTest, SeparatorIsAppendedOnlyWhereItIsMissing) {
   EXPECT_EQ(WithTrailingSeparator(u"/macros", u'/'), u"/macros/");
   EXPECT_EQ(WithTrailingSeparator(u"/macros/", u'/'), u"/macros/");
   EXPECT_EQ(WithTrailingSeparator(u"C:\\macros", u'\\'), u"C:\\macros\\");
+  EXPECT_EQ(WithTrailingSeparator(u"C:/macros/", u'\\'), u"C:/macros/");
+  EXPECT_EQ(WithTrailingSeparator(u"/a\\", u'/'), u"/a\\/");
   EXPECT_EQ(WithTrailingSeparator(u"", u'/'), u"/");
 }
 

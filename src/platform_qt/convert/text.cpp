@@ -1,5 +1,7 @@
 #include "platform_qt/convert/text.h"
 
+#include <QDir>
+
 namespace verlume::qt {
 
 QString ToQt(std::u16string_view text) {
@@ -9,6 +11,10 @@ QString ToQt(std::u16string_view text) {
 
 std::u16string FromQt(const QString& text) {
   return text.toStdU16String();
+}
+
+std::u16string PathFromQt(const QString& path) {
+  return FromQt(QDir::toNativeSeparators(path));
 }
 
 QColor ToQt(Color color) {

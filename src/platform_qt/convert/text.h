@@ -14,6 +14,9 @@ namespace verlume::qt {
 QString ToQt(std::u16string_view text);
 std::u16string FromQt(const QString& text);
 
+// A path of Qt's with the separators of the system, as the user knows it.
+std::u16string PathFromQt(const QString& path);
+
 // 0x00BBGGRR <-> QColor; the automatic colour is black.
 QColor ToQt(Color color);
 Color FromQt(const QColor& color);

@@ -1,7 +1,6 @@
 #include "platform_qt/dialogs/common_dialog.h"
 
 #include <QColorDialog>
-#include <QDir>
 #include <QFileInfo>
 #include <memory>
 
@@ -39,7 +38,7 @@ FileDialog* NewFileDialog(QWidget* owner, const FileChoice& start, FileDialogs d
 FileChoice Chosen(const FileDialog& dialog, const FileChoice& start) {
   FileChoice choice = start;
   const QString path = dialog.Path();
-  choice.fileName = FromQt(QDir::toNativeSeparators(path));
+  choice.fileName = PathFromQt(path);
   choice.flags &= ~dialog_flag::kExtensionDifferent;
   // A name without an extension is chosen only for a file that has that name; none was altered.
   const bool isBare =
@@ -93,9 +92,8 @@ std::u16string QtCommonDialog::ChooseFolder(std::u16string_view title,
   dialog->setFileMode(QFileDialog::Directory);
   dialog->setOption(QFileDialog::ShowDirsOnly);
   return Ask(dialog, [](const FileDialog& done) {
-    QString folder = QDir::toNativeSeparators(done.selectedFiles().value(0));
-    if (!folder.endsWith(QDir::separator())) folder += QDir::separator();
-    return FromQt(folder);
+    const QString folder = done.selectedFiles().value(0);
+    return PathFromQt(folder.endsWith(u'/') ? folder : folder + u'/');
   });
 }
 

@@ -11,6 +11,7 @@
 #include <QTreeView>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/os/files.h"
 
 namespace verlume::qt {
 namespace {
@@ -152,7 +153,7 @@ QString FileDialog::RefusalOf(const QString& path) const {
     return QFileDialog::tr("%1\nFile not found.\nPlease verify the correct file name was given.")
         .arg(QDir::toNativeSeparators(path));
   }
-  if (refuseReadOnly_ && file.isFile() && !file.isWritable()) {
+  if (refuseReadOnly_ && file.isFile() && !CanWriteTo(path.toStdString())) {
     return QCoreApplication::translate("QSaveFile", "Existing file %1 is not writable")
         .arg(QDir::toNativeSeparators(path));
   }

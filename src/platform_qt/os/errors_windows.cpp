@@ -8,20 +8,38 @@
 namespace verlume::qt {
 namespace {
 
-// MinGW's headers do not have it.
+// MinGW's headers do not have these.
+constexpr DWORD kVirusInfected = 225;
+constexpr DWORD kNoSuchDevice = 433;
 constexpr DWORD kDiskQuotaExceeded = 1295;
 
 FailureNumber FailureOf(DWORD error, const std::string& path) {
   switch (error) {
     case ERROR_FILE_NOT_FOUND:
       return FailureNumber::FileNotFound;
-    // Of a drive that has been taken out, too.
     case ERROR_PATH_NOT_FOUND:
+    // A drive that has been taken out, or that was never there.
     case ERROR_INVALID_DRIVE:
     case ERROR_NOT_READY:
-    case ERROR_BAD_NETPATH:
-    case ERROR_BAD_NET_NAME:
+    case ERROR_WRONG_DISK:
     case ERROR_DEV_NOT_EXIST:
+    case kNoSuchDevice:
+    case ERROR_UNRECOGNIZED_VOLUME:
+    case ERROR_FILE_INVALID:
+    case ERROR_NO_MEDIA_IN_DRIVE:
+    case ERROR_DEVICE_NOT_CONNECTED:
+    case ERROR_DEVICE_REMOVED:
+    // A computer of the network that does not answer, or answers no longer.
+    case ERROR_REM_NOT_LIST:
+    case ERROR_BAD_NETPATH:
+    case ERROR_UNEXP_NET_ERR:
+    case ERROR_NETNAME_DELETED:
+    case ERROR_BAD_NET_NAME:
+    case ERROR_SEM_TIMEOUT:
+    case ERROR_NO_NET_OR_BAD_PATH:
+    case ERROR_CONNECTION_UNAVAIL:
+    case ERROR_NETWORK_UNREACHABLE:
+    case ERROR_HOST_UNREACHABLE:
       return FailureNumber::PathNotFound;
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
@@ -38,6 +56,8 @@ FailureNumber FailureOf(DWORD error, const std::string& path) {
     case ERROR_DELETE_PENDING:
     case ERROR_USER_MAPPED_FILE:
     case ERROR_WRITE_PROTECT:
+    case ERROR_NETWORK_ACCESS_DENIED:
+    case kVirusInfected:
       return FailureNumber::PermissionDenied;
     default:
       return FailureNumber::PathFileAccessError;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace verlume::qt {
@@ -14,6 +15,8 @@ enum class FileKind { Nothing, File, Folder, Other };
 FileKind KindOf(const std::string& path);
 // True if there is anything at the path, even a link to nothing.
 bool IsTaken(const std::string& path);
+// Whether the system keeps the name, in every folder, for a device. Never fails.
+bool IsNameOfDevice(std::u16string_view name) noexcept;
 // The folder that contains the path.
 std::string FolderOf(const std::string& path);
 
@@ -34,6 +37,14 @@ void RemoveFile(const std::string& path);
 void MoveInto(const std::string& from, const std::string& to);
 // The same where nothing has the new path. False if something has: it stays as it is.
 [[nodiscard]] bool MoveIntoFree(const std::string& from, const std::string& to);
+
+// These never throw.
+
+// Whether this user can make files in a folder; false if there is none. Where only trying shows it
+// (Windows), a file is made that is gone when this returns.
+bool CanMakeFilesIn(const std::string& folder) noexcept;
+// Whether CheckWritable would not throw.
+bool CanWriteTo(const std::string& path) noexcept;
 
 // These never throw, and are false if it has not worked.
 bool TryToRemove(const std::string& path) noexcept;

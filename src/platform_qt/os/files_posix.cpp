@@ -51,6 +51,10 @@ bool IsTaken(const std::string& path) {
   return ::lstat(path.c_str(), &found) == 0 || errno != ENOENT;
 }
 
+bool IsNameOfDevice(std::u16string_view) noexcept {
+  return false;
+}
+
 std::string FolderOf(const std::string& path) {
   const std::size_t slash = path.rfind('/');
   if (slash == std::string::npos) return ".";
@@ -65,7 +69,7 @@ std::uint64_t FileSize(const std::string& path) {
 }
 
 void CheckWritable(const std::string& path) {
-  if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) ThrowErrno(path);
+  if (!CanWriteTo(path)) ThrowErrno(path);
 }
 
 std::string EndOfLinks(const std::string& path) {
@@ -106,6 +110,15 @@ bool MoveIntoFree(const std::string& from, const std::string& to) {
   if (!RenameToFree(from, to)) return false;
   FlushFolder(FolderOf(to));
   return true;
+}
+
+bool CanMakeFilesIn(const std::string& folder) noexcept {
+  return KindOf(folder) == FileKind::Folder &&
+         ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+bool CanWriteTo(const std::string& path) noexcept {
+  return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
 }
 
 bool TryToRemove(const std::string& path) noexcept {

@@ -6,6 +6,7 @@
 #include "platform_qt/os/errors_windows.h"
 #include "platform_qt/os/handle_windows.h"
 #include "platform_qt/os/paths_windows.h"
+#include "platform_qt/os/patience_windows.h"
 
 namespace verlume::qt {
 namespace {
@@ -18,17 +19,13 @@ Handle Open(const std::string& path, DWORD access) {
                               FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }
 
-// Programs that look at every new file (scanners, indexers) hold it open for a moment.
+// While the file that is to be replaced is open, Windows denies access.
 bool MovePatiently(const std::wstring& from, const std::wstring& to,
                    DWORD how = MOVEFILE_REPLACE_EXISTING) {
-  constexpr int kTries = 20;
-  constexpr DWORD kPauseMs = 25;
-  for (int tries = 1;; ++tries) {
-    if (::MoveFileExW(from.c_str(), to.c_str(), how | MOVEFILE_WRITE_THROUGH)) return true;
-    const DWORD error = ::GetLastError();
-    if (error != ERROR_SHARING_VIOLATION || tries == kTries) return false;
-    ::Sleep(kPauseMs);
-  }
+  const auto move = [&] {
+    return ::MoveFileExW(from.c_str(), to.c_str(), how | MOVEFILE_WRITE_THROUGH) != 0;
+  };
+  return DonePatiently(move, {ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED});
 }
 
 bool IsLink(const std::string& path) {
@@ -56,6 +53,10 @@ bool IsTaken(const std::string& path) {
   return error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND;
 }
 
+bool IsNameOfDevice(std::u16string_view name) noexcept {
+  return IsDevice(std::wstring_view(reinterpret_cast<const wchar_t*>(name.data()), name.size()));
+}
+
 std::string FolderOf(const std::string& path) {
   const std::size_t separator = path.find_last_of("/\\");
   if (separator == std::string::npos) return ".";
@@ -73,7 +74,7 @@ std::uint64_t FileSize(const std::string& path) {
 }
 
 void CheckWritable(const std::string& path) {
-  if (!Open(path, GENERIC_WRITE)) ThrowLastError(path);
+  if (!DonePatiently([&] { return bool(Open(path, GENERIC_WRITE)); })) ThrowLastError(path);
 }
 
 // A link to nothing is replaced itself: Windows does not say where it would lead.
@@ -112,7 +113,8 @@ std::vector<std::string> FilesIn(const std::string& folder) {
 }
 
 void RemoveFile(const std::string& path) {
-  if (!::DeleteFileW(NativePath(path).c_str())) ThrowLastError(path);
+  const std::wstring native = NativePath(path);
+  if (!DonePatiently([&] { return ::DeleteFileW(native.c_str()) != 0; })) ThrowLastError(path);
 }
 
 void MoveInto(const std::string& from, const std::string& to) {
@@ -124,6 +126,23 @@ bool MoveIntoFree(const std::string& from, const std::string& to) {
   const DWORD error = ::GetLastError();
   if (error == ERROR_ALREADY_EXISTS || error == ERROR_FILE_EXISTS) return false;
   ThrowError(error, to);
+}
+
+bool CanMakeFilesIn(const std::string& folder) noexcept try {
+  const std::string path =
+      folder + "\\.verlume-" + ProcessNumber() + "-" + std::to_string(::GetTickCount64()) + ".try";
+  return bool(Handle(::CreateFileW(
+      NativePath(path).c_str(), GENERIC_WRITE | DELETE, kShareAll, nullptr, CREATE_NEW,
+      FILE_ATTRIBUTE_TEMPORARY | FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr)));
+} catch (const RunTimeFailure&) {
+  return false;
+}
+
+bool CanWriteTo(const std::string& path) noexcept try {
+  CheckWritable(path);
+  return true;
+} catch (const RunTimeFailure&) {
+  return false;
 }
 
 bool TryToRemove(const std::string& path) noexcept try {

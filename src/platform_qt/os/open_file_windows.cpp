@@ -11,6 +11,7 @@
 #include "platform_qt/os/handle_windows.h"
 #include "platform_qt/os/open_file.h"
 #include "platform_qt/os/paths_windows.h"
+#include "platform_qt/os/patience_windows.h"
 #include "platform_qt/os/permissions_windows.h"
 
 namespace verlume::qt {
@@ -31,11 +32,18 @@ std::intptr_t Open(const std::string& path, Opening opening, Readers readers) {
   if (opening == Opening::ToMake) disposition = CREATE_NEW;
   std::optional<OwnerOnly> owner;
   if (readers == Readers::OwnerOnly && !isReading) owner.emplace(path);
-  return reinterpret_cast<std::intptr_t>(::CreateFileW(
-      NativePath(path).c_str(), isReading ? GENERIC_READ : GENERIC_WRITE, kEveryoneMay,
-      owner ? owner->Attributes() : nullptr, disposition,
-      opening == Opening::ToReadNoLink ? FILE_FLAG_OPEN_REPARSE_POINT : FILE_ATTRIBUTE_NORMAL,
-      nullptr));
+  const std::wstring native = NativePath(path);
+  HANDLE handle = INVALID_HANDLE_VALUE;
+  const auto open = [&] {
+    handle = ::CreateFileW(
+        native.c_str(), isReading ? GENERIC_READ : GENERIC_WRITE, kEveryoneMay,
+        owner ? owner->Attributes() : nullptr, disposition,
+        opening == Opening::ToReadNoLink ? FILE_FLAG_OPEN_REPARSE_POINT : FILE_ATTRIBUTE_NORMAL,
+        nullptr);
+    return handle != INVALID_HANDLE_VALUE;
+  };
+  DonePatiently(open);
+  return reinterpret_cast<std::intptr_t>(handle);
 }
 
 // Which file it is, wherever it is; none if there is no such file.

@@ -30,26 +30,16 @@ std::wstring Utf16Of(const std::string& text) {
   return wide;
 }
 
-// Devices have these names in every folder, with any extension, in any letter case. Windows takes
-// superscript figures for figures there.
-bool IsDevice(std::wstring_view name) {
-  std::wstring stem(name.substr(0, name.find(L'.')));
-  while (!stem.empty() && stem.back() == L' ') stem.pop_back();
-  for (wchar_t& c : stem) {
-    if (c >= L'a' && c <= L'z') c = static_cast<wchar_t>(c - L'a' + L'A');
-  }
-  static constexpr std::array<std::wstring_view, 6> kDevices{L"CON", L"PRN",    L"AUX",
-                                                             L"NUL", L"CONIN$", L"CONOUT$"};
-  if (std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end()) return true;
-  constexpr std::wstring_view kNumbers = L"0123456789\u00B9\u00B2\u00B3";
-  return stem.size() == 4 && (stem.starts_with(L"COM") || stem.starts_with(L"LPT")) &&
-         kNumbers.find(stem.back()) != std::wstring_view::npos;
-}
-
 // Where the names begin: behind "C:\", "\\server\" or nothing.
 std::size_t RootLength(std::wstring_view path) {
   if (path.size() >= 2 && path[1] == L':') return 2;
   return path.starts_with(L"\\\\") ? 2 : 0;
+}
+
+// "\\folder" and "C:file" lead somewhere else on another day.
+bool DependsOnWhereTheProgramIs(std::wstring_view path) {
+  if (path.size() >= 2 && path[1] == L':') return path.size() == 2 || path[2] != L'\\';
+  return path.starts_with(L'\\') && !path.starts_with(L"\\\\");
 }
 
 void CheckNames(std::wstring_view path) {
@@ -73,6 +63,21 @@ std::wstring LongForm(const std::wstring& path) {
 
 }  // namespace
 
+// Windows takes superscript figures for figures there.
+bool IsDevice(std::wstring_view name) {
+  std::wstring stem(name.substr(0, name.find(L'.')));
+  while (!stem.empty() && stem.back() == L' ') stem.pop_back();
+  for (wchar_t& c : stem) {
+    if (c >= L'a' && c <= L'z') c = static_cast<wchar_t>(c - L'a' + L'A');
+  }
+  static constexpr std::array<std::wstring_view, 6> kDevices{L"CON", L"PRN",    L"AUX",
+                                                             L"NUL", L"CONIN$", L"CONOUT$"};
+  if (std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end()) return true;
+  constexpr std::wstring_view kNumbers = L"0123456789\u00B9\u00B2\u00B3";
+  return stem.size() == 4 && (stem.starts_with(L"COM") || stem.starts_with(L"LPT")) &&
+         kNumbers.find(stem.back()) != std::wstring_view::npos;
+}
+
 bool IsFileName(std::wstring_view name) {
   if (name.empty() || name.back() == L'.' || name.back() == L' ') return false;
   constexpr std::wstring_view kForbidden = L"<>:\"/\\|?*";
@@ -88,6 +93,7 @@ std::wstring NativePath(const std::string& path) {
   if (wide.find(L'\0') != std::wstring::npos) Refuse();
   std::replace(wide.begin(), wide.end(), L'/', L'\\');
   if (wide.starts_with(kLongPrefix)) return wide;
+  if (DependsOnWhereTheProgramIs(wide)) Refuse();
   CheckNames(wide);
   return wide.size() > kLongestUsual ? LongForm(wide) : wide;
 }

@@ -8,10 +8,14 @@
 namespace verlume::qt {
 
 // The path with `\`, and in the form that may be longer than 260 characters if it is long. Throws a
-// RunTimeFailure for one that is not UTF-8, or that Windows would take for something else than the
-// file of that name: a device ("NUL", "con.txt"), a stream ("a:b"), a name without its last dot.
+// RunTimeFailure for one that is not UTF-8, that depends on the current drive or a drive's current
+// folder ("/home", "C:a"), or that Windows would take for something else than the file of that
+// name: a device ("NUL", "con.txt"), a stream ("a:b"), a name without its last dot.
 std::wstring NativePath(const std::string& path);
 
+// Whether a device has this name: "NUL", "con.txt". It has it in every folder, with any extension,
+// in any letter case.
+bool IsDevice(std::wstring_view name);
 // Whether a file can have this name.
 bool IsFileName(std::wstring_view name);
 

@@ -1,35 +1,18 @@
 #include "platform_qt/system/file_system.h"
 
 #include <QStringDecoder>
-#include <algorithm>
 #include <optional>
 
 #include "platform/run_time_failure.h"
 #include "platform_qt/convert/text.h"
 #include "platform_qt/os/files.h"
+#include "platform_qt/os/local_text.h"
 #include "platform_qt/os/machine.h"
 #include "platform_qt/os/open_file.h"
 #include "platform_qt/system/file_replacement.h"
-#include "richtext/code_pages.h"
 
 namespace verlume::qt {
 namespace {
-
-// A lone surrogate becomes '?'. Converts in parts, so that a long text is not in memory three
-// times.
-std::string Utf8(std::u16string_view text) {
-  constexpr std::size_t kPiece = 16 * 1024;
-  std::string bytes;
-  bytes.reserve(text.size());
-  while (!text.empty()) {
-    std::size_t length = std::min(kPiece, text.size());
-    if (length < text.size() && QChar::isHighSurrogate(text[length - 1])) ++length;
-    const QByteArray piece = ToQt(text.substr(0, length)).toUtf8();
-    bytes.append(piece.data(), static_cast<std::size_t>(piece.size()));
-    text.remove_prefix(length);
-  }
-  return bytes;
-}
 
 std::string NameOf(std::u16string_view path) {
   const QString name = ToQt(path);
@@ -72,6 +55,10 @@ bool QtFileSystem::IsFile(std::u16string_view path) const noexcept {
   return IsOfKind(path, FileKind::File);
 }
 
+bool QtFileSystem::IsNameOfDevice(std::u16string_view name) const noexcept {
+  return qt::IsNameOfDevice(name);
+}
+
 std::vector<std::u16string> QtFileSystem::ListFiles(std::u16string_view folder,
                                                     std::u16string_view extension) const {
   if (!IsFolder(folder)) throw RunTimeFailure(FailureNumber::PathNotFound);
@@ -89,7 +76,7 @@ std::uint64_t QtFileSystem::SizeOf(std::u16string_view path) const {
 }
 
 std::u16string QtFileSystem::ReadText(std::u16string_view path) const {
-  return richtext::DecodeUtf8OrGreek(ReadBytes(path));
+  return DecodeLocal(ReadBytes(path));
 }
 
 std::string QtFileSystem::ReadBytes(std::u16string_view path) const {
@@ -102,7 +89,7 @@ std::string QtFileSystem::ReadStart(std::u16string_view path, std::size_t limit)
 
 void QtFileSystem::ReplaceText(std::u16string_view path, std::u16string_view text,
                                Readers readers) {
-  ReplaceBytes(path, Utf8(text), readers);
+  ReplaceBytes(path, EncodeLocal(text), readers);
 }
 
 void QtFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes, Readers readers) {
@@ -117,7 +104,7 @@ void QtFileSystem::ReplaceBytes(std::u16string_view path, std::string_view bytes
 
 void QtFileSystem::AppendText(std::u16string_view path, std::u16string_view text) {
   OpenFile file(NameOf(path), Opening::ToAppend, Readers::OwnerOnly);
-  file.Append(Utf8(text));
+  file.Append(EncodeLocal(text));
   file.Close();
 }
 

@@ -10,6 +10,7 @@ class QtFileSystem : public FileSystem {
  public:
   bool IsFolder(std::u16string_view path) const noexcept override;
   bool IsFile(std::u16string_view path) const noexcept override;
+  bool IsNameOfDevice(std::u16string_view name) const noexcept override;
   // Leaves out names that are not valid UTF-8, because no path could name them.
   std::vector<std::u16string> ListFiles(std::u16string_view folder,
                                         std::u16string_view extension) const override;

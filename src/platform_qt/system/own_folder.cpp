@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/os/files.h"
 
 namespace verlume::qt {
 
@@ -14,8 +15,7 @@ bool MakeOwnFolder(const QString& path) {
     // Fails if another copy has made it meanwhile.
     QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
   }
-  const QFileInfo made(path);
-  return made.isDir() && made.isWritable() && made.isExecutable();
+  return CanMakeFilesIn(path.toStdString());
 }
 
 std::optional<QString> OwnFolder(std::u16string_view path) {

@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QObject>
 #include <QString>
+#include <optional>
 
 #include "platform/system.h"
 
@@ -60,8 +61,12 @@ class QtApplication : public QObject, public Application {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool KeepsSettingsBeside() const;
+
   QString programFolder_;
   QString ownFolder_;
+  // Found out once: the settings must not be in two places in one run.
+  mutable std::optional<bool> keepsSettingsBeside_;
   bool isYielding_ = false;
   bool hasEnded_ = false;
 };

@@ -1,13 +1,14 @@
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QScopedValueRollback>
 #include <QStandardPaths>
 #include <QWidget>
+#include <algorithm>
 #include <chrono>
 #include <iostream>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/os/files.h"
 #include "platform_qt/system/system.h"
 
 namespace verlume::qt {
@@ -54,17 +55,22 @@ QtApplication::QtApplication(const QString& programFolder, const QString& ownFol
     : programFolder_(programFolder), ownFolder_(ownFolder) {}
 
 std::u16string QtApplication::ProgramFolder() const {
-  return FromQt(programFolder_);
+  return PathFromQt(programFolder_);
 }
 
 std::u16string QtApplication::SettingsFolder() const {
-  if (!ownFolder_.isEmpty()) return FromQt(ownFolder_);
-  // Root may write beside an installed program, too.
-  const bool isInstalled = HelpFolder() != ProgramFolder();
-  if (!isInstalled && QFileInfo(programFolder_).isWritable()) return ProgramFolder();
+  if (!ownFolder_.isEmpty()) return PathFromQt(ownFolder_);
+  if (!keepsSettingsBeside_) keepsSettingsBeside_ = KeepsSettingsBeside();
+  if (*keepsSettingsBeside_) return ProgramFolder();
   const QString own = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
   QDir().mkpath(own);
-  return FromQt(own);
+  return PathFromQt(own);
+}
+
+bool QtApplication::KeepsSettingsBeside() const {
+  // Root may write beside an installed program, too.
+  const bool isInstalled = HelpFolder() != ProgramFolder();
+  return !isInstalled && CanMakeFilesIn(programFolder_.toStdString());
 }
 
 QString SettingsFolderFor(const QString& ownFolder) {
@@ -75,10 +81,12 @@ QString SettingsFolderFor(const QString& ownFolder) {
 std::u16string QtApplication::HelpFolder() const {
   if (HoldsHelp(programFolder_)) return ProgramFolder();
   const QString beside = QDir::cleanPath(programFolder_ + kInstalledBeside);
-  if (HoldsHelp(beside)) return FromQt(beside);
-  const QString data = QStandardPaths::locate(QStandardPaths::GenericDataLocation, kInstalledData,
-                                              QStandardPaths::LocateDirectory);
-  return data.isEmpty() ? ProgramFolder() : FromQt(data);
+  if (HoldsHelp(beside)) return PathFromQt(beside);
+  // On Windows the settings may lie in such a folder, without the help.
+  const QStringList data = QStandardPaths::locateAll(
+      QStandardPaths::GenericDataLocation, kInstalledData, QStandardPaths::LocateDirectory);
+  const auto found = std::find_if(data.begin(), data.end(), HoldsHelp);
+  return found == data.end() ? ProgramFolder() : PathFromQt(*found);
 }
 
 void QtApplication::YieldToEvents() {

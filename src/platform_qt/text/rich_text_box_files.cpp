@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform_qt/fonts/turn.h"
+#include "platform_qt/os/local_text.h"
 #include "platform_qt/text/rich_text_box.h"
 #include "platform_qt/text/rich_text_widget.h"
 #include "platform_qt/text/text_format.h"
@@ -17,12 +18,18 @@ namespace {
 // A text so long, in characters, is saved between events.
 constexpr std::size_t kSavedInTurns = 64 * 1024;
 
+// A file that is no RTF is a plain text of this machine's.
+richtext::Document ReadDocument(std::string_view bytes) {
+  return richtext::LooksLikeRtf(bytes) ? richtext::ReadRtf(bytes)
+                                       : richtext::ReadPlainText(DecodeLocal(bytes));
+}
+
 }  // namespace
 
 void QtRichTextBox::LoadFile(std::u16string_view path, TextFileFormat format) {
   const bool isPlain = format == TextFileFormat::PlainText;
   FormattedText text = isPlain ? FormattedText(files_.ReadText(path), DefaultFormat(), lines_)
-                               : FormattedText(richtext::ReadRtf(files_.ReadBytes(path)), lines_);
+                               : FormattedText(ReadDocument(files_.ReadBytes(path)), lines_);
   Clear(isPlain ? DefaultFormat() : FormatOfFirst(widget_->textCursor()));
   SetSelAuthor(Author::File);
   loading_ = std::make_unique<TextLoading>(*view_, QTextCursor(widget_->document()),

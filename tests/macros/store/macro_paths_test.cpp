@@ -56,6 +56,13 @@ TEST_F(MacroFileTest, NameThatWouldLeaveTheFolderHasNoFile) {
   }
 }
 
+TEST_F(MacroFileTest, DeviceIsNoMacro) {
+  files.files[u"/macros/con.rtf"] = "";
+  EXPECT_TRUE(MacroExists(state, files, u"con"));
+  files.hasDevices = true;
+  EXPECT_FALSE(MacroExists(state, files, u"con"));
+}
+
 TEST_F(MacroFileTest, HiddenFileIsNoMacro) {
   files.files[u"/macros/.hidden.rtf"] = "";
   EXPECT_FALSE(MacroExists(state, files, u".hidden"));

@@ -44,7 +44,7 @@ class FolderSuggestionTest : public testing::Test {
 
 TEST_F(FolderSuggestionTest, StandsLastAmongThePlacesUnderItsName) {
   EXPECT_EQ(Suggestion().data().toString(), "Verlume macros");
-  EXPECT_EQ(Suggestion().data(Qt::ToolTipRole).toString(), path_);
+  EXPECT_EQ(Suggestion().data(Qt::ToolTipRole).toString(), QDir::toNativeSeparators(path_));
   EXPECT_TRUE(Suggestion().flags() & Qt::ItemIsEnabled);
 }
 
@@ -77,7 +77,9 @@ TEST_F(FolderSuggestionTest, ABoxSaysThatItCannotBeMade) {
     box.accept();
   });
   Click();
-  EXPECT_EQ(said, QStringLiteral("The folder %1 could not be made.").arg(path_));
+  EXPECT_EQ(
+      said,
+      QStringLiteral("The folder %1 could not be made.").arg(QDir::toNativeSeparators(path_)));
   EXPECT_EQ(dialog_.directory().path(), folder_.path());
 }
 

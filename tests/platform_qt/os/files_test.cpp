@@ -40,6 +40,7 @@ TEST_F(FilesTest, WhatIsAtAPath) {
   EXPECT_EQ(KindOf(folder.Path(u8"none")), FileKind::Nothing);
   EXPECT_EQ(KindOf(folder.Path(u8"none") + "/none"), FileKind::Nothing);
   EXPECT_EQ(KindOf(""), FileKind::Nothing);
+  EXPECT_EQ(KindOf("Q:\\logs\\"), FileKind::Nothing) << "of another system";
   EXPECT_TRUE(IsTaken(folder.Path(u8"Αρχείο.txt")));
   EXPECT_FALSE(IsTaken(folder.Path(u8"none")));
 }
@@ -65,6 +66,19 @@ TEST_F(FilesTest, TheFilesInAFolderWithoutItsFolders) {
   folder.MakeFolder(u8"folder.rtf");
   EXPECT_THAT(FilesIn(folder.Path()), UnorderedElementsAre("a.rtf", "Ωμέγα.rtf"));
   EXPECT_THROW(FilesIn(folder.Path(u8"none")), RunTimeFailure);
+}
+
+TEST_F(FilesTest, WhetherAFolderCanBeWrittenToIsFoundOutWithoutATrace) {
+  EXPECT_TRUE(CanMakeFilesIn(folder.Path()));
+  EXPECT_THAT(FilesIn(folder.Path()), IsEmpty());
+  EXPECT_FALSE(CanMakeFilesIn(folder.Path(u8"none")));
+  EXPECT_FALSE(CanMakeFilesIn(Make(u8"file")));
+  EXPECT_FALSE(CanMakeFilesIn(""));
+}
+
+TEST_F(FilesTest, AFileThatIsThereCanBeWrittenTo) {
+  EXPECT_TRUE(CanWriteTo(Make(u8"a")));
+  EXPECT_FALSE(CanWriteTo(folder.Path(u8"none")));
 }
 
 TEST_F(FilesTest, AMovedFileReplacesTheOther) {

@@ -26,6 +26,15 @@ TEST(NamesTest, WhatIsNot) {
   }
 }
 
+TEST(NamesTest, WhatIsTheNameOfADevice) {
+  for (const char16_t* name : {u"NUL", u"con.txt", u"com1", u"LPT¹.rtf", u"aux .a.b"}) {
+    EXPECT_TRUE(IsNameOfDevice(name)) << testing::PrintToString(std::u16string(name));
+  }
+  for (const char16_t* name : {u"", u"CON_", u"console", u"com", u"a.con", u"a:b", u"a.", u"Ω"}) {
+    EXPECT_FALSE(IsNameOfDevice(name)) << testing::PrintToString(std::u16string(name));
+  }
+}
+
 TEST(NamesTest, NothingIsMadeOrReadUnderSuchAName) {
   const TemporaryFolder folder;
   OpenFile(folder.Path(u8"a"), Opening::ToMake).Write("kept");
@@ -43,6 +52,14 @@ TEST(NamesTest, NothingIsMadeOrReadUnderSuchAName) {
 TEST(NamesTest, BytesThatAreNotUtf8AreNoPath) {
   EXPECT_THROW(NativePath("C:\\\xff"), RunTimeFailure);
   EXPECT_THROW(NativePath(std::string("C:\\a\0b", 6)), RunTimeFailure);
+}
+
+TEST(NamesTest, APathOfAnotherSystemOrOfTheCurrentDriveIsNone) {
+  for (const char* path : {"/", "/tmp", "\\windows", "C:", "C:windows"}) {
+    EXPECT_THROW(NativePath(path), RunTimeFailure) << path;
+    EXPECT_EQ(KindOf(path), FileKind::Nothing) << path;
+  }
+  EXPECT_EQ(KindOf("C:/windows/"), FileKind::Folder);
 }
 
 TEST(NamesTest, SlashesAndLongPathsBecomeWindowsOwn) {

@@ -1,37 +1,16 @@
-#include "platform_qt/system/file_system.h"
-
+// What only files of POSIX do.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <csignal>
 #include <cstdio>
 
-#include "platform/file_system_contract.h"
-#include "platform_qt/convert/text.h"
+#include "platform/run_time_failure.h"
+#include "platform_qt/system/disk_world.h"
 #include "platform_qt/system/unprivileged.h"
-
-namespace verlume::qt {
-namespace {
-
-struct QtWorld {
-  std::u16string Folder() const { return FromQt(folder.path()); }
-  void MakeFolder(std::u16string_view path) { ASSERT_TRUE(QDir().mkdir(ToQt(path))); }
-
-  QTemporaryDir folder;
-  QtFileSystem files;
-};
-
-}  // namespace
-}  // namespace verlume::qt
-
-namespace verlume {
-INSTANTIATE_TYPED_TEST_SUITE_P(QtFileSystem, FileSystemContract, qt::QtWorld);
-}  // namespace verlume
 
 namespace verlume::qt {
 namespace {
@@ -83,9 +62,20 @@ class QtFileSystemTest : public testing::Test {
     ASSERT_EQ(::chmod(ToQt(path).toUtf8().constData(), mode), 0);
   }
 
-  QtWorld world;
+  DiskWorld world;
   QtFileSystem& files = world.files;
 };
+
+TEST_F(QtFileSystemTest, TextIsUtf8) {
+  files.ReplaceText(Path(u"a"), u"α");
+  files.AppendText(Path(u"a"), u"β");
+  EXPECT_EQ(files.ReadBytes(Path(u"a")), "\xCE\xB1\xCE\xB2");
+}
+
+TEST_F(QtFileSystemTest, BytesThatAreNoUtf8AreReadAsGreek) {
+  files.ReplaceBytes(Path(u"old"), "\xE1\xE2\xE3");
+  EXPECT_EQ(files.ReadText(Path(u"old")), u"αβγ");
+}
 
 TEST_F(QtFileSystemTest, ReplacingLeavesNothingBeside) {
   files.ReplaceText(Path(u"a"), u"old");
