@@ -1,6 +1,8 @@
-# What only the executable of Windows has: its icon, its version, and its manifest.
+# What only the executable of Windows has: static libraries, its icon, its version, and its manifest.
 enable_language(RC)
 set(CMAKE_WIN32_EXECUTABLE ON)  # opens no console
+# Their headers would look for DLLs.
+add_compile_definitions(HUNSPELL_STATIC MINIUPNP_STATICLIB)
 
 # The icon holds the pictures of share/icons/. What the resources name is compiled only with them.
 find_program(VERLUME_CONVERT convert REQUIRED)

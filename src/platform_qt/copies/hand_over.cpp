@@ -50,6 +50,7 @@ bool HandOver(const MeetingPlace& place, std::string_view task, const QByteArray
   QLocalSocket socket;
   if (!Connect(socket, place.server, deadline) || !IsSameUser(socket.socketDescriptor()))
     return false;
+  LetComeToFront(socket.socketDescriptor());
   socket.write(token + '\0' + QByteArray(task.data(), static_cast<qsizetype>(task.size())) + '\0');
   if (!socket.waitForReadyRead(Left(deadline))) return false;
   if (socket.readAll() != QByteArray(1, kYes) || deadline.hasExpired()) return false;

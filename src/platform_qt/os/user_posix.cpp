@@ -19,6 +19,8 @@ bool IsSameUser(std::intptr_t localSocket) {
          peer.uid == ::geteuid();
 }
 
+void LetComeToFront(std::intptr_t) {}
+
 std::string LocalConnectionName(const std::string& folder, const std::string& name) {
   return folder + '/' + name;
 }

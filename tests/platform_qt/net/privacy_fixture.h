@@ -162,8 +162,7 @@ class PrivacyTest : public testing::TestWithParam<stream::Role> {
     socket.Connect();
     ASSERT_TRUE(WaitFor([&] { return server.hasPendingConnections() && user.connects == 1; }));
     const std::unique_ptr<QTcpSocket> accepted(server.nextPendingConnection());
-    const int descriptor = ::dup(static_cast<int>(accepted->socketDescriptor()));
-    peer.emplace(RawPeer::Of(descriptor));
+    peer.emplace(RawPeer::Of(DuplicateSocket(accepted->socketDescriptor())));
   }
   void ConnectAsCallee() {
     socket.SetLocalPort(0);

@@ -168,7 +168,7 @@ TEST_F(QtSenderTest, FinishSendingReturnsWhenEverythingIsSent) {
 }
 
 TEST_F(QtSenderTest, VanishedPeersAreDetectedInTime) {
-  const int connection = DescriptorConnectedTo(server.serverPort());
+  const auto connection = static_cast<int>(SocketConnectedTo(server.serverPort()));
   ASSERT_GE(connection, 0);
   EXPECT_TRUE(WaitFor([&] { return Option(connection, IPPROTO_TCP, TCP_USER_TIMEOUT) > 0; }));
   EXPECT_LE(Option(connection, IPPROTO_TCP, TCP_USER_TIMEOUT), 20'000);

@@ -270,7 +270,7 @@ TEST_F(QtSocketTest, TheLastTextArrivesWhenTheSocketIsDestroyed) {
 
 TEST_F(QtSocketTest, APeerThatNeverClosesIsAbortedAfterAWhile) {
   ASSERT_NO_FATAL_FAILURE(Connect());
-  const auto isOpen = [this] { return DescriptorConnectedTo(peer.localPort()) >= 0; };
+  const auto isOpen = [this] { return SocketConnectedTo(peer.localPort()) != kNoSocket; };
   peer.setReadBufferSize(1);
   socket->SendData(std::u16string(16 << 20, u'x'), TextKind::Line);
   socket->Close();
