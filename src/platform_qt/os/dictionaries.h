@@ -9,8 +9,8 @@ namespace verlume::qt {
 // folder "dictionaries" beside the program. It may be missing.
 std::string DictionaryFolder(const std::string& programFolder);
 
-// The path as hunspell opens it, whatever characters are in it. One that no file can have stays as
-// it is.
+// The path of a file as hunspell opens it, with a function that takes bytes. Where there is none
+// for its characters, hunspell finds no file.
 std::string HunspellPath(const std::string& path);
 
 }  // namespace verlume::qt

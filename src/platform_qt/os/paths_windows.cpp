@@ -92,11 +92,6 @@ std::wstring NativePath(const std::string& path) {
   return wide.size() > kLongestUsual ? LongForm(wide) : wide;
 }
 
-std::wstring LongPath(const std::string& path) {
-  const std::wstring native = NativePath(path);
-  return native.starts_with(kLongPrefix) ? native : LongForm(native);
-}
-
 std::optional<std::string> Utf8Of(std::wstring_view text) {
   if (text.empty()) return std::string();
   const int length = static_cast<int>(text.size());

@@ -12,9 +12,6 @@ namespace verlume::qt {
 // file of that name: a device ("NUL", "con.txt"), a stream ("a:b"), a name without its last dot.
 std::wstring NativePath(const std::string& path);
 
-// The same in the form that may be longer, however long it is.
-std::wstring LongPath(const std::string& path);
-
 // Whether a file can have this name.
 bool IsFileName(std::wstring_view name);
 
