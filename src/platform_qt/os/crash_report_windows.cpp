@@ -80,9 +80,7 @@ bool HasCome(HANDLE event) {
 
 // Has the helper do the work, whose stack is whole, and ends the process.
 [[noreturn]] void ReportAndEnd() {
-  const NT_TIB& thread = *reinterpret_cast<const NT_TIB*>(::NtCurrentTeb());
-  helper->fault.stackStart = reinterpret_cast<ULONG_PTR>(thread.StackLimit);
-  helper->fault.stackEnd = reinterpret_cast<ULONG_PTR>(thread.StackBase);
+  ::GetCurrentThreadStackLimits(&helper->fault.stackStart, &helper->fault.stackEnd);
   ::SetEvent(helper->isWanted);
   const bool hasBox = HasCome(helper->isWritten) && helper->notice == CrashNotice::Box;
   const HANDLE next[] = {helper->isBoxUp, helper->thread};
