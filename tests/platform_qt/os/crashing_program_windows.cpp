@@ -46,8 +46,9 @@ struct Derived : Base {
   throw std::runtime_error("conversation thrown");
 }
 
-// Returns to an address that is six letters of a text.
-void ReturnIntoText() {
+// Returns to an address that is six letters of a text. Naked: above it on the stack lies where the
+// caller would go on.
+[[gnu::naked]] void ReturnIntoText() {
   asm volatile("movabsq $0x4F435E564E4F, %rax; pushq %rax; ret");
 }
 
