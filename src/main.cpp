@@ -1,10 +1,10 @@
 // Verlume: typed conversation between two computers over one direct TCP connection.
 #include <QApplication>
 #include <cstdlib>
-#include <iostream>
 
 #include "platform_qt/copies/first_copy.h"
 #include "platform_qt/copies/hand_over.h"
+#include "platform_qt/os/console.h"
 #include "platform_qt/platform.h"
 #include "platform_qt/system/arguments.h"
 #include "platform_qt/system/own_folder.h"
@@ -31,9 +31,8 @@ CommandLine ReadArguments(int argc, char* argv[]) {
 }
 
 int Print(const CommandLine& line) {
-  std::ostream& output = *line.status == 0 ? std::cout : std::cerr;
-  output << stream::EncodeUtf8(line.text) << std::flush;
-  return output ? *line.status : EXIT_FAILURE;
+  const bool isError = *line.status != 0;
+  return qt::PrintText(stream::EncodeUtf8(line.text), isError) ? *line.status : EXIT_FAILURE;
 }
 
 // Does the task, or has the copy that runs already do it. Returns the exit status.

@@ -2,9 +2,19 @@
 
 #include <QApplication>
 
+#include "platform_qt/os/crash_report.h"
 #include "platform_qt/windows/readable_style.h"
 
 namespace verlume::qt {
+namespace {
+
+// Before the windows are made, which may be where it fails.
+QString WithCrashesReported(const QString& ownFolder) {
+  ReportCrashes(SettingsFolderFor(ownFolder).toStdString());
+  return ownFolder;
+}
+
+}  // namespace
 
 void PrepareApplication() {
   QApplication::setApplicationName(QStringLiteral("verlume"));
@@ -15,7 +25,7 @@ void PrepareApplication() {
 }
 
 QtPlatform::QtPlatform(const QString& ownFolder)
-    : application_(QCoreApplication::applicationDirPath(), ownFolder),
+    : application_(QCoreApplication::applicationDirPath(), WithCrashesReported(ownFolder)),
       view_{
           .frmMain = window_.View(),
           .frmAbout = about_.View(),

@@ -38,7 +38,8 @@ bool QtAttention::CanNotify() const {
 
 void QtAttention::Notify(const Notification& notification) {
   if (!notifications_) {
-    notifications_ = std::make_unique<DesktopNotifications>(window_->windowTitle());
+    notifications_ = DesktopNotifications::Make(window_->windowTitle(), icon_);
+    if (!notifications_) return;
     notifications_->onClicked = [this] { BringToFront(); };
     notifications_->onSoundMissing = [this] { Beep(); };
   }

@@ -1,4 +1,4 @@
-// What reaches the user elsewhere, made with Qt and the desktop's D-Bus.
+// What reaches the user elsewhere, made with Qt and the desktop's own means.
 #pragma once
 
 #include <QIcon>

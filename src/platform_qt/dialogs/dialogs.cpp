@@ -11,6 +11,7 @@
 #include "platform_qt/convert/text.h"
 #include "platform_qt/dialogs/focus_refusal.h"
 #include "platform_qt/dialogs/typing_guard.h"
+#include "platform_qt/os/crash_report.h"
 
 namespace verlume::qt {
 namespace {
@@ -115,6 +116,7 @@ QtDialogs::QtDialogs(QWidget* mainWindow) : mainWindow_(mainWindow) {}
 void QtDialogs::SetLanguage(bool isGreek) {
   if (isGreek == isGreek_) return;
   isGreek_ = isGreek;
+  SetCrashNoticeLanguage(isGreek);
   if (isGreek) {
     QCoreApplication::installTranslator(&greek_);
   } else {

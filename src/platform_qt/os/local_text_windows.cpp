@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "platform_qt/os/local_text.h"
+#include "platform_qt/os/machine.h"
 #include "platform_qt/os/utf8_file_text.h"
 #include "richtext/characters.h"
 #include "richtext/utf8.h"
@@ -90,6 +91,17 @@ bool ReadsAs(std::string_view bytes, std::u16string_view text, unsigned codePage
   return text.empty();
 }
 
+// The machine's: GetACP tells this program's own, which is UTF-8 (see its manifest).
+unsigned LocalCodePage() {
+  const auto number = RegistryText(u"SYSTEM\\CurrentControlSet\\Control\\Nls\\CodePage", u"ACP");
+  unsigned codePage = 0;
+  for (const char16_t c : number.value_or(u"")) {
+    if (c < u'0' || c > u'9') return ::GetACP();
+    codePage = codePage * 10 + (c - u'0');
+  }
+  return ::IsValidCodePage(codePage) ? codePage : ::GetACP();
+}
+
 }  // namespace
 
 std::string EncodeInCodePage(std::u16string_view text, unsigned codePage) {
@@ -108,11 +120,11 @@ std::u16string DecodeInCodePage(std::string_view bytes, unsigned codePage) {
 }
 
 std::string EncodeLocal(std::u16string_view text) {
-  return EncodeInCodePage(text, ::GetACP());
+  return EncodeInCodePage(text, LocalCodePage());
 }
 
 std::u16string DecodeLocal(std::string_view bytes) {
-  return DecodeInCodePage(bytes, ::GetACP());
+  return DecodeInCodePage(bytes, LocalCodePage());
 }
 
 }  // namespace verlume::qt

@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "platform_qt/os/dictionaries.h"
+
 namespace verlume::qt {
 namespace {
 
@@ -63,8 +65,8 @@ void Dictionary::Work(std::function<void()> work, std::function<void()> then) {
 void Dictionary::Load() {
   isLoaded_ = true;
   const auto load = [this] {
-    words_ = std::make_unique<Hunspell>(files_.affixes.toLocal8Bit().constData(),
-                                        files_.words.toLocal8Bit().constData());
+    words_ = std::make_unique<Hunspell>(HunspellPath(files_.affixes.toStdString()).c_str(),
+                                        HunspellPath(files_.words.toStdString()).c_str());
     const std::string& name = words_->get_dict_encoding();
     if (name == "UTF-8") encoding_ = Encoding::Utf8;
     if (name == "ISO8859-1") encoding_ = Encoding::Latin1;

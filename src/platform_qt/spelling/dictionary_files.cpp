@@ -1,9 +1,17 @@
 #include "platform_qt/spelling/dictionary_files.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QStringList>
 
+#include "platform_qt/os/dictionaries.h"
+
 namespace verlume::qt {
+
+QString DictionaryFolder() {
+  const std::string program = QCoreApplication::applicationDirPath().toStdString();
+  return QString::fromStdString(DictionaryFolder(program));
+}
 
 std::optional<DictionaryFiles> FindDictionary(const QString& folder, spelling::Script script,
                                               const QString& locale) {

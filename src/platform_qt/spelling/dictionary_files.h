@@ -13,8 +13,8 @@ struct DictionaryFiles {
   QString words;
 };
 
-// Where Debian installs dictionaries.
-inline constexpr char kDictionaryFolder[] = "/usr/share/hunspell";
+// Where this system's dictionaries are. Needs a QApplication.
+QString DictionaryFolder();
 
 // The dictionary for a script in a folder: Greek of Greece, or English as in the locale ("en_GB"),
 // else American or British. None if both files of none are there.

@@ -12,7 +12,7 @@ namespace verlume::qt {
 class QtSpellChecker : public SpellChecker {
  public:
   // For the pane, which must outlive it, with the dictionaries of a folder.
-  explicit QtSpellChecker(QPlainTextEdit* pane, const QString& folder = QString(kDictionaryFolder));
+  explicit QtSpellChecker(QPlainTextEdit* pane, const QString& folder = DictionaryFolder());
 
   bool HasDictionary() const override { return dictionaries_.HasAny(); }
   void SetOn(bool on) override { marks_.SetOn(on); }

@@ -5,9 +5,10 @@
 #include <QWidget>
 #include <algorithm>
 #include <chrono>
-#include <iostream>
+#include <string>
 
 #include "platform_qt/convert/text.h"
+#include "platform_qt/os/console.h"
 #include "platform_qt/os/files.h"
 #include "platform_qt/system/system.h"
 
@@ -100,7 +101,7 @@ void QtApplication::YieldToEvents() {
 }
 
 void QtApplication::LogError(std::string_view line) {
-  std::cerr << "verlume: " << line << std::endl;
+  LogLine("verlume: " + std::string(line));
 }
 
 void QtApplication::End() {

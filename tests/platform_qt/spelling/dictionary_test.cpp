@@ -76,10 +76,10 @@ TEST_F(DictionaryTest, WhatItCannotWriteIsKnown) {
 
 // Those that ./test installs.
 TEST_F(DictionaryTest, TheSystemsDictionariesKnowTheirLanguages) {
-  Dictionary greek(*FindDictionary(kDictionaryFolder, Script::Greek, "el_GR"));
+  Dictionary greek(*FindDictionary(DictionaryFolder(), Script::Greek, "el_GR"));
   EXPECT_TRUE(Knows(greek, "Καλημέρα"));
   EXPECT_FALSE(Knows(greek, "καλημερα"));
-  Dictionary english(*FindDictionary(kDictionaryFolder, Script::Latin, "el_GR"));
+  Dictionary english(*FindDictionary(DictionaryFolder(), Script::Latin, "el_GR"));
   EXPECT_TRUE(Knows(english, "don't"));
   EXPECT_FALSE(Knows(english, "helo"));
 }

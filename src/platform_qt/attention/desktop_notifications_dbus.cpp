@@ -1,4 +1,4 @@
-#include "platform_qt/attention/desktop_notifications.h"
+#include "platform_qt/attention/desktop_notifications_dbus.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -41,7 +41,19 @@ QVariantMap HintsOf(const Notification& notification) {
 
 }  // namespace
 
-DesktopNotifications::DesktopNotifications(const QString& program) : program_(program) {
+bool DesktopNotifications::CanShow() {
+  // Without an address the library would start a bus of its own.
+  const bool hasAddress = qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
+                          QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus");
+  return hasAddress && QDBusConnection::sessionBus().isConnected();
+}
+
+std::unique_ptr<DesktopNotifications> DesktopNotifications::Make(const QString& program,
+                                                                 const QIcon&) {
+  return std::make_unique<DbusNotifications>(program);
+}
+
+DbusNotifications::DbusNotifications(const QString& program) : program_(program) {
   // From whoever has the name: asking who that is would wait for an answer.
   QDBusConnection bus = QDBusConnection::sessionBus();
   bus.connect(QString(), kPath, kService, QStringLiteral("ActionInvoked"), this,
@@ -50,32 +62,25 @@ DesktopNotifications::DesktopNotifications(const QString& program) : program_(pr
               SLOT(OnNotificationClosed(uint, uint)));
 }
 
-bool DesktopNotifications::CanShow() {
-  // Without an address the library would start a bus of its own.
-  const bool hasAddress = qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
-                          QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus");
-  return hasAddress && QDBusConnection::sessionBus().isConnected();
-}
-
-void DesktopNotifications::Show(const Notification& notification) {
+void DbusNotifications::Show(const Notification& notification) {
   wanted_ = notification;
   GoOn();
 }
 
-void DesktopNotifications::Withdraw() {
+void DbusNotifications::Withdraw() {
   wanted_.reset();
   isWithdrawn_ = isBusy_;
   if (!isBusy_) Close();
 }
 
-void DesktopNotifications::Close() {
+void DbusNotifications::Close() {
   if (shown_ == 0) return;
   QDBusMessage call = CallOf("CloseNotification");
   call << std::exchange(shown_, 0);
   QDBusConnection::sessionBus().send(call);
 }
 
-void DesktopNotifications::GoOn() {
+void DbusNotifications::GoOn() {
   if (isBusy_ || !wanted_) return;
   isBusy_ = true;
   isWithdrawn_ = false;
@@ -83,7 +88,7 @@ void DesktopNotifications::GoOn() {
 }
 
 // Asked each time: the user may have changed to another desktop's server meanwhile.
-void DesktopNotifications::AskForCapabilities() {
+void DbusNotifications::AskForCapabilities() {
   auto* answer = new QDBusPendingCallWatcher(
       QDBusConnection::sessionBus().asyncCall(CallOf("GetCapabilities")), this);
   connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
@@ -97,7 +102,7 @@ void DesktopNotifications::AskForCapabilities() {
   });
 }
 
-void DesktopNotifications::Send(const QStringList& capabilities) {
+void DbusNotifications::Send(const QStringList& capabilities) {
   const Notification notification = *std::exchange(wanted_, std::nullopt);
   if (notification.withSound && onSoundMissing && !capabilities.contains(QStringLiteral("sound"))) {
     onSoundMissing();
@@ -123,11 +128,11 @@ void DesktopNotifications::Send(const QStringList& capabilities) {
   });
 }
 
-void DesktopNotifications::OnActionInvoked(uint id, const QString& action) {
+void DbusNotifications::OnActionInvoked(uint id, const QString& action) {
   if (id == shown_ && action == kClick && onClicked) onClicked();
 }
 
-void DesktopNotifications::OnNotificationClosed(uint id, uint) {
+void DbusNotifications::OnNotificationClosed(uint id, uint) {
   if (id == shown_) shown_ = 0;
 }
 
