@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # A Windows of its own for tests: Wine, with a prefix that nothing else uses. Sourced behind steps.sh.
 
-export WINEPREFIX=$windows_cache/wine
+export WINEPREFIX=${VERLUME_WINE_PREFIX:-$windows_cache/wine}
 export WINEDEBUG=${WINEDEBUG:--all}
 # Neither its browser nor its .NET are installed.
 export WINEDLLOVERRIDES='mscoree,mshtml='

@@ -24,7 +24,8 @@ Sender::Sender(QTcpSocket* connection) : QObject(connection), connection_(connec
 void Sender::Send(stream::OutgoingText text) {
   CheckThread();
   queue_.Add(std::move(text));
-  Flush();
+  // While others wait, asking the system once more for each would only take time.
+  if (!poll_.isActive()) Flush();
 }
 
 void Sender::Flush() {

@@ -45,7 +45,9 @@ class QtCommonDialogTest : public testing::Test {
       QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
   static constexpr QFile::Permissions kSearchable =
       QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
-  std::u16string PathOf(const char* name) { return FromQt(folder.filePath(QLatin1String(name))); }
+  std::u16string PathOf(const char* name) {
+    return PathFromQt(folder.filePath(QLatin1String(name)));
+  }
   FileChoice Start(std::uint32_t flags) {
     FileChoice start;
     start.title = u"Load dialogue as RTF";
@@ -196,7 +198,7 @@ TEST_F(QtCommonDialogTest, SaveRefusesAFileThatMayNotBeWritten) {
     {
       const ModalDriver refusal([this](QDialog& box) {
         EXPECT_EQ(dynamic_cast<QMessageBox&>(box).text(),
-                  "Existing file " + folder.filePath("dialogue.rtf") + " is not writable");
+                  "Existing file " + ToQt(PathOf("dialogue.rtf")) + " is not writable");
         box.reject();
       });
       Type(dialog, "dialogue.rtf");
@@ -221,8 +223,8 @@ TEST_F(QtCommonDialogTest, FolderEndsInASeparator) {
 }
 
 TEST_F(QtCommonDialogTest, RootFolderHasOneSeparator) {
-  const ModalDriver driver([](QDialog& dialog) { Type(dialog, "/"); });
-  EXPECT_EQ(dialogs.ChooseFolder(u"t", FromQt(folder.path()), u""), u"/");
+  const ModalDriver driver([](QDialog& dialog) { Type(dialog, QDir::rootPath()); });
+  EXPECT_EQ(dialogs.ChooseFolder(u"t", FromQt(folder.path()), u""), PathFromQt(QDir::rootPath()));
 }
 
 TEST_F(QtCommonDialogTest, FolderMustExist) {

@@ -7,7 +7,7 @@ import signal
 import subprocess
 import time
 
-from desktop import press, type_text, wait_until, windows_of
+from desktop import active_window, press, type_text, wait_until, windows_of
 
 SETTINGS = """[General]
 Language={language}
@@ -73,6 +73,8 @@ class Copy:
                                         cwd=self.folder, stdout=subprocess.DEVNULL,
                                         stderr=subprocess.DEVNULL)
         self.window = wait_until(lambda: self.windows("^Verlume$"), f"{self.name} starts")[-1]
+        wait_until(lambda: active_window() == self.window, f"{self.name} has the keyboard")
+        time.sleep(1)  # Wine takes no key yet
 
     def windows(self, title="."):
         return windows_of(self.process.pid, title)

@@ -36,6 +36,10 @@ def title_of(window):
     return run("xdotool", "getwindowname", window).strip()
 
 
+def active_window():
+    return run("xdotool", "getactivewindow").strip()
+
+
 def press(window, *keys):
     run("xdotool", "windowactivate", "--sync", window)
     run("xdotool", "key", *keys)
