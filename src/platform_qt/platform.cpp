@@ -3,14 +3,15 @@
 #include <QApplication>
 
 #include "platform_qt/os/crash_report.h"
-#include "platform_qt/windows/readable_style.h"
+#include "platform_qt/windows/look.h"
 
 namespace verlume::qt {
 namespace {
 
 // Before the windows are made, which may be where it fails.
-QString WithCrashesReported(const QString& ownFolder) {
+QString Prepared(const QString& ownFolder) {
   ReportCrashes(SettingsFolderFor(ownFolder).toStdString());
+  TakeOnLook();
   return ownFolder;
 }
 
@@ -22,10 +23,11 @@ void PrepareApplication() {
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   // The program decides when it ends, not the last window.
   QApplication::setQuitOnLastWindowClosed(false);
+  AskForLook();
 }
 
 QtPlatform::QtPlatform(const QString& ownFolder)
-    : application_(QCoreApplication::applicationDirPath(), WithCrashesReported(ownFolder)),
+    : application_(QCoreApplication::applicationDirPath(), Prepared(ownFolder)),
       view_{
           .frmMain = window_.View(),
           .frmAbout = about_.View(),
@@ -49,7 +51,6 @@ QtPlatform::QtPlatform(const QString& ownFolder)
           .links = links_,
           .attention = attention_,
       } {
-  QApplication::setStyle(new ReadableStyle);
   // The program yields while it handles a key. A box that opened then would keep that key waiting
   // until it is answered, and the key would come after what is typed meanwhile.
   socket_.HoldRequestsWhile([this] { return application_.IsYielding(); });

@@ -18,10 +18,14 @@ prepare_wine() {
   rm -rf "$WINEPREFIX"
   tools/virtual_display wineboot --init >/dev/null 2>&1
   wine winecfg -v win10
+  # Debian's Wine does not look where Debian installs them.
+  cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
   replace_font Arial 'Liberation Sans'
   replace_font 'Times New Roman' 'Liberation Serif'
   replace_font 'Courier New' 'Liberation Mono'
-  replace_font 'Segoe UI' 'DejaVu Sans'
+  replace_font 'Segoe UI' Tahoma
+  # A crash ends the program, and asks nobody.
+  wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null
   wineserver --wait
   touch "$WINEPREFIX/prepared"
 }

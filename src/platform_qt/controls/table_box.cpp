@@ -11,6 +11,8 @@
 namespace verlume::qt {
 namespace {
 
+constexpr int kLeastWidth = 24;  // pixels of a column
+
 // The widest width at which columns that need these widths fit side by side.
 int WidestThatFits(std::vector<int> needs, int room) {
   std::sort(needs.begin(), needs.end());
@@ -40,6 +42,10 @@ TableWidget::TableWidget(QWidget* parent) : QTreeWidget(parent) {
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   header()->setSectionsMovable(false);
+  // Qt's own least width is that of the font's widest letter, which may be wider than a date; and a
+  // last column that Qt stretches would not become narrower than it was at first.
+  header()->setMinimumSectionSize(kLeastWidth);
+  header()->setStretchLastSection(false);
 }
 
 void TableWidget::FitColumns() {
@@ -75,11 +81,17 @@ void TableWidget::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) QTreeWidget::mousePressEvent(event);
 }
 
+// A column that has just been added has no need yet. The last one takes what is left.
 void TableWidget::ShareRoom() {
-  const int widest = WidestThatFits(needs_, viewport()->width());
-  for (int column = 0; column + 1 < columnCount(); ++column) {
-    setColumnWidth(column, std::min(needs_[static_cast<std::size_t>(column)], widest));
+  int room = viewport()->width();
+  const int widest = WidestThatFits(needs_, room);
+  const int last = std::min(columnCount(), static_cast<int>(needs_.size())) - 1;
+  for (int column = 0; column < last; ++column) {
+    const int width = std::min(needs_[static_cast<std::size_t>(column)], widest);
+    setColumnWidth(column, width);
+    room -= width;
   }
+  if (last >= 0) setColumnWidth(last, room);
 }
 
 QItemSelectionModel::SelectionFlags TableWidget::selectionCommand(const QModelIndex& index,

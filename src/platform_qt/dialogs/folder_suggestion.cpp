@@ -39,7 +39,8 @@ class Suggestion : public QObject {
       if (at == item_->index()) Open();
     });
     places.installEventFilter(this);
-    connect(&dialog, &QDialog::finished, this, &Suggestion::Withdraw);
+    // A second Escape may find the dialog still there.
+    connect(&dialog, &QDialog::finished, this, &Suggestion::Withdraw, Qt::SingleShotConnection);
   }
 
   // Enter would go on to the dialog and press its button.

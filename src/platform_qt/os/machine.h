@@ -19,6 +19,9 @@ std::optional<std::u16string> RegistryText(std::u16string_view key, std::u16stri
 // The same for a number (REG_DWORD).
 std::optional<std::uint32_t> RegistryNumber(std::u16string_view key, std::u16string_view value);
 
+// Whether the user wants dark programs and Qt's style for this system cannot be dark.
+bool NeedsDarkStyle();
+
 // How long the machine has slept since it was started.
 std::chrono::nanoseconds TimeAsleep();
 

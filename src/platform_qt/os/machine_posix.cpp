@@ -29,6 +29,11 @@ std::optional<std::uint32_t> RegistryNumber(std::u16string_view, std::u16string_
   return std::nullopt;
 }
 
+// The desktop's own style is as dark as the desktop.
+bool NeedsDarkStyle() {
+  return false;
+}
+
 // One clock goes on while the machine sleeps, the other does not.
 std::chrono::nanoseconds TimeAsleep() {
   const auto awake = TimeOf(CLOCK_MONOTONIC);

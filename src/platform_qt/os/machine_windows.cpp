@@ -45,6 +45,22 @@ std::optional<std::uint32_t> RegistryNumber(std::u16string_view key, std::u16str
   return number;
 }
 
+// High contrast comes first: it has colours of its own.
+bool NeedsDarkStyle() {
+  constexpr wchar_t kColors[] =
+      L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize";
+  HIGHCONTRASTW contrast{};
+  contrast.cbSize = sizeof contrast;
+  const bool isKnown =
+      ::SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) != FALSE;
+  if (isKnown && (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0) return false;
+  DWORD isLight = 1;
+  DWORD size = sizeof isLight;
+  return ::RegGetValueW(HKEY_CURRENT_USER, kColors, L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr,
+                        &isLight, &size) == ERROR_SUCCESS &&
+         isLight == 0;
+}
+
 // One clock goes on while the machine sleeps, the other does not. The first goes in steps of 16 ms.
 std::chrono::nanoseconds TimeAsleep() {
   using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;

@@ -88,6 +88,12 @@ TEST_F(FolderSuggestionTest, IsNotRememberedForOtherDialogs) {
   EXPECT_FALSE(dialog_.sidebarUrls().contains(QUrl::fromLocalFile(path_)));
 }
 
+TEST_F(FolderSuggestionTest, ADialogMayBeLeftTwice) {
+  dialog_.reject();
+  dialog_.reject();
+  EXPECT_FALSE(dialog_.sidebarUrls().contains(QUrl::fromLocalFile(path_)));
+}
+
 TEST(FolderInDocuments, IsThatOfTheUserByName) {
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   EXPECT_EQ(FolderInDocuments(QStringLiteral("Verlume macros")), documents + "/Verlume macros");

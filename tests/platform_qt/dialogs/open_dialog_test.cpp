@@ -31,7 +31,7 @@ class OpenDialogTest : public testing::Test {
     ASSERT_TRUE(file.open(QFile::WriteOnly));
   }
   std::u16string PathOf(const char* name) const {
-    return FromQt(folder.filePath(QLatin1String(name)));
+    return PathFromQt(folder.filePath(QLatin1String(name)));
   }
   FileChoice Open() {
     FileChoice start;
