@@ -9,9 +9,11 @@ import sys
 import desktop
 from copies import Copy
 from keeping import dialogues_and_macros, killed, settings
+from names import names
+from troubles import troubles
 from talking import conversations, full_speed
 
-SCENES = (conversations, full_speed, dialogues_and_macros, settings, killed)
+SCENES = (conversations, full_speed, dialogues_and_macros, settings, killed, names, troubles)
 
 
 class Tour:
