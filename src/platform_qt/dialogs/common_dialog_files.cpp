@@ -140,7 +140,7 @@ QString FileDialog::Path() const {
   return QFileInfo(bare).isFile() ? bare : path;
 }
 
-// Qt's own wording, so that the translator translates it like Qt's other texts.
+// Qt's own wording, where it has any; the translator translates all like Qt's other texts.
 QString FileDialog::RefusalOf(const QString& path) const {
   const QFileInfo file(path);
   const QString folder = file.absolutePath();
@@ -148,6 +148,10 @@ QString FileDialog::RefusalOf(const QString& path) const {
     return QFileDialog::tr(
                "%1\nDirectory not found.\nPlease verify the correct directory name was given.")
         .arg(QDir::toNativeSeparators(folder));
+  }
+  if (fileMode() != Directory && !file.isDir() && !CanBeFileName(FromQt(file.fileName()))) {
+    return QFileDialog::tr("%1\nNo file can have this name.\nPlease choose another one.")
+        .arg(QDir::toNativeSeparators(path));
   }
   if (requireFile_ && !file.exists()) {
     return QFileDialog::tr("%1\nFile not found.\nPlease verify the correct file name was given.")

@@ -98,6 +98,8 @@ inline constexpr auto kFileDialogTexts = std::to_array<QtText>({
 inline constexpr auto kFileQuestionTexts = std::to_array<QtText>({
     {"%1\nDirectory not found.\nPlease verify the correct directory name was given.",
      u"%1\nΟ φάκελλος δεν βρέθηκε.\nΒεβαιωθείτε ότι δόθηκε το σωστό όνομα φακέλλου."},
+    {"%1\nNo file can have this name.\nPlease choose another one.",
+     u"%1\nΚανένα αρχείο δεν μπορεί να έχει αυτό το όνομα.\nΕπιλέξτε ένα άλλο."},
     {"%1\nFile not found.\nPlease verify the correct file name was given.",
      u"%1\nΤο αρχείο δεν βρέθηκε.\nΒεβαιωθείτε ότι δόθηκε το σωστό όνομα αρχείου."},
     {"Existing file %1 is not writable",

@@ -17,6 +17,8 @@ FileKind KindOf(const std::string& path);
 bool IsTaken(const std::string& path);
 // Whether the system keeps the name, in every folder, for a device. Never fails.
 bool IsNameOfDevice(std::u16string_view name) noexcept;
+// Whether a file can have the name, in some folder. Never fails.
+bool CanBeFileName(std::u16string_view name) noexcept;
 // The folder that contains the path.
 std::string FolderOf(const std::string& path);
 

@@ -55,6 +55,11 @@ bool IsNameOfDevice(std::u16string_view) noexcept {
   return false;
 }
 
+bool CanBeFileName(std::u16string_view name) noexcept {
+  if (name.empty() || name == u"." || name == u"..") return false;
+  return name.find(u'/') == name.npos && name.find(u'\0') == name.npos;
+}
+
 std::string FolderOf(const std::string& path) {
   const std::size_t slash = path.rfind('/');
   if (slash == std::string::npos) return ".";

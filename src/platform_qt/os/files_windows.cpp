@@ -13,6 +13,10 @@ namespace {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
+std::wstring_view AsWide(std::u16string_view text) {
+  return {reinterpret_cast<const wchar_t*>(text.data()), text.size()};
+}
+
 // Follows links; folders can be opened, too.
 Handle Open(const std::string& path, DWORD access) {
   return Handle(::CreateFileW(NativePath(path).c_str(), access, kShareAll, nullptr, OPEN_EXISTING,
@@ -54,7 +58,11 @@ bool IsTaken(const std::string& path) {
 }
 
 bool IsNameOfDevice(std::u16string_view name) noexcept {
-  return IsDevice(std::wstring_view(reinterpret_cast<const wchar_t*>(name.data()), name.size()));
+  return IsDevice(AsWide(name));
+}
+
+bool CanBeFileName(std::u16string_view name) noexcept {
+  return IsFileName(AsWide(name));
 }
 
 std::string FolderOf(const std::string& path) {

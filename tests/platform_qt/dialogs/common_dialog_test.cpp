@@ -191,6 +191,23 @@ TEST_F(QtCommonDialogTest, SaveRefusesAFolderThatMustExist) {
   EXPECT_EQ(dialogs.ShowSave(Start(dialog_flag::kPathMustExist)).fileName, PathOf("inner/x.rtf"));
 }
 
+TEST_F(QtCommonDialogTest, SaveRefusesANameThatNoFileCanHave) {
+  const QString name = QStringLiteral("a\0b.rtf");
+  const ModalDriver driver([&](QDialog& dialog) {
+    {
+      const ModalDriver refusal([](QDialog& box) {
+        EXPECT_TRUE(dynamic_cast<QMessageBox&>(box).text().endsWith(
+            "\nNo file can have this name.\nPlease choose another one."));
+        box.reject();
+      });
+      Type(dialog, name);
+    }
+    EXPECT_TRUE(dialog.isVisible());
+    Type(dialog, "possible.rtf");
+  });
+  EXPECT_EQ(dialogs.ShowSave(Start(dialog_flag::kPathMustExist)).fileName, PathOf("possible.rtf"));
+}
+
 TEST_F(QtCommonDialogTest, SaveRefusesAFileThatMayNotBeWritten) {
   ForbidWriting("dialogue.rtf");
   const Unprivileged user;

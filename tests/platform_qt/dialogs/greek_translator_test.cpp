@@ -156,6 +156,7 @@ TEST_F(GreekTranslatorTest, QuestionsOfTheFileDialogAreGreek) {
   for (const char* text :
        {"%1\nDirectory not found.\nPlease verify the correct directory name was given.",
         "%1\nFile not found.\nPlease verify the correct file name was given.",
+        "%1\nNo file can have this name.\nPlease choose another one.",
         "%1 already exists.\nDo you want to replace it?", "Could not delete directory.",
         "'%1' is write protected.\nDo you want to delete it anyway?",
         "Are you sure you want to delete '%1'?"}) {

@@ -34,6 +34,16 @@ class FilesTest : public testing::Test {
   TemporaryFolder folder;
 };
 
+TEST_F(FilesTest, WhatNoFileCanBeCalled) {
+  for (const char16_t* name : {u"a", u"Ωμέγα.rtf", u".ini", u"a b", u"…"}) {
+    EXPECT_TRUE(CanBeFileName(name)) << testing::PrintToString(std::u16string(name));
+  }
+  for (const char16_t* name : {u"", u".", u"..", u"a/b"}) {
+    EXPECT_FALSE(CanBeFileName(name)) << testing::PrintToString(std::u16string(name));
+  }
+  EXPECT_FALSE(CanBeFileName(std::u16string_view(u"a\0b", 3)));
+}
+
 TEST_F(FilesTest, WhatIsAtAPath) {
   EXPECT_EQ(KindOf(folder.Path()), FileKind::Folder);
   EXPECT_EQ(KindOf(Make(u8"Αρχείο.txt")), FileKind::File);

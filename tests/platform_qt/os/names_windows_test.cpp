@@ -23,6 +23,8 @@ TEST(NamesTest, WhatIsNot) {
         L"con.txt", L"AUX .txt", L"COM1", L"lpt9.rtf", L"COM\u00B9", L"a:b",  L"a::$DATA",
         L"a*",      L"a?",       L"a|b",  L"a<",       L"a\"",       L"a\tb", L"conin$"}) {
     EXPECT_FALSE(IsFileName(name)) << testing::PrintToString(std::wstring(name));
+    EXPECT_FALSE(
+        CanBeFileName(std::u16string(name, name + std::char_traits<wchar_t>::length(name))));
   }
 }
 

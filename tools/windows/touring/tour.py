@@ -9,9 +9,12 @@ import sys
 import desktop
 from copies import Copy
 from keeping import dialogues_and_macros, killed, settings
+from names import names
+from troubles import troubles
+from registry import system_info
 from talking import conversations, full_speed
 
-SCENES = (conversations, full_speed, dialogues_and_macros, settings, killed)
+SCENES = (conversations, full_speed, dialogues_and_macros, settings, killed, names, troubles, system_info)
 
 
 class Tour:
