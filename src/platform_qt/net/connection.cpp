@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform_qt/net/clear_road.h"
+#include "platform_qt/net/end_watch.h"
 #include "platform_qt/net/private_road.h"
 #include "platform_qt/net/socket_options.h"
 #include "platform_qt/os/tcp.h"
@@ -46,6 +47,7 @@ void Connection::Start() {
   // The system tells what the peer's machine has acknowledged only until the connection ends.
   connect(socket_, &QTcpSocket::stateChanged, sender_, &Sender::Flush);
   SetConnectionOptions(*socket_);
+  new EndWatch(socket_);
   if (terms_.offer == PrivacyOffer::Never) {
     Enter(Privacy::Clear);
     return TakeRoad(

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform_qt/net/end_watch.h"
 #include "platform_qt/net/read_size.h"
 #include "platform_qt/net/socket_options.h"
 #include "platform_qt/net/tls_settings.h"
@@ -64,6 +65,7 @@ void PrivateRoad::Start() {
     CloseSocket(socket_);
     return Break(PrivacyFailure::Broken);
   }
+  new EndWatch(&tls_);
   tls_.setReadBufferSize(kReadSize);
   tls_.setSslConfiguration(TlsSettings(*terms_.ownKey));
   // The side that was called is the client: so nothing of TLS can be joined with a greeting.

@@ -29,6 +29,10 @@ void AcknowledgeAtOnce(SocketNumber socket);
 // the connection has ended, because the system no longer knows.
 std::int64_t BytesUnacknowledged(SocketNumber socket);
 
+// Whether something of the peer's waits to be read, be it the end of the connection. The socket
+// does not block.
+bool CanRead(SocketNumber socket);
+
 // Tells the peer that nothing more comes; what it sends still arrives.
 void EndSending(SocketNumber socket);
 

@@ -6,6 +6,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include "platform_qt/os/tcp.h"
 
 namespace verlume::qt {
@@ -38,6 +40,11 @@ void AcknowledgeAtOnce(SocketNumber socket) {
 std::int64_t BytesUnacknowledged(SocketNumber socket) {
   int inSystem = 0;
   return ::ioctl(DescriptorOf(socket), SIOCOUTQ, &inSystem) == 0 ? inSystem : 1;
+}
+
+bool CanRead(SocketNumber socket) {
+  char next = 0;
+  return ::recv(DescriptorOf(socket), &next, 1, MSG_PEEK) >= 0 || errno != EAGAIN;
 }
 
 void EndSending(SocketNumber socket) {

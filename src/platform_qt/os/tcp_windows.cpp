@@ -75,6 +75,11 @@ std::int64_t BytesUnacknowledged(SocketNumber socket) {
   return TakesMore(socket) ? 0 : 1;
 }
 
+bool CanRead(SocketNumber socket) {
+  char next = 0;
+  return ::recv(SocketOf(socket), &next, 1, MSG_PEEK) >= 0 || ::WSAGetLastError() != WSAEWOULDBLOCK;
+}
+
 void EndSending(SocketNumber socket) {
   ::shutdown(SocketOf(socket), SD_SEND);
 }
