@@ -1,5 +1,7 @@
 #include "platform_qt/windows/form_parts.h"
 
+#include <algorithm>
+
 namespace verlume::qt {
 
 QLabel* NewFormText(QWidget* form, const char* name) {
@@ -25,6 +27,11 @@ QPushButton* NewFormButton(QWidget* form, const char* name) {
   auto* button = new QPushButton(form);
   button->setObjectName(QLatin1String(name));
   return button;
+}
+
+int FormTableWidth(const QWidget& form, int columns) {
+  constexpr int kMost = 600;
+  return std::min(form.fontMetrics().averageCharWidth() * columns, kMost);
 }
 
 }  // namespace verlume::qt

@@ -67,7 +67,7 @@ void PeopleForm::LayOutPerson() {
 }
 
 void PeopleForm::LayOut() {
-  lstPeople->setMinimumSize(fontMetrics().averageCharWidth() * kTableColumns,
+  lstPeople->setMinimumSize(FormTableWidth(*this, kTableColumns),
                             fontMetrics().lineSpacing() * kTableRows);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();

@@ -45,7 +45,7 @@ ReachForm::ReachForm(QWidget* mainWindow)
 }
 
 void ReachForm::LayOut() {
-  lstReachAddresses->setMinimumSize(fontMetrics().averageCharWidth() * kReachColumns,
+  lstReachAddresses->setMinimumSize(FormTableWidth(*this, kReachColumns),
                                     fontMetrics().lineSpacing() * kReachRows);
   auto* found = new QGridLayout;
   found->setColumnStretch(1, 1);

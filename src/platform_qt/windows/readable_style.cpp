@@ -72,6 +72,13 @@ void DrawFocusFrame(QPainter& painter, const QStyleOption& option, int radius) {
 
 }  // namespace
 
+void ReadableStyle::polish(QPalette& palette) {
+  QProxyStyle::polish(palette);
+  for (const auto role : {QPalette::Highlight, QPalette::HighlightedText}) {
+    palette.setBrush(QPalette::Inactive, role, palette.brush(QPalette::Active, role));
+  }
+}
+
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
   if (baseStyle()->name() != QLatin1String("fusion")) {

@@ -7,6 +7,7 @@
 
 #include "platform_fake/fake_file_system.h"
 #include "platform_qt/windows/main_window.h"
+#include "platform_qt/windows/readable_style.h"
 #include "platform_qt/windows/window_focus.h"
 
 namespace verlume::qt {
@@ -151,6 +152,9 @@ TEST_F(QtFindBarTest, KnowsItsFocusWhileAnotherWindowIsActive) {
 }
 
 TEST_F(QtFindBarTest, MatchIsAsVisibleWithoutTheFocusAsWithIt) {
+  QPalette colours = QApplication::palette();
+  ReadableStyle().polish(colours);
+  Named("rtbData")->setPalette(colours);
   view.rtbData.SetText(u"one cat");
   view.rtbData.Select(4, 3);
   Open();

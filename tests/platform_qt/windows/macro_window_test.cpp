@@ -105,7 +105,10 @@ TEST_F(QtMacroWindowTest, StandsInTheMiddleOfTheScreenWithItsFrameEachTime) {
 
 TEST_F(QtMacroWindowTest, WindowLargerThanTheScreenBeginsOnIt) {
   form.setMinimumSize(form.screen()->size() + QSize(200, 200));
-  ShowAnd([this] { EXPECT_TRUE(form.screen()->geometry().contains(form.pos())); });
+  ShowAnd([this] {
+    const QPoint place = form.pos();
+    EXPECT_TRUE(form.screen()->geometry().contains(place)) << place.x() << ' ' << place.y();
+  });
 }
 
 TEST_F(QtMacroWindowTest, StaysWhereTheUserPutItWhenItComesBackFromTheTaskBar) {

@@ -119,6 +119,19 @@ QImage PictureOf(QStyle& style, const QPalette& palette) {
   return picture;
 }
 
+TEST(ReadableStyleTest, ASelectionKeepsItsColoursWithoutTheFocus) {
+  QPalette palette;
+  palette.setColor(QPalette::Active, QPalette::Highlight, Qt::blue);
+  palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xf5, 0xf5, 0xf5));
+  palette.setColor(QPalette::Active, QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
+  ReadableStyle().polish(palette);
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    EXPECT_EQ(palette.color(group, QPalette::Highlight), Qt::blue);
+    EXPECT_EQ(palette.color(group, QPalette::HighlightedText), Qt::white);
+  }
+}
+
 TEST(ReadableStyleTest, LightGroundsAreDrawnAsEver) {
   const QPalette light = PaletteOf(QColor(0xEF, 0xEF, 0xEF), Qt::black);
   const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("fusion")));
