@@ -64,7 +64,8 @@ class Copy:
         """The path as the program calls it."""
         return "Z:" + str(path).replace("/", "\\") if self.is_windows else str(path)
 
-    def start(self, *arguments):
+    def start(self, *arguments, refuse=()):
+        """Waits until it takes keys; `refuse` are the titles of questions to which No is said before."""
         command = ["wine"] if self.is_windows else []
         environment = dict(os.environ)
         if not self.is_windows:  # they must not look for each other where the user's own copy is
@@ -73,6 +74,8 @@ class Copy:
                                         cwd=self.folder, stdout=subprocess.DEVNULL,
                                         stderr=subprocess.DEVNULL)
         self.window = wait_until(lambda: self.windows("^Verlume$"), f"{self.name} starts")[-1]
+        for title in refuse:
+            self.answer(title, "Escape")
         wait_until(lambda: active_window() == self.window, f"{self.name} has the keyboard")
         time.sleep(1)  # Wine takes no key yet
 

@@ -78,7 +78,8 @@ def settings(tour):
     carol = tour.copy(False, "Carol", ENGLISH)
     carol.kill()
     shutil.copy(bob.settings, carol.settings)
-    carol.start()
+    # Folders of Windows are none here.
+    carol.start(refuse=("Dialogue logging", "Macros folder definition"))
     carol.type_line("/NODATE")
     carol.end()
     if carol.setting("Nickname") != "Βασίλης":
