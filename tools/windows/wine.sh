@@ -26,6 +26,8 @@ prepare_wine() {
   replace_font 'Segoe UI' Tahoma
   # A crash ends the program, and asks nobody.
   wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null
+  # Without a tray on the display Wine opens a window for the icons, which takes the keyboard.
+  wine reg add 'HKCU\Software\Wine\X11 Driver' /v ShowSystray /d N /f >/dev/null
   wineserver --wait
   touch "$WINEPREFIX/prepared"
 }

@@ -11,12 +11,13 @@ from copies import Copy
 from installing import installed
 from keeping import dialogues_and_macros, killed, settings
 from names import names
+from places import places
 from troubles import troubles
 from registry import system_info
 from talking import conversations, full_speed
 
-SCENES = (conversations, full_speed, dialogues_and_macros, settings, killed, names, troubles, system_info,
-          installed)
+SCENES = (conversations, full_speed, dialogues_and_macros, settings, killed, names, troubles, places,
+          system_info, installed)
 
 
 class Tour:
