@@ -14,10 +14,10 @@ from names import names
 from places import places
 from troubles import troubles
 from registry import system_info
-from talking import conversations, full_speed
+from talking import attention, conversations, full_speed
 
-SCENES = (conversations, full_speed, dialogues_and_macros, settings, killed, names, troubles, places,
-          system_info, installed)
+SCENES = (conversations, attention, full_speed, dialogues_and_macros, settings, killed, names, troubles,
+          places, system_info, installed)
 
 
 class Tour:
