@@ -5,7 +5,7 @@ import subprocess
 import sys
 
 from copies import ENGLISH, GREEK
-from desktop import TourFailed, run, type_fast, wait_until
+from desktop import TourFailed, type_fast, wait_until
 from scenes import connect, hang_up, wait_for_call
 
 LINES = ("Good morning, $r!", "Καλημέρα, $r! Κοστίζει 5 €", r"C:\new {braces} \b 100%")
@@ -68,21 +68,3 @@ def full_speed(tour):
     check_arrived(bob, "Flood", lines)
     tour.say(f"{len(lines)} texts in one go, private")
     tour.leave(bob)
-
-
-def is_flagged(copy):
-    return "DEMANDS_ATTENTION" in run("xprop", "-id", copy.window, "_NET_WM_STATE")
-
-
-def attention(tour):
-    """The button in the task bar asks for attention until the user looks."""
-    anna, bob = tour.copy(True, "Άννα", GREEK), tour.copy(False, "Bob", ENGLISH)
-    connect(anna, bob)
-    bob.type_line("Are you there?")  # which brings Bob's window to the front
-    anna.await_line("Bob", "Are you there?")
-    wait_until(lambda: is_flagged(anna), "the task bar tells of a line")
-    anna.type_line("I am")
-    wait_until(lambda: not is_flagged(anna), "it is quiet again")
-    hang_up(anna, bob)
-    tour.leave(anna, bob)
-    tour.say("the task bar tells of a line")

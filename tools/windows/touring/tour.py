@@ -11,13 +11,14 @@ from copies import Copy
 from installing import installed
 from keeping import dialogues_and_macros, killed, settings
 from names import names
+from pages import code_page
 from places import places
-from troubles import troubles
 from registry import system_info
-from talking import attention, conversations, full_speed
+from talking import conversations, full_speed
+from troubles import troubles
 
-SCENES = (conversations, attention, full_speed, dialogues_and_macros, settings, killed, names, troubles,
-          places, system_info, installed)
+SCENES = (conversations, full_speed, dialogues_and_macros, settings, killed, names, troubles, places,
+          code_page, system_info, installed)
 
 
 class Tour:
