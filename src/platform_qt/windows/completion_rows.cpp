@@ -20,6 +20,10 @@ int WidthOf(const QFontMetrics& metrics, const QString& text) {
   return text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + 1;
 }
 
+QPalette::ColorGroup GroupOf(const QStyleOptionViewItem& row) {
+  return row.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
+}
+
 QStringList ColumnsOf(const QString& text) {
   return text.split(u'\t');
 }
@@ -51,14 +55,17 @@ QSize CompletionRows::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) 
   return {all_, list_.fontMetrics().height() + 2 * kDown};
 }
 
+// Styles take grounds of their own for what is selected, which need not suit the colour of the
+// text.
 void CompletionRows::paint(QPainter* painter, const QStyleOptionViewItem& option,
                            const QModelIndex& index) const {
   QStyleOptionViewItem row = option;
   initStyleOption(&row, index);
   const QStringList columns = ColumnsOf(row.text);
-  row.text.clear();
-  row.widget->style()->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
   painter->save();
+  if (row.state & QStyle::State_Selected) {
+    painter->fillRect(row.rect, row.palette.brush(GroupOf(row), QPalette::Highlight));
+  }
   PaintColumns(*painter, row, columns);
   painter->restore();
 }
@@ -66,11 +73,9 @@ void CompletionRows::paint(QPainter* painter, const QStyleOptionViewItem& option
 void CompletionRows::PaintColumns(QPainter& painter, const QStyleOptionViewItem& option,
                                   const QStringList& columns) const {
   const bool isSelected = option.state & QStyle::State_Selected;
-  const QPalette::ColorGroup group =
-      option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
+  const QPalette::ColorRole ink = isSelected ? QPalette::HighlightedText : QPalette::Text;
   painter.setFont(option.font);
-  painter.setPen(
-      option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
+  painter.setPen(option.palette.color(GroupOf(option), ink));
   QRect room = option.rect.adjusted(kAcross, 0, -kAcross, 0);
   const auto write = [&](const QString& text, int width, Qt::TextElideMode elide) {
     const QString shown = option.fontMetrics.elidedText(text, elide, std::min(width, room.width()));

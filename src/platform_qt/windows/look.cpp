@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QStyleFactory>
+#include <QToolTip>
 
 #include "platform_qt/fonts/installed_font.h"
 #include "platform_qt/os/machine.h"
@@ -22,6 +23,7 @@ void TakeOnLook() {
   UseInstalledFont();
   QStyle* style = NeedsDarkStyle() ? QStyleFactory::create(QStringLiteral("fusion")) : nullptr;
   QApplication::setStyle(new ReadableStyle(style));
+  QToolTip::setPalette(ReadableToolTips(QToolTip::palette()));
 }
 
 }  // namespace verlume::qt

@@ -116,4 +116,13 @@ int ReadableStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
   return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
+QPalette ReadableToolTips(QPalette colours) {
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    const Color text = FromQt(colours.color(group, QPalette::ToolTipText));
+    const Color ground = FromQt(colours.color(group, QPalette::ToolTipBase));
+    colours.setColor(group, QPalette::ToolTipText, ToQt(ReadableShade(text, ground)));
+  }
+  return colours;
+}
+
 }  // namespace verlume::qt

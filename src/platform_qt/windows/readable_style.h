@@ -27,4 +27,8 @@ class ReadableStyle : public QProxyStyle {
                               QPainter* painter, const QWidget* widget) const;
 };
 
+// The colours of tool tips, with a text that can be read on its ground: in some themes of Windows
+// it cannot.
+QPalette ReadableToolTips(QPalette colours);
+
 }  // namespace verlume::qt

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QScrollBar>
+#include <QStyleFactory>
 #include <QTest>
 
 #include "platform_fake/fake_file_system.h"
@@ -54,6 +55,23 @@ TEST_F(QtCompletionListTest, IsHiddenUntilAskedFor) {
   EXPECT_FALSE(frame->isVisible());
   Open(3);
   EXPECT_TRUE(List()->isVisible());
+}
+
+TEST_F(QtCompletionListTest, ASelectedRowHasTheGroundForItsTextInAnyStyle) {
+  Open(3);
+  QPalette colours = List()->palette();
+  colours.setColor(QPalette::Highlight, Qt::red);
+  colours.setColor(QPalette::HighlightedText, Qt::blue);
+  for (const QString& name : QStyleFactory::keys()) {
+    const std::unique_ptr<QStyle> style(QStyleFactory::create(name));
+    List()->setStyle(style.get());
+    List()->setPalette(colours);
+    List()->setCurrentRow(1);
+    const QRect row = List()->visualItemRect(List()->item(1));
+    const QImage picture = List()->viewport()->grab(row).toImage();
+    EXPECT_EQ(picture.pixelColor(1, 1), QColor(Qt::red)) << name.toStdString();
+    List()->setStyle(nullptr);
+  }
 }
 
 TEST_F(QtCompletionListTest, LiesBesideTheCommandPaneAndTakesNoRoom) {

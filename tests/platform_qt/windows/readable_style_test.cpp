@@ -13,6 +13,9 @@
 #include <cmath>
 #include <memory>
 
+#include "platform_qt/convert/text.h"
+#include "platform_qt/text/readable_shade.h"
+
 namespace verlume::qt {
 namespace {
 
@@ -130,6 +133,16 @@ TEST(ReadableStyleTest, ASelectionKeepsItsColoursWithoutTheFocus) {
     EXPECT_EQ(palette.color(group, QPalette::Highlight), Qt::blue);
     EXPECT_EQ(palette.color(group, QPalette::HighlightedText), Qt::white);
   }
+}
+
+TEST(ReadableStyleTest, ToolTipsCanBeRead) {
+  QPalette colours;
+  colours.setColor(QPalette::ToolTipBase, Qt::white);
+  colours.setColor(QPalette::ToolTipText, QColor(0xA6, 0xA6, 0xA6));
+  const QPalette readable = ReadableToolTips(colours);
+  const Color shade = FromQt(readable.color(QPalette::Inactive, QPalette::ToolTipText));
+  EXPECT_GE(Contrast(shade, FromQt(Qt::white)), 4.4);
+  EXPECT_EQ(ReadableToolTips(readable), readable);
 }
 
 TEST(ReadableStyleTest, LightGroundsAreDrawnAsEver) {
