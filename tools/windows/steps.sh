@@ -86,8 +86,9 @@ step() {
   exit 1
 }
 
-# build_once NAME PACKAGE VERSION [--tar-only]: runs the function build_NAME SOURCE in a folder of its own, unless the same
-# version has been built by the same function with the same compiler. Status 1: there is no such source.
+# build_once NAME PACKAGE VERSION [--tar-only]: runs the function build_NAME SOURCE in a folder of its own,
+# unless the same version has been built by the same function with the same compiler. Status 1: there is no
+# such source.
 build_once() {
   local name=$1 stamp=$windows_cache/stamps/$1 log=$windows_cache/logs/$1.log wanted source build began=$SECONDS
   wanted="$2 $3 $(x86_64-w64-mingw32-g++-posix -dumpfullversion)

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QStyleFactory>
-#include <QToolTip>
 
 #include "platform_qt/fonts/installed_font.h"
 #include "platform_qt/os/machine.h"
@@ -23,7 +22,6 @@ void TakeOnLook() {
   UseInstalledFont();
   QStyle* style = NeedsDarkStyle() ? QStyleFactory::create(QStringLiteral("fusion")) : nullptr;
   QApplication::setStyle(new ReadableStyle(style));
-  QToolTip::setPalette(ReadableToolTips(QToolTip::palette()));
 }
 
 }  // namespace verlume::qt

@@ -79,6 +79,12 @@ void ReadableStyle::polish(QPalette& palette) {
   }
 }
 
+// Windows' style has just given the tool tip the theme's colour.
+void ReadableStyle::polish(QWidget* widget) {
+  QProxyStyle::polish(widget);
+  if (widget->inherits("QTipLabel")) widget->setPalette(ReadableToolTips(widget->palette()));
+}
+
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
   if (baseStyle()->name() != QLatin1String("fusion")) {

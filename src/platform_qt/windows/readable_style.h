@@ -17,6 +17,7 @@ class ReadableStyle : public QProxyStyle {
 
   using QProxyStyle::polish;
   void polish(QPalette& palette) override;
+  void polish(QWidget* widget) override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option,

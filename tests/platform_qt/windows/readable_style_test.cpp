@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QFrame>
 #include <QLineEdit>
@@ -9,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 #include <memory>
@@ -143,6 +145,24 @@ TEST(ReadableStyleTest, ToolTipsCanBeRead) {
   const Color shade = FromQt(readable.color(QPalette::Inactive, QPalette::ToolTipText));
   EXPECT_GE(Contrast(shade, FromQt(Qt::white)), 4.4);
   EXPECT_EQ(ReadableToolTips(readable), readable);
+}
+
+TEST(ReadableStyleTest, AToolTipIsMadeReadableWhateverItsStyle) {
+  QToolTip::showText({10, 10}, "Connected");
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto tip = std::find_if(windows.begin(), windows.end(),
+                                [](const QWidget* each) { return each->inherits("QTipLabel"); });
+  ASSERT_NE(tip, windows.end());
+  QPalette colours;
+  colours.setColor(QPalette::ToolTipBase, Qt::white);
+  colours.setColor(QPalette::ToolTipText, QColor(0xA6, 0xA6, 0xA6));
+  (*tip)->setPalette(colours);
+  ReadableStyle().polish(*tip);
+  const QPalette readable = (*tip)->palette();
+  EXPECT_GE(Contrast(FromQt(readable.color(QPalette::ToolTipText)),
+                     FromQt(readable.color(QPalette::ToolTipBase))),
+            kLegibleContrast);
+  QToolTip::hideText();
 }
 
 TEST(ReadableStyleTest, LightGroundsAreDrawnAsEver) {
