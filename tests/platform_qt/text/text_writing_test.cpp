@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QScrollBar>
 #include <QTest>
+#include <QThread>
+#include <atomic>
 #include <memory>
 
 #include "platform/run_time_failure.h"
@@ -14,6 +17,18 @@
 
 namespace verlume::qt {
 namespace {
+
+// A disk that is slow until somebody has waited, for ten seconds at most.
+class SlowFiles : public fake::FakeFileSystem {
+ public:
+  void ReplaceText(std::u16string_view path, std::u16string_view text, Readers readers) override {
+    const QDeadlineTimer limit(10'000);
+    while (isSlow && !limit.hasExpired()) QThread::msleep(1);
+    FakeFileSystem::ReplaceText(path, text, readers);
+  }
+
+  std::atomic<bool> isSlow = false;
+};
 
 class QtTextWritingTest : public testing::Test {
  protected:
@@ -33,7 +48,7 @@ class QtTextWritingTest : public testing::Test {
     return QTest::qWaitFor([this] { return !box.IsInserting(); }, 60'000);
   }
 
-  fake::FakeFileSystem files;
+  SlowFiles files;
   QWidget window;
   QtRichTextBox box{&window, files, Lines::Many};
   std::u16string longText;
@@ -158,12 +173,16 @@ TEST_F(QtTextWritingTest, TheRestCanBeDropped) {
 TEST_F(QtTextWritingTest, EventsAreHandledWhileItIsWaitedFor) {
   int handled = 0;
   QTimer other;
-  QObject::connect(&other, &QTimer::timeout, &other, [&] { ++handled; });
+  QObject::connect(&other, &QTimer::timeout, &other, [&] {
+    ++handled;
+    if (handled > 1) files.isSlow = false;
+  });
   other.start(0);
   Write(longRtf);
   EXPECT_TRUE(box.Text() == longText);
   EXPECT_GT(handled, 1);
   handled = 0;
+  files.isSlow = true;
   box.SaveFile(u"/copy.rtf", TextFileFormat::RichText);
   EXPECT_GT(handled, 1);
   EXPECT_TRUE(richtext::ReadRtf(files.ReadBytes(u"/copy.rtf")).text == longText);
