@@ -101,6 +101,13 @@ TEST_F(QtTableBoxTest, TheWidestColumnsGiveWay) {
   EXPECT_GT(widget.columnWidth(0), 400);
 }
 
+TEST_F(QtTableBoxTest, TheLastColumnGivesItsRoomBack) {
+  for (const int width : {600, 200, 120}) {
+    widget.resize(width, 200);
+    EXPECT_EQ(widget.header()->length(), widget.viewport()->width()) << width;
+  }
+}
+
 TEST_F(QtTableBoxTest, AssistiveToolsReadEveryCell) {
   QAccessibleInterface* all = QAccessible::queryAccessibleInterface(&widget);
   ASSERT_NE(all->tableInterface(), nullptr);
